@@ -1,0 +1,22 @@
+include(TXCompilerOptions)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+
+# tx_add_test(<unit> [LIBRARIES <library>...])
+#
+# Builds tst_<unit>.cpp of the calling folder into one executable and registers it with ctest under
+# <folder>/<unit>. The test sets up its own surroundings (see TestBase.h), so that ctest, the
+# debugger and a start by hand see the same.
+function(tx_add_test unit)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBRARIES")
+  set(target tst_${unit})
+  add_executable(${target} ${target}.cpp)
+  tx_set_compiler_options(${target})
+  set_target_properties(${target} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
+  target_precompile_headers(${target} REUSE_FROM TXTestSupport)
+  target_link_libraries(${target} PRIVATE TXTestSupport ${arg_LIBRARIES})
+
+  cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
+  add_test(NAME ${folder}/${unit} COMMAND ${target} -nocrashhandler -maxwarnings 0)
+  set_tests_properties(${folder}/${unit} PROPERTIES TIMEOUT 300)
+endfunction()
