@@ -293,8 +293,6 @@ void TestTXStringI18n::argumentsAreFilledAsTheStringClassDoes_data()
     QTest::addRow("percent signs") << "100% %1 %" << QStringList{"%"} << 0 << blank;
     QTest::addRow("width") << "%1|%2" << QStringList{"a", "bcdef"} << 4 << QChar(u'.');
     QTest::addRow("left-aligned") << "%1|%2" << QStringList{"a", "b"} << -4 << QChar(u'0');
-    QTest::addRow("other digits") << QStringLiteral("%\u0661 %2") << QStringList{"a", "b"} << 0
-                                  << blank;
     QTest::addRow("empty argument") << "%1%2" << QStringList{"", "b"} << 0 << blank;
 }
 
