@@ -1,9 +1,9 @@
 #include "TXDataCrypt.h"
 
+#include "HelperProcess.h"
 #include "TXError.h"
 #include "TestBase.h"
 
-#include <QProcess>
 #include <QStandardPaths>
 #include <QThread>
 
@@ -16,17 +16,6 @@ QString keyFile()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
         + QStringLiteral("/TXGUICommon/datacrypt.key");
-}
-
-/// What another process answers; it finds the same home folder as this one.
-QByteArray askOtherProcess(const QByteArray &line)
-{
-    QProcess process;
-    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/keymaker"));
-    process.write(line + '\n');
-    process.closeWriteChannel();
-    process.waitForFinished();
-    return process.readAllStandardOutput().trimmed();
 }
 
 } // namespace
@@ -119,9 +108,9 @@ void TestTXDataCrypt::clearDataDoesNotShow()
 void TestTXDataCrypt::otherProcessesReadAndWriteTheSame()
 {
     const QByteArray ours = TXDataCrypt::encrypt("ours", nullptr);
-    const QByteArray theirs = askOtherProcess("encrypt theirs");
+    const QByteArray theirs = askHelper("encrypt theirs");
 
-    QCOMPARE(askOtherProcess("decrypt " + ours), QByteArray("ours"));
+    QCOMPARE(askHelper("decrypt " + ours), QByteArray("ours"));
     QCOMPARE(TXDataCrypt::decrypt(theirs, nullptr), QByteArray("theirs"));
 }
 
@@ -181,15 +170,14 @@ void TestTXDataCrypt::damagedKeyFileIsAnErrorInANewProcess()
     QVERIFY(damaged.open(QIODevice::WriteOnly));
     damaged.close();
 
-    const QByteArray answers =
-        askOtherProcess("encrypt x") + askOtherProcess("decrypt " + enciphered);
+    const QByteArray answers = askHelper("encrypt x") + askHelper("decrypt " + enciphered);
     const qint64 sizeAfterwards = damaged.size();
 
     QVERIFY(damaged.remove());
     QVERIFY(QFile::rename(aside, keyFile()));
     QCOMPARE(answers, QByteArray());
     QCOMPARE(sizeAfterwards, 0);
-    QCOMPARE(askOtherProcess("decrypt " + enciphered), QByteArray("secret"));
+    QCOMPARE(askHelper("decrypt " + enciphered), QByteArray("secret"));
 }
 
 void TestTXDataCrypt::threadsMayEncipherAtOnce()

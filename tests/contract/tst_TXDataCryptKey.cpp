@@ -1,9 +1,9 @@
 #include "TXDataCryptKey.h"
 
+#include "HelperProcess.h"
 #include "TXError.h"
 #include "TestBase.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -278,8 +278,7 @@ void TestTXDataCryptKey::processesThatStartTogetherAgree()
     std::vector<std::unique_ptr<QProcess>> processes;
     for (int i = 0; i < kProcesses; ++i) {
         processes.push_back(std::make_unique<QProcess>());
-        processes.back()->start(QCoreApplication::applicationDirPath()
-                                + QStringLiteral("/keymaker"));
+        processes.back()->start(helperProgram());
         QVERIFY(processes.back()->waitForStarted());
     }
 
