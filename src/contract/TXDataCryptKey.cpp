@@ -9,6 +9,8 @@
 
 #include <sodium.h>
 
+#include <utility>
+
 static_assert(TXDataCryptKey::kBytes == crypto_aead_xchacha20poly1305_ietf_KEYBYTES);
 
 namespace {
@@ -52,8 +54,8 @@ QString writeNewKey(const QString &path, QString *reason)
 
 } // namespace
 
-TXDataCryptKey::TXDataCryptKey(const QString &path)
-    : path(path)
+TXDataCryptKey::TXDataCryptKey(QString path)
+    : path(std::move(path))
 { }
 
 TXDataCryptKey::~TXDataCryptKey()

@@ -20,7 +20,7 @@ QString nearestExistingFolder(QString path)
     while (!QFileInfo(path).isDir()) {
         const QString parent = QFileInfo(path).path();
         if (parent == path) {
-            return QString();
+            return {};
         }
         path = parent;
     }
@@ -32,13 +32,13 @@ QString nearestExistingFolder(QString path)
 QString getOpenDialogDirectoryForKey(const QString &key)
 {
     if (key.isEmpty()) {
-        return QString();
+        return {};
     }
     const QVariant remembered = QSettings().value(settingsKey(key));
     const QString path = remembered.toString();
     if (remembered.typeId() != QMetaType::QString || !QDir::isAbsolutePath(path)
         || path.contains(QChar(u'\0'))) {
-        return QString();
+        return {};
     }
     return nearestExistingFolder(QDir::cleanPath(path));
 }

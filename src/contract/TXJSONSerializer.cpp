@@ -157,6 +157,11 @@ bool isDigit(char character)
     return character >= '0' && character <= '9';
 }
 
+bool startsNumber(char character)
+{
+    return isDigit(character) || character == '-' || character == '.';
+}
+
 bool isOfNumber(char character)
 {
     return isDigit(character) || QByteArrayView("+-.eE").contains(character);
@@ -205,7 +210,7 @@ QByteArray withMarks(const QByteArray &json, const QByteArray &mark)
     QByteArray result;
     qsizetype end = 0;
     for (qsizetype at = 0; at < json.size(); at = end) {
-        if (json.at(at) != '-' && !isDigit(json.at(at))) {
+        if (!startsNumber(json.at(at))) {
             end = json.at(at) == '"' ? endOfString(json, at) : at + 1;
             result += view.sliced(at, end - at);
             continue;

@@ -18,15 +18,15 @@ bool isPlainName(const QString &name)
 QString TXLocalisationUtility::getLocalisationFile(QString module, QString language)
 {
     if (!QCoreApplication::instance() || !isPlainName(module) || !isPlainName(language)) {
-        return QString();
+        return {};
     }
     const QString folder = QDir::cleanPath(QCoreApplication::applicationDirPath()
                                            + QStringLiteral("/../Resources/translations"));
     for (; !language.isEmpty(); language.truncate(qMax(0, language.lastIndexOf(u'_')))) {
-        const QString path = folder + u'/' + module + u'_' + language + QStringLiteral(".qm");
+        QString path = folder + u'/' + module + u'_' + language + QStringLiteral(".qm");
         if (QFileInfo(path).isFile()) {
             return path;
         }
     }
-    return QString();
+    return {};
 }

@@ -292,6 +292,7 @@ void TestTXJSONSerializer::numberPastSixtyFourBitsIsADouble_data()
     QTest::addRow("negative") << QByteArray("-9223372036854775809") << -9223372036854775808.0;
     QTest::addRow("far") << QByteArray("1") + QByteArray(100, '0') << 1e100;
     QTest::addRow("long fraction") << QByteArray("0.30000000000000000000001") << 0.3;
+    QTest::addRow("no digit before the point") << QByteArray(".30000000000000000000") << 0.3;
     QTest::addRow("large with an exponent")
         << QByteArray("18446744073709551615e1") << 184467440737095516150.0;
 }
