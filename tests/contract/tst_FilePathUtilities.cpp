@@ -2,6 +2,9 @@
 
 #include "TestBase.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 namespace {

@@ -4,9 +4,12 @@
 #include "TXError.h"
 #include "TestBase.h"
 
+#include <QFile>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QThread>
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -51,7 +54,7 @@ void TestTXDataCrypt::decryptUndoesEncrypt_data()
     QTest::addRow("one byte") << QByteArray("x");
     QTest::addRow("UTF-8") << QByteArray("p\xc3\xa4ssw\xc3\xb6rd");
     QTest::addRow("every byte") << everyByte;
-    QTest::addRow("large") << QByteArray(3 * 1024 * 1024 + 1, 'x');
+    QTest::addRow("large") << QByteArray(3'000'001, 'x');
 }
 
 void TestTXDataCrypt::decryptUndoesEncrypt()

@@ -4,9 +4,13 @@
 #include "TXError.h"
 #include "TestBase.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -314,6 +318,7 @@ void TestTXDataCryptKey::threadsThatStartTogetherAgree()
         TXDataCryptKey shared(folder.filePath(QString::number(round)));
         std::array<QByteArray, kThreads> keys;
         std::vector<std::unique_ptr<QThread>> threads;
+        threads.reserve(kThreads);
         for (QByteArray &key : keys) {
             threads.emplace_back(QThread::create([&shared, &key] {
                 if (const unsigned char *bytes = shared.bytes(nullptr)) {

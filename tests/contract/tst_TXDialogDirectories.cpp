@@ -2,6 +2,8 @@
 
 #include "TestBase.h"
 
+#include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 

@@ -2,6 +2,13 @@
 
 #include "TestBase.h"
 
+#include <QDateTime>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPoint>
+#include <QUrl>
+
 #include <limits>
 
 namespace {
@@ -92,7 +99,7 @@ void TestTXJSONSerializer::valueIsWritten_data()
     row("double", 0.1, "0.1");
     row("infinite", qInf(), "null");
     row("not a number", qQNaN(), "null");
-    row("nested infinite", QVariantList({-qInf()}), "[null]");
+    row("nested infinite", QVariantList{QVariant(-qInf())}, "[null]");
     row("string", QStringLiteral("a\"\\\n\u00e9"), "\"a\\\"\\\\\\n\xc3\xa9\"");
     row("null string", QString(), "\"\"");
     row("brackets in a string", QStringLiteral("[]{}"), "\"[]{}\"");

@@ -3,6 +3,9 @@
 #include "HelperProcess.h"
 #include "TestBase.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 class TestTXLocalisationUtility : public TestBase

@@ -4,6 +4,11 @@
 #include "PixelProbe.h"
 #include "TestBase.h"
 
+#include <QImage>
+#include <QPixmap>
+
+#include <iterator>
+
 namespace {
 
 struct Stock

@@ -3,6 +3,15 @@
 #include "TXFlatString.h"
 #include "TestBase.h"
 
+#include <QCoreApplication>
+#include <QFile>
+#include <QHash>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTranslator>
 
 namespace {
@@ -376,12 +385,12 @@ void TestTXStringI18n::multiplyingArgumentsStayBounded()
         text = text.arg(QStringLiteral("%%1").arg(i).repeated(10));
     }
 
-    QVERIFY(text.toString(nullptr).size() <= 4 * 1024 * 1024);
+    QVERIFY(text.toString(nullptr).size() <= 4'000'000);
 }
 
 void TestTXStringI18n::oneLongArgumentIsFilled()
 {
-    const QString longText(3 * 1024 * 1024, u'x');
+    const QString longText(3'000'000, u'x');
     const TXStringI18n text("%1 to %2");
 
     QCOMPARE(text.arg(longText).arg(QStringLiteral("b")).toString(nullptr),
