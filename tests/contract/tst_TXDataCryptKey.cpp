@@ -62,6 +62,7 @@ private slots:
     void folderThatCannotBeMadeIsAnError();
     void folderThatCannotBeWrittenIsAnError();
     void failureIsTriedAgain();
+    void pathWithMarkersIsToldAsItIs();
     void nullErrorIsAccepted();
     void fileThatIsThereIsNeverReplaced();
     void processesThatStartTogetherAgree();
@@ -250,6 +251,18 @@ void TestTXDataCryptKey::failureIsTriedAgain()
     QVERIFY(QFile::remove(path));
 
     QVERIFY(key.bytes(nullptr));
+}
+
+void TestTXDataCryptKey::pathWithMarkersIsToldAsItIs()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("%1 %2 %3"));
+    write(path, "x");
+    TXError error;
+
+    QVERIFY(keyIn(path, &error).isEmpty());
+
+    QVERIFY(error.getLocalizedDescription().contains(path));
 }
 
 void TestTXDataCryptKey::nullErrorIsAccepted()
