@@ -3,7 +3,8 @@
 
 namespace {
 
-constexpr qint64 kNoiseBytes = 64 * 1024;
+constexpr qint64 kNoiseBytes = qint64(64) * 1024;
+constexpr qsizetype kBigBytes = qsizetype(4) * 1024 * 1024;
 
 } // namespace
 
@@ -49,7 +50,7 @@ void TestAllocationMeter::whatWasFreedDoesNotCount()
 {
     const AllocationMeter meter;
 
-    QByteArray held(4 * 1024 * 1024, 'x');
+    QByteArray held(kBigBytes, 'x');
     QVERIFY(meter.bytes() >= held.size());
     held = QByteArray();
 
@@ -58,7 +59,7 @@ void TestAllocationMeter::whatWasFreedDoesNotCount()
 
 void TestAllocationMeter::freeingOlderBlocksCountsDown()
 {
-    QByteArray held(4 * 1024 * 1024, 'x');
+    QByteArray held(kBigBytes, 'x');
     const qint64 size = held.size();
     const AllocationMeter meter;
 
