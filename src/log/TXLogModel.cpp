@@ -207,7 +207,9 @@ int TXLogModel::rowOf(TXLogItem *item) const
     if (siblings == rows.constEnd() || siblings->isEmpty()) {
         return -1;
     }
-    const auto isItem = [item](const QSharedPointer<TXLogItem> &other) { return other == item; };
+    const auto isItem = [item](const QSharedPointer<TXLogItem> &other) {
+        return other == item;
+    };
     if (unevenParents.contains(item->parent)) {
         const auto found = std::find_if(siblings->cbegin(), siblings->cend(), isItem);
         return found == siblings->cend() ? -1 : int(found - siblings->cbegin());
