@@ -5,19 +5,20 @@
 
 #include <QDateTime>
 #include <QList>
-#include <QMetaType>
 #include <QObject>
 #include <QRecursiveMutex>
 #include <QSharedPointer>
 
+#include <atomic>
+
 /// One node of the log tree: a dated message of a level, with sub-items.
 ///
 /// Items are made by TXLogManager::append() or by create(), and are always held by QSharedPointer.
-/// A node's children are its own; a child knows its parent by a raw pointer.
+/// A node owns its children; a child knows its parent by a raw pointer.
 ///
 /// Thread: an item may be made, read and destroyed on any thread. `message`, `level` and `date` are
-/// written before the item enters the tree and only read afterwards. `children` is guarded by
-/// `mutex`; take it for one access at a time, never while calling into another item. `parent` is
+/// written before the item enters a tree and only read afterwards. `children` is guarded by
+/// `mutex`; take it for one access at a time and never while calling into another item. `parent` is
 /// written by the thread that links the item.
 class TXCORECOMMON_EXPORT TXLogItem : public QObject
 {
@@ -38,9 +39,25 @@ public:
     /// Lets the children go. A child that somebody else still holds has no parent from then on.
     ~TXLogItem() override;
 
-    /// Links a child as the last one. For items that are not in a tree yet: nothing is signalled.
-    /// A null child, or one that already has a parent, is ignored.
+    /// Links a child as the last one. Nothing is signalled, so this is for items that are not in a
+    /// tree yet. A null child, the item itself, and a child that has a parent already are ignored.
     void addChild(const QSharedPointer<TXLogItem> &child);
+
+    /// Takes the oldest child away and returns it, null when there is none. The child keeps its
+    /// `parent` for those who still show it, but is no longer part of the tree.
+    QSharedPointer<TXLogItem> takeFirstChild();
+
+    /// Takes all children away, in the same sense.
+    void removeAllChildren();
+
+    /// False once this item or one above it was taken away. Costs the depth of the item.
+    [[nodiscard]] bool isInTree() const;
+
+    /// The item's place among all children that its parent ever had, counted from 0. The number is
+    /// given when it is first asked for and never changes: siblings that are asked in the order of
+    /// their arrival have consecutive numbers, whatever is taken away in front of them. Without a
+    /// parent 0, and none is given.
+    qint64 number();
 
     /// Guards `children`.
     mutable QRecursiveMutex mutex;
@@ -63,6 +80,11 @@ signals:
     /// Emitted on the root of a tree when the item, the oldest child of its parent, has been
     /// taken away.
     void itemDeleted(QSharedPointer<TXLogItem> item);
-};
 
-Q_DECLARE_METATYPE(QSharedPointer<TXLogItem>)
+private:
+    static constexpr qint64 kNoNumber = -1;
+
+    std::atomic<qint64> givenNumber = kNoNumber;
+    std::atomic_bool taken = false;
+    qint64 nextChildNumber = 0;
+};

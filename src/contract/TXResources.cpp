@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPixmapCache>
 
 #include <functional>
 
@@ -19,9 +19,8 @@ const QColor kInformation(0x1f, 0x76, 0xd2);
 /// Paints in a square from (-1, -1) to (1, 1) with a white pen fit for a mark.
 using Paint = std::function<void(QPainter &)>;
 
-QPixmap paintSquare(int side, const Paint &paint)
+QPixmap paintSquare(int side, qreal ratio, const Paint &paint)
 {
-    const qreal ratio = qGuiApp->devicePixelRatio();
     QPixmap pixmap(QSize(side, side) * ratio);
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
@@ -32,6 +31,19 @@ QPixmap paintSquare(int side, const Paint &paint)
     painter.scale(side / 2.0, side / 2.0);
     painter.setPen(Qt::NoPen);
     paint(painter);
+    return pixmap;
+}
+
+/// Paints a picture once; item views ask for it at every repaint.
+QPixmap cachedSquare(const char *name, int side, const Paint &paint)
+{
+    const qreal ratio = qGuiApp->devicePixelRatio();
+    const QString key = QStringLiteral("TXResources/%1/%2").arg(QLatin1String(name)).arg(ratio);
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = paintSquare(side, ratio, paint);
+        QPixmapCache::insert(key, pixmap);
+    }
     return pixmap;
 }
 
@@ -82,30 +94,30 @@ void paintInformation(QPainter &painter)
 
 QPixmap TXDisplayFixBulletStaticImage()
 {
-    return paintSquare(kBulletSide, paintSuccess);
+    return cachedSquare("success", kBulletSide, paintSuccess);
 }
 
 QPixmap TXDisplayErrorBulletStaticImage()
 {
-    return paintSquare(kBulletSide, paintFailure);
+    return cachedSquare("failure", kBulletSide, paintFailure);
 }
 
 QPixmap TXDisplayWarningBulletStaticImage()
 {
-    return paintSquare(kBulletSide, paintWarning);
+    return cachedSquare("warning", kBulletSide, paintWarning);
 }
 
 QPixmap TXDisplayLittleInformationBulletStaticImage()
 {
-    return paintSquare(kLittleSide, paintInformation);
+    return cachedSquare("little-information", kLittleSide, paintInformation);
 }
 
 QPixmap TXDisplayLittleWarningBulletStaticImage()
 {
-    return paintSquare(kLittleSide, paintWarning);
+    return cachedSquare("little-warning", kLittleSide, paintWarning);
 }
 
 QPixmap TXDisplayLittleErrorBulletStaticImage()
 {
-    return paintSquare(kLittleSide, paintFailure);
+    return cachedSquare("little-error", kLittleSide, paintFailure);
 }
