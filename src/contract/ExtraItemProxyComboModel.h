@@ -23,11 +23,15 @@
 /// edited. There are as many columns as in the source, and at least one. The rows are flat: what
 /// lies below a row of the source is not shown.
 ///
-/// Every change of the source is followed, and indexes of source rows stay valid. One transition
-/// is coarse on purpose: when the source becomes empty and the flag is set, all rows are removed
-/// and the extra ones inserted again, so that a combo box moves to the text row and not to a fixed
-/// entry. When the source is filled again the text row goes after the new rows have come, so that
-/// a combo box on it moves to the first of them.
+/// Every change of the source is followed, and indexes of source rows stay valid. Changes are told
+/// in such an order that a combo box never comes to rest on an extra row because a row was removed:
+/// - when rows go that could leave it there, the fixed rows are removed before and inserted again
+///   after (so indexes of these do not stay valid), and a combo box moves to the row of the source
+///   that took its place, or to the last one;
+/// - when the last row goes and the flag is set, all rows are removed and the extra ones inserted,
+///   and a combo box moves to the text row;
+/// - when rows come again, the text row is removed after they have come, and a combo box on it
+///   moves to the first of them.
 ///
 /// Mapping an index takes constant time.
 ///
@@ -89,7 +93,7 @@ private slots:
     void beforeColumnsInserted(const QModelIndex &parent, int first, int last);
     void afterColumnsInserted(const QModelIndex &parent);
     void beforeColumnsRemoved(const QModelIndex &parent, int first, int last);
-    void afterColumnsRemoved(const QModelIndex &parent);
+    void afterColumnsRemoved(const QModelIndex &parent, int first, int last);
     void beforeColumnsMoved(const QModelIndex &from, int first, int last, const QModelIndex &to,
                             int column);
     void afterColumnsMoved(const QModelIndex &from, int first, int last, const QModelIndex &to);
@@ -120,6 +124,7 @@ private:
     void endAdding();
     void beginTaking(int first, int last);
     void endTaking();
+    void tellStandInColumn();
 
     QList<QString> labels;
     QList<QVariant> values;
@@ -128,8 +133,8 @@ private:
     bool textWhenEmpty = false;
     bool textRowShown = false;
     bool fixedRowsShown = true;
-    bool becomingEmpty = false;
-    bool resettingForColumns = false;
+    bool fixedRowsStepAside = false;
+    bool standInColumn = false;
     QModelIndexList layoutProxyIndexes;
     QList<QPersistentModelIndex> layoutSourceIndexes;
 };

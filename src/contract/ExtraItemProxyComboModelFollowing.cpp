@@ -27,7 +27,8 @@ const Follower kFollowers[] = {
     {SIGNAL(columnsInserted(QModelIndex, int, int)), SLOT(afterColumnsInserted(QModelIndex))},
     {SIGNAL(columnsAboutToBeRemoved(QModelIndex, int, int)),
      SLOT(beforeColumnsRemoved(QModelIndex, int, int))},
-    {SIGNAL(columnsRemoved(QModelIndex, int, int)), SLOT(afterColumnsRemoved(QModelIndex))},
+    {SIGNAL(columnsRemoved(QModelIndex, int, int)),
+     SLOT(afterColumnsRemoved(QModelIndex, int, int))},
     {SIGNAL(columnsAboutToBeMoved(QModelIndex, int, int, QModelIndex, int)),
      SLOT(beforeColumnsMoved(QModelIndex, int, int, QModelIndex, int))},
     {SIGNAL(columnsMoved(QModelIndex, int, int, QModelIndex, int)),
@@ -86,30 +87,38 @@ void ExtraItemProxyComboModel::endAdding()
     }
 }
 
+// A combo box whose row is removed moves to the row that takes its number, or to the last one. So
+// that this is never an extra row, the fixed rows stand aside where it could be, and with the
+// last row of the source all rows go, for the combo box then moves to the first that comes.
 void ExtraItemProxyComboModel::beginTaking(int first, int last)
 {
-    becomingEmpty = textWhenEmpty && last - first + 1 == sourceRows();
-    if (becomingEmpty) {
-        // A combo box whose row is removed moves to the row that takes its place, which could be a
-        // fixed entry; with all rows gone, it moves to the first that comes.
-        beginRemoveRows({}, 0, rowCount() - 1);
-    } else {
-        beginRemoveRows({}, first + firstSourceRow(), last + firstSourceRow());
+    const int left = sourceRows() - (last - first + 1);
+    const bool isTail = last == sourceRows() - 1;
+    fixedRowsStepAside = left == 0 ? textWhenEmpty : countOfFixedRows() > 0 && last >= left;
+    if (fixedRowsStepAside && isTail) {
+        beginRemoveRows({}, first + firstSourceRow(), rowCount() - 1);
+        return;
     }
+    if (fixedRowsStepAside) {
+        beginRemoveRows({}, rowCount() - countOfFixedRows(), rowCount() - 1);
+        fixedRowsShown = false;
+        endRemoveRows();
+    }
+    beginRemoveRows({}, first + firstSourceRow(), last + firstSourceRow());
 }
 
 void ExtraItemProxyComboModel::endTaking()
 {
-    if (!becomingEmpty) {
-        endRemoveRows();
+    fixedRowsShown = !fixedRowsStepAside;
+    endRemoveRows();
+    if (!fixedRowsStepAside) {
         return;
     }
-    becomingEmpty = false;
-    fixedRowsShown = false;
-    endRemoveRows();
-    beginInsertRows({}, 0, countOfFixedRows());
+    const int left = sourceRows();
+    const int textRows = left == 0 ? 1 : 0;
+    beginInsertRows({}, left, left + textRows + countOfFixedRows() - 1);
     fixedRowsShown = true;
-    textRowShown = true;
+    textRowShown = textRows == 1;
     endInsertRows();
 }
 
@@ -166,17 +175,17 @@ void ExtraItemProxyComboModel::afterRowsMoved(const QModelIndex &from, int, int,
     }
 }
 
+// Column 0 is always there: while the source has no columns it stands in for the first one.
 void ExtraItemProxyComboModel::beforeColumnsInserted(const QModelIndex &parent, int first, int last)
 {
     if (parent.isValid()) {
         return;
     }
-    // The one column that stands in for none does not become one of the source's.
-    resettingForColumns = sourceColumns() == 0;
-    if (resettingForColumns) {
-        beginResetModel();
-    } else {
+    standInColumn = sourceColumns() == 0;
+    if (!standInColumn) {
         beginInsertColumns({}, first, last);
+    } else if (last > 0) {
+        beginInsertColumns({}, 1, last);
     }
 }
 
@@ -185,11 +194,10 @@ void ExtraItemProxyComboModel::afterColumnsInserted(const QModelIndex &parent)
     if (parent.isValid()) {
         return;
     }
-    if (resettingForColumns) {
-        endReset();
-    } else {
+    if (!standInColumn || sourceColumns() > 1) {
         endInsertColumns();
     }
+    tellStandInColumn();
 }
 
 void ExtraItemProxyComboModel::beforeColumnsRemoved(const QModelIndex &parent, int first, int last)
@@ -197,24 +205,31 @@ void ExtraItemProxyComboModel::beforeColumnsRemoved(const QModelIndex &parent, i
     if (parent.isValid()) {
         return;
     }
-    resettingForColumns = last - first + 1 == sourceColumns();
-    if (resettingForColumns) {
-        beginResetModel();
-    } else {
+    standInColumn = last - first + 1 == sourceColumns();
+    if (!standInColumn) {
         beginRemoveColumns({}, first, last);
+    } else if (last > 0) {
+        beginRemoveColumns({}, 1, last);
     }
 }
 
-void ExtraItemProxyComboModel::afterColumnsRemoved(const QModelIndex &parent)
+void ExtraItemProxyComboModel::afterColumnsRemoved(const QModelIndex &parent, int, int last)
 {
     if (parent.isValid()) {
         return;
     }
-    if (resettingForColumns) {
-        endReset();
-    } else {
+    if (!standInColumn || last > 0) {
         endRemoveColumns();
     }
+    tellStandInColumn();
+}
+
+void ExtraItemProxyComboModel::tellStandInColumn()
+{
+    if (standInColumn && sourceRows() > 0) {
+        emit dataChanged(index(firstSourceRow(), 0), index(firstSourceRow() + sourceRows() - 1, 0));
+    }
+    standInColumn = false;
 }
 
 void ExtraItemProxyComboModel::beforeColumnsMoved(const QModelIndex &from, int first, int last,

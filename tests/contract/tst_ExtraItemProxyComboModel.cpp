@@ -163,6 +163,8 @@ private slots:
 
     void comboBoxStartsOnTheTextRow();
     void comboBoxMovesToTheFirstRowThatComes();
+    void comboBoxStaysOnSourceRowsWhenItsRowGoes_data();
+    void comboBoxStaysOnSourceRowsWhenItsRowGoes();
     void comboBoxFallsBackToTheTextRow_data();
     void comboBoxFallsBackToTheTextRow();
     void comboBoxKeepsItsRowWhenOthersChange();
@@ -362,7 +364,7 @@ void TestExtraItemProxyComboModel::sourceMayBeDestroyed()
     }
     QCOMPARE(reset.count(), 2);
     QCOMPARE(shown(proxy), "Item - Load");
-    QCOMPARE(combo.currentIndex(), -1);
+    QCOMPARE(combo.currentText(), "Item");
 
     QStringListModel next({"c"});
     proxy.setSourceModel(&next);
@@ -443,7 +445,7 @@ void TestExtraItemProxyComboModel::persistentIndexesFollowInsertionAndRemoval()
     QCOMPARE(load.data().toString(), "Load");
     bar.source.removeRows(0, 2);
     QCOMPARE(b.row(), 0);
-    QCOMPARE(load.row(), 2);
+    QVERIFY(!load.isValid());
 
     Bar empty;
     const QPersistentModelIndex fixed = empty.proxy.index(2, 0);
@@ -593,6 +595,46 @@ void TestExtraItemProxyComboModel::comboBoxMovesToTheFirstRowThatComes()
         0, {itemRow("a").first(), itemRow("b").first(), itemRow("c").first()});
     QCOMPARE(combo.currentText(), "a");
     QCOMPARE(spy.count(), 1);
+}
+
+void TestExtraItemProxyComboModel::comboBoxStaysOnSourceRowsWhenItsRowGoes_data()
+{
+    QTest::addColumn<int>("current");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("last");
+    QTest::addColumn<QString>("becomes");
+    QTest::newRow("first of many") << 0 << 0 << 0 << "b";
+    QTest::newRow("last") << 4 << 4 << 4 << "d";
+    QTest::newRow("last of a removed tail") << 4 << 2 << 4 << "b";
+    QTest::newRow("first of a removed tail") << 2 << 2 << 4 << "b";
+    QTest::newRow("last of a removed middle") << 3 << 1 << 3 << "e";
+    QTest::newRow("first of a removed middle") << 1 << 1 << 3 << "e";
+    QTest::newRow("last of a removed head") << 3 << 0 << 3 << "e";
+    QTest::newRow("behind the removed") << 4 << 1 << 3 << "e";
+    QTest::newRow("above the removed") << 0 << 1 << 4 << "a";
+}
+
+void TestExtraItemProxyComboModel::comboBoxStaysOnSourceRowsWhenItsRowGoes()
+{
+    QFETCH(int, current);
+    QFETCH(int, first);
+    QFETCH(int, last);
+    QFETCH(QString, becomes);
+    Bar bar({"a", "b", "c", "d", "e"});
+    QComboBox combo;
+    combo.setModel(&bar.proxy);
+    combo.setCurrentIndex(current);
+    const QPersistentModelIndex above = bar.proxy.index(0, 0);
+    const QPersistentModelIndex below = bar.proxy.index(4, 0);
+    QStringList visited;
+    connect(&combo, &QComboBox::currentIndexChanged, this,
+            [&](int index) { visited.append(combo.itemText(index)); });
+    bar.source.removeRows(first, last - first + 1);
+    QCOMPARE(combo.currentText(), becomes);
+    QVERIFY(visited.isEmpty() || visited == QStringList{becomes});
+    QCOMPARE(above.isValid(), first > 0);
+    QCOMPARE(below.isValid(), last < 4);
+    QCOMPARE(shown(bar.proxy), shown(bar.source) + " - Load");
 }
 
 void TestExtraItemProxyComboModel::comboBoxFallsBackToTheTextRow_data()
