@@ -114,7 +114,16 @@ QUrl withOneSlash(QUrl url)
 
 bool isDefault(const QVariant &value)
 {
-    return !value.isValid() || value == QVariant(QString()) || value == QVariant(false);
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        return true;
+    case QMetaType::Bool:
+        return !value.toBool();
+    case QMetaType::QString:
+        return value.toString().isEmpty();
+    default:
+        return false;
+    }
 }
 
 QHash<QString, QVariant> withoutDefaults(QHash<QString, QVariant> parameters)

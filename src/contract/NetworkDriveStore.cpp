@@ -12,6 +12,16 @@ const QString kListKey = QStringLiteral("NetworkDrives");
 const QString kAlwaysThereKey = QStringLiteral("NetworkDriveActivated");
 const QString kPasswordKey = QStringLiteral("NetworkDrivePassword");
 
+/// A value that is no list of texts counts as one entry, which then cannot be read.
+QStringList storedTexts()
+{
+    const QVariant value = QSettings().value(kListKey);
+    if (!value.isValid() || value.canConvert<QStringList>()) {
+        return value.toStringList();
+    }
+    return {value.toString()};
+}
+
 bool hasLostItsPassword(const AutoMountNetworkDrive &drive, const QHash<QString, QVariant> &stored)
 {
     return !drive.getUrl().password().isEmpty() && !stored.contains(kPasswordKey);
@@ -21,7 +31,7 @@ bool hasLostItsPassword(const AutoMountNetworkDrive &drive, const QHash<QString,
 
 QList<AutoMountNetworkDrive> NetworkDriveStore::read()
 {
-    const QStringList texts = QSettings().value(kListKey).toStringList();
+    const QStringList texts = storedTexts();
     QList<AutoMountNetworkDrive> drives;
     unreadable.clear();
     for (const QString &text : texts) {
