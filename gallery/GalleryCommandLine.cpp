@@ -37,7 +37,9 @@ void addOptions(QCommandLineParser &parser)
     parser.setApplicationDescription(tr("Shows what the TXGUICommon library has to offer."));
     // Qt's own options have one dash, as -platform, and are not spelt letter by letter.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addHelpOption();
+    // Not Qt's own help option, which brings a second one for Qt's arguments along.
+    parser.addOption(QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")},
+                                        tr("Show this help and exit.")));
     parser.addVersionOption();
     parser.addOptions({
         valueOption(QStringLiteral("page"), tr("name"),

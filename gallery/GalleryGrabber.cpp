@@ -24,6 +24,11 @@ QString tr(const char *text)
     return QCoreApplication::translate("GalleryGrabber", text);
 }
 
+QString nativePath(const QString &path)
+{
+    return QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
+}
+
 QString withoutSuffix(const QString &path)
 {
     return path.endsWith(kSuffix, Qt::CaseInsensitive) ? path.chopped(kSuffix.size()) : path;
@@ -58,11 +63,16 @@ bool GalleryGrabber::makeFolder(const QString &folder)
     if (QDir().mkpath(folder)) {
         return true;
     }
-    return fail(tr("The folder \"%1\" cannot be made.").arg(QDir::toNativeSeparators(folder)));
+    return fail(tr("The folder \"%1\" cannot be made.").arg(nativePath(folder)));
 }
 
 bool GalleryGrabber::grabPage(const QString &pageName, const QString &basePath)
 {
+    // Opened first: a mistake in the path is told before any work is done.
+    QSaveFile file(basePath + kSuffix);
+    if (!open(file)) {
+        return false;
+    }
     window.showPage(galleryPageRow(pageName));
     window.show();
     GalleryPage &page = *window.currentPage();
@@ -71,12 +81,13 @@ bool GalleryGrabber::grabPage(const QString &pageName, const QString &basePath)
         return false;
     }
     window.growToPage();
-    if (!save(window, basePath + kSuffix)) {
+    if (!save(window, file)) {
         return false;
     }
     const QList<GalleryFurtherWindow> furtherWindows = page.furtherWindows();
     for (const GalleryFurtherWindow &further : furtherWindows) {
-        if (!save(*further.window, basePath + QLatin1Char('-') + further.name + kSuffix)) {
+        QSaveFile furtherFile(basePath + QLatin1Char('-') + further.name + kSuffix);
+        if (!open(furtherFile) || !save(*further.window, furtherFile)) {
             return false;
         }
     }
@@ -99,19 +110,27 @@ bool GalleryGrabber::waitUntilReady(GalleryPage &page, const QString &pageName)
                     .arg(kReadyLimitMilliseconds / 1000));
 }
 
-bool GalleryGrabber::save(QWidget &widget, const QString &path)
+bool GalleryGrabber::open(QSaveFile &file)
 {
-    QSaveFile file(path);
-    const QString shownPath = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
+    return file.open(QIODevice::WriteOnly) || failToWrite(file);
+}
+
+bool GalleryGrabber::save(QWidget &widget, QSaveFile &file)
+{
     // What layouts and views have put off is done before the picture is taken.
     QApplication::processEvents();
-    if (!file.open(QIODevice::WriteOnly) || !widget.grab().save(&file, "PNG") || !file.commit()) {
-        return fail(
-            tr("The picture \"%1\" cannot be written: %2.").arg(shownPath, file.errorString()));
+    if (!widget.grab().save(&file, "PNG") || !file.commit()) {
+        return failToWrite(file);
     }
-    std::puts(qUtf8Printable(shownPath));
+    std::puts(qUtf8Printable(nativePath(file.fileName())));
     std::fflush(stdout);
     return true;
+}
+
+bool GalleryGrabber::failToWrite(const QSaveFile &file)
+{
+    return fail(tr("The picture \"%1\" cannot be written: %2.")
+                    .arg(nativePath(file.fileName()), file.errorString()));
 }
 
 bool GalleryGrabber::fail(const QString &message)

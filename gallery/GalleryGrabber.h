@@ -5,6 +5,7 @@
 
 class GalleryPage;
 class GalleryWindow;
+class QSaveFile;
 class QWidget;
 
 /// Takes pictures of the gallery's pages, and of the further windows that they name.
@@ -15,9 +16,9 @@ class QWidget;
 class GalleryGrabber
 {
 public:
-    /// The window stays the caller's and is shown by the grabber. The target is the file of a
-    /// picture, with or without ".png", when one page is named; else the folder, made when it does
-    /// not exist, for a file <page>.png each.
+    /// The window stays the caller's and is shown by the grabber. When one page is named, the
+    /// target is the file of its picture, with or without ".png"; otherwise, or when it is a folder
+    /// that exists, it is the folder for a file <page>.png each. Missing folders are made.
     GalleryGrabber(GalleryWindow &window, const QString &target);
 
     /// Takes the picture of the page of this name, or of every page when it is empty, and prints
@@ -32,7 +33,9 @@ private:
     bool makeFolder(const QString &folder);
     bool grabPage(const QString &pageName, const QString &basePath);
     bool waitUntilReady(GalleryPage &page, const QString &pageName);
-    bool save(QWidget &widget, const QString &path);
+    bool open(QSaveFile &file);
+    bool save(QWidget &widget, QSaveFile &file);
+    bool failToWrite(const QSaveFile &file);
     bool fail(const QString &message);
 
     GalleryWindow &window;

@@ -18,6 +18,7 @@
 namespace {
 
 constexpr int kMaximumEntries = 20000;
+constexpr int kLineButtons = 4;
 constexpr int kGap = 14;
 
 /// Folders that every machine with Qt has an answer to, though perhaps that they are missing.
@@ -96,6 +97,7 @@ void LogPage::retranslate()
     qtWarningButton->setText(tr("&Qt Warning"));
     previewLabel->setText(tr("Live &view:"));
     windowButton->setText(tr("&Open Log Window"));
+    windowButton->setMinimumWidth(windowButton->sizeHint().width() + kGap);
     preview->setAccessibleName(tr("Live view of the log"));
 }
 
@@ -133,15 +135,34 @@ void LogPage::scanLogged(QSharedPointer<TXLogItem> lastEntry)
 
 void LogPage::entryShown(QSharedPointer<TXLogItem> entry)
 {
-    if (entry != awaitedEntry) {
-        return;
+    if (entry == awaitedEntry) {
+        awaitedEntry.reset();
+        scanShown();
+    } else if (awaitedLines > 0 && entry->parent == log->rootItem()) {
+        --awaitedLines;
+        if (awaitedLines == 0) {
+            preview->scrollToBottom();
+            isFilling = false;
+            emit becameReady();
+        }
     }
-    awaitedEntry.reset();
+}
+
+void LogPage::scanShown()
+{
     preview->showNewest();
     if (isFilling) {
-        isFilling = false;
-        emit becameReady();
+        writeAllLines();
     }
+}
+
+void LogPage::writeAllLines()
+{
+    awaitedLines = kLineButtons;
+    writeInformation();
+    writeWarning();
+    writeError();
+    writeQtWarning();
 }
 
 void LogPage::setUpLayout()

@@ -42,6 +42,8 @@ private slots:
 
 private:
     void setUpLayout();
+    void scanShown();
+    void writeAllLines();
 
     QSharedPointer<TXLogManager> log;
     MessageLog messageLog;
@@ -57,4 +59,5 @@ private:
     TXLogWindow *logWindow;
     QSharedPointer<TXLogItem> awaitedEntry;
     bool isFilling = false;
+    int awaitedLines = 0;
 };

@@ -5,11 +5,11 @@
 namespace {
 
 constexpr int kTextMargin = 16;
-constexpr int kVerticalPadding = 9;
+constexpr int kVerticalPadding = 10;
 constexpr qreal kCornerRadius = 6;
 constexpr qreal kGap = 1.5;
 constexpr qreal kBarWidth = 3;
-constexpr qreal kBarInset = 9;
+constexpr qreal kBarInset = 7;
 
 QColor withAlpha(QColor colour, qreal alpha)
 {

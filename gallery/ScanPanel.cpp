@@ -3,6 +3,7 @@
 #include "FolderLogEntry.h"
 
 #include "TXLogManager.h"
+#include "TXResources.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -22,6 +23,7 @@ namespace {
 constexpr int kCountsIntervalMilliseconds = 100;
 constexpr int kValuePointsAboveNormal = 6;
 constexpr int kMargin = 14;
+constexpr int kPictureGap = 7;
 
 } // namespace
 
@@ -34,9 +36,9 @@ ScanPanel::ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent)
     , browseButton(new QPushButton(this))
     , startButton(new QPushButton(this))
     , cancelButton(new QPushButton(this))
-    , entries(makeTile())
-    , warnings(makeTile())
-    , errors(makeTile())
+    , entries(makeTile(TXDisplayLittleInformationBulletStaticImage()))
+    , warnings(makeTile(TXDisplayLittleWarningBulletStaticImage()))
+    , errors(makeTile(TXDisplayLittleErrorBulletStaticImage()))
     , rate(makeTile())
 {
     scan = new FolderScan(
@@ -57,6 +59,7 @@ ScanPanel::ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent)
 void ScanPanel::setFolders(const QString &text)
 {
     folderEdit->setText(text);
+    folderEdit->setCursorPosition(0);
 }
 
 void ScanPanel::start()
@@ -122,9 +125,11 @@ void ScanPanel::scanFinished(bool isComplete)
     emit scanLogged(entry);
 }
 
-ScanPanel::Tile ScanPanel::makeTile()
+ScanPanel::Tile ScanPanel::makeTile(const QPixmap &picture)
 {
-    const Tile tile = {new QLabel(this), new QLabel(this)};
+    const Tile tile = {new QLabel(this), new QLabel(this), new QLabel(this)};
+    tile.picture->setPixmap(picture);
+    tile.picture->setHidden(picture.isNull());
     QFont valueFont = font();
     valueFont.setPointSizeF(valueFont.pointSizeF() + kValuePointsAboveNormal);
     tile.value->setFont(valueFont);
@@ -145,9 +150,13 @@ void ScanPanel::setUpLayout()
 
     auto *tileRow = new QHBoxLayout;
     for (const Tile &tile : {entries, warnings, errors, rate}) {
+        auto *valueRow = new QHBoxLayout;
+        valueRow->setSpacing(kPictureGap);
+        valueRow->addWidget(tile.picture);
+        valueRow->addWidget(tile.value, 1);
         auto *column = new QVBoxLayout;
         column->setSpacing(0);
-        column->addWidget(tile.value);
+        column->addLayout(valueRow);
         column->addWidget(tile.caption);
         tileRow->addLayout(column, 1);
     }

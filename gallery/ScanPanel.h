@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QGroupBox>
+#include <QPixmap>
 #include <QSharedPointer>
 
 class QLabel;
@@ -46,14 +47,15 @@ private slots:
     void scanFinished(bool isComplete);
 
 private:
-    /// A number with a caption below it.
+    /// A number with a picture before it and a caption below it.
     struct Tile
     {
+        QLabel *picture;
         QLabel *value;
         QLabel *caption;
     };
 
-    Tile makeTile();
+    Tile makeTile(const QPixmap &picture = QPixmap());
     void setUpLayout();
     void updateButtons();
     void retranslate();
