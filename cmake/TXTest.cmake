@@ -1,6 +1,10 @@
 include(TXCompilerOptions)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 
+# Qt would tell each test its own folders by definitions, and targets whose definitions differ
+# cannot share a precompiled header. Nothing of ours uses them (QFINDTESTDATA does).
+set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
+
 # tx_add_test(<unit> [LIBRARIES <library>...])
 #
 # Builds tst_<unit>.cpp of the calling folder into one executable and registers it with ctest under

@@ -24,8 +24,9 @@ void TXLogItem::addChild(const QSharedPointer<TXLogItem> &child)
     if (!child || child.data() == this || child->parent) {
         return;
     }
-    child->parent = this;
     const QMutexLocker locker(&mutex);
+    child->parent = this;
+    child->givenNumber.store(nextChildNumber++, std::memory_order_relaxed);
     children.append(child);
 }
 
@@ -67,6 +68,7 @@ qint64 TXLogItem::number()
     if (known != kNoNumber || !parent) {
         return qMax<qint64>(known, 0);
     }
+    // Only for an item that was put into `children` by hand.
     const QMutexLocker locker(&parent->mutex);
     if (givenNumber == kNoNumber) {
         givenNumber = parent->nextChildNumber++;

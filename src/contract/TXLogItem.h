@@ -53,9 +53,9 @@ public:
     /// False once this item or one above it was taken away. Costs the depth of the item.
     [[nodiscard]] bool isInTree() const;
 
-    /// The item's place among all children that its parent ever had, counted from 0. The number is
-    /// given when it is first asked for and never changes: siblings that are asked in the order of
-    /// their arrival have consecutive numbers, whatever is taken away in front of them. Without a
+    /// The item's place among all children that its parent ever had, counted from 0, so that
+    /// siblings have consecutive numbers whatever is taken away in front of them. Given by
+    /// addChild() or, when the item was put into `children` by hand, at the first call. Without a
     /// parent 0, and none is given.
     qint64 number();
 

@@ -13,6 +13,7 @@ qsizetype countChildren(const TXLogItem &item)
     return item.children.size();
 }
 
+/// Null past the end.
 QSharedPointer<TXLogItem> childAt(const TXLogItem &item, qsizetype position)
 {
     const QMutexLocker locker(&item.mutex);
@@ -29,10 +30,11 @@ bool isTopLevel(const TXLogItem &item)
 TXLogModel::TXLogModel(QSharedPointer<TXLogManager> manager, QObject *parent)
     : QAbstractItemModel(parent)
     , logManager(std::move(manager))
+    , root(logManager->rootItem().data())
 {
-    connect(logManager->rootItem().data(), SIGNAL(itemAppended(QSharedPointer<TXLogItem>)), this,
+    connect(root, SIGNAL(itemAppended(QSharedPointer<TXLogItem>)), this,
             SLOT(rowAppended(QSharedPointer<TXLogItem>)));
-    connect(logManager->rootItem().data(), SIGNAL(itemDeleted(QSharedPointer<TXLogItem>)), this,
+    connect(root, SIGNAL(itemDeleted(QSharedPointer<TXLogItem>)), this,
             SLOT(rowDeleted(QSharedPointer<TXLogItem>)));
     connect(logManager.data(), SIGNAL(hasBeenReset()), this, SLOT(modelReset()));
 }
@@ -129,7 +131,7 @@ QModelIndex TXLogModel::index(TXLogItem *item, int column, const QModelIndex &pa
 void TXLogModel::clear()
 {
     beginResetModel();
-    logManager->rootItem()->removeAllChildren();
+    root->removeAllChildren();
     rows.clear();
     droppedParents.clear();
     endResetModel();
@@ -143,9 +145,22 @@ void TXLogModel::modelReset()
 
 void TXLogModel::rowAppended(QSharedPointer<TXLogItem> item)
 {
-    if (!item) {
-        return;
+    if (item) {
+        mirrorAppended(item);
     }
+}
+
+void TXLogModel::rowDeleted(QSharedPointer<TXLogItem> item)
+{
+    if (item) {
+        mirrorDeleted(*item);
+    }
+}
+
+/// Shows the item, if its parent is shown, and then what it brings with it. The children are asked
+/// for anew each time, as the log may grow meanwhile.
+void TXLogModel::mirrorAppended(const QSharedPointer<TXLogItem> &item)
+{
     QModelIndex parentIndex;
     if (findParentIndex(*item, &parentIndex)) {
         Children &siblings = rows[item->parent];
@@ -155,30 +170,30 @@ void TXLogModel::rowAppended(QSharedPointer<TXLogItem> item)
         item->number(); // Asked now, so that siblings are numbered in the order of their rows.
         endInsertRows();
     }
-    for (qsizetype i = 0; i < countChildren(*item); ++i) {
-        rowAppended(childAt(*item, i));
+    qsizetype position = 0;
+    while (const QSharedPointer<TXLogItem> child = childAt(*item, position++)) {
+        mirrorAppended(child);
     }
 }
 
-void TXLogModel::rowDeleted(QSharedPointer<TXLogItem> item)
+/// Drops the first row of the item's parent, whichever item is named, and then looks at what the
+/// item had below it in the same way.
+void TXLogModel::mirrorDeleted(const TXLogItem &item)
 {
-    if (!item) {
-        return;
-    }
     QModelIndex parentIndex;
-    if (findParentIndex(*item, &parentIndex)) {
-        removeFirstRow(item->parent, parentIndex);
+    if (findParentIndex(item, &parentIndex)) {
+        removeFirstRow(item.parent, parentIndex);
     }
-    for (qsizetype i = 0; i < countChildren(*item); ++i) {
-        rowDeleted(childAt(*item, i));
+    qsizetype position = 0;
+    while (const QSharedPointer<TXLogItem> child = childAt(item, position++)) {
+        mirrorDeleted(*child);
     }
 }
 
 /// The item that stands behind the index; the root for the invalid one.
 TXLogItem *TXLogModel::itemOf(const QModelIndex &index) const
 {
-    return index.isValid() ? static_cast<TXLogItem *>(index.internalPointer())
-                           : logManager->rootItem().data();
+    return index.isValid() ? static_cast<TXLogItem *>(index.internalPointer()) : root;
 }
 
 /// The row of a shown item in constant time, -1 for any other.
@@ -204,7 +219,7 @@ int TXLogModel::rowOf(TXLogItem *item) const
 /// False when the parent of the item is not shown.
 bool TXLogModel::findParentIndex(const TXLogItem &item, QModelIndex *parentIndex)
 {
-    if (item.parent == logManager->rootItem()) {
+    if (item.parent == root) {
         return true;
     }
     *parentIndex = index(item.parent, 0, QModelIndex());

@@ -60,6 +60,8 @@ private slots:
 private:
     using Children = QList<QSharedPointer<TXLogItem>>;
 
+    void mirrorAppended(const QSharedPointer<TXLogItem> &item);
+    void mirrorDeleted(const TXLogItem &item);
     TXLogItem *itemOf(const QModelIndex &index) const;
     int rowOf(TXLogItem *item) const;
     bool findParentIndex(const TXLogItem &item, QModelIndex *parentIndex);
@@ -69,6 +71,8 @@ private:
 
     QSharedPointer<TXLogManager> logManager;
     QHash<TXLogItem *, Children> rows;
+    // The manager's root, which stays the same; asking for it costs a reference count each time.
+    TXLogItem *root;
     // Held so that a new item never gets the address under which their sub-items still stand.
     Children droppedParents;
 };

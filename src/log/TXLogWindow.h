@@ -1,0 +1,54 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+#include <QDialog>
+#include <QSharedPointer>
+
+#include <memory>
+
+class QSortFilterProxyModel;
+class TXLogManager;
+class TXLogModel;
+
+namespace Ui {
+class TXLogWindow;
+}
+
+/// The dialog in which a user reads the application's log: a live tree of dated messages, newest
+/// first, under a filter by level.
+///
+/// The chosen level is remembered in the application's settings under "LogLevel". A window that
+/// opens with a remembered level shows it in its box, yet lists everything until the user picks an
+/// entry. Closing hides the window; what it lists is there when it is shown again.
+///
+/// Thread: the GUI thread, also while other threads write to the log.
+class TXGUICOMMON_EXPORT TXLogWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Follows the log from now on; what it held before is not listed. Shares the ownership of the
+    /// manager, which must not be null.
+    TXLogWindow(QSharedPointer<TXLogManager> manager, QWidget *parent);
+    ~TXLogWindow() override;
+
+    /// The number of top-level events that the window holds, whatever the filter shows of them.
+    int nbEventLogged();
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private slots:
+    void filterChanged(int idx);
+
+private:
+    void setUpTree();
+    void setUpFilter();
+
+    std::unique_ptr<Ui::TXLogWindow> ui;
+    TXLogModel *logModel;
+    QSortFilterProxyModel *proxyModel;
+};

@@ -1,0 +1,512 @@
+#include "TXLogManager.h"
+#include "TestBase.h"
+
+#include <QSignalSpy>
+
+#include <thread>
+#include <vector>
+
+namespace {
+
+using Item = QSharedPointer<TXLogItem>;
+
+TXStringI18n plain(const QString &text)
+{
+    return TXStringI18n::fromString(text);
+}
+
+QStringList childTexts(const TXLogItem &item)
+{
+    QStringList texts;
+    for (const Item &child : item.children) {
+        texts.append(child->message.toString(nullptr));
+    }
+    return texts;
+}
+
+/// Writes down what the root item tells, in order: "+text" and "-text".
+class Protocol : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Protocol(const TXLogManager &manager)
+    {
+        const TXLogItem *root = manager.rootItem().data();
+        connect(root, &TXLogItem::itemAppended, this,
+                [this](const Item &item) { write(u'+', item); });
+        connect(root, &TXLogItem::itemDeleted, this,
+                [this](const Item &item) { write(u'-', item); });
+    }
+
+    QStringList lines;
+    QList<QThread *> threads;
+
+private:
+    void write(QChar sign, const Item &item)
+    {
+        lines.append(sign + item->message.toString(nullptr));
+        threads.append(QThread::currentThread());
+    }
+};
+
+/// Counts the wake-ups that are posted to an object.
+class WakeUpCounter : public QObject
+{
+    Q_OBJECT
+
+public:
+    int count = 0;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::MetaCall ? 1 : 0;
+        return false;
+    }
+};
+
+} // namespace
+
+class TestTXLogManager : public TestBase
+{
+    Q_OBJECT
+
+private slots:
+    void rootIsNeverNullAndStays();
+    void appendedItemIsLinkedByTheEventLoop();
+    void appendedItemMayBeAParentAtOnce();
+    void readyItemBringsItsSubItemsWithOneSignal();
+    void nothingAndAnItemInATreeAreIgnored();
+    void manyEntriesTakeOneWakeUp();
+    void laterBatchWaitsForItsInterval();
+    void limitDropsTheOldestFirst();
+    void limitSetLaterDropsTheSurplus();
+    void negativeLimitIsNone();
+    void limitDoesNotCountSubItems();
+    void entryUnderADroppedParentIsShownNowhere();
+    void entryUnderAParentDroppedByClearingIsShownNowhere();
+    void resetDropsAllIncludingWhatWaits();
+    void loggingGoesOnAfterAReset();
+    void receiverMayLogFromWithinASignal();
+    void receiverMayRunAnEventLoop();
+    void receiverMayDestroyTheManager_data();
+    void receiverMayDestroyTheManager();
+    void manyThreadsLoseNothingAndKeepTheirOrder();
+    void threadsMayHangSubItemsUnderEachOthersEntries();
+    void managerThatEndsWithWaitingEntriesFreesThem();
+    void longBatchIsCutIntoSlices();
+    void datesAreThePresent();
+};
+
+void TestTXLogManager::rootIsNeverNullAndStays()
+{
+    TXLogManager manager;
+    const Item root = manager.rootItem();
+    QVERIFY(root);
+    QVERIFY(!root->parent);
+
+    manager.append(1, plain(QStringLiteral("a")));
+    manager.reset();
+
+    QCOMPARE(manager.rootItem(), root);
+}
+
+void TestTXLogManager::appendedItemIsLinkedByTheEventLoop()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+
+    const Item item = manager.append(TXLogItem::Error, plain(QStringLiteral("a")));
+
+    QVERIFY(item);
+    QCOMPARE(item->level, int(TXLogItem::Error));
+    QVERIFY(manager.rootItem()->children.isEmpty());
+    QTRY_COMPARE(protocol.lines, QStringList(QStringLiteral("+a")));
+    QCOMPARE(item->parent, manager.rootItem().data());
+    QCOMPARE(manager.rootItem()->children, QList<Item>({item}));
+}
+
+void TestTXLogManager::appendedItemMayBeAParentAtOnce()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+
+    const Item parent = manager.append(1, plain(QStringLiteral("parent")));
+    manager.append(2, plain(QStringLiteral("child")), parent);
+    manager.flush();
+
+    QCOMPARE(protocol.lines, QStringList({QStringLiteral("+parent"), QStringLiteral("+child")}));
+    QCOMPARE(childTexts(*parent), QStringList(QStringLiteral("child")));
+    QCOMPARE(manager.rootItem()->children.size(), 1);
+}
+
+void TestTXLogManager::readyItemBringsItsSubItemsWithOneSignal()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+    const Item item = TXLogItem::create(1, plain(QStringLiteral("whole")));
+    item->addChild(TXLogItem::create(1, plain(QStringLiteral("part"))));
+
+    manager.append(item);
+    manager.flush();
+
+    QCOMPARE(protocol.lines, QStringList(QStringLiteral("+whole")));
+    QCOMPARE(childTexts(*item), QStringList(QStringLiteral("part")));
+}
+
+void TestTXLogManager::nothingAndAnItemInATreeAreIgnored()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+    const Item item = TXLogItem::create(1, plain(QStringLiteral("a")));
+
+    manager.append(Item());
+    manager.append(manager.rootItem());
+    manager.append(item);
+    manager.append(item);
+    manager.flush();
+
+    QCOMPARE(protocol.lines, QStringList(QStringLiteral("+a")));
+}
+
+void TestTXLogManager::manyEntriesTakeOneWakeUp()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+    WakeUpCounter counter;
+    manager.installEventFilter(&counter);
+
+    for (int i = 0; i < 1000; ++i) {
+        manager.append(1, plain(QString::number(i)));
+    }
+
+    QTRY_COMPARE(protocol.lines.size(), 1000);
+    QCOMPARE(counter.count, 1);
+    QCOMPARE(protocol.lines.first(), QStringLiteral("+0"));
+    QCOMPARE(protocol.lines.last(), QStringLiteral("+999"));
+}
+
+void TestTXLogManager::laterBatchWaitsForItsInterval()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+    manager.append(1, plain(QStringLiteral("a")));
+    QTRY_COMPARE(protocol.lines.size(), 1);
+    QElapsedTimer sinceFirst;
+    sinceFirst.start();
+
+    manager.append(1, plain(QStringLiteral("b")));
+
+    QTRY_COMPARE(protocol.lines.size(), 2);
+    // The manager took its time a little before this test did.
+    QVERIFY(sinceFirst.elapsed() >= TXLogManager::kBatchIntervalMilliseconds / 2);
+}
+
+void TestTXLogManager::limitDropsTheOldestFirst()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+    manager.setMaximumCount(2);
+    QCOMPARE(manager.maximumCount(), 2);
+
+    for (const char *text : {"a", "b", "c", "d"}) {
+        manager.append(1, plain(QString::fromLatin1(text)));
+    }
+    manager.flush();
+
+    QCOMPARE(protocol.lines,
+             QStringList({QStringLiteral("+a"), QStringLiteral("+b"), QStringLiteral("+c"),
+                          QStringLiteral("-a"), QStringLiteral("+d"), QStringLiteral("-b")}));
+    QCOMPARE(childTexts(*manager.rootItem()),
+             QStringList({QStringLiteral("c"), QStringLiteral("d")}));
+}
+
+void TestTXLogManager::limitSetLaterDropsTheSurplus()
+{
+    TXLogManager manager;
+    for (int i = 0; i < 5; ++i) {
+        manager.append(1, plain(QString::number(i)));
+    }
+    manager.flush();
+    Protocol protocol(manager);
+
+    manager.setMaximumCount(3);
+
+    QCOMPARE(protocol.lines, QStringList({QStringLiteral("-0"), QStringLiteral("-1")}));
+}
+
+void TestTXLogManager::negativeLimitIsNone()
+{
+    TXLogManager manager;
+    manager.setMaximumCount(-5);
+    manager.append(1, plain(QStringLiteral("a")));
+    manager.flush();
+
+    QCOMPARE(manager.maximumCount(), 0);
+    QCOMPARE(manager.rootItem()->children.size(), 1);
+}
+
+void TestTXLogManager::limitDoesNotCountSubItems()
+{
+    TXLogManager manager;
+    manager.setMaximumCount(1);
+    const Item parent = manager.append(1, plain(QStringLiteral("parent")));
+    for (int i = 0; i < 3; ++i) {
+        manager.append(1, plain(QString::number(i)), parent);
+    }
+    manager.flush();
+
+    QCOMPARE(manager.rootItem()->children.size(), 1);
+    QCOMPARE(parent->children.size(), 3);
+}
+
+void TestTXLogManager::entryUnderADroppedParentIsShownNowhere()
+{
+    TXLogManager manager;
+    manager.setMaximumCount(1);
+    const Item dropped = manager.append(1, plain(QStringLiteral("old")));
+    const Item below = manager.append(1, plain(QStringLiteral("below")), dropped);
+    manager.append(1, plain(QStringLiteral("new")));
+    manager.flush();
+    Protocol protocol(manager);
+
+    const Item late = manager.append(1, plain(QStringLiteral("late")), dropped);
+    manager.append(1, plain(QStringLiteral("later")), below);
+    manager.flush();
+
+    QVERIFY(late);
+    QCOMPARE(protocol.lines, QStringList());
+    QCOMPARE(dropped->children.size(), 1);
+    QVERIFY(below->children.isEmpty());
+}
+
+void TestTXLogManager::entryUnderAParentDroppedByClearingIsShownNowhere()
+{
+    TXLogManager manager;
+    const Item parent = manager.append(1, plain(QStringLiteral("old")));
+    manager.flush();
+    manager.rootItem()->removeAllChildren();
+    Protocol protocol(manager);
+
+    manager.append(1, plain(QStringLiteral("late")), parent);
+    manager.flush();
+
+    QCOMPARE(protocol.lines, QStringList());
+    QVERIFY(parent->children.isEmpty());
+}
+
+void TestTXLogManager::resetDropsAllIncludingWhatWaits()
+{
+    TXLogManager manager;
+    manager.append(1, plain(QStringLiteral("shown")));
+    manager.flush();
+    manager.append(1, plain(QStringLiteral("waiting")));
+    Protocol protocol(manager);
+    QSignalSpy reset(&manager, SIGNAL(hasBeenReset()));
+
+    manager.reset();
+    manager.flush();
+
+    QCOMPARE(reset.count(), 1);
+    QCOMPARE(protocol.lines, QStringList());
+    QVERIFY(manager.rootItem()->children.isEmpty());
+}
+
+void TestTXLogManager::loggingGoesOnAfterAReset()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+    manager.append(1, plain(QStringLiteral("before")));
+    manager.reset();
+
+    manager.append(1, plain(QStringLiteral("after")));
+
+    QTRY_COMPARE(protocol.lines, QStringList(QStringLiteral("+after")));
+}
+
+void TestTXLogManager::receiverMayLogFromWithinASignal()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+    int rest = 3;
+    connect(manager.rootItem().data(), &TXLogItem::itemAppended, this,
+            [&manager, &rest](const Item &item) {
+                if (rest-- > 0) {
+                    manager.append(1, plain(QStringLiteral("below")), item);
+                }
+            });
+
+    manager.append(1, plain(QStringLiteral("first")));
+
+    QTRY_COMPARE(protocol.lines.size(), 4);
+    QCOMPARE(protocol.lines.last(), QStringLiteral("+below"));
+}
+
+void TestTXLogManager::receiverMayRunAnEventLoop()
+{
+    TXLogManager manager;
+    Protocol protocol(manager);
+    bool isInner = false;
+    connect(manager.rootItem().data(), &TXLogItem::itemAppended, this, [&](const Item &) {
+        if (!std::exchange(isInner, true)) {
+            manager.flush();
+        }
+    });
+    for (int i = 0; i < 4; ++i) {
+        manager.append(1, plain(QString::number(i)));
+    }
+
+    manager.flush();
+
+    QCOMPARE(protocol.lines,
+             QStringList({QStringLiteral("+0"), QStringLiteral("+1"), QStringLiteral("+2"),
+                          QStringLiteral("+3")}));
+}
+
+void TestTXLogManager::receiverMayDestroyTheManager_data()
+{
+    QTest::addColumn<bool>("byEventLoop");
+    QTest::addColumn<int>("limit");
+    QTest::addRow("flush") << false << 0;
+    QTest::addRow("event loop") << true << 0;
+    QTest::addRow("flush, with a limit") << false << 1;
+    QTest::addRow("event loop, with a limit") << true << 1;
+}
+
+void TestTXLogManager::receiverMayDestroyTheManager()
+{
+    QFETCH(bool, byEventLoop);
+    QFETCH(int, limit);
+    auto *manager = new TXLogManager(nullptr);
+    const QPointer<TXLogManager> watched(manager);
+    manager->setMaximumCount(limit);
+    const auto root = manager->rootItem();
+    if (limit == 0) {
+        connect(root.data(), &TXLogItem::itemAppended, this, [&manager] { delete manager; });
+    } else {
+        connect(root.data(), &TXLogItem::itemDeleted, this, [&manager] { delete manager; });
+    }
+    for (int i = 0; i < 3; ++i) {
+        manager->append(1, plain(QString::number(i)));
+    }
+
+    if (!byEventLoop) {
+        manager->flush();
+    }
+
+    QTRY_VERIFY(!watched);
+    QCOMPARE(root->children.size(), 1);
+}
+
+void TestTXLogManager::manyThreadsLoseNothingAndKeepTheirOrder()
+{
+    constexpr int kThreads = 8;
+    constexpr int kEntries = 2000;
+    TXLogManager manager;
+    Protocol protocol(manager);
+
+    std::vector<std::thread> writers;
+    for (int thread = 0; thread < kThreads; ++thread) {
+        writers.emplace_back([&manager, thread] {
+            for (int i = 0; i < kEntries; ++i) {
+                manager.append(1, plain(QStringLiteral("%1:%2").arg(thread).arg(i)));
+            }
+        });
+    }
+    QTRY_COMPARE(protocol.lines.size(), kThreads * kEntries);
+    for (std::thread &writer : writers) {
+        writer.join();
+    }
+
+    QList<int> next(kThreads, 0);
+    for (const QString &line : qAsConst(protocol.lines)) {
+        const int thread = line.mid(1).section(u':', 0, 0).toInt();
+        const int number = line.section(u':', 1).toInt();
+        QCOMPARE(number, next[thread]++);
+    }
+    for (const QThread *thread : qAsConst(protocol.threads)) {
+        QCOMPARE(thread, QThread::currentThread());
+    }
+}
+
+void TestTXLogManager::threadsMayHangSubItemsUnderEachOthersEntries()
+{
+    constexpr int kThreads = 4;
+    constexpr int kEntries = 500;
+    TXLogManager manager;
+    const Item shared = manager.append(1, plain(QStringLiteral("shared")));
+
+    std::vector<std::thread> writers;
+    for (int thread = 0; thread < kThreads; ++thread) {
+        writers.emplace_back([&manager, &shared] {
+            for (int i = 0; i < kEntries; ++i) {
+                manager.append(2, plain(QString::number(i)), shared);
+            }
+        });
+    }
+    for (std::thread &writer : writers) {
+        writer.join();
+    }
+    manager.flush();
+
+    QCOMPARE(shared->children.size(), kThreads * kEntries);
+    for (int i = 0; i < shared->children.size(); ++i) {
+        QCOMPARE(shared->children.at(i)->number(), qint64(i));
+    }
+}
+
+void TestTXLogManager::managerThatEndsWithWaitingEntriesFreesThem()
+{
+    QWeakPointer<TXLogItem> waiting;
+    {
+        TXLogManager manager;
+        waiting = manager.append(1, plain(QStringLiteral("a")));
+        QVERIFY(waiting);
+    }
+    QVERIFY(!waiting);
+}
+
+void TestTXLogManager::longBatchIsCutIntoSlices()
+{
+    TXLogManager manager;
+    // A receiver that needs a whole slice for each item.
+    int received = 0;
+    connect(manager.rootItem().data(), &TXLogItem::itemAppended, this, [&received] {
+        ++received;
+        QElapsedTimer timer;
+        timer.start();
+        while (!timer.hasExpired(TXLogManager::kSliceMilliseconds + 1)) { }
+    });
+    for (int i = 0; i < 5; ++i) {
+        manager.append(1, plain(QString::number(i)));
+    }
+
+    QList<int> receivedByTurn;
+    while (received < 5) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        receivedByTurn.append(received);
+    }
+
+    QVERIFY2(receivedByTurn.size() >= 5, "all came in one turn of the event loop");
+}
+
+void TestTXLogManager::datesAreThePresent()
+{
+    TXLogManager manager;
+    const QDateTime before = QDateTime::currentDateTime();
+    const Item first = manager.append(1, plain(QStringLiteral("a")));
+    const Item second = manager.append(1, plain(QStringLiteral("b")));
+    const QDateTime after = QDateTime::currentDateTime();
+
+    QVERIFY(before <= first->date);
+    QVERIFY(first->date <= second->date);
+    QVERIFY(second->date <= after);
+    QCOMPARE(first->date.timeSpec(), Qt::LocalTime);
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<TestTXLogManager>(argc, argv);
+}
+
+#include "tst_TXLogManager.moc"

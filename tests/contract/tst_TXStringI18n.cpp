@@ -1,0 +1,571 @@
+#include "TXStringI18n.h"
+
+#include "TXFlatString.h"
+#include "TestBase.h"
+
+#include <QTranslator>
+
+namespace {
+
+/// A language that is a table; a source with another context or disambiguation is not in it.
+class TableTranslator : public QTranslator
+{
+public:
+    using Table = QHash<QByteArray, QString>;
+
+    explicit TableTranslator(Table table)
+        : table(std::move(table))
+    { }
+
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char *context, const char *source, const char *disambiguation,
+                      int n) const override
+    {
+        QByteArray key = QByteArray(context) + '|' + source + '|' + disambiguation;
+        if (n >= 0) {
+            key += n == 1 ? "|one" : "|many";
+        }
+        return table.value(key);
+    }
+
+private:
+    Table table;
+};
+
+TableTranslator german()
+{
+    return TableTranslator({
+        {"Files|Copied %1 to %2|", QStringLiteral("Nach %2 wurde %1 kopiert")},
+        {"Files|Empty|", QStringLiteral("Leer")},
+        {"Files|Empty|verb", QStringLiteral("Leeren")},
+        {"|No context|", QStringLiteral("Ohne Kontext")},
+        {"Files|%n file(s) in %1||one", QStringLiteral("Eine Datei in %1")},
+        {"Files|%n file(s) in %1||many", QStringLiteral("%n Dateien in %1")},
+        {"Files|Blank|", QStringLiteral("")},
+    });
+}
+
+/// Installed for as long as it lives.
+class InstalledGerman
+{
+public:
+    InstalledGerman() { QCoreApplication::installTranslator(&translator); }
+    ~InstalledGerman() { QCoreApplication::removeTranslator(&translator); }
+
+private:
+    TableTranslator translator = german();
+};
+
+TXStringI18n copied()
+{
+    return TXStringI18n("Files", "Copied %1 to %2", nullptr, -1)
+        .arg(QStringLiteral("a.png"))
+        .arg(QStringLiteral("/b"));
+}
+
+TXStringI18n plain(const QString &text)
+{
+    return TXStringI18n::fromString(text);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(TXStringI18n)
+
+class TestTXStringI18n : public TestBase
+{
+    Q_OBJECT
+
+private slots:
+    void defaultIsEmpty();
+    void nullPointersAreSafe();
+    void sourceStandsInWithoutATranslation();
+    void languageChosenAfterwardsIsUsed();
+    void compiledTranslationFileIsUsed();
+    void givenTranslatorWinsOverTheInstalledOne();
+    void givenTranslatorWithoutTheTextGivesTheSource();
+    void emptyTranslationIsATranslation();
+    void contextAndDisambiguationChooseTheTranslation();
+    void sourceWithoutContextIsTranslated();
+    void sourceStringsAreCopied();
+    void numberChoosesThePlural_data();
+    void numberChoosesThePlural();
+    void localisedNumberIsWrittenInTheDefaultLocale();
+    void argumentsAreFilledAsTheStringClassDoes_data();
+    void argumentsAreFilledAsTheStringClassDoes();
+    void argumentWithoutMarkerIsLeftOutSilently();
+    void argLeavesTheOriginalAlone();
+    void multiplyingArgumentsStayBounded();
+    void oneLongArgumentIsFilled();
+    void argumentsBeyondTheMostAreLeftOut();
+    void fieldWidthIsLimited();
+    void plainTextStaysUnchanged_data();
+    void plainTextStaysUnchanged();
+    void plainTextIsNeitherCopiedNorTranslated();
+    void plainTextTakesArguments();
+    void shownMessageReadsBackReadable();
+    void flatFormGivesAnEqualText_data();
+    void flatFormGivesAnEqualText();
+    void flatFormIsPrintableAscii();
+    void flatFormStaysTranslatable();
+    void damagedFlatFormIsPlainText();
+    void intactLineOfOtherFieldsIsPlainText_data();
+    void intactLineOfOtherFieldsIsPlainText();
+    void constructorDoesNotReadFlatForms();
+    void textsThatDifferAreNotEqual_data();
+    void textsThatDifferAreNotEqual();
+    void objectIsSmall();
+};
+
+void TestTXStringI18n::defaultIsEmpty()
+{
+    const TXStringI18n text;
+
+    QVERIFY(text.isEmpty());
+    QCOMPARE(text.toString(nullptr), QString());
+    QCOMPARE(text.toFlatString(), QString());
+    QVERIFY(text == plain(QString()));
+    QVERIFY(!copied().isEmpty());
+    QVERIFY(!plain(QStringLiteral("x")).isEmpty());
+}
+
+void TestTXStringI18n::nullPointersAreSafe()
+{
+    QVERIFY(TXStringI18n(nullptr).isEmpty());
+    QVERIFY(TXStringI18n(nullptr, nullptr, nullptr, -1).isEmpty());
+    QVERIFY(TXStringI18n("Files", "", nullptr, -1).isEmpty());
+    const TXStringI18n text(nullptr, "No context", nullptr, -1);
+    QCOMPARE(text.toString(nullptr), QStringLiteral("No context"));
+    TableTranslator translator = german();
+    QCOMPARE(text.toString(&translator), QStringLiteral("Ohne Kontext"));
+}
+
+void TestTXStringI18n::sourceStandsInWithoutATranslation()
+{
+    QCOMPARE(copied().toString(nullptr), QStringLiteral("Copied a.png to /b"));
+    QCOMPARE(TXStringI18n("caf\xc3\xa9").toString(nullptr), QStringLiteral("caf\u00e9"));
+}
+
+void TestTXStringI18n::languageChosenAfterwardsIsUsed()
+{
+    const TXStringI18n text = copied();
+    {
+        const InstalledGerman installed;
+        QCOMPARE(text.toString(nullptr), QStringLiteral("Nach /b wurde a.png kopiert"));
+    }
+    QCOMPARE(text.toString(nullptr), QStringLiteral("Copied a.png to /b"));
+}
+
+void TestTXStringI18n::compiledTranslationFileIsUsed()
+{
+    const QTemporaryDir folder;
+    QFile source(folder.filePath(QStringLiteral("de.ts")));
+    QVERIFY(source.open(QIODevice::WriteOnly));
+    source.write("<!DOCTYPE TS><TS version=\"2.1\" language=\"de\"><context><name>Files</name>"
+                 "<message><source>Copied %1 to %2</source>"
+                 "<translation>%1 liegt in %2</translation></message></context></TS>");
+    source.close();
+    const QString compiled = folder.filePath(QStringLiteral("de.qm"));
+    QProcess::execute(
+        QLibraryInfo::path(QLibraryInfo::BinariesPath) + QStringLiteral("/lrelease"),
+        {QStringLiteral("-silent"), source.fileName(), QStringLiteral("-qm"), compiled});
+    QTranslator translator;
+    QVERIFY(translator.load(compiled));
+
+    QCOMPARE(copied().toString(&translator), QStringLiteral("a.png liegt in /b"));
+}
+
+void TestTXStringI18n::givenTranslatorWinsOverTheInstalledOne()
+{
+    const InstalledGerman installed;
+    TableTranslator french({{"Files|Empty|", QStringLiteral("Vide")}});
+
+    QCOMPARE(TXStringI18n("Files", "Empty", nullptr, -1).toString(&french), QStringLiteral("Vide"));
+}
+
+void TestTXStringI18n::givenTranslatorWithoutTheTextGivesTheSource()
+{
+    const InstalledGerman installed;
+    TableTranslator french({});
+
+    QCOMPARE(copied().toString(&french), QStringLiteral("Copied a.png to /b"));
+}
+
+void TestTXStringI18n::emptyTranslationIsATranslation()
+{
+    TableTranslator translator = german();
+
+    QCOMPARE(TXStringI18n("Files", "Blank", nullptr, -1).toString(&translator), QString());
+}
+
+void TestTXStringI18n::contextAndDisambiguationChooseTheTranslation()
+{
+    const InstalledGerman installed;
+
+    QCOMPARE(TXStringI18n("Files", "Empty", nullptr, -1).toString(nullptr), QStringLiteral("Leer"));
+    QCOMPARE(TXStringI18n("Files", "Empty", "verb", -1).toString(nullptr),
+             QStringLiteral("Leeren"));
+    QCOMPARE(TXStringI18n("Other", "Empty", nullptr, -1).toString(nullptr),
+             QStringLiteral("Empty"));
+}
+
+void TestTXStringI18n::sourceWithoutContextIsTranslated()
+{
+    const InstalledGerman installed;
+
+    QCOMPARE(TXStringI18n("No context").toString(nullptr), QStringLiteral("Ohne Kontext"));
+}
+
+void TestTXStringI18n::sourceStringsAreCopied()
+{
+    QByteArray source = "Empty";
+    const TXStringI18n text("Files", source.constData(), nullptr, -1);
+    source.fill('x');
+
+    QCOMPARE(text.toString(nullptr), QStringLiteral("Empty"));
+}
+
+void TestTXStringI18n::numberChoosesThePlural_data()
+{
+    QTest::addColumn<int>("n");
+    QTest::addColumn<QString>("english");
+    QTest::addColumn<QString>("inGerman");
+    QTest::addRow("none") << 0 << "0 file(s) in x"
+                          << "0 Dateien in x";
+    QTest::addRow("one") << 1 << "1 file(s) in x"
+                         << "Eine Datei in x";
+    QTest::addRow("many") << 1000 << "1000 file(s) in x"
+                          << "1000 Dateien in x";
+    QTest::addRow("no number") << -1 << "%n file(s) in x"
+                               << "%n file(s) in x";
+}
+
+void TestTXStringI18n::numberChoosesThePlural()
+{
+    QFETCH(int, n);
+    QFETCH(QString, english);
+    QFETCH(QString, inGerman);
+    const auto text =
+        TXStringI18n("Files", "%n file(s) in %1", nullptr, n).arg(QStringLiteral("x"));
+    TableTranslator translator = german();
+    TableTranslator nothing({});
+
+    QCOMPARE(text.toString(nullptr), english);
+    QCOMPARE(text.toString(&nothing), english);
+    QCOMPARE(text.toString(&translator), inGerman);
+    const InstalledGerman installed;
+    QCOMPARE(text.toString(nullptr), inGerman);
+}
+
+void TestTXStringI18n::localisedNumberIsWrittenInTheDefaultLocale()
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    const TXStringI18n text("Files", "%Ln of %n", nullptr, 12345);
+    TableTranslator nothing({});
+    const QString byTheApplication = text.toString(nullptr);
+    const QString byTheTranslator = text.toString(&nothing);
+    QLocale::setDefault(before);
+
+    QCOMPARE(byTheApplication, QStringLiteral("12.345 of 12345"));
+    QCOMPARE(byTheTranslator, byTheApplication);
+}
+
+void TestTXStringI18n::argumentsAreFilledAsTheStringClassDoes_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("fieldWidth");
+    QTest::addColumn<QChar>("fillChar");
+    const QChar blank = u' ';
+
+    QTest::addRow("in order") << "%1 %2" << QStringList{"a", "b"} << 0 << blank;
+    QTest::addRow("lowest first") << "%9 %3 %5" << QStringList{"a", "b", "c"} << 0 << blank;
+    QTest::addRow("several places") << "%1 %2 %1" << QStringList{"a", "b"} << 0 << blank;
+    QTest::addRow("two digits") << "%10 %2" << QStringList{"a", "b"} << 0 << blank;
+    QTest::addRow("zero") << "%1 %0" << QStringList{"a", "b"} << 0 << blank;
+    QTest::addRow("too few") << "%1 %2" << QStringList{"a"} << 0 << blank;
+    QTest::addRow("localised") << "%L1 %2" << QStringList{"a", "b"} << 0 << blank;
+    QTest::addRow("marker in an argument") << "%1 %2" << QStringList{"%2", "b"} << 0 << blank;
+    QTest::addRow("lowest in an argument") << "%2 %3" << QStringList{"%1", "b"} << 0 << blank;
+    QTest::addRow("marker made by joining") << "%%1 2" << QStringList{"1", "b"} << 0 << blank;
+    QTest::addRow("percent signs") << "100% %1 %" << QStringList{"%"} << 0 << blank;
+    QTest::addRow("width") << "%1|%2" << QStringList{"a", "bcdef"} << 4 << QChar(u'.');
+    QTest::addRow("left-aligned") << "%1|%2" << QStringList{"a", "b"} << -4 << QChar(u'0');
+    QTest::addRow("empty argument") << "%1%2" << QStringList{"", "b"} << 0 << blank;
+}
+
+void TestTXStringI18n::argumentsAreFilledAsTheStringClassDoes()
+{
+    QFETCH(QString, source);
+    QFETCH(QStringList, arguments);
+    QFETCH(int, fieldWidth);
+    QFETCH(QChar, fillChar);
+    TXStringI18n text("Files", source.toUtf8().constData(), nullptr, -1);
+    TXStringI18n fromPlain = plain(source);
+    QString expected = source;
+    for (const QString &argument : arguments) {
+        text = text.arg(argument, fieldWidth, fillChar);
+        fromPlain = fromPlain.arg(argument, fieldWidth, fillChar);
+        expected = expected.arg(argument, fieldWidth, fillChar);
+    }
+
+    QCOMPARE(text.toString(nullptr), expected);
+    QCOMPARE(fromPlain.toString(nullptr), expected);
+    QCOMPARE(TXStringI18n::fromString(text.toFlatString()).toString(nullptr), expected);
+}
+
+void TestTXStringI18n::argumentWithoutMarkerIsLeftOutSilently()
+{
+    for (const char *source : {"none", "%", "%L", "%x 1", "%L%"}) {
+        const QString expected = QString::fromLatin1(source);
+        QCOMPARE(
+            TXStringI18n("Files", source, nullptr, -1).arg(QStringLiteral("a")).toString(nullptr),
+            expected);
+        QCOMPARE(plain(expected).arg(QStringLiteral("a")).toString(nullptr), expected);
+    }
+}
+
+void TestTXStringI18n::argLeavesTheOriginalAlone()
+{
+    const TXStringI18n text("Files", "%1", nullptr, -1);
+
+    const TXStringI18n filled = text.arg(QStringLiteral("a"));
+
+    QCOMPARE(text.toString(nullptr), QStringLiteral("%1"));
+    QCOMPARE(filled.toString(nullptr), QStringLiteral("a"));
+}
+
+void TestTXStringI18n::multiplyingArgumentsStayBounded()
+{
+    TXStringI18n text("%1%1%1%1%1%1%1%1%1%1");
+    for (int i = 2; i < 60; ++i) {
+        text = text.arg(QStringLiteral("%%1").arg(i).repeated(10));
+    }
+
+    QVERIFY(text.toString(nullptr).size() <= 4 * 1024 * 1024);
+}
+
+void TestTXStringI18n::oneLongArgumentIsFilled()
+{
+    const QString longText(3 * 1024 * 1024, u'x');
+    const TXStringI18n text("%1 to %2");
+
+    QCOMPARE(text.arg(longText).arg(QStringLiteral("b")).toString(nullptr),
+             longText + QStringLiteral(" to b"));
+}
+
+void TestTXStringI18n::argumentsBeyondTheMostAreLeftOut()
+{
+    TXStringI18n text("%1");
+    for (int i = 0; i < TXStringI18n::kMostArguments; ++i) {
+        text = text.arg(QStringLiteral("%1"));
+    }
+
+    QVERIFY(text.arg(QStringLiteral("a")) == text);
+    QVERIFY(TXStringI18n::fromString(text.toFlatString()) == text);
+}
+
+void TestTXStringI18n::fieldWidthIsLimited()
+{
+    constexpr int kWidest = TXStringI18n::kWidestFieldCharacters;
+    const TXStringI18n text("%1");
+
+    QCOMPARE(text.arg(QString(), INT_MAX).toString(nullptr).size(), kWidest);
+    QCOMPARE(text.arg(QString(), INT_MIN).toString(nullptr).size(), kWidest);
+    QVERIFY(text.arg(QString(), INT_MAX) == text.arg(QString(), kWidest));
+}
+
+void TestTXStringI18n::plainTextStaysUnchanged_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addRow("null") << QString();
+    QTest::addRow("words") << "There is no Network Drive letter available.";
+    QTest::addRow("markers") << "100 %1 %n %L2";
+    QTest::addRow("several lines") << "a\nb\r\n\tc";
+    QTest::addRow("not ASCII") << QStringLiteral("\u00e9 \u4e2d \U0001F600");
+    QTest::addRow("NUL") << QString(QChar(0));
+    QTest::addRow("unpaired surrogate") << QString(QChar(0xd800));
+    QTest::addRow("only the mark") << "@TXi18n1:";
+    QTest::addRow("mark and separator") << "@TXi18n1:;";
+    QTest::addRow("mark and words") << "@TXi18n1:00000000;hello";
+}
+
+void TestTXStringI18n::plainTextStaysUnchanged()
+{
+    QFETCH(QString, text);
+
+    QCOMPARE(plain(text).toString(nullptr), text);
+    QCOMPARE(plain(text).toFlatString(), text);
+}
+
+void TestTXStringI18n::plainTextIsNeitherCopiedNorTranslated()
+{
+    const InstalledGerman installed;
+    const QString text = QString::fromLatin1("No context");
+
+    const TXStringI18n fromText = plain(text);
+
+    QCOMPARE(fromText.toString(nullptr), text);
+    QCOMPARE(static_cast<const void *>(fromText.toString(nullptr).constData()),
+             static_cast<const void *>(text.constData()));
+}
+
+void TestTXStringI18n::plainTextTakesArguments()
+{
+    const TXStringI18n text = plain(QStringLiteral("%1 of %2"));
+
+    QCOMPARE(text.arg(QStringLiteral("a")).arg(QStringLiteral("b")).toString(nullptr),
+             QStringLiteral("a of b"));
+}
+
+void TestTXStringI18n::shownMessageReadsBackReadable()
+{
+    const InstalledGerman installed;
+    const QString shown = copied().toString(nullptr);
+
+    QCOMPARE(TXStringI18n::fromString(shown).toString(nullptr), shown);
+}
+
+void TestTXStringI18n::flatFormGivesAnEqualText_data()
+{
+    QTest::addColumn<TXStringI18n>("text");
+    const QString strange = QStringLiteral("a;b%3b \n\u00e9") + QChar(0) + QChar(0xdc00);
+
+    QTest::addRow("empty") << TXStringI18n();
+    QTest::addRow("source") << TXStringI18n("No context");
+    QTest::addRow("arguments") << copied();
+    QTest::addRow("all of it") << TXStringI18n("Files", "%n %1;%2", "a;b", 7)
+                                      .arg(strange, -12, u'\n')
+                                      .arg(QString(), 3, QChar(0xd800));
+    QTest::addRow("largest number") << TXStringI18n("Files", "%n", nullptr, INT_MAX);
+    QTest::addRow("negative number") << TXStringI18n("Files", "%n", nullptr, INT_MIN);
+    QTest::addRow("bytes that are not UTF-8") << TXStringI18n("\xff", "\xfe\x80", "\xc3", -1);
+    QTest::addRow("plain") << plain(strange);
+    QTest::addRow("plain like a flat form") << plain(TXFlatString::join({copied().toFlatString()}));
+    const TXStringI18n nested = plain(TXFlatString::join({copied().toFlatString()}));
+    QTest::addRow("twice") << plain(TXFlatString::join({nested.toFlatString()}));
+    QTest::addRow("plain of foreign fields") << plain(TXFlatString::join({"a", "b"}));
+}
+
+void TestTXStringI18n::flatFormGivesAnEqualText()
+{
+    QFETCH(TXStringI18n, text);
+
+    const TXStringI18n back = TXStringI18n::fromString(text.toFlatString());
+
+    QVERIFY(back == text);
+    QCOMPARE(back.toString(nullptr), text.toString(nullptr));
+    QCOMPARE(back.toFlatString(), text.toFlatString());
+}
+
+void TestTXStringI18n::flatFormIsPrintableAscii()
+{
+    const QString flat = TXStringI18n("Files", "\xc3\xa9\n%1", nullptr, -1)
+                             .arg(QStringLiteral("\u4e2d\t"))
+                             .toFlatString();
+
+    for (const QChar character : flat) {
+        QVERIFY(character > u' ' && character <= u'~');
+    }
+}
+
+void TestTXStringI18n::flatFormStaysTranslatable()
+{
+    const TXStringI18n back = TXStringI18n::fromString(copied().toFlatString());
+    const InstalledGerman installed;
+
+    QCOMPARE(back.toString(nullptr), QStringLiteral("Nach /b wurde a.png kopiert"));
+}
+
+void TestTXStringI18n::damagedFlatFormIsPlainText()
+{
+    const QString flat = copied().toFlatString();
+    for (qsizetype i = 0; i < flat.size(); ++i) {
+        QString changed = flat;
+        changed[i] = QChar(flat.at(i).unicode() ^ 1);
+        const QStringList damaged = {changed, flat.left(i), QString(flat).remove(i, 1),
+                                     QString(flat).insert(i, u'x')};
+        for (const QString &text : damaged) {
+            QCOMPARE(TXStringI18n::fromString(text).toString(nullptr), text);
+            QCOMPARE(TXStringI18n::fromString(text).toFlatString(), text);
+        }
+    }
+    QCOMPARE(TXStringI18n::fromString(flat + u'\n').toString(nullptr), QString(flat + u'\n'));
+}
+
+void TestTXStringI18n::intactLineOfOtherFieldsIsPlainText_data()
+{
+    QTest::addColumn<QStringList>("fields");
+    QTest::addRow("two") << QStringList{"Files", "Empty"};
+    QTest::addRow("half an argument") << QStringList{"Files", "%1", "", "-1", "a"};
+    QTest::addRow("no source") << QStringList{"Files", "", "", "-1"};
+    QTest::addRow("words for the number") << QStringList{"Files", "%1", "", "many"};
+    QTest::addRow("words for the width") << QStringList{"Files", "%1", "", "-1", "a", "wide", " "};
+    QTest::addRow("too wide") << QStringList{"Files", "%1", "", "-1", "a", "65536", " "};
+    QTest::addRow("too wide, left-aligned")
+        << QStringList{"Files", "%1", "", "-1", "a", "-2147483648", " "};
+    QTest::addRow("no fill character") << QStringList{"Files", "%1", "", "-1", "a", "0", ""};
+    QStringList many = {"Files", "%1", "", "-1"};
+    for (int i = 0; i <= TXStringI18n::kMostArguments; ++i) {
+        many << "a"
+             << "0"
+             << " ";
+    }
+    QTest::addRow("too many arguments") << many;
+}
+
+void TestTXStringI18n::intactLineOfOtherFieldsIsPlainText()
+{
+    QFETCH(QStringList, fields);
+    const QString line = TXFlatString::join(fields);
+
+    QCOMPARE(TXStringI18n::fromString(line).toString(nullptr), line);
+}
+
+void TestTXStringI18n::constructorDoesNotReadFlatForms()
+{
+    const QString flat = copied().toFlatString();
+
+    QCOMPARE(TXStringI18n(flat.toLatin1().constData()).toString(nullptr), flat);
+}
+
+void TestTXStringI18n::textsThatDifferAreNotEqual_data()
+{
+    QTest::addColumn<TXStringI18n>("text");
+    QTest::addRow("empty") << TXStringI18n();
+    QTest::addRow("source") << TXStringI18n("Files", "Empty %1", nullptr, -1);
+    QTest::addRow("context") << TXStringI18n("Filed", "Empty", nullptr, -1);
+    QTest::addRow("disambiguation") << TXStringI18n("Files", "Empty", "verb", -1);
+    QTest::addRow("number") << TXStringI18n("Files", "Empty", nullptr, 1);
+    const TXStringI18n base("Files", "Empty", nullptr, -1);
+    QTest::addRow("argument") << base.arg(QStringLiteral("a"));
+    QTest::addRow("plain") << plain(QStringLiteral("Empty"));
+}
+
+void TestTXStringI18n::textsThatDifferAreNotEqual()
+{
+    QFETCH(TXStringI18n, text);
+    const TXStringI18n base("Files", "Empty", nullptr, -1);
+
+    QVERIFY(base != text);
+    QVERIFY(text != base);
+    QVERIFY(text == text);
+    QVERIFY(base == TXStringI18n("Files", "Empty", "", -1));
+    QVERIFY(base.arg(QStringLiteral("a")) != base.arg(QStringLiteral("b")));
+    QVERIFY(base.arg(QStringLiteral("a")) != base.arg(QStringLiteral("a"), 1));
+    QVERIFY(base.arg(QStringLiteral("a")) != base.arg(QStringLiteral("a"), 0, u'.'));
+}
+
+void TestTXStringI18n::objectIsSmall()
+{
+    QVERIFY(sizeof(TXStringI18n) <= sizeof(QString) + sizeof(void *));
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<TestTXStringI18n>(argc, argv);
+}
+
+#include "tst_TXStringI18n.moc"
