@@ -95,7 +95,11 @@ void handle(QtMsgType type, const QMessageLogContext &context, const QString &me
 MessageLog::MessageLog(const QSharedPointer<TXLogManager> &log)
 {
     setTarget(log);
-    previous = qInstallMessageHandler(handle);
+    const QtMessageHandler installed = qInstallMessageHandler(handle);
+    // A second object, which is not meant to be, must not make the handler call itself.
+    if (installed != handle) {
+        previous = installed;
+    }
 }
 
 MessageLog::~MessageLog()

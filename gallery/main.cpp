@@ -5,6 +5,7 @@
 #include "GalleryWindow.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -70,6 +71,9 @@ int runGallery(const GalleryCommandLine &commandLine)
         settings.language = languages.systemCode();
     }
     GalleryWindow window(languages, combine(settings, commandLine));
+    if (settings.geometry.isEmpty()) {
+        window.resize(window.size().boundedTo(window.screen()->availableSize()));
+    }
     window.show();
     return QApplication::exec();
 }
