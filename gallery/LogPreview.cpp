@@ -46,6 +46,17 @@ void LogPreview::showNewest()
     scrollToBottom();
 }
 
+void LogPreview::rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end)
+{
+    // The view would make the next row current and lay out all rows to scroll there, at each entry
+    // that a full log drops.
+    const QModelIndex current = currentIndex();
+    if (current.parent() == parent && current.row() >= start && current.row() <= end) {
+        selectionModel()->clearCurrentIndex();
+    }
+    QTreeView::rowsAboutToBeRemoved(parent, start, end);
+}
+
 void LogPreview::rowsInserted(const QModelIndex &parent, int start, int end)
 {
     QTreeView::rowsInserted(parent, start, end);

@@ -23,6 +23,7 @@ public slots:
     void showNewest();
 
 protected:
+    void rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end) override;
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
 
 private slots:

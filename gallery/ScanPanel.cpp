@@ -1,6 +1,7 @@
 #include "ScanPanel.h"
 
 #include "FolderLogEntry.h"
+#include "LogGate.h"
 
 #include "TXLogManager.h"
 #include "TXResources.h"
@@ -30,6 +31,7 @@ constexpr int kPictureGap = 7;
 ScanPanel::ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent)
     : QGroupBox(parent)
     , log(log)
+    , gate(new LogGate(log, this))
     , countsTimer(new QTimer(this))
     , folderLabel(new QLabel(this))
     , folderEdit(new QLineEdit(QDir::toNativeSeparators(QDir::homePath()), this))
@@ -42,7 +44,8 @@ ScanPanel::ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent)
     , rate(makeTile())
 {
     scan = new FolderScan(
-        [log](const FolderReport &report) { log->append(makeFolderLogEntry(report)); }, this);
+        [gate = gate](const FolderReport &report) { gate->append(makeFolderLogEntry(report)); },
+        this);
     folderLabel->setBuddy(folderEdit);
     countsTimer->setInterval(kCountsIntervalMilliseconds);
     setUpLayout();
@@ -56,6 +59,13 @@ ScanPanel::ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent)
     connect(scan, SIGNAL(finished(bool)), this, SLOT(scanFinished(bool)));
 }
 
+ScanPanel::~ScanPanel()
+{
+    // Not left to the parent: the scan's threads may be waiting at the gate.
+    gate->open();
+    delete scan;
+}
+
 void ScanPanel::setFolders(const QString &text)
 {
     folderEdit->setText(text);
@@ -64,6 +74,10 @@ void ScanPanel::setFolders(const QString &text)
 
 void ScanPanel::start()
 {
+    if (scan->isRunning()) {
+        return;
+    }
+    gate->close();
     if (!scan->start(paths())) {
         return;
     }
@@ -85,6 +99,7 @@ void ScanPanel::changeEvent(QEvent *event)
 void ScanPanel::cancel()
 {
     scan->cancel();
+    gate->open();
 }
 
 void ScanPanel::browse()

@@ -7,6 +7,7 @@
 #include <QPixmap>
 #include <QSharedPointer>
 
+class LogGate;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -24,6 +25,7 @@ class ScanPanel : public QGroupBox
 
 public:
     explicit ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent = nullptr);
+    ~ScanPanel() override;
 
     /// Which folders are scanned, as the user would type them: absolute, or relative to the
     /// program's folder, several with the system's list separator between them.
@@ -62,6 +64,7 @@ private:
     [[nodiscard]] QStringList paths() const;
 
     QSharedPointer<TXLogManager> log;
+    LogGate *gate;
     FolderScan *scan;
     QTimer *countsTimer;
     QElapsedTimer sinceStart;

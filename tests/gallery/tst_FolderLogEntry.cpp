@@ -57,9 +57,9 @@ void TestFolderLogEntry::folderIsAnEntryWithItsNumbersBelow()
 
     QCOMPARE(item->level, int(TXLogItem::Information));
     QCOMPARE(item->message.toString(nullptr), "Folder inks/%1");
-    QCOMPARE(textsBelow(*item),
-             QStringList({"1 Files: 1,234", "1 Total size: 2.00 KiB",
-                          "1 Changed last: cyan, " + time}));
+    QCOMPARE(
+        textsBelow(*item),
+        QStringList({"1 Files: 1,234", "1 Total size: 2.00 KiB", "1 Changed last: cyan, " + time}));
 }
 
 void TestFolderLogEntry::findingsHaveTheirOwnLevels()
