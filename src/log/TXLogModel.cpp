@@ -134,6 +134,7 @@ void TXLogModel::clear()
     root->removeAllChildren();
     rows.clear();
     droppedParents.clear();
+    unevenParents.clear();
     endResetModel();
 }
 
@@ -164,10 +165,12 @@ void TXLogModel::mirrorAppended(const QSharedPointer<TXLogItem> &item)
     QModelIndex parentIndex;
     if (findParentIndex(*item, &parentIndex)) {
         Children &siblings = rows[item->parent];
+        if (!siblings.isEmpty() && item->number() != siblings.last()->number() + 1) {
+            unevenParents.insert(item->parent);
+        }
         const int row = int(siblings.size());
         beginInsertRows(parentIndex, row, row);
         siblings.append(item);
-        item->number(); // Asked now, so that siblings are numbered in the order of their rows.
         endInsertRows();
     }
     qsizetype position = 0;
@@ -196,7 +199,8 @@ TXLogItem *TXLogModel::itemOf(const QModelIndex &index) const
     return index.isValid() ? static_cast<TXLogItem *>(index.internalPointer()) : root;
 }
 
-/// The row of a shown item in constant time, -1 for any other.
+/// The row of a shown item, -1 for any other. Rows come at the end and go at the front, so that the
+/// running numbers of the items in them are consecutive and tell the row without a search.
 int TXLogModel::rowOf(TXLogItem *item) const
 {
     const auto siblings = rows.constFind(item->parent);
@@ -206,14 +210,13 @@ int TXLogModel::rowOf(TXLogItem *item) const
     const auto isItem = [item](const QSharedPointer<TXLogItem> &other) {
         return other == item;
     };
-    // Rows come at the end and go at the front, so that the numbers of siblings are consecutive.
-    const qint64 row = item->number() - siblings->first()->number();
-    if (row >= 0 && row < siblings->size() && isItem(siblings->at(row))) {
-        return int(row);
+    if (unevenParents.contains(item->parent)) {
+        const auto found = std::find_if(siblings->cbegin(), siblings->cend(), isItem);
+        return found == siblings->cend() ? -1 : int(found - siblings->cbegin());
     }
-    // Only where an item was announced twice.
-    const auto found = std::find_if(siblings->cbegin(), siblings->cend(), isItem);
-    return found == siblings->cend() ? -1 : int(found - siblings->cbegin());
+    const qint64 row = item->number() - siblings->first()->number();
+    const bool isShown = row >= 0 && row < siblings->size() && isItem(siblings->at(row));
+    return isShown ? int(row) : -1;
 }
 
 /// False when the parent of the item is not shown.

@@ -6,7 +6,10 @@
 #include <QAbstractItemModel>
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QSharedPointer>
+
+#include <utility>
 
 /// The live log of a TXLogManager as a tree for Qt's item views.
 ///
@@ -46,6 +49,12 @@ public:
     /// Costs the depth of the item.
     QModelIndex index(TXLogItem *item, int column, const QModelIndex &parent);
 
+    /// The same as the const one. A literal row 0 would fit the search as well without it.
+    QModelIndex index(int row, int column, const QModelIndex &parent)
+    {
+        return std::as_const(*this).index(row, column, parent);
+    }
+
 public slots:
     /// Empties the log itself, and with it the view.
     void clear();
@@ -75,4 +84,6 @@ private:
     TXLogItem *root;
     // Held so that a new item never gets the address under which their sub-items still stand.
     Children droppedParents;
+    // Parents whose rows are not numbered one after the other, as an item was announced twice.
+    QSet<TXLogItem *> unevenParents;
 };

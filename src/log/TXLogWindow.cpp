@@ -1,5 +1,6 @@
 #include "TXLogWindow.h"
 
+#include "TXLogFilterProxyModel.h"
 #include "TXLogItem.h"
 #include "TXLogModel.h"
 #include "ui_TXLogWindow.h"
@@ -41,7 +42,6 @@ TXLogWindow::TXLogWindow(QSharedPointer<TXLogManager> manager, QWidget *parent)
     : QDialog(parent)
     , ui(std::make_unique<Ui::TXLogWindow>())
     , logModel(new TXLogModel(std::move(manager), this))
-    , proxyModel(new QSortFilterProxyModel(this))
 {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowMaximizeButtonHint
                    | Qt::WindowCloseButtonHint);
@@ -84,9 +84,12 @@ void TXLogWindow::filterChanged(int idx)
 
 void TXLogWindow::setUpTree()
 {
+    auto *proxy = new TXLogFilterProxyModel(this);
+    proxyModel = proxy;
     proxyModel->setDynamicSortFilter(true);
     proxyModel->setSourceModel(logModel);
     ui->logTreeView->setModel(proxyModel);
+    proxy->setSelectionModel(ui->logTreeView->selectionModel());
     ui->logTreeView->hideColumn(TXLogModel::LevelColumn);
     ui->logTreeView->setColumnWidth(TXLogModel::DateColumn, kDateColumnWidth);
 }

@@ -50,5 +50,5 @@ private:
 
     std::unique_ptr<Ui::TXLogWindow> ui;
     TXLogModel *logModel;
-    QSortFilterProxyModel *proxyModel;
+    QSortFilterProxyModel *proxyModel = nullptr;
 };

@@ -1,0 +1,638 @@
+#include "TXLogFilterProxyModel.h"
+
+#include "TXLogItem.h"
+#include "TXLogModel.h"
+
+#include <QDateTime>
+#include <QItemSelectionModel>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+bool isIn(int column)
+{
+    return column >= 0 && column < TXLogModel::ColumnCount;
+}
+
+TXLogRowMapping *mappingOf(const QModelIndex &proxyIndex)
+{
+    return static_cast<TXLogRowMapping *>(proxyIndex.internalPointer());
+}
+
+} // namespace
+
+TXLogFilterProxyModel::TXLogFilterProxyModel(QObject *parent)
+    : QSortFilterProxyModel(parent)
+{
+    followProperties();
+}
+
+TXLogFilterProxyModel::~TXLogFilterProxyModel() = default;
+
+void TXLogFilterProxyModel::setSelectionModel(QItemSelectionModel *selectionModel)
+{
+    selection = selectionModel;
+}
+
+void TXLogFilterProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
+{
+    beginResetModel();
+    if (log) {
+        disconnect(log, nullptr, this, nullptr);
+    }
+    log = qobject_cast<TXLogModel *>(sourceModel);
+    top.reset();
+    // Not the base's own, which would connect its mapping to the source.
+    QAbstractProxyModel::setSourceModel(log);
+    if (log) {
+        followSource();
+    }
+    endResetModel();
+}
+
+void TXLogFilterProxyModel::sort(int column, Qt::SortOrder order)
+{
+    if (dynamicSortFilter() && sortColumn() == column && sortOrder() == order) {
+        return;
+    }
+    // What is equal under the new sorting keeps the order it had under the old one.
+    topLevel();
+    {
+        // For sortColumn() and sortOrder(); the base has no rows that it could sort.
+        const QSignalBlocker blocker(this);
+        QSortFilterProxyModel::sort(column, order);
+    }
+    sortingChanged();
+}
+
+QModelIndex TXLogFilterProxyModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (row < 0 || !isIn(column)) {
+        return {};
+    }
+    TXLogRowMapping *mapping = mappingBelow(parent);
+    const bool isShown = mapping && row < mapping->shownCount();
+    return isShown ? createIndex(row, column, mapping) : QModelIndex();
+}
+
+QModelIndex TXLogFilterProxyModel::parent(const QModelIndex &child) const
+{
+    return child.isValid() && child.model() == this ? proxyIndexAbove(*::mappingOf(child))
+                                                    : QModelIndex();
+}
+
+QModelIndex TXLogFilterProxyModel::sibling(int row, int column, const QModelIndex &index) const
+{
+    if (!index.isValid() || index.model() != this || row < 0 || !isIn(column)) {
+        return {};
+    }
+    TXLogRowMapping *mapping = ::mappingOf(index);
+    return row < mapping->shownCount() ? createIndex(row, column, mapping) : QModelIndex();
+}
+
+int TXLogFilterProxyModel::rowCount(const QModelIndex &parent) const
+{
+    const TXLogRowMapping *mapping = mappingBelow(parent);
+    return mapping ? int(mapping->shownCount()) : 0;
+}
+
+int TXLogFilterProxyModel::columnCount(const QModelIndex &) const
+{
+    return log ? int(TXLogModel::ColumnCount) : 0;
+}
+
+bool TXLogFilterProxyModel::hasChildren(const QModelIndex &parent) const
+{
+    return rowCount(parent) > 0;
+}
+
+QModelIndex TXLogFilterProxyModel::mapToSource(const QModelIndex &proxyIndex) const
+{
+    if (!log || !proxyIndex.isValid() || proxyIndex.model() != this) {
+        return {};
+    }
+    const TXLogRowMapping *mapping = ::mappingOf(proxyIndex);
+    return log->index(int(mapping->sourceRowAt(proxyIndex.row())), proxyIndex.column(),
+                      sourceIndexAbove(*mapping));
+}
+
+QModelIndex TXLogFilterProxyModel::mapFromSource(const QModelIndex &sourceIndex) const
+{
+    if (!sourceIndex.isValid() || sourceIndex.model() != log) {
+        return {};
+    }
+    TXLogRowMapping *mapping = mappingOf(sourceIndex.parent(), true);
+    const qsizetype row = mapping ? mapping->shownRowOf(sourceIndex.row()) : -1;
+    return row < 0 ? QModelIndex() : createIndex(int(row), sourceIndex.column(), mapping);
+}
+
+QVariant TXLogFilterProxyModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Horizontal) {
+        return log && isIn(section) ? log->headerData(section, orientation, role) : QVariant();
+    }
+    const QModelIndex source = mapToSource(index(section, 0));
+    return source.isValid() ? log->headerData(source.row(), orientation, role) : QVariant();
+}
+
+bool TXLogFilterProxyModel::setHeaderData(int, Qt::Orientation, const QVariant &, int)
+{
+    return false;
+}
+
+bool TXLogFilterProxyModel::insertRows(int, int, const QModelIndex &)
+{
+    return false;
+}
+
+bool TXLogFilterProxyModel::insertColumns(int, int, const QModelIndex &)
+{
+    return false;
+}
+
+bool TXLogFilterProxyModel::removeRows(int, int, const QModelIndex &)
+{
+    return false;
+}
+
+bool TXLogFilterProxyModel::removeColumns(int, int, const QModelIndex &)
+{
+    return false;
+}
+
+bool TXLogFilterProxyModel::filterAcceptsRow(int, const QModelIndex &) const
+{
+    return false;
+}
+
+void TXLogFilterProxyModel::sourceRowsInserted(const QModelIndex &sourceParent, int first, int last)
+{
+    TXLogRowMapping *mapping = nullptr;
+    if (!sourceParent.isValid()) {
+        if (!top) {
+            top = std::make_unique<TXLogRowMapping>();
+            fill(*top, sourceParent, first);
+        }
+        mapping = top.get();
+    } else {
+        TXLogRowMapping *above = mappingOf(sourceParent.parent(), false);
+        if (!above || above->shownRowOf(sourceParent.row()) < 0) {
+            return;
+        }
+        mapping = above->below(sourceParent.row());
+        if (!mapping) {
+            mapping = above->makeBelow(sourceParent.row());
+            fill(*mapping, sourceParent, first);
+        }
+    }
+    mapping->appendSourceRows(last - first + 1);
+    for (int row = first; row <= last; ++row) {
+        showNewRow(*mapping, row, sourceParent);
+    }
+}
+
+void TXLogFilterProxyModel::sourceRowsAboutToBeRemoved(const QModelIndex &sourceParent, int, int)
+{
+    TXLogRowMapping *mapping = mappingOf(sourceParent, false);
+    const int row = mapping ? int(mapping->shownRowOf(0)) : -1;
+    if (row >= 0) {
+        beginRemoveRows(proxyIndexAbove(*mapping), row, row);
+        mapping->hide(row, row);
+        endRemoveRows();
+    }
+}
+
+void TXLogFilterProxyModel::sourceRowsRemoved(const QModelIndex &sourceParent, int, int)
+{
+    if (TXLogRowMapping *mapping = mappingOf(sourceParent, false)) {
+        mapping->dropFirstSourceRow();
+    }
+}
+
+void TXLogFilterProxyModel::sourceAboutToBeReset()
+{
+    beginResetModel();
+}
+
+void TXLogFilterProxyModel::sourceReset()
+{
+    top.reset();
+    endResetModel();
+}
+
+void TXLogFilterProxyModel::sourceDestroyed()
+{
+    beginResetModel();
+    top.reset();
+    endResetModel();
+}
+
+/// The properties of the base have no signals, but can be observed.
+void TXLogFilterProxyModel::followProperties()
+{
+    const auto filter = [this] {
+        filterChanged();
+    };
+    notifiers.push_back(bindableFilterRegularExpression().addNotifier(filter));
+    notifiers.push_back(bindableFilterKeyColumn().addNotifier(filter));
+    notifiers.push_back(bindableFilterCaseSensitivity().addNotifier(filter));
+    notifiers.push_back(bindableFilterRole().addNotifier(filter));
+
+    const auto sorting = [this] {
+        sortingChanged();
+    };
+    notifiers.push_back(bindableSortRole().addNotifier(sorting));
+    notifiers.push_back(bindableSortCaseSensitivity().addNotifier(sorting));
+    notifiers.push_back(bindableIsSortLocaleAware().addNotifier(sorting));
+    notifiers.push_back(bindableDynamicSortFilter().addNotifier([this] {
+        if (dynamicSortFilter()) {
+            sortingChanged();
+        }
+    }));
+}
+
+void TXLogFilterProxyModel::followSource()
+{
+    connect(log, SIGNAL(rowsInserted(QModelIndex, int, int)), this,
+            SLOT(sourceRowsInserted(QModelIndex, int, int)));
+    connect(log, SIGNAL(rowsAboutToBeRemoved(QModelIndex, int, int)), this,
+            SLOT(sourceRowsAboutToBeRemoved(QModelIndex, int, int)));
+    connect(log, SIGNAL(rowsRemoved(QModelIndex, int, int)), this,
+            SLOT(sourceRowsRemoved(QModelIndex, int, int)));
+    connect(log, SIGNAL(modelAboutToBeReset()), this, SLOT(sourceAboutToBeReset()));
+    connect(log, SIGNAL(modelReset()), this, SLOT(sourceReset()));
+    connect(log, SIGNAL(destroyed()), this, SLOT(sourceDestroyed()));
+}
+
+/// A filter on the level has three answers, found once instead of for each row.
+void TXLogFilterProxyModel::updateLevelFilter()
+{
+    isLevelFilter = filterKeyColumn() == TXLogModel::LevelColumn
+        && (filterRole() == Qt::DisplayRole || filterRole() == Qt::EditRole);
+    const QRegularExpression pattern = filterRegularExpression();
+    for (int level = 0; isLevelFilter && level < int(acceptedLevels.size()); ++level) {
+        acceptedLevels[size_t(level)] =
+            pattern.pattern().isEmpty() || QString::number(level).contains(pattern);
+    }
+}
+
+bool TXLogFilterProxyModel::accepts(int sourceRow, const QModelIndex &sourceParent) const
+{
+    if (!isLevelFilter) {
+        return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
+    }
+    const QModelIndex index = log->index(sourceRow, TXLogModel::LevelColumn, sourceParent);
+    const int level = static_cast<const TXLogItem *>(index.internalPointer())->level;
+    const bool isNamed = level == TXLogItem::Warning || level == TXLogItem::Error;
+    return acceptedLevels[size_t(isNamed ? level : TXLogItem::Information)];
+}
+
+bool TXLogFilterProxyModel::isSorting() const
+{
+    return isIn(sortColumn());
+}
+
+QVariant TXLogFilterProxyModel::sortKey(qsizetype sourceRow, const QModelIndex &sourceParent) const
+{
+    return log->data(log->index(int(sourceRow), sortColumn(), sourceParent), sortRole());
+}
+
+/// The base's lessThan() for what the log model holds, turned round for a descending order.
+bool TXLogFilterProxyModel::isBefore(const QVariant &left, const QVariant &right) const
+{
+    const QVariant &smaller = sortOrder() == Qt::AscendingOrder ? left : right;
+    const QVariant &larger = sortOrder() == Qt::AscendingOrder ? right : left;
+    if (!smaller.isValid() || !larger.isValid()) {
+        return smaller.isValid();
+    }
+    switch (smaller.userType()) {
+    case QMetaType::Int:
+        return smaller.toInt() < larger.toInt();
+    case QMetaType::QDateTime:
+        return smaller.toDateTime() < larger.toDateTime();
+    default:
+        return isSortLocaleAware()
+            ? smaller.toString().localeAwareCompare(larger.toString()) < 0
+            : smaller.toString().compare(larger.toString(), sortCaseSensitivity()) < 0;
+    }
+}
+
+/// A stable sort that asks each row for its key once; one pass where the rows are in order.
+void TXLogFilterProxyModel::sortRows(Rows &rows, const QModelIndex &sourceParent) const
+{
+    if (!isSorting()) {
+        std::sort(rows.begin(), rows.end());
+        return;
+    }
+    std::vector<std::pair<QVariant, qsizetype>> keyed;
+    keyed.reserve(size_t(rows.size()));
+    for (const qsizetype row : qAsConst(rows)) {
+        keyed.emplace_back(sortKey(row, sourceParent), row);
+    }
+    const auto isBeforeByKey = [this](const auto &left, const auto &right) {
+        return isBefore(left.first, right.first);
+    };
+    if (!std::is_sorted(keyed.begin(), keyed.end(), isBeforeByKey)) {
+        std::stable_sort(keyed.begin(), keyed.end(), isBeforeByKey);
+        std::transform(keyed.begin(), keyed.end(), rows.begin(),
+                       [](const auto &pair) { return pair.second; });
+    }
+}
+
+/// Where a single new row belongs: behind all that it is not before. The ends are looked at first,
+/// as new entries mostly belong there.
+qsizetype TXLogFilterProxyModel::findPlace(const TXLogRowMapping &mapping, qsizetype sourceRow,
+                                           const QModelIndex &sourceParent) const
+{
+    const bool isByKey = isSorting() && dynamicSortFilter();
+    const QVariant key = isByKey ? sortKey(sourceRow, sourceParent) : QVariant();
+    const auto isBeforeShown = [&](qsizetype shownRow) {
+        const qsizetype other = mapping.sourceRowAt(shownRow);
+        return isByKey ? isBefore(key, sortKey(other, sourceParent)) : sourceRow < other;
+    };
+    qsizetype low = 0;
+    qsizetype high = mapping.shownCount();
+    if (high == 0 || !isBeforeShown(high - 1)) {
+        return high;
+    }
+    if (isBeforeShown(0)) {
+        return 0;
+    }
+    while (low < high) {
+        const qsizetype middle = (low + high) / 2;
+        if (isBeforeShown(middle)) {
+            high = middle;
+        } else {
+            low = middle + 1;
+        }
+    }
+    return low;
+}
+
+/// Joins rows that stay with rows that come, both in order. Where they are equal the base puts the
+/// first that comes behind those that stay, and what directly follows it in front of the next: this
+/// does the same.
+TXLogFilterProxyModel::Rows TXLogFilterProxyModel::mergeRows(const Rows &kept, const Rows &added,
+                                                             const QModelIndex &sourceParent) const
+{
+    const bool isByKey = isSorting() && dynamicSortFilter();
+    const auto keyOf = [&](qsizetype row) {
+        return isByKey ? sortKey(row, sourceParent) : QVariant::fromValue(row);
+    };
+    const auto comesBefore = [&](const QVariant &left, const QVariant &right) {
+        return isByKey ? isBefore(left, right) : left.value<qsizetype>() < right.value<qsizetype>();
+    };
+    Rows merged;
+    merged.reserve(kept.size() + added.size());
+    auto next = kept.cbegin();
+    auto coming = added.cbegin();
+    while (coming != added.cend()) {
+        const QVariant key = keyOf(*coming);
+        while (next != kept.cend() && !comesBefore(key, keyOf(*next))) {
+            merged.append(*next++);
+        }
+        merged.append(*coming++);
+        while (coming != added.cend()
+               && (next == kept.cend() || !comesBefore(keyOf(*next), keyOf(*coming)))) {
+            merged.append(*coming++);
+        }
+    }
+    std::copy(next, kept.cend(), std::back_inserter(merged));
+    return merged;
+}
+
+TXLogRowMapping *TXLogFilterProxyModel::topLevel() const
+{
+    if (log && !top) {
+        top = std::make_unique<TXLogRowMapping>();
+        fill(*top, QModelIndex(), log->rowCount());
+    }
+    return top.get();
+}
+
+/// The mapping of what is shown below an index of the proxy; null where there is nothing.
+TXLogRowMapping *TXLogFilterProxyModel::mappingBelow(const QModelIndex &proxyParent) const
+{
+    if (!proxyParent.isValid()) {
+        return topLevel();
+    }
+    if (proxyParent.model() != this) {
+        return nullptr;
+    }
+    TXLogRowMapping *mapping = ::mappingOf(proxyParent);
+    const qsizetype sourceRow = mapping->sourceRowAt(proxyParent.row());
+    if (TXLogRowMapping *known = mapping->below(sourceRow)) {
+        return known;
+    }
+    return belowRow(*mapping, sourceRow, mapToSource(proxyParent), true);
+}
+
+/// The mapping of what is shown below an index of the log; null where that is not shown itself.
+TXLogRowMapping *TXLogFilterProxyModel::mappingOf(const QModelIndex &sourceParent,
+                                                  bool mayBeMade) const
+{
+    if (!sourceParent.isValid()) {
+        return mayBeMade ? topLevel() : top.get();
+    }
+    TXLogRowMapping *above = mappingOf(sourceParent.parent(), mayBeMade);
+    return above ? belowRow(*above, sourceParent.row(), sourceParent, mayBeMade) : nullptr;
+}
+
+TXLogRowMapping *TXLogFilterProxyModel::belowRow(TXLogRowMapping &mapping, qsizetype sourceRow,
+                                                 const QModelIndex &sourceIndex,
+                                                 bool mayBeMade) const
+{
+    TXLogRowMapping *known = mapping.below(sourceRow);
+    if (known || !mayBeMade || mapping.shownRowOf(sourceRow) < 0) {
+        return known;
+    }
+    const int sourceCount = log->rowCount(sourceIndex);
+    if (sourceCount == 0) {
+        return nullptr;
+    }
+    TXLogRowMapping *made = mapping.makeBelow(sourceRow);
+    fill(*made, sourceIndex.siblingAtColumn(0), sourceCount);
+    return made;
+}
+
+void TXLogFilterProxyModel::fill(TXLogRowMapping &mapping, const QModelIndex &sourceParent,
+                                 int sourceCount) const
+{
+    Rows rows;
+    for (int row = 0; row < sourceCount; ++row) {
+        if (accepts(row, sourceParent)) {
+            rows.append(row);
+        }
+    }
+    sortRows(rows, sourceParent);
+    mapping.appendSourceRows(sourceCount);
+    mapping.showOnly(rows);
+}
+
+QModelIndex TXLogFilterProxyModel::sourceIndexAbove(const TXLogRowMapping &mapping) const
+{
+    const TXLogRowMapping *above = mapping.above();
+    return above ? log->index(int(mapping.sourceRowInAbove()), 0, sourceIndexAbove(*above))
+                 : QModelIndex();
+}
+
+QModelIndex TXLogFilterProxyModel::proxyIndexAbove(const TXLogRowMapping &mapping) const
+{
+    TXLogRowMapping *above = mapping.above();
+    return above ? createIndex(int(above->shownRowOf(mapping.sourceRowInAbove())), 0, above)
+                 : QModelIndex();
+}
+
+void TXLogFilterProxyModel::showNewRow(TXLogRowMapping &mapping, int sourceRow,
+                                       const QModelIndex &sourceParent)
+{
+    if (!accepts(sourceRow, sourceParent)) {
+        return;
+    }
+    const int place = int(findPlace(mapping, sourceRow, sourceParent));
+    beginInsertRows(proxyIndexAbove(mapping), place, place);
+    mapping.show(sourceRow, place);
+    endInsertRows();
+}
+
+void TXLogFilterProxyModel::filterChanged()
+{
+    updateLevelFilter();
+    if (!top) {
+        return;
+    }
+    removeRowsAroundCurrentIndex();
+    if (!isAnyRowAffected(*top)) {
+        return;
+    }
+    emit layoutAboutToBeChanged();
+    const QList<Remembered> remembered = rememberPersistentIndexes();
+    std::vector<std::unique_ptr<TXLogRowMapping>> gone;
+    filterRows(*top, &gone);
+    restorePersistentIndexes(remembered);
+    emit layoutChanged();
+}
+
+void TXLogFilterProxyModel::sortingChanged()
+{
+    if (!top) {
+        return;
+    }
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const QList<Remembered> remembered = rememberPersistentIndexes();
+    sortAllRows(*top);
+    restorePersistentIndexes(remembered);
+    emit layoutChanged({}, VerticalSortHint);
+}
+
+void TXLogFilterProxyModel::removeRowsAroundCurrentIndex()
+{
+    const QModelIndex current = selection ? selection->currentIndex() : QModelIndex();
+    if (!current.isValid() || current.model() != this) {
+        return;
+    }
+    // Below an entry that goes itself, nothing has a neighbour to move to.
+    for (QModelIndex above = current.parent(); above.isValid(); above = above.parent()) {
+        const QModelIndex source = mapToSource(above);
+        if (!accepts(source.row(), source.parent())) {
+            return;
+        }
+    }
+    TXLogRowMapping *mapping = ::mappingOf(current);
+    const QModelIndex sourceParent = sourceIndexAbove(*mapping);
+    const auto goes = [&](int row) {
+        return !accepts(int(mapping->sourceRowAt(row)), sourceParent);
+    };
+    if (!goes(current.row())) {
+        return;
+    }
+    int first = current.row();
+    int last = current.row();
+    while (first > 0 && goes(first - 1)) {
+        --first;
+    }
+    while (last + 1 < mapping->shownCount() && goes(last + 1)) {
+        ++last;
+    }
+    beginRemoveRows(current.parent(), first, last);
+    mapping->hide(first, last);
+    endRemoveRows();
+}
+
+bool TXLogFilterProxyModel::isAnyRowAffected(const TXLogRowMapping &mapping) const
+{
+    const QModelIndex sourceParent = sourceIndexAbove(mapping);
+    for (int row = 0; row < mapping.sourceCount(); ++row) {
+        const bool isShown = mapping.shownRowOf(row) >= 0;
+        if (isShown != accepts(row, sourceParent)) {
+            return true;
+        }
+        const TXLogRowMapping *below = mapping.below(row);
+        if (below && isAnyRowAffected(*below)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void TXLogFilterProxyModel::filterRows(TXLogRowMapping &mapping,
+                                       std::vector<std::unique_ptr<TXLogRowMapping>> *gone)
+{
+    const QModelIndex sourceParent = sourceIndexAbove(mapping);
+    Rows kept = mapping.shownSourceRows();
+    kept.removeIf([&](qsizetype row) { return !accepts(int(row), sourceParent); });
+    Rows added;
+    for (int row = 0; row < mapping.sourceCount(); ++row) {
+        if (mapping.shownRowOf(row) < 0 && accepts(row, sourceParent)) {
+            added.append(row);
+        }
+    }
+    if (!added.isEmpty() || kept.size() != mapping.shownCount()) {
+        sortRows(added, sourceParent);
+        for (TXLogRowMapping *hidden : mapping.showOnly(mergeRows(kept, added, sourceParent))) {
+            gone->emplace_back(hidden);
+        }
+    }
+    for (TXLogRowMapping *below : mapping.allBelow()) {
+        filterRows(*below, gone);
+    }
+}
+
+void TXLogFilterProxyModel::sortAllRows(TXLogRowMapping &mapping)
+{
+    const Rows before = mapping.shownSourceRows();
+    Rows sorted = before;
+    sortRows(sorted, sourceIndexAbove(mapping));
+    if (sorted != before) {
+        mapping.showOnly(sorted);
+    }
+    for (TXLogRowMapping *below : mapping.allBelow()) {
+        sortAllRows(*below);
+    }
+}
+
+QList<TXLogFilterProxyModel::Remembered> TXLogFilterProxyModel::rememberPersistentIndexes() const
+{
+    QList<Remembered> remembered;
+    const QModelIndexList indexes = persistentIndexList();
+    remembered.reserve(indexes.size());
+    for (const QModelIndex &index : indexes) {
+        TXLogRowMapping *mapping = ::mappingOf(index);
+        remembered.append({index, mapping, mapping->sourceRowAt(index.row())});
+    }
+    return remembered;
+}
+
+void TXLogFilterProxyModel::restorePersistentIndexes(const QList<Remembered> &remembered)
+{
+    QModelIndexList from;
+    QModelIndexList to;
+    for (const Remembered &one : remembered) {
+        const qsizetype row = one.mapping->isInUse() ? one.mapping->shownRowOf(one.sourceRow) : -1;
+        from.append(one.index);
+        to.append(row < 0 ? QModelIndex() : createIndex(int(row), one.index.column(), one.mapping));
+    }
+    changePersistentIndexList(from, to);
+}
