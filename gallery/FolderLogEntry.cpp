@@ -12,7 +12,7 @@ namespace {
 
 TXStringI18n message(const char *source)
 {
-    return TXStringI18n("FolderLogEntry", source, nullptr, -1);
+    return {"FolderLogEntry", source, nullptr, -1};
 }
 
 TXStringI18n message(const char *source, const QString &argument)
@@ -43,7 +43,7 @@ TXStringI18n describe(const FolderFinding &finding)
     case FolderFinding::NotAFolder:
         return message(QT_TRANSLATE_NOOP("FolderLogEntry", "This is a file, not a folder."));
     }
-    return TXStringI18n();
+    return {};
 }
 
 void addFiles(TXLogItem &item, const FolderReport &report)
@@ -81,7 +81,7 @@ void addFindings(TXLogItem &item, const FolderReport &report)
 
 QSharedPointer<TXLogItem> makeFolderLogEntry(const FolderReport &report)
 {
-    const auto item = TXLogItem::create(
+    auto item = TXLogItem::create(
         report.level(), message(QT_TRANSLATE_NOOP("FolderLogEntry", "Folder %1"), report.label));
     addFindings(*item, report);
     if (report.fileCount > 0 || report.errorCount == 0) {
@@ -95,7 +95,7 @@ QSharedPointer<TXLogItem> makeScanLogEntry(const FolderScanCounts &counts, qint6
 {
     const QLocale locale;
     const QString seconds = locale.toString(double(milliseconds) / 1000, 'f', 2);
-    const auto item = TXLogItem::create(
+    auto item = TXLogItem::create(
         TXLogItem::Information,
         isComplete
             ? message(QT_TRANSLATE_NOOP("FolderLogEntry", "Scan finished after %1 s"), seconds)

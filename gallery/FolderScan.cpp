@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QRunnable>
 
+#include <utility>
+
 namespace {
 
 QString join(const QString &folder, const QString &name)
@@ -16,10 +18,10 @@ QString join(const QString &folder, const QString &name)
 class FolderScan::Task : public QRunnable
 {
 public:
-    Task(FolderScan &scan, const QString &path, const QString &label)
+    Task(FolderScan &scan, QString path, QString label)
         : scan(scan)
-        , path(path)
-        , label(label)
+        , path(std::move(path))
+        , label(std::move(label))
     { }
 
     void run() override

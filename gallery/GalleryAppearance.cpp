@@ -133,7 +133,7 @@ QString galleryStyleKey(const QString &name)
             return key;
         }
     }
-    return QString();
+    return {};
 }
 
 QString galleryColoursName(GalleryColours colours)
@@ -143,7 +143,7 @@ QString galleryColoursName(GalleryColours colours)
             return QString::fromLatin1(entry.name);
         }
     }
-    return QString();
+    return {};
 }
 
 GalleryColours galleryColoursFromName(const QString &name, GalleryColours fallback)

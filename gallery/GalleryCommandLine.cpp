@@ -29,7 +29,7 @@ QStringList pageNames()
 
 QCommandLineOption valueOption(const QString &name, const QString &value, const QString &help)
 {
-    return QCommandLineOption(name, help, value);
+    return {name, help, value};
 }
 
 void addOptions(QCommandLineParser &parser)
@@ -69,7 +69,7 @@ QString firstMistake(const QCommandLineParser &parser, const QStringList &argume
     if (!arguments.isEmpty()) {
         return tr("Unexpected argument \"%1\".").arg(arguments.first());
     }
-    return QString();
+    return {};
 }
 
 void print(const QString &text)

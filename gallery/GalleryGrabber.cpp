@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -36,9 +37,9 @@ QString withoutSuffix(const QString &path)
 
 } // namespace
 
-GalleryGrabber::GalleryGrabber(GalleryWindow &window, const QString &target)
+GalleryGrabber::GalleryGrabber(GalleryWindow &window, QString target)
     : window(window)
-    , target(target)
+    , target(std::move(target))
 { }
 
 bool GalleryGrabber::grab(const QString &pageName)

@@ -19,7 +19,7 @@ public:
     /// The window stays the caller's and is shown by the grabber. When one page is named, the
     /// target is the file of its picture, with or without ".png"; otherwise, or when it is a folder
     /// that exists, it is the folder for a file <page>.png each. Missing folders are made.
-    GalleryGrabber(GalleryWindow &window, const QString &target);
+    GalleryGrabber(GalleryWindow &window, QString target);
 
     /// Takes the picture of the page of this name, or of every page when it is empty, and prints
     /// the path of each file on standard output. False when a file cannot be written or a page is

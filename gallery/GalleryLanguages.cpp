@@ -7,6 +7,8 @@
 #include <QRegularExpression>
 #include <QTranslator>
 
+#include <utility>
+
 namespace {
 
 const QString kEnglish = QStringLiteral("en");
@@ -25,9 +27,9 @@ QStringList translationFiles(const QString &folder)
 
 } // namespace
 
-GalleryLanguages::GalleryLanguages(const QString &folder, Formats formats, QObject *parent)
+GalleryLanguages::GalleryLanguages(QString folder, Formats formats, QObject *parent)
     : QObject(parent)
-    , folder(folder)
+    , folder(std::move(folder))
     , formats(formats)
     , code(kEnglish)
 { }
@@ -68,11 +70,11 @@ QString GalleryLanguages::systemCode() const
     const QStringList known = codes();
     const QStringList wanted = QLocale::system().uiLanguages();
     for (const QString &language : wanted) {
-        const QString name = QLocale(language).name();
+        QString name = QLocale(language).name();
         if (known.contains(name)) {
             return name;
         }
-        const QString shortName = name.section(QLatin1Char('_'), 0, 0);
+        QString shortName = name.section(QLatin1Char('_'), 0, 0);
         if (known.contains(shortName)) {
             return shortName;
         }

@@ -28,7 +28,7 @@ public:
     };
 
     /// A folder that does not exist leaves English alone.
-    explicit GalleryLanguages(const QString &folder, Formats formats = Formats::OfSystem,
+    explicit GalleryLanguages(QString folder, Formats formats = Formats::OfSystem,
                               QObject *parent = nullptr);
     ~GalleryLanguages() override;
 

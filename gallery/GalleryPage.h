@@ -46,7 +46,7 @@ protected:
     /// Sets the texts again when the language changes.
     void changeEvent(QEvent *event) override;
 
-    /// Sets all texts of the page in the language of the moment. The page calls it itself at the
-    /// end of its constructor, the base at each later change of the language.
+    /// Sets all texts of the page in the language of the moment. The page, a final class, calls it
+    /// itself at the end of its constructor, the base at each later change of the language.
     virtual void retranslate() = 0;
 };

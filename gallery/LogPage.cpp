@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int kMaximumEntries = 5000;
+constexpr int kMaximumEntries = 20000;
 constexpr int kLineButtons = 4;
 constexpr int kGap = 14;
 

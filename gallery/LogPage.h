@@ -16,7 +16,7 @@ class TXLogWindow;
 
 /// The log of the gallery itself: Qt's messages, TXLogPrint(), and a job that writes to it from
 /// several threads, with TXLogWindow over it.
-class LogPage : public GalleryPage
+class LogPage final : public GalleryPage
 {
     Q_OBJECT
 

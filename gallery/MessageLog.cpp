@@ -54,7 +54,7 @@ QString withCategory(const QMessageLogContext &context, const QString &message)
 QString sourceOf(const QMessageLogContext &context)
 {
     if (!context.file) {
-        return QString();
+        return {};
     }
     const QString file = QString::fromLocal8Bit(context.file).section(QLatin1Char('/'), -1);
     const QString place = QStringLiteral("%1:%2").arg(file).arg(context.line);
