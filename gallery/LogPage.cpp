@@ -110,7 +110,7 @@ void LogPage::openLogWindow()
 
 void LogPage::writeInformation()
 {
-    TXLogPrint(tr("An information, written by hand"), TXLogItem::Information);
+    TXLogPrint(tr("Some information, written by hand"), TXLogItem::Information);
 }
 
 void LogPage::writeWarning()

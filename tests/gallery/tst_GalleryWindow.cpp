@@ -6,11 +6,12 @@
 #include "TestBase.h"
 #include "TestTranslations.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScrollArea>
+#include <QSettings>
 #include <QStyle>
 
 #include <memory>

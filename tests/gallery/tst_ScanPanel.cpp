@@ -90,7 +90,7 @@ QString TestScanPanel::numberOver(const QString &caption) const
             }
         }
     }
-    return QString();
+    return {};
 }
 
 void TestScanPanel::scanToTheEnd()
