@@ -119,6 +119,7 @@ private slots:
     void foreignIndexesMapToNothing();
     void indexOutsideIsInvalid();
     void siblingsStandInTheSameParent();
+    void indexThatOutlivedItsRowIsHarmless();
     void sourceThatEndsLeavesAnEmptyProxy();
     void foreignSourceIsRefused();
     void sourceCanBeExchanged();
@@ -608,6 +609,25 @@ void TestTXLogFilterProxyModel::siblingsStandInTheSameParent()
 
     QCOMPARE(first.sibling(2, 1), proxy->index(2, 1, proxy->index(0, 0)));
     QCOMPARE(first.sibling(2, 1).data().toString(), QStringLiteral("a/2"));
+}
+
+void TestTXLogFilterProxyModel::indexThatOutlivedItsRowIsHarmless()
+{
+    // As a tree view keeps them until it lays out again.
+    append(*manager, makeItemWithChildren(QStringLiteral("quiet"), 2, 1));
+    append(*manager, makeItem(QStringLiteral("loud"), 3));
+    const QModelIndex row = proxy->index(1, 0);
+    const QModelIndex below = proxy->index(1, 1, proxy->index(0, 0));
+    QCOMPARE(below.data().toString(), QStringLiteral("quiet/1"));
+
+    filterByLevel(QStringLiteral("3"));
+
+    QVERIFY(!below.parent().isValid());
+    QVERIFY(!below.data().isValid());
+    QVERIFY(!below.sibling(0, 0).isValid());
+    QCOMPARE(proxy->rowCount(below), 0);
+    QVERIFY(!proxy->mapToSource(row).isValid());
+    QVERIFY(!proxy->hasChildren(row));
 }
 
 void TestTXLogFilterProxyModel::sourceThatEndsLeavesAnEmptyProxy()
