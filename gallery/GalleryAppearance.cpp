@@ -1,0 +1,157 @@
+#include "GalleryAppearance.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
+
+#include <array>
+
+namespace {
+
+struct NamedColours
+{
+    GalleryColours colours;
+    const char *name;
+};
+
+constexpr std::array kNames = {
+    NamedColours{GalleryColours::System, "system"},
+    NamedColours{GalleryColours::Light, "light"},
+    NamedColours{GalleryColours::Dark, "dark"},
+};
+
+/// The few colours from which the roles of a palette are filled.
+struct Tones
+{
+    QColor window;
+    QColor base;
+    QColor alternateBase;
+    QColor button;
+    QColor text;
+    QColor muted;
+    QColor disabled;
+    QColor line;
+    QColor accent;
+    QColor link;
+    QColor toolTip;
+};
+
+const Tones &lightTones()
+{
+    static const Tones tones = {
+        QColor(0xf3, 0xf4, 0xf7), QColor(0xff, 0xff, 0xff), QColor(0xf7, 0xf8, 0xfa),
+        QColor(0xfb, 0xfb, 0xfd), QColor(0x1c, 0x22, 0x2e), QColor(0x6a, 0x73, 0x82),
+        QColor(0xa3, 0xa9, 0xb4), QColor(0xd5, 0xd9, 0xe0), QColor(0x2b, 0x6c, 0xd4),
+        QColor(0x1f, 0x5f, 0xc4), QColor(0x2a, 0x30, 0x3c),
+    };
+    return tones;
+}
+
+const Tones &darkTones()
+{
+    static const Tones tones = {
+        QColor(0x22, 0x25, 0x2b), QColor(0x1a, 0x1d, 0x22), QColor(0x1f, 0x22, 0x28),
+        QColor(0x2f, 0x34, 0x3d), QColor(0xe3, 0xe6, 0xeb), QColor(0x97, 0xa0, 0xae),
+        QColor(0x68, 0x70, 0x7c), QColor(0x3a, 0x40, 0x4a), QColor(0x3d, 0x7b, 0xe0),
+        QColor(0x7f, 0xb0, 0xff), QColor(0x3a, 0x40, 0x4b),
+    };
+    return tones;
+}
+
+void setShades(QPalette &palette, const Tones &tones)
+{
+    palette.setColor(QPalette::Light, tones.button.lighter(108));
+    palette.setColor(QPalette::Midlight, tones.button.darker(103));
+    palette.setColor(QPalette::Mid, tones.line);
+    palette.setColor(QPalette::Dark, tones.line.darker(135));
+    palette.setColor(QPalette::Shadow, tones.line.darker(260));
+}
+
+void setDisabledTexts(QPalette &palette, const Tones &tones)
+{
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                            QPalette::HighlightedText, QPalette::PlaceholderText}) {
+        palette.setColor(QPalette::Disabled, role, tones.disabled);
+    }
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.line);
+    palette.setColor(QPalette::Disabled, QPalette::Base, tones.window);
+}
+
+QPalette paletteOf(const Tones &tones)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, tones.window);
+    palette.setColor(QPalette::WindowText, tones.text);
+    palette.setColor(QPalette::Base, tones.base);
+    palette.setColor(QPalette::AlternateBase, tones.alternateBase);
+    palette.setColor(QPalette::Text, tones.text);
+    palette.setColor(QPalette::PlaceholderText, tones.muted);
+    palette.setColor(QPalette::Button, tones.button);
+    palette.setColor(QPalette::ButtonText, tones.text);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::Highlight, tones.accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, tones.link);
+    palette.setColor(QPalette::LinkVisited, tones.link.darker(115));
+    palette.setColor(QPalette::ToolTipBase, tones.toolTip);
+    palette.setColor(QPalette::ToolTipText, Qt::white);
+    setShades(palette, tones);
+    setDisabledTexts(palette, tones);
+    return palette;
+}
+
+} // namespace
+
+void applyGalleryColours(GalleryColours colours)
+{
+    switch (colours) {
+    case GalleryColours::Light:
+        QApplication::setPalette(paletteOf(lightTones()));
+        break;
+    case GalleryColours::Dark:
+        QApplication::setPalette(paletteOf(darkTones()));
+        break;
+    case GalleryColours::System:
+        // A palette without set roles gives the application's own back.
+        QApplication::setPalette(QPalette());
+        break;
+    }
+}
+
+bool applyGalleryStyle(const QString &name)
+{
+    const QString key = galleryStyleKey(name);
+    return !key.isEmpty() && QApplication::setStyle(key);
+}
+
+QString galleryStyleKey(const QString &name)
+{
+    const QStringList keys = QStyleFactory::keys();
+    for (const QString &key : keys) {
+        if (key.compare(name, Qt::CaseInsensitive) == 0) {
+            return key;
+        }
+    }
+    return {};
+}
+
+QString galleryColoursName(GalleryColours colours)
+{
+    for (const NamedColours &entry : kNames) {
+        if (entry.colours == colours) {
+            return QString::fromLatin1(entry.name);
+        }
+    }
+    return {};
+}
+
+GalleryColours galleryColoursFromName(const QString &name, GalleryColours fallback)
+{
+    for (const NamedColours &entry : kNames) {
+        if (name == QLatin1String(entry.name)) {
+            return entry.colours;
+        }
+    }
+    return fallback;
+}

@@ -1,0 +1,134 @@
+#include "GalleryHeader.h"
+
+#include "GalleryIcon.h"
+#include "GalleryLanguages.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyleFactory>
+
+namespace {
+
+constexpr int kLogoSide = 28;
+constexpr int kSideMargin = 20;
+constexpr int kTopMargin = 12;
+constexpr int kGroupGap = 18;
+constexpr int kNamePointsAboveNormal = 3;
+
+QLabel *makeBoxLabel(QWidget *parent, QComboBox *box)
+{
+    auto *label = new QLabel(parent);
+    label->setBuddy(box);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+} // namespace
+
+GalleryHeader::GalleryHeader(QWidget *parent)
+    : QWidget(parent)
+    , logo(new QLabel(this))
+    , name(new QLabel(this))
+    , coloursBox(new QComboBox(this))
+    , styleBox(new QComboBox(this))
+    , languageBox(new QComboBox(this))
+{
+    coloursLabel = makeBoxLabel(this, coloursBox);
+    styleLabel = makeBoxLabel(this, styleBox);
+    languageLabel = makeBoxLabel(this, languageBox);
+    for (const auto colours :
+         {GalleryColours::System, GalleryColours::Light, GalleryColours::Dark}) {
+        coloursBox->addItem(QString(), QVariant::fromValue(colours));
+    }
+    styleBox->addItems(QStyleFactory::keys());
+    for (QComboBox *box : {coloursBox, styleBox, languageBox}) {
+        box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    }
+    logo->setPixmap(galleryIcon().pixmap(kLogoSide));
+    setUpLayout();
+    retranslate();
+    connect(coloursBox, SIGNAL(activated(int)), this, SLOT(coloursActivated(int)));
+    connect(styleBox, SIGNAL(activated(int)), this, SLOT(styleActivated(int)));
+    connect(languageBox, SIGNAL(activated(int)), this, SLOT(languageActivated(int)));
+}
+
+void GalleryHeader::setUpLayout()
+{
+    QFont nameFont = font();
+    nameFont.setPointSizeF(nameFont.pointSizeF() + kNamePointsAboveNormal);
+    nameFont.setWeight(QFont::DemiBold);
+    name->setFont(nameFont);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(kSideMargin, kTopMargin, kSideMargin, kTopMargin);
+    layout->addWidget(logo);
+    layout->addSpacing(4);
+    layout->addWidget(name);
+    layout->addStretch();
+    layout->addWidget(coloursLabel);
+    layout->addWidget(coloursBox);
+    layout->addSpacing(kGroupGap);
+    layout->addWidget(styleLabel);
+    layout->addWidget(styleBox);
+    layout->addSpacing(kGroupGap);
+    layout->addWidget(languageLabel);
+    layout->addWidget(languageBox);
+}
+
+void GalleryHeader::setColours(GalleryColours colours)
+{
+    coloursBox->setCurrentIndex(coloursBox->findData(QVariant::fromValue(colours)));
+}
+
+void GalleryHeader::setStyleKey(const QString &key)
+{
+    styleBox->setCurrentIndex(styleBox->findText(key));
+}
+
+void GalleryHeader::setLanguages(const QStringList &codes, const QString &current)
+{
+    languageBox->clear();
+    for (const QString &code : codes) {
+        languageBox->addItem(GalleryLanguages::displayName(code), code);
+    }
+    languageBox->setCurrentIndex(languageBox->findData(current));
+}
+
+void GalleryHeader::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    QWidget::changeEvent(event);
+}
+
+void GalleryHeader::coloursActivated(int index)
+{
+    emit coloursChosen(coloursBox->itemData(index).value<GalleryColours>());
+}
+
+void GalleryHeader::styleActivated(int index)
+{
+    emit styleChosen(styleBox->itemText(index));
+}
+
+void GalleryHeader::languageActivated(int index)
+{
+    emit languageChosen(languageBox->itemData(index).toString());
+}
+
+void GalleryHeader::retranslate()
+{
+    name->setText(tr("TXGUICommon Gallery"));
+    coloursLabel->setText(tr("P&alette"));
+    styleLabel->setText(tr("&Style"));
+    languageLabel->setText(tr("&Language"));
+    coloursBox->setItemText(0, tr("System"));
+    coloursBox->setItemText(1, tr("Light"));
+    coloursBox->setItemText(2, tr("Dark"));
+    coloursBox->setAccessibleName(tr("Palette"));
+    styleBox->setAccessibleName(tr("Style"));
+    languageBox->setAccessibleName(tr("Language"));
+}

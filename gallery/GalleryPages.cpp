@@ -1,0 +1,39 @@
+#include "GalleryPages.h"
+
+#include "LogPage.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+template<class Page>
+GalleryPage *make(QWidget *parent)
+{
+    return new Page(parent);
+}
+
+} // namespace
+
+QString GalleryPageEntry::translatedTitle() const
+{
+    return QCoreApplication::translate("GalleryPages", title);
+}
+
+const QList<GalleryPageEntry> &galleryPages()
+{
+    static const QList<GalleryPageEntry> pages = {
+        {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
+    };
+    return pages;
+}
+
+int galleryPageRow(const QString &name)
+{
+    const QList<GalleryPageEntry> &pages = galleryPages();
+    for (int row = 0; row < pages.size(); ++row) {
+        if (pages[row].name() == name) {
+            return row;
+        }
+    }
+    return -1;
+}

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "FolderScan.h"
+
+#include <QElapsedTimer>
+#include <QGroupBox>
+#include <QPixmap>
+#include <QSharedPointer>
+
+class LogGate;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTimer;
+class TXLogItem;
+class TXLogManager;
+
+/// The job "Scan a folder": which folder, start and cancel, and the numbers of the running scan.
+///
+/// Each folder becomes an entry of the log, written from the scan's own threads; a last entry sums
+/// up. The panel stops a running scan when it goes.
+class ScanPanel : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent = nullptr);
+    ~ScanPanel() override;
+
+    /// Which folders are scanned, as the user would type them: absolute, or relative to the
+    /// program's folder, several with the system's list separator between them.
+    void setFolders(const QString &text);
+
+public slots:
+    /// Starts a scan. No effect while one is running.
+    void start();
+
+signals:
+    /// Emitted when the scan has ended and its last entry has been handed to the log.
+    void scanLogged(QSharedPointer<TXLogItem> lastEntry);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private slots:
+    void cancel();
+    void browse();
+    void showCounts();
+    void scanFinished(bool isComplete);
+
+private:
+    /// A number with a picture before it and a caption below it.
+    struct Tile
+    {
+        QLabel *picture;
+        QLabel *value;
+        QLabel *caption;
+    };
+
+    Tile makeTile(const QPixmap &picture = QPixmap());
+    void setUpLayout();
+    void updateButtons();
+    void retranslate();
+    [[nodiscard]] QStringList paths() const;
+
+    QSharedPointer<TXLogManager> log;
+    LogGate *gate;
+    FolderScan *scan;
+    QTimer *countsTimer;
+    QElapsedTimer sinceStart;
+    qint64 milliseconds = 0;
+
+    QLabel *folderLabel;
+    QLineEdit *folderEdit;
+    QPushButton *browseButton;
+    QPushButton *startButton;
+    QPushButton *cancelButton;
+    Tile entries;
+    Tile warnings;
+    Tile errors;
+    Tile rate;
+};

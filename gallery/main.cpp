@@ -1,0 +1,100 @@
+#include "GalleryCommandLine.h"
+#include "GalleryGrabber.h"
+#include "GalleryLanguages.h"
+#include "GallerySettings.h"
+#include "GalleryWindow.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QSettings>
+#include <QTemporaryDir>
+
+namespace {
+
+/// Lets the command line have the last word on what was remembered.
+GallerySettings combine(GallerySettings settings, const GalleryCommandLine &commandLine)
+{
+    settings.colours = commandLine.colours.value_or(settings.colours);
+    if (!commandLine.page.isEmpty()) {
+        settings.page = commandLine.page;
+    }
+    if (!commandLine.style.isEmpty()) {
+        settings.style = commandLine.style;
+    }
+    if (!commandLine.language.isEmpty()) {
+        settings.language = commandLine.language;
+    }
+    return settings;
+}
+
+/// The same on every machine, whatever the user and the system prefer.
+GallerySettings pictureSettings()
+{
+    GallerySettings settings;
+    settings.colours = GalleryColours::Light;
+    settings.style = QStringLiteral("Fusion");
+    settings.language = QStringLiteral("en");
+    return settings;
+}
+
+/// Turns all settings of the process, those of the library's windows too, to an empty folder.
+void useSettingsIn(const QString &folder)
+{
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    for (const auto scope : {QSettings::UserScope, QSettings::SystemScope}) {
+        QSettings::setPath(QSettings::IniFormat, scope, folder);
+    }
+}
+
+int takePictures(const GalleryCommandLine &commandLine)
+{
+    const QTemporaryDir settingsFolder;
+    useSettingsIn(settingsFolder.path());
+    QApplication::setCursorFlashTime(0);
+
+    GalleryLanguages languages(GalleryCommandLine::translationsFolder(),
+                               GalleryLanguages::Formats::OfLanguage);
+    GalleryWindow window(languages, combine(pictureSettings(), commandLine));
+    GalleryGrabber grabber(window, commandLine.grabTarget);
+    if (!grabber.grab(commandLine.page)) {
+        GalleryCommandLine::printError(grabber.error());
+        return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}
+
+int runGallery(const GalleryCommandLine &commandLine)
+{
+    GalleryLanguages languages(GalleryCommandLine::translationsFolder());
+    GallerySettings settings = GallerySettings::load();
+    if (settings.language.isEmpty()) {
+        settings.language = languages.systemCode();
+    }
+    GalleryWindow window(languages, combine(settings, commandLine));
+    if (settings.geometry.isEmpty()) {
+        window.resize(window.size().boundedTo(window.screen()->availableSize()));
+    }
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("TXGUICommon"));
+    QCoreApplication::setApplicationName(QStringLiteral("Gallery"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TXGALLERY_VERSION));
+
+    const GalleryCommandLine commandLine(argc, argv);
+    if (commandLine.exitCode()) {
+        return *commandLine.exitCode();
+    }
+    const bool isForPictures = !commandLine.grabTarget.isEmpty();
+    if (isForPictures && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        // Nothing flashes up, and a machine without a screen will do.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const QApplication application(argc, argv);
+    return isForPictures ? takePictures(commandLine) : runGallery(commandLine);
+}
