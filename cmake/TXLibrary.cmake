@@ -57,6 +57,9 @@ function(tx_add_library_folder library)
     endif()
   endforeach()
   target_include_directories(${library} PRIVATE ${here})
+  # Qt's generators look again for sources only when the lists of the library's own folder change.
+  get_target_property(home ${library} SOURCE_DIR)
+  set_property(DIRECTORY ${home} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${here}/CMakeLists.txt)
 
   if(arg_PRECOMPILE)
     target_precompile_headers(${library} PRIVATE ${arg_PRECOMPILE})

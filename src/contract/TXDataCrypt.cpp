@@ -67,7 +67,7 @@ bool open(const QByteArray &box, const unsigned char *key, QByteArray *clear)
 QByteArray fail(TXError *error, const char *description)
 {
     reportDataCryptError(error, TXStringI18n("TXDataCrypt", description, nullptr, -1));
-    return QByteArray();
+    return {};
 }
 
 } // namespace
@@ -86,7 +86,7 @@ QByteArray TXDataCrypt::decrypt(const QByteArray &data, TXError *error)
     }
     const unsigned char *key = keyBytes(error);
     if (!key) {
-        return QByteArray();
+        return {};
     }
     QByteArray clear;
     if (!open(*box, key, &clear)) {

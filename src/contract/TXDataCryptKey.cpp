@@ -9,6 +9,8 @@
 
 #include <sodium.h>
 
+#include <utility>
+
 static_assert(TXDataCryptKey::kBytes == crypto_aead_xchacha20poly1305_ietf_KEYBYTES);
 
 namespace {
@@ -22,9 +24,9 @@ bool fail(TXError *error, const TXStringI18n &description)
 bool failToMake(TXError *error, const QString &path, const QString &reason)
 {
     return fail(error,
-                TXStringI18n("TXDataCrypt", "The key file %1 cannot be made: %2", nullptr, -1)
-                    .arg(path)
-                    .arg(reason));
+                TXStringI18n("TXDataCrypt", "The key file %2 cannot be made: %1", nullptr, -1)
+                    .arg(reason)
+                    .arg(path));
 }
 
 bool makePrivateFolder(const QString &path)
@@ -39,21 +41,27 @@ bool makePrivateFolder(const QString &path)
 /// is the name of that file, empty on failure.
 QString writeNewKey(const QString &path, QString *reason)
 {
-    QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
+    QTemporaryFile place(path + QStringLiteral(".XXXXXX"));
+    if (!place.open()) {
+        *reason = place.errorString();
+        return {};
+    }
+    // Opened again, since the temporary file would leave the key in its buffer.
+    QFile file(place.fileName());
     std::array<char, TXDataCryptKey::kBytes> bytes;
     randombytes_buf(bytes.data(), bytes.size());
-    const bool isWritten = file.open()
-        && file.write(bytes.data(), bytes.size()) == TXDataCryptKey::kBytes && file.flush();
+    const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+        && file.write(bytes.data(), bytes.size()) == TXDataCryptKey::kBytes;
     sodium_memzero(bytes.data(), bytes.size());
-    file.setAutoRemove(!isWritten);
+    place.setAutoRemove(!isWritten);
     *reason = file.errorString();
     return isWritten ? file.fileName() : QString();
 }
 
 } // namespace
 
-TXDataCryptKey::TXDataCryptKey(const QString &path)
-    : path(path)
+TXDataCryptKey::TXDataCryptKey(QString path)
+    : path(std::move(path))
 { }
 
 TXDataCryptKey::~TXDataCryptKey()
@@ -91,11 +99,11 @@ bool TXDataCryptKey::read(TXError *error)
     if (size != kBytes || file.read(reinterpret_cast<char *>(key.data()), kBytes) != kBytes) {
         return fail(error,
                     TXStringI18n("TXDataCrypt",
-                                 "The key file %1 is damaged: it has %2 bytes instead of %3",
+                                 "The key file %3 is damaged: it has %1 bytes instead of %2",
                                  nullptr, -1)
-                        .arg(path)
                         .arg(QString::number(size))
-                        .arg(QString::number(kBytes)));
+                        .arg(QString::number(kBytes))
+                        .arg(path));
     }
     return true;
 }

@@ -17,7 +17,7 @@ public:
     static constexpr qint64 kBytes = 32;
 
     /// Touches nothing yet.
-    explicit TXDataCryptKey(const QString &path);
+    explicit TXDataCryptKey(QString path);
     ~TXDataCryptKey();
     Q_DISABLE_COPY_MOVE(TXDataCryptKey)
 

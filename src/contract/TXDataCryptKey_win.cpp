@@ -4,6 +4,8 @@
 
 #include <qt_windows.h>
 
+#include <string>
+
 namespace {
 
 std::wstring nativePath(const QString &path)

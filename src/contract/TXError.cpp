@@ -3,11 +3,12 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr int kIndentCharacters = 4;
+constexpr QStringView kIndent = u"    ";
 // Deeper levels line up with this one, or the indentation alone would cost the square of the depth.
 constexpr int kDeepestIndentLevel = 32;
 
@@ -20,9 +21,9 @@ struct Pending
 
 void pushSubErrors(const TXError &error, int level, QList<Pending> *stack)
 {
-    for (auto it = error.subErrors.crbegin(); it != error.subErrors.crend(); ++it) {
-        stack->append({&*it, level});
-    }
+    std::for_each(error.subErrors.crbegin(), error.subErrors.crend(), [=](const TXError &nested) {
+        stack->append({&nested, level});
+    });
 }
 
 QStringList originLines(const TXError &error)
@@ -46,7 +47,7 @@ QString nestedLine(const TXError &error, int level)
     if (text.isEmpty()) {
         return text;
     }
-    const QString indent(kIndentCharacters * qMin(level, kDeepestIndentLevel), u' ');
+    const QString indent = kIndent.toString().repeated(qMin(level, kDeepestIndentLevel));
     return indent + text.replace(u'\n', u'\n' + indent);
 }
 

@@ -11,7 +11,7 @@ using Argument = TXStringI18nData::Argument;
 
 namespace {
 
-constexpr qsizetype kLongestMultipliedCharacters = 1024 * 1024;
+constexpr qsizetype kLongestMultipliedCharacters = 1'000'000;
 constexpr int kHighestMarker = 99;
 
 // The fields of a flat form, in their order. A plain text has the one field.
@@ -93,7 +93,7 @@ QStringList toFields(const TXStringI18nData &data)
 
 bool readArgument(const QStringList &fields, qsizetype first, Argument *argument)
 {
-    const QString fillChar = fields.at(first + FillChar);
+    const QString &fillChar = fields.at(first + FillChar);
     bool isNumber = false;
     argument->text = fields.at(first + Text);
     argument->fieldWidth = fields.at(first + FieldWidth).toInt(&isNumber);

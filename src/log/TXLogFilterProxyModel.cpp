@@ -8,17 +8,13 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
 bool isIn(int column)
 {
     return column >= 0 && column < TXLogModel::ColumnCount;
-}
-
-TXLogRowMapping *mappingOf(const QModelIndex &proxyIndex)
-{
-    return static_cast<TXLogRowMapping *>(proxyIndex.internalPointer());
 }
 
 } // namespace
@@ -74,22 +70,20 @@ QModelIndex TXLogFilterProxyModel::index(int row, int column, const QModelIndex 
     }
     TXLogRowMapping *mapping = mappingBelow(parent);
     const bool isShown = mapping && row < mapping->shownCount();
-    return isShown ? createIndex(row, column, mapping) : QModelIndex();
+    return isShown ? createIndex(row, column, mapping->id()) : QModelIndex();
 }
 
 QModelIndex TXLogFilterProxyModel::parent(const QModelIndex &child) const
 {
-    return child.isValid() && child.model() == this ? proxyIndexAbove(*::mappingOf(child))
-                                                    : QModelIndex();
+    const TXLogRowMapping *mapping = mappingWith(child);
+    return mapping ? proxyIndexAbove(*mapping) : QModelIndex();
 }
 
 QModelIndex TXLogFilterProxyModel::sibling(int row, int column, const QModelIndex &index) const
 {
-    if (!index.isValid() || index.model() != this || row < 0 || !isIn(column)) {
-        return {};
-    }
-    TXLogRowMapping *mapping = ::mappingOf(index);
-    return row < mapping->shownCount() ? createIndex(row, column, mapping) : QModelIndex();
+    const TXLogRowMapping *mapping = mappingWith(index);
+    const bool isShown = mapping && row >= 0 && row < mapping->shownCount() && isIn(column);
+    return isShown ? createIndex(row, column, mapping->id()) : QModelIndex();
 }
 
 int TXLogFilterProxyModel::rowCount(const QModelIndex &parent) const
@@ -110,12 +104,10 @@ bool TXLogFilterProxyModel::hasChildren(const QModelIndex &parent) const
 
 QModelIndex TXLogFilterProxyModel::mapToSource(const QModelIndex &proxyIndex) const
 {
-    if (!log || !proxyIndex.isValid() || proxyIndex.model() != this) {
-        return {};
-    }
-    const TXLogRowMapping *mapping = ::mappingOf(proxyIndex);
-    return log->index(int(mapping->sourceRowAt(proxyIndex.row())), proxyIndex.column(),
-                      sourceIndexAbove(*mapping));
+    const TXLogRowMapping *mapping = mappingWith(proxyIndex);
+    return mapping ? log->index(int(mapping->sourceRowAt(proxyIndex.row())), proxyIndex.column(),
+                                sourceIndexAbove(*mapping))
+                   : QModelIndex();
 }
 
 QModelIndex TXLogFilterProxyModel::mapFromSource(const QModelIndex &sourceIndex) const
@@ -125,7 +117,7 @@ QModelIndex TXLogFilterProxyModel::mapFromSource(const QModelIndex &sourceIndex)
     }
     TXLogRowMapping *mapping = mappingOf(sourceIndex.parent(), true);
     const qsizetype row = mapping ? mapping->shownRowOf(sourceIndex.row()) : -1;
-    return row < 0 ? QModelIndex() : createIndex(int(row), sourceIndex.column(), mapping);
+    return row < 0 ? QModelIndex() : createIndex(int(row), sourceIndex.column(), mapping->id());
 }
 
 QVariant TXLogFilterProxyModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -284,9 +276,26 @@ bool TXLogFilterProxyModel::accepts(int sourceRow, const QModelIndex &sourcePare
         return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
     }
     const QModelIndex index = log->index(sourceRow, TXLogModel::LevelColumn, sourceParent);
-    const int level = static_cast<const TXLogItem *>(index.internalPointer())->level;
+    return acceptsLevel(static_cast<const TXLogItem *>(index.internalPointer())->level);
+}
+
+bool TXLogFilterProxyModel::acceptsLevel(int level) const
+{
     const bool isNamed = level == TXLogItem::Warning || level == TXLogItem::Error;
     return acceptedLevels[size_t(isNamed ? level : TXLogItem::Information)];
+}
+
+/// Which of the source rows below an index the filter lets through.
+QList<bool> TXLogFilterProxyModel::acceptedRows(const QModelIndex &sourceParent) const
+{
+    const auto items = log->itemsBelow(sourceParent);
+    QList<bool> accepted;
+    accepted.reserve(items.size());
+    for (const QSharedPointer<TXLogItem> &item : items) {
+        accepted.append(isLevelFilter ? acceptsLevel(item->level)
+                                      : accepts(int(accepted.size()), sourceParent));
+    }
+    return accepted;
 }
 
 bool TXLogFilterProxyModel::isSorting() const
@@ -319,6 +328,31 @@ bool TXLogFilterProxyModel::isBefore(const QVariant &left, const QVariant &right
     }
 }
 
+/// Sub-items have no date, so that sorting by date leaves them as they are.
+bool TXLogFilterProxyModel::isEverythingEqual(const QModelIndex &sourceParent) const
+{
+    return sourceParent.isValid() && sortColumn() == TXLogModel::DateColumn;
+}
+
+std::vector<QVariant> TXLogFilterProxyModel::sortKeys(const Rows &rows,
+                                                      const QModelIndex &sourceParent) const
+{
+    std::vector<QVariant> keys;
+    keys.reserve(size_t(rows.size()));
+    if (sortColumn() == TXLogModel::DateColumn && sortRole() == Qt::DisplayRole) {
+        // What sorting mostly asks for, without the way through the model for each row.
+        const auto items = log->itemsBelow(sourceParent);
+        for (const qsizetype row : rows) {
+            keys.push_back(sourceParent.isValid() ? QVariant() : items.at(row)->date);
+        }
+        return keys;
+    }
+    for (const qsizetype row : rows) {
+        keys.push_back(sortKey(row, sourceParent));
+    }
+    return keys;
+}
+
 /// A stable sort that asks each row for its key once; one pass where the rows are in order.
 void TXLogFilterProxyModel::sortRows(Rows &rows, const QModelIndex &sourceParent) const
 {
@@ -326,18 +360,20 @@ void TXLogFilterProxyModel::sortRows(Rows &rows, const QModelIndex &sourceParent
         std::sort(rows.begin(), rows.end());
         return;
     }
-    std::vector<std::pair<QVariant, qsizetype>> keyed;
-    keyed.reserve(size_t(rows.size()));
-    for (const qsizetype row : qAsConst(rows)) {
-        keyed.emplace_back(sortKey(row, sourceParent), row);
+    if (isEverythingEqual(sourceParent)) {
+        return;
     }
-    const auto isBeforeByKey = [this](const auto &left, const auto &right) {
-        return isBefore(left.first, right.first);
+    const std::vector<QVariant> keys = sortKeys(rows, sourceParent);
+    const auto isBeforeByKey = [&](size_t left, size_t right) {
+        return isBefore(keys[left], keys[right]);
     };
-    if (!std::is_sorted(keyed.begin(), keyed.end(), isBeforeByKey)) {
-        std::stable_sort(keyed.begin(), keyed.end(), isBeforeByKey);
-        std::transform(keyed.begin(), keyed.end(), rows.begin(),
-                       [](const auto &pair) { return pair.second; });
+    std::vector<size_t> positions(keys.size());
+    std::iota(positions.begin(), positions.end(), size_t(0));
+    if (!std::is_sorted(positions.begin(), positions.end(), isBeforeByKey)) {
+        std::stable_sort(positions.begin(), positions.end(), isBeforeByKey);
+        const Rows unsorted = rows;
+        std::transform(positions.begin(), positions.end(), rows.begin(),
+                       [&](size_t position) { return unsorted.at(qsizetype(position)); });
     }
 }
 
@@ -377,30 +413,34 @@ qsizetype TXLogFilterProxyModel::findPlace(const TXLogRowMapping &mapping, qsize
 TXLogFilterProxyModel::Rows TXLogFilterProxyModel::mergeRows(const Rows &kept, const Rows &added,
                                                              const QModelIndex &sourceParent) const
 {
+    if (kept.isEmpty() || added.isEmpty()) {
+        return kept + added;
+    }
     const bool isByKey = isSorting() && dynamicSortFilter();
-    const auto keyOf = [&](qsizetype row) {
-        return isByKey ? sortKey(row, sourceParent) : QVariant::fromValue(row);
+    const auto keptKeys = isByKey ? sortKeys(kept, sourceParent) : std::vector<QVariant>();
+    const auto addedKeys = isByKey ? sortKeys(added, sourceParent) : std::vector<QVariant>();
+    qsizetype stays = 0;
+    qsizetype comes = 0;
+    const auto isComingFirst = [&] {
+        return isByKey ? isBefore(addedKeys[size_t(comes)], keptKeys[size_t(stays)])
+                       : added.at(comes) < kept.at(stays);
     };
-    const auto comesBefore = [&](const QVariant &left, const QVariant &right) {
-        return isByKey ? isBefore(left, right) : left.value<qsizetype>() < right.value<qsizetype>();
+    const auto isStayingFirst = [&] {
+        return isByKey ? isBefore(keptKeys[size_t(stays)], addedKeys[size_t(comes)])
+                       : kept.at(stays) < added.at(comes);
     };
     Rows merged;
     merged.reserve(kept.size() + added.size());
-    auto next = kept.cbegin();
-    auto coming = added.cbegin();
-    while (coming != added.cend()) {
-        const QVariant key = keyOf(*coming);
-        while (next != kept.cend() && !comesBefore(key, keyOf(*next))) {
-            merged.append(*next++);
+    while (comes < added.size()) {
+        while (stays < kept.size() && !isComingFirst()) {
+            merged.append(kept.at(stays++));
         }
-        merged.append(*coming++);
-        while (coming != added.cend()
-               && (next == kept.cend() || !comesBefore(keyOf(*next), keyOf(*coming)))) {
-            merged.append(*coming++);
+        merged.append(added.at(comes++));
+        while (comes < added.size() && (stays == kept.size() || !isStayingFirst())) {
+            merged.append(added.at(comes++));
         }
     }
-    std::copy(next, kept.cend(), std::back_inserter(merged));
-    return merged;
+    return merged + kept.mid(stays);
 }
 
 TXLogRowMapping *TXLogFilterProxyModel::topLevel() const
@@ -412,16 +452,23 @@ TXLogRowMapping *TXLogFilterProxyModel::topLevel() const
     return top.get();
 }
 
+/// The mapping that an index of the proxy stands in; null for any other index.
+TXLogRowMapping *TXLogFilterProxyModel::mappingWith(const QModelIndex &proxyIndex) const
+{
+    const bool isOurs = top && proxyIndex.isValid() && proxyIndex.model() == this;
+    return isOurs ? top->find(proxyIndex.internalId()) : nullptr;
+}
+
 /// The mapping of what is shown below an index of the proxy; null where there is nothing.
 TXLogRowMapping *TXLogFilterProxyModel::mappingBelow(const QModelIndex &proxyParent) const
 {
     if (!proxyParent.isValid()) {
         return topLevel();
     }
-    if (proxyParent.model() != this) {
+    TXLogRowMapping *mapping = mappingWith(proxyParent);
+    if (!mapping) {
         return nullptr;
     }
-    TXLogRowMapping *mapping = ::mappingOf(proxyParent);
     const qsizetype sourceRow = mapping->sourceRowAt(proxyParent.row());
     if (TXLogRowMapping *known = mapping->below(sourceRow)) {
         return known;
@@ -457,12 +504,15 @@ TXLogRowMapping *TXLogFilterProxyModel::belowRow(TXLogRowMapping &mapping, qsize
     return made;
 }
 
+/// Fills a new mapping with the first rows below an index of the log.
 void TXLogFilterProxyModel::fill(TXLogRowMapping &mapping, const QModelIndex &sourceParent,
                                  int sourceCount) const
 {
+    const QList<bool> accepted = acceptedRows(sourceParent);
     Rows rows;
+    rows.reserve(sourceCount);
     for (int row = 0; row < sourceCount; ++row) {
-        if (accepts(row, sourceParent)) {
+        if (accepted.at(row)) {
             rows.append(row);
         }
     }
@@ -480,8 +530,8 @@ QModelIndex TXLogFilterProxyModel::sourceIndexAbove(const TXLogRowMapping &mappi
 
 QModelIndex TXLogFilterProxyModel::proxyIndexAbove(const TXLogRowMapping &mapping) const
 {
-    TXLogRowMapping *above = mapping.above();
-    return above ? createIndex(int(above->shownRowOf(mapping.sourceRowInAbove())), 0, above)
+    const TXLogRowMapping *above = mapping.above();
+    return above ? createIndex(int(above->shownRowOf(mapping.sourceRowInAbove())), 0, above->id())
                  : QModelIndex();
 }
 
@@ -530,7 +580,7 @@ void TXLogFilterProxyModel::sortingChanged()
 void TXLogFilterProxyModel::removeRowsAroundCurrentIndex()
 {
     const QModelIndex current = selection ? selection->currentIndex() : QModelIndex();
-    if (!current.isValid() || current.model() != this) {
+    if (!mappingWith(current)) {
         return;
     }
     // Below an entry that goes itself, nothing has a neighbour to move to.
@@ -540,7 +590,7 @@ void TXLogFilterProxyModel::removeRowsAroundCurrentIndex()
             return;
         }
     }
-    TXLogRowMapping *mapping = ::mappingOf(current);
+    TXLogRowMapping *mapping = mappingWith(current);
     const QModelIndex sourceParent = sourceIndexAbove(*mapping);
     const auto goes = [&](int row) {
         return !accepts(int(mapping->sourceRowAt(row)), sourceParent);
@@ -563,29 +613,27 @@ void TXLogFilterProxyModel::removeRowsAroundCurrentIndex()
 
 bool TXLogFilterProxyModel::isAnyRowAffected(const TXLogRowMapping &mapping) const
 {
-    const QModelIndex sourceParent = sourceIndexAbove(mapping);
+    const QList<bool> accepted = acceptedRows(sourceIndexAbove(mapping));
     for (int row = 0; row < mapping.sourceCount(); ++row) {
-        const bool isShown = mapping.shownRowOf(row) >= 0;
-        if (isShown != accepts(row, sourceParent)) {
-            return true;
-        }
-        const TXLogRowMapping *below = mapping.below(row);
-        if (below && isAnyRowAffected(*below)) {
+        if (accepted.at(row) != (mapping.shownRowOf(row) >= 0)) {
             return true;
         }
     }
-    return false;
+    const auto below = mapping.allBelow();
+    return std::any_of(below.begin(), below.end(),
+                       [this](const TXLogRowMapping *one) { return isAnyRowAffected(*one); });
 }
 
 void TXLogFilterProxyModel::filterRows(TXLogRowMapping &mapping,
                                        std::vector<std::unique_ptr<TXLogRowMapping>> *gone)
 {
     const QModelIndex sourceParent = sourceIndexAbove(mapping);
+    const QList<bool> accepted = acceptedRows(sourceParent);
     Rows kept = mapping.shownSourceRows();
-    kept.removeIf([&](qsizetype row) { return !accepts(int(row), sourceParent); });
+    kept.removeIf([&](qsizetype row) { return !accepted.at(row); });
     Rows added;
     for (int row = 0; row < mapping.sourceCount(); ++row) {
-        if (mapping.shownRowOf(row) < 0 && accepts(row, sourceParent)) {
+        if (accepted.at(row) && mapping.shownRowOf(row) < 0) {
             added.append(row);
         }
     }
@@ -619,8 +667,9 @@ QList<TXLogFilterProxyModel::Remembered> TXLogFilterProxyModel::rememberPersiste
     const QModelIndexList indexes = persistentIndexList();
     remembered.reserve(indexes.size());
     for (const QModelIndex &index : indexes) {
-        TXLogRowMapping *mapping = ::mappingOf(index);
-        remembered.append({index, mapping, mapping->sourceRowAt(index.row())});
+        if (const TXLogRowMapping *mapping = mappingWith(index)) {
+            remembered.append({index, mapping, mapping->sourceRowAt(index.row())});
+        }
     }
     return remembered;
 }
@@ -632,7 +681,8 @@ void TXLogFilterProxyModel::restorePersistentIndexes(const QList<Remembered> &re
     for (const Remembered &one : remembered) {
         const qsizetype row = one.mapping->isInUse() ? one.mapping->shownRowOf(one.sourceRow) : -1;
         from.append(one.index);
-        to.append(row < 0 ? QModelIndex() : createIndex(int(row), one.index.column(), one.mapping));
+        to.append(row < 0 ? QModelIndex()
+                          : createIndex(int(row), one.index.column(), one.mapping->id()));
     }
     changePersistentIndexList(from, to);
 }

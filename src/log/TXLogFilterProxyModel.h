@@ -83,7 +83,7 @@ private:
     struct Remembered
     {
         QModelIndex index;
-        TXLogRowMapping *mapping;
+        const TXLogRowMapping *mapping;
         qsizetype sourceRow;
     };
 
@@ -92,8 +92,12 @@ private:
     void updateLevelFilter();
 
     bool accepts(int sourceRow, const QModelIndex &sourceParent) const;
+    bool acceptsLevel(int level) const;
+    QList<bool> acceptedRows(const QModelIndex &sourceParent) const;
     bool isSorting() const;
+    bool isEverythingEqual(const QModelIndex &sourceParent) const;
     QVariant sortKey(qsizetype sourceRow, const QModelIndex &sourceParent) const;
+    std::vector<QVariant> sortKeys(const Rows &rows, const QModelIndex &sourceParent) const;
     bool isBefore(const QVariant &left, const QVariant &right) const;
     void sortRows(Rows &rows, const QModelIndex &sourceParent) const;
     qsizetype findPlace(const TXLogRowMapping &mapping, qsizetype sourceRow,
@@ -101,6 +105,7 @@ private:
     Rows mergeRows(const Rows &kept, const Rows &added, const QModelIndex &sourceParent) const;
 
     TXLogRowMapping *topLevel() const;
+    TXLogRowMapping *mappingWith(const QModelIndex &proxyIndex) const;
     TXLogRowMapping *mappingBelow(const QModelIndex &proxyParent) const;
     TXLogRowMapping *mappingOf(const QModelIndex &sourceParent, bool mayBeMade) const;
     TXLogRowMapping *belowRow(TXLogRowMapping &mapping, qsizetype sourceRow,

@@ -128,6 +128,11 @@ QModelIndex TXLogModel::index(TXLogItem *item, int column, const QModelIndex &pa
     return row >= 0 && above ? createIndex(row, column, item) : QModelIndex();
 }
 
+QList<QSharedPointer<TXLogItem>> TXLogModel::itemsBelow(const QModelIndex &parent) const
+{
+    return rows.value(itemOf(parent));
+}
+
 void TXLogModel::clear()
 {
     beginResetModel();

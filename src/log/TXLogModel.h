@@ -55,6 +55,10 @@ public:
         return std::as_const(*this).index(row, column, parent);
     }
 
+    /// The items in the rows below `parent`, in row order. For proxies that look at all of them;
+    /// the list is shared, not copied.
+    QList<QSharedPointer<TXLogItem>> itemsBelow(const QModelIndex &parent) const;
+
 public slots:
     /// Empties the log itself, and with it the view.
     void clear();

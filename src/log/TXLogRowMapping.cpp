@@ -9,11 +9,28 @@ constexpr qint64 kHidden = std::numeric_limits<qint64>::min();
 
 } // namespace
 
+TXLogRowMapping::TXLogRowMapping() = default;
+
+TXLogRowMapping::TXLogRowMapping(TXLogRowMapping *parent, qint64 number)
+    : parent(parent)
+    , numberInParent(number)
+    , ownId(++parent->topLevel->lastId)
+    , topLevel(parent->topLevel)
+{
+    topLevel->mappingsBelow.insert(ownId, this);
+}
+
 TXLogRowMapping::~TXLogRowMapping()
 {
     for (const Row &row : qAsConst(rows)) {
         delete row.below;
     }
+    topLevel->mappingsBelow.remove(ownId);
+}
+
+TXLogRowMapping *TXLogRowMapping::find(quintptr id)
+{
+    return id == ownId ? this : mappingsBelow.value(id);
 }
 
 void TXLogRowMapping::appendSourceRows(qsizetype count)
@@ -104,10 +121,7 @@ TXLogRowMapping *TXLogRowMapping::below(qsizetype sourceRow) const
 
 TXLogRowMapping *TXLogRowMapping::makeBelow(qsizetype sourceRow)
 {
-    auto mapping = std::make_unique<TXLogRowMapping>();
-    mapping->parent = this;
-    mapping->numberInParent = sourceRow + droppedRows;
-    rows[sourceRow].below = mapping.release();
+    rows[sourceRow].below = new TXLogRowMapping(this, sourceRow + droppedRows);
     return rows.at(sourceRow).below;
 }
 

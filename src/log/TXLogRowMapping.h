@@ -2,6 +2,7 @@
 
 #include "TXGUICommonExport.h"
 
+#include <QHash>
 #include <QList>
 
 #include <memory>
@@ -15,10 +16,18 @@
 class TXGUICOMMON_PRIVATE_EXPORT TXLogRowMapping
 {
 public:
-    /// The mapping of the children of the top level.
-    TXLogRowMapping() = default;
+    /// The mapping of the top level.
+    TXLogRowMapping();
     ~TXLogRowMapping();
     Q_DISABLE_COPY_MOVE(TXLogRowMapping)
+
+    /// A number by which find() knows this mapping, 0 for the top level, never given twice. An
+    /// index that outlives its mapping can carry it without harm, which views do until they are
+    /// laid out.
+    [[nodiscard]] quintptr id() const { return ownId; }
+
+    /// The mapping of this tree with the given id, null when it has gone. For the top level only.
+    [[nodiscard]] TXLogRowMapping *find(quintptr id);
 
     [[nodiscard]] qsizetype sourceCount() const { return rows.size(); }
     [[nodiscard]] qsizetype shownCount() const { return order.size(); }
@@ -29,10 +38,10 @@ public:
     /// Drops source row 0, which must be hidden; all others move up by one.
     void dropFirstSourceRow();
 
-    /// The source row that stands in a shown row from 0 to shownCount() - 1.
+    /// The source row that stands in a shown row, -1 outside of 0 to shownCount() - 1.
     [[nodiscard]] qsizetype sourceRowAt(qsizetype shownRow) const
     {
-        return order.at(shownRow) - droppedRows;
+        return shownRow < order.size() ? order.at(shownRow) - droppedRows : -1;
     }
 
     /// The shown row of a source row, -1 for one that is hidden or outside.
@@ -83,6 +92,9 @@ private:
         TXLogRowMapping *below;
     };
 
+    using Register = QHash<quintptr, TXLogRowMapping *>;
+
+    TXLogRowMapping(TXLogRowMapping *parent, qint64 number);
     void renumber(qsizetype first, qsizetype end);
 
     QList<qint64> order; // running numbers in shown order
@@ -92,4 +104,8 @@ private:
     TXLogRowMapping *parent = nullptr;
     qint64 numberInParent = 0;
     bool isHandedOut = false;
+    quintptr ownId = 0;
+    TXLogRowMapping *topLevel = this;
+    Register mappingsBelow; // of the top level only: all that exist
+    quintptr lastId = 0; // of the top level only
 };

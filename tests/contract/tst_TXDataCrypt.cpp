@@ -1,12 +1,15 @@
 #include "TXDataCrypt.h"
 
+#include "HelperProcess.h"
 #include "TXError.h"
 #include "TestBase.h"
 
-#include <QProcess>
+#include <QFile>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QThread>
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -16,17 +19,6 @@ QString keyFile()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
         + QStringLiteral("/TXGUICommon/datacrypt.key");
-}
-
-/// What another process answers; it finds the same home folder as this one.
-QByteArray askOtherProcess(const QByteArray &line)
-{
-    QProcess process;
-    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/keymaker"));
-    process.write(line + '\n');
-    process.closeWriteChannel();
-    process.waitForFinished();
-    return process.readAllStandardOutput().trimmed();
 }
 
 } // namespace
@@ -62,7 +54,7 @@ void TestTXDataCrypt::decryptUndoesEncrypt_data()
     QTest::addRow("one byte") << QByteArray("x");
     QTest::addRow("UTF-8") << QByteArray("p\xc3\xa4ssw\xc3\xb6rd");
     QTest::addRow("every byte") << everyByte;
-    QTest::addRow("large") << QByteArray(3 * 1024 * 1024 + 1, 'x');
+    QTest::addRow("large") << QByteArray(3'000'001, 'x');
 }
 
 void TestTXDataCrypt::decryptUndoesEncrypt()
@@ -119,9 +111,9 @@ void TestTXDataCrypt::clearDataDoesNotShow()
 void TestTXDataCrypt::otherProcessesReadAndWriteTheSame()
 {
     const QByteArray ours = TXDataCrypt::encrypt("ours", nullptr);
-    const QByteArray theirs = askOtherProcess("encrypt theirs");
+    const QByteArray theirs = askHelper("encrypt theirs");
 
-    QCOMPARE(askOtherProcess("decrypt " + ours), QByteArray("ours"));
+    QCOMPARE(askHelper("decrypt " + ours), QByteArray("ours"));
     QCOMPARE(TXDataCrypt::decrypt(theirs, nullptr), QByteArray("theirs"));
 }
 
@@ -181,15 +173,14 @@ void TestTXDataCrypt::damagedKeyFileIsAnErrorInANewProcess()
     QVERIFY(damaged.open(QIODevice::WriteOnly));
     damaged.close();
 
-    const QByteArray answers =
-        askOtherProcess("encrypt x") + askOtherProcess("decrypt " + enciphered);
+    const QByteArray answers = askHelper("encrypt x") + askHelper("decrypt " + enciphered);
     const qint64 sizeAfterwards = damaged.size();
 
     QVERIFY(damaged.remove());
     QVERIFY(QFile::rename(aside, keyFile()));
     QCOMPARE(answers, QByteArray());
     QCOMPARE(sizeAfterwards, 0);
-    QCOMPARE(askOtherProcess("decrypt " + enciphered), QByteArray("secret"));
+    QCOMPARE(askHelper("decrypt " + enciphered), QByteArray("secret"));
 }
 
 void TestTXDataCrypt::threadsMayEncipherAtOnce()

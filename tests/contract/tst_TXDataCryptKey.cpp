@@ -1,12 +1,16 @@
 #include "TXDataCryptKey.h"
 
+#include "HelperProcess.h"
 #include "TXError.h"
 #include "TestBase.h"
 
-#include <QProcess>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -58,6 +62,7 @@ private slots:
     void folderThatCannotBeMadeIsAnError();
     void folderThatCannotBeWrittenIsAnError();
     void failureIsTriedAgain();
+    void pathWithMarkersIsToldAsItIs();
     void nullErrorIsAccepted();
     void fileThatIsThereIsNeverReplaced();
     void processesThatStartTogetherAgree();
@@ -248,6 +253,18 @@ void TestTXDataCryptKey::failureIsTriedAgain()
     QVERIFY(key.bytes(nullptr));
 }
 
+void TestTXDataCryptKey::pathWithMarkersIsToldAsItIs()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("%1 %2 %3"));
+    write(path, "x");
+    TXError error;
+
+    QVERIFY(keyIn(path, &error).isEmpty());
+
+    QVERIFY(error.getLocalizedDescription().contains(path));
+}
+
 void TestTXDataCryptKey::nullErrorIsAccepted()
 {
     const QTemporaryDir folder;
@@ -278,8 +295,7 @@ void TestTXDataCryptKey::processesThatStartTogetherAgree()
     std::vector<std::unique_ptr<QProcess>> processes;
     for (int i = 0; i < kProcesses; ++i) {
         processes.push_back(std::make_unique<QProcess>());
-        processes.back()->start(QCoreApplication::applicationDirPath()
-                                + QStringLiteral("/keymaker"));
+        processes.back()->start(helperProgram());
         QVERIFY(processes.back()->waitForStarted());
     }
 
@@ -315,6 +331,7 @@ void TestTXDataCryptKey::threadsThatStartTogetherAgree()
         TXDataCryptKey shared(folder.filePath(QString::number(round)));
         std::array<QByteArray, kThreads> keys;
         std::vector<std::unique_ptr<QThread>> threads;
+        threads.reserve(kThreads);
         for (QByteArray &key : keys) {
             threads.emplace_back(QThread::create([&shared, &key] {
                 if (const unsigned char *bytes = shared.bytes(nullptr)) {

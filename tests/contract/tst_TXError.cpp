@@ -2,6 +2,9 @@
 
 #include "TestBase.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 namespace {
 
 constexpr int kVeryDeep = 100000;
@@ -225,7 +228,7 @@ void TestTXError::veryDeepNestingNeedsNoStack()
     QCOMPARE(text.count(u'\n'), kVeryDeep);
     QVERIFY(text.endsWith(QStringLiteral(" innermost")));
     // Indentation that grew without end would make this 20 GB.
-    QVERIFY(text.size() < kVeryDeep * 200);
+    QVERIFY(text.size() < qsizetype(kVeryDeep) * 200);
 }
 
 void TestTXError::sharedDeepNestingNeedsNoStack()

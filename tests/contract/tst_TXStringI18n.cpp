@@ -3,6 +3,15 @@
 #include "TXFlatString.h"
 #include "TestBase.h"
 
+#include <QCoreApplication>
+#include <QFile>
+#include <QHash>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTranslator>
 
 namespace {
@@ -94,6 +103,7 @@ private slots:
     void localisedNumberIsWrittenInTheDefaultLocale();
     void argumentsAreFilledAsTheStringClassDoes_data();
     void argumentsAreFilledAsTheStringClassDoes();
+    void randomTextsAreFilledAsTheStringClassDoes();
     void argumentWithoutMarkerIsLeftOutSilently();
     void argLeavesTheOriginalAlone();
     void multiplyingArgumentsStayBounded();
@@ -316,6 +326,37 @@ void TestTXStringI18n::argumentsAreFilledAsTheStringClassDoes()
     QCOMPARE(TXStringI18n::fromString(text.toFlatString()).toString(nullptr), expected);
 }
 
+void TestTXStringI18n::randomTextsAreFilledAsTheStringClassDoes()
+{
+    // The string class warns where there is no marker, so it is not asked then.
+    const QRegularExpression marker(QStringLiteral("%L?[0-9]"));
+    QRandomGenerator random(1);
+    const auto randomText = [&random](int length) {
+        const QString characters = QStringLiteral("%%%%%L0123x");
+        QString text;
+        for (int i = 0; i < length; ++i) {
+            text += characters.at(random.bounded(int(characters.size())));
+        }
+        return text;
+    };
+    for (int round = 0; round < 20000; ++round) {
+        QString expected = u'x' + randomText(12);
+        TXStringI18n text(expected.toLatin1().constData());
+        TXStringI18n fromPlain = plain(expected);
+        for (int i = 0; i < 4; ++i) {
+            const QString argument = randomText(random.bounded(5));
+            const int fieldWidth = random.bounded(-6, 7);
+            text = text.arg(argument, fieldWidth, u'%');
+            fromPlain = fromPlain.arg(argument, fieldWidth, u'%');
+            if (expected.contains(marker)) {
+                expected = expected.arg(argument, fieldWidth, u'%');
+            }
+        }
+        QCOMPARE(text.toString(nullptr), expected);
+        QCOMPARE(fromPlain.toString(nullptr), expected);
+    }
+}
+
 void TestTXStringI18n::argumentWithoutMarkerIsLeftOutSilently()
 {
     for (const char *source : {"none", "%", "%L", "%x 1", "%L%"}) {
@@ -344,12 +385,12 @@ void TestTXStringI18n::multiplyingArgumentsStayBounded()
         text = text.arg(QStringLiteral("%%1").arg(i).repeated(10));
     }
 
-    QVERIFY(text.toString(nullptr).size() <= 4 * 1024 * 1024);
+    QVERIFY(text.toString(nullptr).size() <= 4'000'000);
 }
 
 void TestTXStringI18n::oneLongArgumentIsFilled()
 {
-    const QString longText(3 * 1024 * 1024, u'x');
+    const QString longText(3'000'000, u'x');
     const TXStringI18n text("%1 to %2");
 
     QCOMPARE(text.arg(longText).arg(QStringLiteral("b")).toString(nullptr),

@@ -338,10 +338,11 @@ void TestTXLogFilterProxyModel::behavesLikeAPlainProxyUnderAView()
             for (const QModelIndex &index : allIndexes(*ours.proxy)) {
                 QCOMPARE(ours.proxy->mapFromSource(ours.proxy->mapToSource(index)), index);
             }
-            // Below a hidden entry the plain proxy makes up indexes that nothing shows.
+            // Below a hidden entry the plain proxy would make up indexes that nothing shows, and
+            // lose track of what arrives there.
             for (const QModelIndex &index : allIndexes(*log)) {
-                const QModelIndex above = plain.proxy->mapFromSource(index.parent());
-                if (above.isValid() || !index.parent().isValid()) {
+                if (!index.parent().isValid()
+                    || ours.proxy->mapFromSource(index.parent()).isValid()) {
                     QCOMPARE(ours.proxy->mapFromSource(index).row(),
                              plain.proxy->mapFromSource(index).row());
                 }
@@ -493,7 +494,7 @@ void TestTXLogFilterProxyModel::propertiesOfTheBaseAreFollowed()
     QCOMPARE(texts().join(u""), QStringLiteral("a"));
 
     base->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    QCOMPARE(texts().join(u""), QStringLiteral("Aa"));
+    QCOMPARE(texts().join(u""), QStringLiteral("aA"));
 
     base->setFilterRole(Qt::ToolTipRole);
     QCOMPARE(texts(), QStringList());

@@ -2,6 +2,7 @@
 #include "TestBase.h"
 
 #include <QPushButton>
+#include <QSignalSpy>
 
 class TestDialogDriver : public TestBase
 {
