@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr int kReadyLimitMilliseconds = 30000;
 const QString kSuffix = QStringLiteral(".png");
 
 QString tr(const char *text)
@@ -37,9 +36,10 @@ QString withoutSuffix(const QString &path)
 
 } // namespace
 
-GalleryGrabber::GalleryGrabber(GalleryWindow &window, QString target)
+GalleryGrabber::GalleryGrabber(GalleryWindow &window, QString target, int readyLimitMilliseconds)
     : window(window)
     , target(std::move(target))
+    , readyLimitMilliseconds(readyLimitMilliseconds)
 { }
 
 bool GalleryGrabber::grab(const QString &pageName)
@@ -100,7 +100,7 @@ bool GalleryGrabber::waitUntilReady(GalleryPage &page, const QString &pageName)
     if (!page.isReady()) {
         QEventLoop loop;
         QObject::connect(&page, SIGNAL(becameReady()), &loop, SLOT(quit()));
-        QTimer::singleShot(kReadyLimitMilliseconds, &loop, SLOT(quit()));
+        QTimer::singleShot(readyLimitMilliseconds, &loop, SLOT(quit()));
         loop.exec();
     }
     if (page.isReady()) {
@@ -108,7 +108,7 @@ bool GalleryGrabber::waitUntilReady(GalleryPage &page, const QString &pageName)
     }
     return fail(tr("The page \"%1\" was not ready after %2 seconds.")
                     .arg(pageName)
-                    .arg(kReadyLimitMilliseconds / 1000));
+                    .arg(readyLimitMilliseconds / 1000));
 }
 
 bool GalleryGrabber::open(QSaveFile &file)

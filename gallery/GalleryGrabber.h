@@ -16,10 +16,14 @@ class QWidget;
 class GalleryGrabber
 {
 public:
+    /// How long a page may take until it is ready, in milliseconds.
+    static constexpr int kReadyLimitMilliseconds = 30000;
+
     /// The window stays the caller's and is shown by the grabber. When one page is named, the
     /// target is the file of its picture, with or without ".png"; otherwise, or when it is a folder
     /// that exists, it is the folder for a file <page>.png each. Missing folders are made.
-    GalleryGrabber(GalleryWindow &window, QString target);
+    GalleryGrabber(GalleryWindow &window, QString target,
+                   int readyLimitMilliseconds = kReadyLimitMilliseconds);
 
     /// Takes the picture of the page of this name, or of every page when it is empty, and prints
     /// the path of each file on standard output. False when a file cannot be written or a page is
@@ -40,5 +44,6 @@ private:
 
     GalleryWindow &window;
     QString target;
+    int readyLimitMilliseconds;
     QString reason;
 };

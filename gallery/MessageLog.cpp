@@ -16,8 +16,6 @@ QSharedPointer<TXLogManager> target; // guarded by targetMutex
 // Not guarded by the mutex: a message on its way to it must never wait for the log.
 std::atomic<QtMessageHandler> previous = nullptr;
 
-thread_local bool isTaking = false;
-
 QSharedPointer<TXLogManager> currentTarget()
 {
     const QMutexLocker locker(&targetMutex);
@@ -80,11 +78,8 @@ void take(QtMsgType type, const QMessageLogContext &context, const QString &mess
 
 void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (!isTaking) {
-        isTaking = true;
-        take(type, context, message);
-        isTaking = false;
-    }
+    // A message that this causes on the same thread goes to standard error: Qt sees to that.
+    take(type, context, message);
     if (const QtMessageHandler next = previous) {
         next(type, context, message);
     }

@@ -11,9 +11,9 @@ class TXLogManager;
 /// ones error. A category other than "default" stands in brackets before the text; where the
 /// message comes from is a sub-item, in builds that know it.
 ///
-/// Messages may come from any thread. One that is written while another is being taken in on the
-/// same thread is only passed on. One object at a time, on the GUI thread; handlers that others
-/// have installed later are to be gone before it goes.
+/// Messages may come from any thread. One that a message handler itself causes is not taken in; Qt
+/// writes it to standard error. One object at a time, on the GUI thread; handlers that others have
+/// installed later are to be gone before it goes.
 class MessageLog
 {
 public:

@@ -17,6 +17,8 @@ private slots:
     void scrollingAwayIsRespected();
     void followsAgainOnceTheEndIsReached();
     void newestIsUnfolded();
+    void fullLogDropsTheCurrentRowWithoutANewOne();
+    void otherCurrentRowStaysInAFullLog();
 
 protected:
     void prepare() override;
@@ -106,6 +108,28 @@ void TestLogPreview::newestIsUnfolded()
     QVERIFY(preview->isExpanded(newest));
     QVERIFY(preview->viewport()->rect().contains(
         preview->visualRect(preview->model()->index(0, 0, newest))));
+}
+
+void TestLogPreview::fullLogDropsTheCurrentRowWithoutANewOne()
+{
+    log->setMaximumCount(200);
+    preview->setCurrentIndex(preview->model()->index(0, 0));
+
+    write(1);
+
+    QCOMPARE(preview->model()->rowCount(), 200);
+    QVERIFY(!preview->currentIndex().isValid());
+}
+
+void TestLogPreview::otherCurrentRowStaysInAFullLog()
+{
+    log->setMaximumCount(200);
+    preview->setCurrentIndex(preview->model()->index(5, 0));
+
+    write(1);
+
+    QCOMPARE(preview->model()->rowCount(), 200);
+    QCOMPARE(preview->currentIndex().row(), 4);
 }
 
 int main(int argc, char **argv)

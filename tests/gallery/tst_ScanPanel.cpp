@@ -1,4 +1,5 @@
 #include "DialogDriver.h"
+#include "LogGate.h"
 #include "ScanPanel.h"
 #include "TestBase.h"
 
@@ -10,6 +11,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <memory>
 
@@ -27,6 +29,7 @@ private slots:
     void emptyFieldStartsNothing();
     void browsingFillsTheField();
     void panelMayGoWhileScanning();
+    void panelMayGoWhileThreadsWaitForTheLog();
 
 protected:
     void prepare() override;
@@ -225,6 +228,25 @@ void TestScanPanel::panelMayGoWhileScanning()
     log->flush();
     const QStringList texts = topLevelTexts();
     QVERIFY(texts.isEmpty() || texts.last().startsWith("Folder "));
+}
+
+void TestScanPanel::panelMayGoWhileThreadsWaitForTheLog()
+{
+    for (int i = 0; i < LogGate::kMostOnTheWay + 100; ++i) {
+        QVERIFY(QDir(folder->path()).mkdir(QString::number(i)));
+    }
+    panel->setFolders(folder->path());
+    const auto *scan = panel->findChild<FolderScan *>();
+    DialogDriver::click(button("Start Scan"));
+    // This thread's event loop does not turn: the log takes nothing in.
+    while (scan->counts().folders <= LogGate::kMostOnTheWay) {
+        QThread::yieldCurrentThread();
+    }
+
+    panel.reset();
+
+    log->flush();
+    QVERIFY(log->rootItem()->children.size() >= LogGate::kMostOnTheWay);
 }
 
 int main(int argc, char **argv)
