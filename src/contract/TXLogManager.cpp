@@ -1,6 +1,7 @@
 #include "TXLogManager.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QMutexLocker>
 #include <QPointer>
 #include <QTimer>
@@ -98,17 +99,6 @@ void TXLogManager::reset()
     emit hasBeenReset();
 }
 
-void TXLogManager::startBatch()
-{
-    const qint64 elapsed =
-        sinceLastBatch.isValid() ? sinceLastBatch.elapsed() : kBatchIntervalMilliseconds;
-    if (elapsed >= kBatchIntervalMilliseconds) {
-        deliverSlice();
-    } else {
-        timer->start(int(kBatchIntervalMilliseconds - elapsed));
-    }
-}
-
 void TXLogManager::deliverSlice()
 {
     takeWaitingEntries();
@@ -118,12 +108,7 @@ void TXLogManager::deliverSlice()
     // which the next slice starts while this one has not ended.
     const QPointer<TXLogManager> self(this);
     while (!slice.hasExpired(kSliceMilliseconds)) {
-        const bool isMoreToCome = deliverNext();
-        if (!self) {
-            return;
-        }
-        if (!isMoreToCome) {
-            sinceLastBatch.start();
+        if (!deliverNext() || !self) {
             return;
         }
     }
@@ -158,7 +143,7 @@ void TXLogManager::enqueue(Entry entry)
         isFirst = !std::exchange(wakeUpIsPosted, true);
     }
     if (isFirst) {
-        QMetaObject::invokeMethod(this, "startBatch", Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "deliverSlice", Qt::QueuedConnection);
     }
 }
 

@@ -3,7 +3,6 @@
 #include "TXCoreCommonExport.h"
 #include "TXLogItem.h"
 
-#include <QElapsedTimer>
 #include <QList>
 #include <QMutex>
 #include <QObject>
@@ -29,9 +28,6 @@ class TXCORECOMMON_EXPORT TXLogManager : public QObject
     Q_OBJECT
 
 public:
-    /// The shortest time from the end of one batch to the next, in milliseconds.
-    static constexpr int kBatchIntervalMilliseconds = 40;
-
     /// How long a batch may keep the event loop from turning, in milliseconds.
     static constexpr int kSliceMilliseconds = 8;
 
@@ -79,7 +75,6 @@ signals:
     void hasBeenReset();
 
 private slots:
-    void startBatch();
     void deliverSlice();
     void dropSurplus();
 
@@ -106,5 +101,4 @@ private:
     QList<Entry> batch;
     qsizetype nextInBatch = 0;
     QTimer *timer = nullptr;
-    QElapsedTimer sinceLastBatch;
 };

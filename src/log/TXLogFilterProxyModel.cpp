@@ -129,6 +129,11 @@ QVariant TXLogFilterProxyModel::headerData(int section, Qt::Orientation orientat
     return source.isValid() ? log->headerData(source.row(), orientation, role) : QVariant();
 }
 
+Qt::ItemFlags TXLogFilterProxyModel::flags(const QModelIndex &index) const
+{
+    return QAbstractItemModel::flags(index);
+}
+
 bool TXLogFilterProxyModel::setHeaderData(int, Qt::Orientation, const QVariant &, int)
 {
     return false;
@@ -170,7 +175,11 @@ void TXLogFilterProxyModel::sourceRowsInserted(const QModelIndex &sourceParent, 
         mapping = top.get();
     } else {
         TXLogRowMapping *above = mappingOf(sourceParent.parent(), false);
-        if (!above || above->shownRowOf(sourceParent.row()) < 0) {
+        if (!above) {
+            return;
+        }
+        above->markRowsBelow(sourceParent.row());
+        if (above->shownRowOf(sourceParent.row()) < 0) {
             return;
         }
         mapping = above->below(sourceParent.row());
@@ -445,7 +454,7 @@ TXLogFilterProxyModel::Rows TXLogFilterProxyModel::mergeRows(const Rows &kept, c
 
 TXLogRowMapping *TXLogFilterProxyModel::topLevel() const
 {
-    if (log && !top) {
+    if (!top && log) {
         top = std::make_unique<TXLogRowMapping>();
         fill(*top, QModelIndex(), log->rowCount());
     }
@@ -470,7 +479,8 @@ TXLogRowMapping *TXLogFilterProxyModel::mappingBelow(const QModelIndex &proxyPar
         return nullptr;
     }
     const qsizetype sourceRow = mapping->sourceRowAt(proxyParent.row());
-    if (TXLogRowMapping *known = mapping->below(sourceRow)) {
+    TXLogRowMapping *known = mapping->below(sourceRow);
+    if (known || !mapping->mayHaveRowsBelow(sourceRow)) {
         return known;
     }
     return belowRow(*mapping, sourceRow, mapToSource(proxyParent), true);
@@ -519,6 +529,11 @@ void TXLogFilterProxyModel::fill(TXLogRowMapping &mapping, const QModelIndex &so
     sortRows(rows, sourceParent);
     mapping.appendSourceRows(sourceCount);
     mapping.showOnly(rows);
+    for (int row = 0; row < sourceCount; ++row) {
+        if (log->rowCount(log->index(row, 0, sourceParent)) > 0) {
+            mapping.markRowsBelow(row);
+        }
+    }
 }
 
 QModelIndex TXLogFilterProxyModel::sourceIndexAbove(const TXLogRowMapping &mapping) const

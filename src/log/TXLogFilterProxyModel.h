@@ -55,6 +55,10 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
 
+    /// Those of every entry of the log, without the way there; a view asks for each row whenever it
+    /// lays out.
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
     // The log cannot be edited through its view.
     bool setHeaderData(int section, Qt::Orientation orientation, const QVariant &value,
                        int role = Qt::EditRole) override;

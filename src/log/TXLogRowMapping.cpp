@@ -35,7 +35,7 @@ TXLogRowMapping *TXLogRowMapping::find(quintptr id)
 
 void TXLogRowMapping::appendSourceRows(qsizetype count)
 {
-    rows.append(QList<Row>(count, Row{kHidden, nullptr}));
+    rows.append(QList<Row>(count, Row{kHidden, nullptr, false}));
 }
 
 void TXLogRowMapping::dropFirstSourceRow()
@@ -112,6 +112,16 @@ QList<TXLogRowMapping *> TXLogRowMapping::showOnly(const QList<qsizetype> &sourc
         }
     }
     return handedOut;
+}
+
+void TXLogRowMapping::markRowsBelow(qsizetype sourceRow)
+{
+    rows[sourceRow].hasRowsBelow = true;
+}
+
+bool TXLogRowMapping::mayHaveRowsBelow(qsizetype sourceRow) const
+{
+    return sourceRow >= 0 && sourceRow < rows.size() && rows.at(sourceRow).hasRowsBelow;
 }
 
 TXLogRowMapping *TXLogRowMapping::below(qsizetype sourceRow) const

@@ -60,6 +60,13 @@ public:
     /// that is handed out, as indexes may still point to it. Linear.
     QList<TXLogRowMapping *> showOnly(const QList<qsizetype> &sourceRows);
 
+    /// Says that the log has rows below a source row.
+    void markRowsBelow(qsizetype sourceRow);
+
+    /// False for a row that certainly has nothing below it in the log. Saves looking there, which a
+    /// view asks for each row whenever it lays out.
+    [[nodiscard]] bool mayHaveRowsBelow(qsizetype sourceRow) const;
+
     /// The mapping of what is below a source row; null as long as nobody asked for it, and for a
     /// row outside. Belongs to this mapping.
     [[nodiscard]] TXLogRowMapping *below(qsizetype sourceRow) const;
@@ -90,6 +97,7 @@ private:
     {
         qint64 slot;
         TXLogRowMapping *below;
+        bool hasRowsBelow;
     };
 
     using Register = QHash<quintptr, TXLogRowMapping *>;

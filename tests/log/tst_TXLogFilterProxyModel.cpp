@@ -115,6 +115,7 @@ private slots:
     void filterWithoutAColumnLooksAtAll();
     void invalidPatternLetsNothingThrough();
     void headerIsTheLogs();
+    void flagsAreTheLogs();
     void nothingCanBeEdited();
     void foreignIndexesMapToNothing();
     void indexOutsideIsInvalid();
@@ -558,6 +559,17 @@ void TestTXLogFilterProxyModel::headerIsTheLogs()
     }
     QCOMPARE(proxy->headerData(0, Qt::Vertical), QVariant(QStringLiteral("1")));
     QVERIFY(!proxy->headerData(2, Qt::Vertical).isValid());
+}
+
+void TestTXLogFilterProxyModel::flagsAreTheLogs()
+{
+    append(*manager, makeItemWithChildren(QStringLiteral("a"), 1));
+    const QModelIndex row = proxy->index(0, 1);
+    const QModelIndex below = proxy->index(0, 0, row.siblingAtColumn(0));
+
+    QCOMPARE(proxy->flags(row), log->flags(proxy->mapToSource(row)));
+    QCOMPARE(proxy->flags(below), log->flags(proxy->mapToSource(below)));
+    QCOMPARE(proxy->flags(QModelIndex()), log->flags(QModelIndex()));
 }
 
 void TestTXLogFilterProxyModel::nothingCanBeEdited()
