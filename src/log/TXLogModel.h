@@ -29,10 +29,10 @@ class TXGUICOMMON_EXPORT TXLogModel : public QAbstractItemModel
 public:
     /// The columns, the same below every row.
     enum Column {
-        DateColumn,    ///< The date, of top-level rows only.
+        DateColumn, ///< The date, of top-level rows only.
         MessageColumn, ///< The message.
-        LevelColumn,   ///< The level as 1, 2 or 3.
-        ColumnCount    ///< How many columns there are.
+        LevelColumn, ///< The level as 1, 2 or 3.
+        ColumnCount ///< How many columns there are.
     };
 
     /// Follows the manager's present root item; shares the ownership of the manager.
