@@ -51,6 +51,7 @@ public:
     /// share. Activation and status do not count: a drive stays the same drive when it is switched
     /// on or connected.
     bool operator==(const AutoMountNetworkDrive &other) const;
+    /// The opposite of operator==.
     bool operator!=(const AutoMountNetworkDrive &other) const { return !(*this == other); }
 
     /// The address. The password is in it in clear: never log it or put it on a command line.
@@ -69,6 +70,7 @@ public:
 
     /// Whether the drive is to be kept connected while the manager runs. False by default.
     [[nodiscard]] bool isActivated() const;
+    /// Changes this value only: nothing is connected or disconnected by it.
     void setActivated(bool on);
 
     /// How the drive stood when this value was made; a copy does not follow.

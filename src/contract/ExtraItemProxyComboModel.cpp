@@ -104,7 +104,8 @@ QVariant ExtraItemProxyComboModel::headerData(int section, Qt::Orientation orien
     if (orientation == Qt::Horizontal && sourceModel()) {
         return sourceModel()->headerData(section, orientation, role);
     }
-    return QAbstractItemModel::headerData(section, orientation, role);
+    // The rows count as they stand here: the source knows nothing of the extra ones.
+    return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
 }
 
 Qt::ItemFlags ExtraItemProxyComboModel::flags(const QModelIndex &index) const

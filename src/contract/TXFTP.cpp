@@ -5,8 +5,6 @@
 
 TXFTP::TXFTP() = default;
 
-TXFTP::~TXFTP() = default;
-
 bool TXFTP::check(QUrl)
 {
     code = NotBuiltIn;

@@ -23,7 +23,6 @@ public:
     };
 
     TXFTP();
-    ~TXFTP();
 
     /// Connects and logs in as the URL tells, and closes the connection again. Blocks. True when
     /// the server took the login.

@@ -78,6 +78,7 @@ public:
     /// Equal texts have the same source, context, disambiguation, number and arguments, whatever
     /// the language; a plain text never equals a translatable one that reads the same.
     bool operator==(const TXStringI18n &other) const;
+    /// The opposite of operator==.
     bool operator!=(const TXStringI18n &other) const { return !(*this == other); }
 
 private:

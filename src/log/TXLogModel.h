@@ -27,7 +27,13 @@ class TXGUICOMMON_EXPORT TXLogModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
-    enum Column { DateColumn, MessageColumn, LevelColumn, ColumnCount };
+    /// The columns, the same below every row.
+    enum Column {
+        DateColumn, ///< The date, of top-level rows only.
+        MessageColumn, ///< The message.
+        LevelColumn, ///< The level as 1, 2 or 3.
+        ColumnCount ///< How many columns there are.
+    };
 
     /// Follows the manager's present root item; shares the ownership of the manager.
     explicit TXLogModel(QSharedPointer<TXLogManager> manager, QObject *parent = nullptr);

@@ -31,6 +31,8 @@ protected:
     void finish() override;
 
 private:
+    /// Called on the threads of the scan.
+    void keep(const FolderReport &report);
     FolderScan::Sink collect();
     void run(FolderScan &scan, const QStringList &paths);
     QStringList sortedLabels();
@@ -57,11 +59,16 @@ void TestFolderScan::finish()
     folder.reset();
 }
 
+void TestFolderScan::keep(const FolderReport &report)
+{
+    const QMutexLocker locker(&mutex);
+    reports.append(report);
+}
+
 FolderScan::Sink TestFolderScan::collect()
 {
     return [this](const FolderReport &report) {
-        const QMutexLocker locker(&mutex);
-        reports.append(report);
+        keep(report);
     };
 }
 
@@ -123,8 +130,7 @@ void TestFolderScan::fileSystemsRootHasALabel()
     FolderScan *running = nullptr;
     FolderScan scan([this, &running](const FolderReport &report) {
         running->cancel();
-        const QMutexLocker locker(&mutex);
-        reports.append(report);
+        keep(report);
     });
     running = &scan;
     QSignalSpy finished(&scan, SIGNAL(finished(bool)));
@@ -153,8 +159,7 @@ void TestFolderScan::folderThatVanishesOnTheWayIsAnError()
             // Found by now, and not yet read.
             QDir(vanishing).removeRecursively();
         }
-        const QMutexLocker locker(&mutex);
-        reports.append(report);
+        keep(report);
     });
 
     run(scan, {folder->filePath("tree")});

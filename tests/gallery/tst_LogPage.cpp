@@ -119,7 +119,8 @@ void TestLogPage::logWindowFollowsFromTheStart()
     DialogDriver::click(button(QStringLiteral("Open Log Window")));
 
     auto *window = page->findChild<TXLogWindow *>();
-    QVERIFY(window && window->isVisible());
+    QVERIFY(window);
+    QVERIFY(window->isVisible());
     QVERIFY(window->nbEventLogged() >= firstLines + 1);
     QCOMPARE(window->nbEventLogged(), preview->model()->rowCount());
 }

@@ -4,15 +4,19 @@
 #include "PixelProbe.h"
 #include "TestBase.h"
 
+#include <QAccessible>
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <memory>
@@ -155,7 +159,7 @@ void TestTXLogWindow::newestRowStandsFirst()
 {
     for (int minute = 0; minute < 3; ++minute) {
         const auto item = makeItem(QString::number(minute));
-        item->date = item->date.addSecs(60 * minute);
+        item->date = item->date.addSecs(qint64(60) * minute);
         append(*manager, item);
     }
 
@@ -206,7 +210,7 @@ void TestTXLogWindow::filterKeepsTheLevelsOfItsEntry()
     int minute = 0;
     for (const auto &[text, level] : {std::pair("i1", 1), {"w2", 2}, {"e3", 3}}) {
         const auto item = makeItem(QString::fromLatin1(text), level);
-        item->date = item->date.addSecs(60 * minute++);
+        item->date = item->date.addSecs(qint64(60) * minute++);
         append(*manager, item);
     }
 
