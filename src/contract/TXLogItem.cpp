@@ -32,12 +32,17 @@ void TXLogItem::addChild(const QSharedPointer<TXLogItem> &child)
 
 QSharedPointer<TXLogItem> TXLogItem::takeFirstChild()
 {
-    const QMutexLocker locker(&mutex);
-    if (children.isEmpty()) {
-        return {};
+    QSharedPointer<TXLogItem> first;
+    {
+        const QMutexLocker locker(&mutex);
+        if (!children.isEmpty()) {
+            first = children.takeFirst();
+        }
     }
-    children.first()->taken = true;
-    return children.takeFirst();
+    if (first) {
+        first->leaveTree();
+    }
+    return first;
 }
 
 void TXLogItem::removeAllChildren()
@@ -48,18 +53,17 @@ void TXLogItem::removeAllChildren()
         removed.swap(children);
     }
     for (const QSharedPointer<TXLogItem> &child : qAsConst(removed)) {
-        child->taken = true;
+        child->leaveTree();
     }
 }
 
-bool TXLogItem::isInTree() const
+int TXLogItem::depth() const
 {
-    for (const TXLogItem *item = this; item; item = item->parent) {
-        if (item->taken) {
-            return false;
-        }
+    int count = 0;
+    for (const TXLogItem *above = parent; above; above = above->parent) {
+        ++count;
     }
-    return true;
+    return count;
 }
 
 qint64 TXLogItem::number()
@@ -74,4 +78,18 @@ qint64 TXLogItem::number()
         givenNumber = parent->nextChildNumber++;
     }
     return givenNumber;
+}
+
+/// Marks all that goes, so that nobody has to look upwards later, where items may be gone by then.
+void TXLogItem::leaveTree()
+{
+    QList<TXLogItem *> open = {this};
+    while (!open.isEmpty()) {
+        TXLogItem *item = open.takeLast();
+        item->taken = true;
+        const QMutexLocker locker(&item->mutex);
+        for (const QSharedPointer<TXLogItem> &child : qAsConst(item->children)) {
+            open.append(child.data());
+        }
+    }
 }

@@ -44,14 +44,19 @@ public:
     void addChild(const QSharedPointer<TXLogItem> &child);
 
     /// Takes the oldest child away and returns it, null when there is none. The child keeps its
-    /// `parent` for those who still show it, but is no longer part of the tree.
+    /// `parent` for those who still show it, but it and all below it are no longer part of the
+    /// tree.
     QSharedPointer<TXLogItem> takeFirstChild();
 
     /// Takes all children away, in the same sense.
     void removeAllChildren();
 
-    /// False once this item or one above it was taken away. Costs the depth of the item.
-    [[nodiscard]] bool isInTree() const;
+    /// False once this item or one above it was taken away.
+    [[nodiscard]] bool isInTree() const { return !taken; }
+
+    /// How many items are above this one; 0 for the root. Only for an item in a tree, on the thread
+    /// that changes the tree.
+    [[nodiscard]] int depth() const;
 
     /// The item's place among all children that its parent ever had, counted from 0, so that
     /// siblings have consecutive numbers whatever is taken away in front of them. Given by
@@ -83,6 +88,8 @@ signals:
 
 private:
     static constexpr qint64 kNoNumber = -1;
+
+    void leaveTree();
 
     std::atomic<qint64> givenNumber = kNoNumber;
     std::atomic_bool taken = false;

@@ -118,20 +118,17 @@ void TXLogManager::deliverSlice()
 void TXLogManager::dropSurplus()
 {
     const QPointer<TXLogManager> self(this);
-    for (;;) {
-        QSharedPointer<TXLogItem> oldest;
-        {
-            const QMutexLocker locker(&root->mutex);
-            if (maximum == 0 || root->children.size() <= maximum) {
-                return;
-            }
-            oldest = root->takeFirstChild();
-        }
-        emit root->itemDeleted(oldest);
-        if (!self) {
-            return;
+    while (self && maximum > 0 && countTopLevelItems() > maximum) {
+        if (const QSharedPointer<TXLogItem> oldest = root->takeFirstChild()) {
+            emit root->itemDeleted(oldest);
         }
     }
+}
+
+qsizetype TXLogManager::countTopLevelItems() const
+{
+    const QMutexLocker locker(&root->mutex);
+    return root->children.size();
 }
 
 void TXLogManager::enqueue(Entry entry)
@@ -176,6 +173,9 @@ void TXLogManager::link(const Entry &entry)
     TXLogItem *parent = entry.parent ? entry.parent.data() : root.data();
     if (entry.item->parent || entry.item == root || !parent->isInTree()) {
         return;
+    }
+    if (parent->depth() >= kMaximumDepth) {
+        parent = parent->parent;
     }
     parent->addChild(entry.item);
     const QPointer<TXLogManager> self(this);

@@ -28,6 +28,10 @@ class TXCORECOMMON_EXPORT TXLogManager : public QObject
     Q_OBJECT
 
 public:
+    /// How deep an entry can stand, the top level being 1. An entry under a deeper parent is put
+    /// beside that parent, so that a program which hangs each line under its last builds no tower.
+    static constexpr int kMaximumDepth = 100;
+
     /// How long a batch may keep the event loop from turning, in milliseconds.
     static constexpr int kSliceMilliseconds = 8;
 
@@ -89,6 +93,7 @@ private:
     void takeWaitingEntries();
     bool deliverNext();
     void link(const Entry &entry);
+    qsizetype countTopLevelItems() const;
 
     QSharedPointer<TXLogItem> root;
     std::atomic_int maximum = 0;

@@ -103,6 +103,8 @@ void TestTXLogItem::everythingBelowATakenItemLeavesTheTree()
     root->addChild(middle);
     middle->addChild(leaf);
     QVERIFY(leaf->isInTree());
+    QCOMPARE(root->depth(), 0);
+    QCOMPARE(leaf->depth(), 2);
 
     root->takeFirstChild();
 

@@ -85,6 +85,8 @@ private slots:
     void limitDoesNotCountSubItems();
     void entryUnderADroppedParentIsShownNowhere();
     void entryUnderAParentDroppedByClearingIsShownNowhere();
+    void entryUnderASubItemOfAnEndedParentIsShownNowhere();
+    void towerOfEntriesStopsGrowing();
     void resetDropsAllIncludingWhatWaits();
     void loggingGoesOnAfterAReset();
     void receiverMayLogFromWithinASignal();
@@ -289,6 +291,38 @@ void TestTXLogManager::entryUnderAParentDroppedByClearingIsShownNowhere()
 
     QCOMPARE(protocol.lines, QStringList());
     QVERIFY(parent->children.isEmpty());
+}
+
+void TestTXLogManager::entryUnderASubItemOfAnEndedParentIsShownNowhere()
+{
+    TXLogManager manager;
+    Item parent = manager.append(1, plain(QStringLiteral("parent")));
+    const Item child = manager.append(1, plain(QStringLiteral("child")), parent);
+    manager.flush();
+    manager.rootItem()->removeAllChildren();
+    parent.reset();
+    QVERIFY(!child->parent);
+    Protocol protocol(manager);
+
+    manager.append(1, plain(QStringLiteral("late")), child);
+    manager.flush();
+
+    QCOMPARE(protocol.lines, QStringList());
+    QVERIFY(child->children.isEmpty());
+}
+
+void TestTXLogManager::towerOfEntriesStopsGrowing()
+{
+    constexpr int kEntries = 100000;
+    TXLogManager manager;
+    Item last;
+    for (int i = 0; i < kEntries; ++i) {
+        last = manager.append(1, TXStringI18n(), last);
+    }
+    manager.flush();
+
+    QCOMPARE(last->depth(), int(TXLogManager::kMaximumDepth));
+    QCOMPARE(last->parent->children.size(), kEntries - TXLogManager::kMaximumDepth + 1);
 }
 
 void TestTXLogManager::resetDropsAllIncludingWhatWaits()
