@@ -194,11 +194,11 @@ BENCHMARK(longestTurn<Ours>)
     ->Name("LongestTurn/ours")
     ->Arg(20000)
     ->UseManualTime()
-    ->Iterations(3)
+    ->Iterations(2)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(longestTurn<Plain>)
     ->Name("LongestTurn/QSortFilterProxyModel")
     ->Arg(20000)
     ->UseManualTime()
-    ->Iterations(1)
+    ->Iterations(2)
     ->Unit(benchmark::kMillisecond);
