@@ -29,10 +29,10 @@ public:
     QSharedPointer<TXLogItem> root = QSharedPointer<TXLogItem>::create();
 
 signals:
-    void arrived(QSharedPointer<TXLogItem> item);
+    void arrived(QSharedPointer<TXLogItem>);
 
 private:
-    void link(const QSharedPointer<TXLogItem> &item)
+    void link(const QSharedPointer<TXLogItem> &item) const
     {
         root->addChild(item);
         emit root->itemAppended(item);
@@ -45,6 +45,7 @@ template<class Write>
 void writeAndReceive(const TXLogItem &root, Write write)
 {
     std::vector<std::thread> writers;
+    writers.reserve(kThreads);
     for (int thread = 0; thread < kThreads; ++thread) {
         writers.emplace_back([thread, &write] {
             for (int i = 0; i < kEntries; ++i) {
@@ -52,7 +53,7 @@ void writeAndReceive(const TXLogItem &root, Write write)
             }
         });
     }
-    while (root.children.size() < kThreads * kEntries) {
+    while (root.children.size() < qsizetype(kThreads) * kEntries) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     for (std::thread &writer : writers) {

@@ -36,7 +36,7 @@ struct OurLog
     QSharedPointer<TXLogManager> manager = QSharedPointer<TXLogManager>::create();
     TXLogModel model{manager};
 
-    void append(const LogEntries::Item &item, TXLogItem *parent = nullptr)
+    void append(const LogEntries::Item &item, TXLogItem *parent = nullptr) const
     {
         (parent ? parent : manager->rootItem().data())->addChild(item);
         emit manager->rootItem()->itemAppended(item);

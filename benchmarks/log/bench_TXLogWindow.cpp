@@ -134,6 +134,7 @@ void longestTurn(benchmark::State &state)
     for (auto step : state) {
         Window window(Proxy::make());
         std::vector<std::thread> writers;
+        writers.reserve(kThreads);
         for (int thread = 0; thread < kThreads; ++thread) {
             writers.emplace_back([&window, entries] {
                 for (int i = 0; i < entries / kThreads; ++i) {

@@ -39,6 +39,7 @@ public:
     /// the thread of the application object where there is one. Never null.
     static QSharedPointer<TXLogManager> applicationLog();
 
+    /// An empty log.
     explicit TXLogManager(QObject *parent = nullptr);
     ~TXLogManager() override;
 

@@ -41,7 +41,7 @@ void TXLogFilterProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
     log = qobject_cast<TXLogModel *>(sourceModel);
     top.reset();
     // Not the base's own, which would connect its mapping to the source.
-    QAbstractProxyModel::setSourceModel(log);
+    QAbstractProxyModel::setSourceModel(log); // NOLINT(bugprone-parent-virtual-call)
     if (log) {
         followSource();
     }

@@ -436,6 +436,7 @@ void TestTXLogManager::manyThreadsLoseNothingAndKeepTheirOrder()
     Protocol protocol(manager);
 
     std::vector<std::thread> writers;
+    writers.reserve(kThreads);
     for (int thread = 0; thread < kThreads; ++thread) {
         writers.emplace_back([&manager, thread] {
             for (int i = 0; i < kEntries; ++i) {
@@ -443,7 +444,7 @@ void TestTXLogManager::manyThreadsLoseNothingAndKeepTheirOrder()
             }
         });
     }
-    QTRY_COMPARE(protocol.lines.size(), kThreads * kEntries);
+    QTRY_COMPARE(protocol.lines.size(), qsizetype(kThreads) * kEntries);
     for (std::thread &writer : writers) {
         writer.join();
     }
@@ -467,6 +468,7 @@ void TestTXLogManager::threadsMayHangSubItemsUnderEachOthersEntries()
     const Item shared = manager.append(1, plain(QStringLiteral("shared")));
 
     std::vector<std::thread> writers;
+    writers.reserve(kThreads);
     for (int thread = 0; thread < kThreads; ++thread) {
         writers.emplace_back([&manager, &shared] {
             for (int i = 0; i < kEntries; ++i) {
@@ -479,7 +481,7 @@ void TestTXLogManager::threadsMayHangSubItemsUnderEachOthersEntries()
     }
     manager.flush();
 
-    QCOMPARE(shared->children.size(), kThreads * kEntries);
+    QCOMPARE(shared->children.size(), qsizetype(kThreads) * kEntries);
     for (int i = 0; i < shared->children.size(); ++i) {
         QCOMPARE(shared->children.at(i)->number(), qint64(i));
     }

@@ -147,7 +147,7 @@ void TestTXLogFilterProxyModel::logLevels(const QList<int> &levels)
     for (int row = 0; row < levels.size(); ++row) {
         const Item item =
             makeItem(QStringLiteral("%1:%2").arg(row).arg(levels.at(row)), levels.at(row));
-        item->date = kNoon.addSecs(60 * row);
+        item->date = kNoon.addSecs(qint64(60) * row);
         append(*manager, item);
     }
 }
@@ -242,7 +242,7 @@ private:
         static const QStringList patterns = {QString(), QStringLiteral("[2-3]"),
                                              QStringLiteral("3"), QStringLiteral("[0-4]")};
         const int column = random.bounded(4) == 0 ? 1 : 2;
-        const QString pattern = patterns.at(random.bounded(patterns.size()));
+        const QString &pattern = patterns.at(random.bounded(patterns.size()));
         for (Side *side : sides) {
             side->proxy->setFilterKeyColumn(column);
             side->proxy->setFilterRegularExpression(pattern);
