@@ -131,7 +131,8 @@ QVariant TXLogFilterProxyModel::headerData(int section, Qt::Orientation orientat
 
 Qt::ItemFlags TXLogFilterProxyModel::flags(const QModelIndex &index) const
 {
-    return QAbstractItemModel::flags(index);
+    // The log answers alike for every index that is valid.
+    return log ? log->flags(index) : Qt::NoItemFlags;
 }
 
 bool TXLogFilterProxyModel::setHeaderData(int, Qt::Orientation, const QVariant &, int)
