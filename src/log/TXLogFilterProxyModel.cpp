@@ -1,14 +1,10 @@
 #include "TXLogFilterProxyModel.h"
 
-#include "TXLogItem.h"
 #include "TXLogModel.h"
 
-#include <QDateTime>
 #include <QItemSelectionModel>
-#include <QRegularExpression>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
@@ -21,6 +17,7 @@ bool isIn(int column)
 
 TXLogFilterProxyModel::TXLogFilterProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
+    , rules(*this)
 {
     followProperties();
 }
@@ -39,6 +36,7 @@ void TXLogFilterProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
         disconnect(log, nullptr, this, nullptr);
     }
     log = qobject_cast<TXLogModel *>(sourceModel);
+    rules.setLog(log);
     top.reset();
     // Not the base's own, which would connect its mapping to the source.
     QAbstractProxyModel::setSourceModel(log); // NOLINT(bugprone-parent-virtual-call)
@@ -135,31 +133,6 @@ Qt::ItemFlags TXLogFilterProxyModel::flags(const QModelIndex &index) const
     return log ? log->flags(index) : Qt::NoItemFlags;
 }
 
-bool TXLogFilterProxyModel::setHeaderData(int, Qt::Orientation, const QVariant &, int)
-{
-    return false;
-}
-
-bool TXLogFilterProxyModel::insertRows(int, int, const QModelIndex &)
-{
-    return false;
-}
-
-bool TXLogFilterProxyModel::insertColumns(int, int, const QModelIndex &)
-{
-    return false;
-}
-
-bool TXLogFilterProxyModel::removeRows(int, int, const QModelIndex &)
-{
-    return false;
-}
-
-bool TXLogFilterProxyModel::removeColumns(int, int, const QModelIndex &)
-{
-    return false;
-}
-
 bool TXLogFilterProxyModel::filterAcceptsRow(int, const QModelIndex &) const
 {
     return false;
@@ -228,6 +201,7 @@ void TXLogFilterProxyModel::sourceDestroyed()
 {
     beginResetModel();
     top.reset();
+    rules.setLog(nullptr);
     endResetModel();
 }
 
@@ -266,191 +240,6 @@ void TXLogFilterProxyModel::followSource()
     connect(log, SIGNAL(modelAboutToBeReset()), this, SLOT(sourceAboutToBeReset()));
     connect(log, SIGNAL(modelReset()), this, SLOT(sourceReset()));
     connect(log, SIGNAL(destroyed()), this, SLOT(sourceDestroyed()));
-}
-
-/// A filter on the level has three answers, found once instead of for each row.
-void TXLogFilterProxyModel::updateLevelFilter()
-{
-    isLevelFilter = filterKeyColumn() == TXLogModel::LevelColumn
-        && (filterRole() == Qt::DisplayRole || filterRole() == Qt::EditRole);
-    const QRegularExpression pattern = filterRegularExpression();
-    for (int level = 0; isLevelFilter && level < int(acceptedLevels.size()); ++level) {
-        acceptedLevels[size_t(level)] =
-            pattern.pattern().isEmpty() || QString::number(level).contains(pattern);
-    }
-}
-
-bool TXLogFilterProxyModel::accepts(int sourceRow, const QModelIndex &sourceParent) const
-{
-    if (!isLevelFilter) {
-        return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
-    }
-    const QModelIndex index = log->index(sourceRow, TXLogModel::LevelColumn, sourceParent);
-    return acceptsLevel(static_cast<const TXLogItem *>(index.internalPointer())->level);
-}
-
-bool TXLogFilterProxyModel::acceptsLevel(int level) const
-{
-    const bool isNamed = level == TXLogItem::Warning || level == TXLogItem::Error;
-    return acceptedLevels[size_t(isNamed ? level : TXLogItem::Information)];
-}
-
-/// Which of the source rows below an index the filter lets through.
-QList<bool> TXLogFilterProxyModel::acceptedRows(const QModelIndex &sourceParent) const
-{
-    const auto items = log->itemsBelow(sourceParent);
-    QList<bool> accepted;
-    accepted.reserve(items.size());
-    for (const QSharedPointer<TXLogItem> &item : items) {
-        accepted.append(isLevelFilter ? acceptsLevel(item->level)
-                                      : accepts(int(accepted.size()), sourceParent));
-    }
-    return accepted;
-}
-
-bool TXLogFilterProxyModel::isSorting() const
-{
-    return isIn(sortColumn());
-}
-
-QVariant TXLogFilterProxyModel::sortKey(qsizetype sourceRow, const QModelIndex &sourceParent) const
-{
-    return log->data(log->index(int(sourceRow), sortColumn(), sourceParent), sortRole());
-}
-
-/// The base's lessThan() for what the log model holds, turned round for a descending order.
-bool TXLogFilterProxyModel::isBefore(const QVariant &left, const QVariant &right) const
-{
-    const QVariant &smaller = sortOrder() == Qt::AscendingOrder ? left : right;
-    const QVariant &larger = sortOrder() == Qt::AscendingOrder ? right : left;
-    if (!smaller.isValid() || !larger.isValid()) {
-        return smaller.isValid();
-    }
-    switch (smaller.userType()) {
-    case QMetaType::Int:
-        return smaller.toInt() < larger.toInt();
-    case QMetaType::QDateTime:
-        return smaller.toDateTime() < larger.toDateTime();
-    default:
-        return isSortLocaleAware()
-            ? smaller.toString().localeAwareCompare(larger.toString()) < 0
-            : smaller.toString().compare(larger.toString(), sortCaseSensitivity()) < 0;
-    }
-}
-
-/// Sub-items have no date, so that sorting by date leaves them as they are.
-bool TXLogFilterProxyModel::isEverythingEqual(const QModelIndex &sourceParent) const
-{
-    return sourceParent.isValid() && sortColumn() == TXLogModel::DateColumn;
-}
-
-std::vector<QVariant> TXLogFilterProxyModel::sortKeys(const Rows &rows,
-                                                      const QModelIndex &sourceParent) const
-{
-    std::vector<QVariant> keys;
-    keys.reserve(size_t(rows.size()));
-    if (sortColumn() == TXLogModel::DateColumn && sortRole() == Qt::DisplayRole) {
-        // What sorting mostly asks for, without the way through the model for each row.
-        const auto items = log->itemsBelow(sourceParent);
-        for (const qsizetype row : rows) {
-            keys.push_back(sourceParent.isValid() ? QVariant() : items.at(row)->date);
-        }
-        return keys;
-    }
-    for (const qsizetype row : rows) {
-        keys.push_back(sortKey(row, sourceParent));
-    }
-    return keys;
-}
-
-/// A stable sort that asks each row for its key once; one pass where the rows are in order.
-void TXLogFilterProxyModel::sortRows(Rows &rows, const QModelIndex &sourceParent) const
-{
-    if (!isSorting()) {
-        std::sort(rows.begin(), rows.end());
-        return;
-    }
-    if (isEverythingEqual(sourceParent)) {
-        return;
-    }
-    const std::vector<QVariant> keys = sortKeys(rows, sourceParent);
-    const auto isBeforeByKey = [&](size_t left, size_t right) {
-        return isBefore(keys[left], keys[right]);
-    };
-    std::vector<size_t> positions(keys.size());
-    std::iota(positions.begin(), positions.end(), size_t(0));
-    if (!std::is_sorted(positions.begin(), positions.end(), isBeforeByKey)) {
-        std::stable_sort(positions.begin(), positions.end(), isBeforeByKey);
-        const Rows unsorted = rows;
-        std::transform(positions.begin(), positions.end(), rows.begin(),
-                       [&](size_t position) { return unsorted.at(qsizetype(position)); });
-    }
-}
-
-/// Where a single new row belongs: behind all that it is not before. The ends are looked at first,
-/// as new entries mostly belong there.
-qsizetype TXLogFilterProxyModel::findPlace(const TXLogRowMapping &mapping, qsizetype sourceRow,
-                                           const QModelIndex &sourceParent) const
-{
-    const bool isByKey = isSorting() && dynamicSortFilter();
-    const QVariant key = isByKey ? sortKey(sourceRow, sourceParent) : QVariant();
-    const auto isBeforeShown = [&](qsizetype shownRow) {
-        const qsizetype other = mapping.sourceRowAt(shownRow);
-        return isByKey ? isBefore(key, sortKey(other, sourceParent)) : sourceRow < other;
-    };
-    qsizetype low = 0;
-    qsizetype high = mapping.shownCount();
-    if (high == 0 || !isBeforeShown(high - 1)) {
-        return high;
-    }
-    if (isBeforeShown(0)) {
-        return 0;
-    }
-    while (low < high) {
-        const qsizetype middle = (low + high) / 2;
-        if (isBeforeShown(middle)) {
-            high = middle;
-        } else {
-            low = middle + 1;
-        }
-    }
-    return low;
-}
-
-/// Joins rows that stay with rows that come, both in order. Where they are equal the base puts the
-/// first that comes behind those that stay, and what directly follows it in front of the next: this
-/// does the same.
-TXLogFilterProxyModel::Rows TXLogFilterProxyModel::mergeRows(const Rows &kept, const Rows &added,
-                                                             const QModelIndex &sourceParent) const
-{
-    if (kept.isEmpty() || added.isEmpty()) {
-        return kept + added;
-    }
-    const bool isByKey = isSorting() && dynamicSortFilter();
-    const auto keptKeys = isByKey ? sortKeys(kept, sourceParent) : std::vector<QVariant>();
-    const auto addedKeys = isByKey ? sortKeys(added, sourceParent) : std::vector<QVariant>();
-    qsizetype stays = 0;
-    qsizetype comes = 0;
-    const auto isComingFirst = [&] {
-        return isByKey ? isBefore(addedKeys[size_t(comes)], keptKeys[size_t(stays)])
-                       : added.at(comes) < kept.at(stays);
-    };
-    const auto isStayingFirst = [&] {
-        return isByKey ? isBefore(keptKeys[size_t(stays)], addedKeys[size_t(comes)])
-                       : kept.at(stays) < added.at(comes);
-    };
-    Rows merged;
-    merged.reserve(kept.size() + added.size());
-    while (comes < added.size()) {
-        while (stays < kept.size() && !isComingFirst()) {
-            merged.append(kept.at(stays++));
-        }
-        merged.append(added.at(comes++));
-        while (comes < added.size() && (stays == kept.size() || !isStayingFirst())) {
-            merged.append(added.at(comes++));
-        }
-    }
-    return merged + kept.mid(stays);
 }
 
 TXLogRowMapping *TXLogFilterProxyModel::topLevel() const
@@ -519,7 +308,7 @@ TXLogRowMapping *TXLogFilterProxyModel::belowRow(TXLogRowMapping &mapping, qsize
 void TXLogFilterProxyModel::fill(TXLogRowMapping &mapping, const QModelIndex &sourceParent,
                                  int sourceCount) const
 {
-    const QList<bool> accepted = acceptedRows(sourceParent);
+    const QList<bool> accepted = rules.acceptedRows(sourceParent);
     Rows rows;
     rows.reserve(sourceCount);
     for (int row = 0; row < sourceCount; ++row) {
@@ -527,7 +316,7 @@ void TXLogFilterProxyModel::fill(TXLogRowMapping &mapping, const QModelIndex &so
             rows.append(row);
         }
     }
-    sortRows(rows, sourceParent);
+    rules.sort(rows, sourceParent);
     mapping.appendSourceRows(sourceCount);
     mapping.showOnly(rows);
     for (int row = 0; row < sourceCount; ++row) {
@@ -554,10 +343,10 @@ QModelIndex TXLogFilterProxyModel::proxyIndexAbove(const TXLogRowMapping &mappin
 void TXLogFilterProxyModel::showNewRow(TXLogRowMapping &mapping, int sourceRow,
                                        const QModelIndex &sourceParent)
 {
-    if (!accepts(sourceRow, sourceParent)) {
+    if (!rules.accepts(sourceRow, sourceParent)) {
         return;
     }
-    const int place = int(findPlace(mapping, sourceRow, sourceParent));
+    const int place = int(rules.placeOf(mapping, sourceRow, sourceParent));
     beginInsertRows(proxyIndexAbove(mapping), place, place);
     mapping.show(sourceRow, place);
     endInsertRows();
@@ -565,7 +354,7 @@ void TXLogFilterProxyModel::showNewRow(TXLogRowMapping &mapping, int sourceRow,
 
 void TXLogFilterProxyModel::filterChanged()
 {
-    updateLevelFilter();
+    rules.readFilter();
     if (!top) {
         return;
     }
@@ -602,14 +391,14 @@ void TXLogFilterProxyModel::removeRowsAroundCurrentIndex()
     // Below an entry that goes itself, nothing has a neighbour to move to.
     for (QModelIndex above = current.parent(); above.isValid(); above = above.parent()) {
         const QModelIndex source = mapToSource(above);
-        if (!accepts(source.row(), source.parent())) {
+        if (!rules.accepts(source.row(), source.parent())) {
             return;
         }
     }
     TXLogRowMapping *mapping = mappingWith(current);
     const QModelIndex sourceParent = sourceIndexAbove(*mapping);
     const auto goes = [&](int row) {
-        return !accepts(int(mapping->sourceRowAt(row)), sourceParent);
+        return !rules.accepts(int(mapping->sourceRowAt(row)), sourceParent);
     };
     if (!goes(current.row())) {
         return;
@@ -629,7 +418,7 @@ void TXLogFilterProxyModel::removeRowsAroundCurrentIndex()
 
 bool TXLogFilterProxyModel::isAnyRowAffected(const TXLogRowMapping &mapping) const
 {
-    const QList<bool> accepted = acceptedRows(sourceIndexAbove(mapping));
+    const QList<bool> accepted = rules.acceptedRows(sourceIndexAbove(mapping));
     for (int row = 0; row < mapping.sourceCount(); ++row) {
         if (accepted.at(row) != (mapping.shownRowOf(row) >= 0)) {
             return true;
@@ -644,7 +433,7 @@ void TXLogFilterProxyModel::filterRows(TXLogRowMapping &mapping,
                                        std::vector<std::unique_ptr<TXLogRowMapping>> *gone)
 {
     const QModelIndex sourceParent = sourceIndexAbove(mapping);
-    const QList<bool> accepted = acceptedRows(sourceParent);
+    const QList<bool> accepted = rules.acceptedRows(sourceParent);
     Rows kept = mapping.shownSourceRows();
     kept.removeIf([&](qsizetype row) { return !accepted.at(row); });
     Rows added;
@@ -654,8 +443,8 @@ void TXLogFilterProxyModel::filterRows(TXLogRowMapping &mapping,
         }
     }
     if (!added.isEmpty() || kept.size() != mapping.shownCount()) {
-        sortRows(added, sourceParent);
-        for (TXLogRowMapping *hidden : mapping.showOnly(mergeRows(kept, added, sourceParent))) {
+        rules.sort(added, sourceParent);
+        for (TXLogRowMapping *hidden : mapping.showOnly(rules.merge(kept, added, sourceParent))) {
             gone->emplace_back(hidden);
         }
     }
@@ -668,7 +457,7 @@ void TXLogFilterProxyModel::sortAllRows(TXLogRowMapping &mapping)
 {
     const Rows before = mapping.shownSourceRows();
     Rows sorted = before;
-    sortRows(sorted, sourceIndexAbove(mapping));
+    rules.sort(sorted, sourceIndexAbove(mapping));
     if (sorted != before) {
         mapping.showOnly(sorted);
     }

@@ -2,12 +2,12 @@
 
 #include "TXGUICommonExport.h"
 #include "TXLogRowMapping.h"
+#include "TXLogRowRules.h"
 
 #include <QPointer>
 #include <QProperty>
 #include <QSortFilterProxyModel>
 
-#include <array>
 #include <memory>
 #include <vector>
 
@@ -60,12 +60,11 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
     // The log cannot be edited through its view.
-    bool setHeaderData(int section, Qt::Orientation orientation, const QVariant &value,
-                       int role = Qt::EditRole) override;
-    bool insertRows(int row, int count, const QModelIndex &parent = {}) override;
-    bool insertColumns(int column, int count, const QModelIndex &parent = {}) override;
-    bool removeRows(int row, int count, const QModelIndex &parent = {}) override;
-    bool removeColumns(int column, int count, const QModelIndex &parent = {}) override;
+    bool setHeaderData(int, Qt::Orientation, const QVariant &, int) override { return false; }
+    bool insertRows(int, int, const QModelIndex &) override { return false; }
+    bool insertColumns(int, int, const QModelIndex &) override { return false; }
+    bool removeRows(int, int, const QModelIndex &) override { return false; }
+    bool removeColumns(int, int, const QModelIndex &) override { return false; }
 
 protected:
     /// False for every row. The base fills a mapping of its own for each change of filter, from
@@ -81,7 +80,7 @@ private slots:
     void sourceDestroyed();
 
 private:
-    using Rows = QList<qsizetype>;
+    using Rows = TXLogRowRules::Rows;
 
     /// A persistent index, told by what it stands for.
     struct Remembered
@@ -93,20 +92,6 @@ private:
 
     void followProperties();
     void followSource();
-    void updateLevelFilter();
-
-    bool accepts(int sourceRow, const QModelIndex &sourceParent) const;
-    bool acceptsLevel(int level) const;
-    QList<bool> acceptedRows(const QModelIndex &sourceParent) const;
-    bool isSorting() const;
-    bool isEverythingEqual(const QModelIndex &sourceParent) const;
-    QVariant sortKey(qsizetype sourceRow, const QModelIndex &sourceParent) const;
-    std::vector<QVariant> sortKeys(const Rows &rows, const QModelIndex &sourceParent) const;
-    bool isBefore(const QVariant &left, const QVariant &right) const;
-    void sortRows(Rows &rows, const QModelIndex &sourceParent) const;
-    qsizetype findPlace(const TXLogRowMapping &mapping, qsizetype sourceRow,
-                        const QModelIndex &sourceParent) const;
-    Rows mergeRows(const Rows &kept, const Rows &added, const QModelIndex &sourceParent) const;
 
     TXLogRowMapping *topLevel() const;
     TXLogRowMapping *mappingWith(const QModelIndex &proxyIndex) const;
@@ -129,14 +114,11 @@ private:
     void restorePersistentIndexes(const QList<Remembered> &remembered);
 
     QPointer<TXLogModel> log;
+    TXLogRowRules rules;
     QPointer<QItemSelectionModel> selection;
 
     // Made when it is first asked for, as reading is what makes it.
     mutable std::unique_ptr<TXLogRowMapping> top;
-
-    // Set while the filter looks at nothing but the level: which levels it lets through.
-    bool isLevelFilter = false;
-    std::array<bool, 4> acceptedLevels{};
 
     std::vector<QPropertyNotifier> notifiers;
 };
