@@ -28,6 +28,10 @@ public:
     /// One or two sentences in the language of the moment on what there is to see.
     [[nodiscard]] virtual QString description() const = 0;
 
+    /// Called when the gallery opens for a user with this page in front: starts what is to move
+    /// without a click. Does nothing by default.
+    virtual void startByItself() { }
+
     /// Called once before a picture is taken, with the page shown: starts what fills the page with
     /// something to see. Does nothing by default.
     virtual void fillForPicture() { }

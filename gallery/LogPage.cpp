@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QSysInfo>
 
 namespace {
@@ -75,6 +76,15 @@ QString LogPage::description() const
               "prints, and a job that writes entries with sub-entries from several threads.");
 }
 
+void LogPage::startByItself()
+{
+    // A tree that every machine has, with enough in it to be seen moving, and nobody's own.
+    const QStringList dataFolders =
+        QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+    scanPanel->setFolders(QDir::toNativeSeparators(QDir::cleanPath(dataFolders.constLast())));
+    scanPanel->start();
+}
+
 void LogPage::fillForPicture()
 {
     isFilling = true;
@@ -84,7 +94,7 @@ void LogPage::fillForPicture()
 
 QList<GalleryFurtherWindow> LogPage::furtherWindows()
 {
-    openLogWindow();
+    logWindow->show();
     return {{QStringLiteral("window"), logWindow}};
 }
 

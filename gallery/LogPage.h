@@ -24,6 +24,7 @@ public:
     explicit LogPage(QWidget *parent = nullptr);
 
     [[nodiscard]] QString description() const override;
+    void startByItself() override;
     void fillForPicture() override;
     [[nodiscard]] bool isReady() const override { return !isFilling; }
     [[nodiscard]] QList<GalleryFurtherWindow> furtherWindows() override;

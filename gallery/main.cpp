@@ -1,6 +1,7 @@
 #include "GalleryCommandLine.h"
 #include "GalleryGrabber.h"
 #include "GalleryLanguages.h"
+#include "GalleryPage.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
 
@@ -75,6 +76,7 @@ int runGallery(const GalleryCommandLine &commandLine)
         window.resize(window.size().boundedTo(window.screen()->availableSize()));
     }
     window.show();
+    window.currentPage()->startByItself();
     return QApplication::exec();
 }
 

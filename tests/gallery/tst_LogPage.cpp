@@ -22,6 +22,7 @@ private slots:
     void qtWarningsAreLogged();
     void printedLinesAreShownLive();
     void logWindowFollowsFromTheStart();
+    void pageStartsWithAScanThatMoves();
     void pageIsReadyWhenItHasBeenFilled();
 
 protected:
@@ -123,6 +124,14 @@ void TestLogPage::logWindowFollowsFromTheStart()
     QVERIFY(window->isVisible());
     QVERIFY(window->nbEventLogged() >= firstLines + 1);
     QCOMPARE(window->nbEventLogged(), preview->model()->rowCount());
+}
+
+void TestLogPage::pageStartsWithAScanThatMoves()
+{
+    page->startByItself();
+
+    QTRY_VERIFY(preview->model()->rowCount() > firstLines + 10);
+    // Left in the middle of the scan: the page ends it.
 }
 
 void TestLogPage::pageIsReadyWhenItHasBeenFilled()
