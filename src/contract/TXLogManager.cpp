@@ -148,9 +148,9 @@ void TXLogManager::takeWaitingEntries()
 {
     const QMutexLocker locker(&waitingMutex);
     wakeUpIsPosted = false;
-    if (nextInBatch == batch.size()) {
-        batch.clear();
-        nextInBatch = 0;
+    // What is done goes each time, or a batch that writers never let run empty would only grow.
+    batch.remove(0, std::exchange(nextInBatch, 0));
+    if (batch.isEmpty()) {
         batch.swap(waiting);
     } else {
         batch.append(std::exchange(waiting, {}));

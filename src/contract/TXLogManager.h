@@ -17,9 +17,8 @@ class QTimer;
 ///
 /// What is appended is collected and linked into the tree on the manager's own thread (the thread
 /// that made it, or that it was moved to), in the order of the calls, by one wake-up of that
-/// thread's event loop for a whole batch. The signals come from there, one for each item. Batches
-/// follow one another at least kBatchIntervalMilliseconds apart, as more pictures a second than
-/// that help nobody, and a long batch is cut into slices, so that the event loop keeps turning.
+/// thread's event loop for a whole batch. The signals come from there, one for each item. A long
+/// batch is cut into slices, so that the event loop keeps turning.
 ///
 /// Make the manager on the thread of its views. A view on another thread may see a sub-item twice
 /// that is appended while its parent is still on the way to the view.
@@ -30,6 +29,7 @@ class TXCORECOMMON_EXPORT TXLogManager : public QObject
 public:
     /// How deep an entry can stand, the top level being 1. An entry under a deeper parent is put
     /// beside that parent, so that a program which hangs each line under its last builds no tower.
+    /// What a ready item brings with it is not counted.
     static constexpr int kMaximumDepth = 100;
 
     /// How long a batch may keep the event loop from turning, in milliseconds.

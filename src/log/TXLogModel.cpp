@@ -119,9 +119,9 @@ QModelIndex TXLogModel::index(TXLogItem *item, int column, const QModelIndex &pa
     const TXLogItem *searched = itemOf(parent);
     // Up from the item to where the search starts; an item that has lost its sub-items, or is not
     // shown itself, hides what was below it.
-    const TXLogItem *above = item->parent;
+    TXLogItem *above = item->parent;
     for (; row >= 0 && above && above != searched; above = above->parent) {
-        if (countChildren(*above) == 0 || rowOf(const_cast<TXLogItem *>(above)) < 0) {
+        if (countChildren(*above) == 0 || rowOf(above) < 0) {
             return {};
         }
     }

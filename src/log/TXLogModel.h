@@ -52,7 +52,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
     /// The index of an item that is shown at any depth below `parent`, invalid when there is none.
-    /// Costs the depth of the item.
+    /// The item must be alive, or null. Costs the depth of the item.
     QModelIndex index(TXLogItem *item, int column, const QModelIndex &parent);
 
     /// The same as the const one. A literal row 0 would fit the search as well without it.

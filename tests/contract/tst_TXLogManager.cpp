@@ -379,6 +379,7 @@ void TestTXLogManager::receiverMayRunAnEventLoop()
     bool isInner = false;
     connect(manager.rootItem().data(), &TXLogItem::itemAppended, this, [&](const Item &) {
         if (!std::exchange(isInner, true)) {
+            manager.append(1, plain(QStringLiteral("late")));
             manager.flush();
         }
     });
@@ -390,7 +391,7 @@ void TestTXLogManager::receiverMayRunAnEventLoop()
 
     QCOMPARE(protocol.lines,
              QStringList({QStringLiteral("+0"), QStringLiteral("+1"), QStringLiteral("+2"),
-                          QStringLiteral("+3")}));
+                          QStringLiteral("+3"), QStringLiteral("+late")}));
 }
 
 void TestTXLogManager::receiverMayDestroyTheManager_data()
