@@ -6,7 +6,12 @@
 #include <QAbstractProxyModel>
 #include <QMimeData>
 
+#include <limits>
+
 namespace {
+
+/// No folder has this id.
+constexpr quintptr kNoFolder = std::numeric_limits<quintptr>::max();
 
 /// Follows an index through the proxies that show `model`.
 QModelIndex mappedTo(const QAbstractItemModel *model, QModelIndex index)
@@ -42,6 +47,15 @@ const Folder *nextThatStays(const Folder *parent, int row, const QList<Folder *>
         }
     }
     return nullptr;
+}
+
+QList<quintptr> idsOf(const QList<Folder *> &folders)
+{
+    QList<quintptr> ids;
+    for (const Folder *folder : folders) {
+        ids.append(folder->id);
+    }
+    return ids;
 }
 
 } // namespace
@@ -112,13 +126,9 @@ void FolderModel::updateExpandState()
     }
     unconfirmedExpansions.clear();
 
-    QList<quintptr> ids;
-    const QList<Folder *> folders = tree->allFolders();
-    for (const Folder *folder : folders) {
-        ids.append(folder->id);
-    }
+    const QList<quintptr> ids = idsOf(tree->allFolders());
     // By id, since who hears the signals may change the tree.
-    for (const quintptr id : qAsConst(ids)) {
+    for (const quintptr id : ids) {
         const Folder *folder = tree->find(id);
         if (!folder || folder->children.isEmpty()) {
             continue;
@@ -274,9 +284,15 @@ bool FolderModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int
     Folder *into = folderOrRoot(parent);
     const QList<Folder *> folders = FolderDrag::decode(dragToken, *tree, data);
     const Folder *before = nextThatStays(into, row, folders);
-    const QList<QList<Folder *>> runs = FolderDrag::toRuns(folders);
-    for (const QList<Folder *> &run : runs) {
-        moveRun(run, into, before);
+    // By id, since who hears of one move may take away what was to move next.
+    const quintptr intoId = into->id;
+    const quintptr beforeId = before ? before->id : kNoFolder;
+    QList<QList<quintptr>> runs;
+    for (const QList<Folder *> &run : FolderDrag::toRuns(folders)) {
+        runs.append(idsOf(run));
+    }
+    for (const QList<quintptr> &run : qAsConst(runs)) {
+        moveRun(run, intoId, beforeId);
     }
     return false;
 }
@@ -352,11 +368,17 @@ bool FolderModel::canMoveInto(const QList<Folder *> &folders, const Folder *pare
     return true;
 }
 
-void FolderModel::moveRun(const QList<Folder *> &run, Folder *parent, const Folder *before)
+/// Moves siblings that stand side by side. Where one of them is gone by now, none is moved.
+void FolderModel::moveRun(const QList<quintptr> &run, quintptr intoId, quintptr beforeId)
 {
-    const Folder *first = run.first();
-    const int row = before ? before->row : int(parent->children.size());
-    moveRows(indexOf(first->parent), first->row, int(run.size()), indexOf(parent), row);
+    const Folder *into = tree->find(intoId);
+    const Folder *first = tree->find(run.first());
+    if (!into || !first || idsOf(first->parent->children.mid(first->row, run.size())) != run) {
+        return;
+    }
+    const Folder *before = tree->find(beforeId);
+    const int row = before && before->parent == into ? before->row : int(into->children.size());
+    moveRows(indexOf(first->parent), first->row, int(run.size()), indexOf(into), row);
 }
 
 void FolderModel::askToExpand(quintptr id)

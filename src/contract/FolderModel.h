@@ -142,7 +142,7 @@ private:
     [[nodiscard]] Folder *dropParent(const QModelIndex &index,
                                      DropIndicatorPosition position) const;
     [[nodiscard]] bool canMoveInto(const QList<Folder *> &folders, const Folder *parent) const;
-    void moveRun(const QList<Folder *> &run, Folder *parent, const Folder *before);
+    void moveRun(const QList<quintptr> &run, quintptr intoId, quintptr beforeId);
     void askToExpand(quintptr id);
 
     std::unique_ptr<FolderTree> tree;

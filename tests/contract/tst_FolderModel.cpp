@@ -139,6 +139,8 @@ private slots:
     void dropOfEqualNamesIsRefusedAsAWhole();
     void dropOfAnotherModelOrDamagedDataIsRefused_data();
     void dropOfAnotherModelOrDamagedDataIsRefused();
+    void dropSurvivesARemovalBetweenItsMoves_data();
+    void dropSurvivesARemovalBetweenItsMoves();
     void dropFromTheViewMovesAndIsNotTakenForARemoval();
     void persistentIndexesFollowADrop();
 
@@ -659,6 +661,31 @@ void TestFolderModel::dropOfAnotherModelOrDamagedDataIsRefused()
     QVERIFY(!folders.model.dropMimeData(&data, Qt::MoveAction, -1, -1, folders.a));
     QCOMPARE(outline(folders.model), "A(A1(A1a) A2) B C");
     QVERIFY(!folders.model.canDropMimeData(nullptr, Qt::MoveAction, -1, -1, folders.a));
+}
+
+void TestFolderModel::dropSurvivesARemovalBetweenItsMoves_data()
+{
+    QTest::addColumn<QString>("removed");
+    QTest::addColumn<QString>("left");
+    QTest::newRow("what was to move next") << "B"
+                                           << "A(A2) C(A1(A1a))";
+    QTest::newRow("the destination") << "C"
+                                     << "A(A2) B";
+}
+
+void TestFolderModel::dropSurvivesARemovalBetweenItsMoves()
+{
+    QFETCH(QString, removed);
+    QFETCH(QString, left);
+    Folders folders;
+    const QPersistentModelIndex doomed(removed == "B" ? folders.b : folders.c);
+    connect(&folders.model, &QAbstractItemModel::rowsMoved, this,
+            [&] { folders.model.remove(doomed); });
+    const auto data = folders.drag({folders.a1, folders.b});
+
+    folders.model.dropMimeData(data.get(), Qt::MoveAction, -1, -1, folders.c);
+
+    QCOMPARE(outline(folders.model), left);
 }
 
 void TestFolderModel::dropFromTheViewMovesAndIsNotTakenForARemoval()
