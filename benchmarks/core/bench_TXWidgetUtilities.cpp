@@ -11,6 +11,8 @@
 
 #include <vector>
 
+#include <malloc.h>
+
 // Saving and restoring the state of a window of panels, each a splitter with a tree and some plain
 // widgets. The argument is the number of widgets, with those inside the trees. The peers:
 // - The least that could be done: Qt's own calls on a flat list of the same widgets, what they give
@@ -51,6 +53,8 @@ public:
     explicit Window(int widgets)
         : model(1, 4)
     {
+        // Or the heap shrinks after each round, and whoever comes first pays for new pages.
+        mallopt(M_TRIM_THRESHOLD, 1 << 30);
         window.setObjectName(QStringLiteral("window"));
         window.setCentralWidget(&centre);
         for (qsizetype count = 2; count < widgets;) {
