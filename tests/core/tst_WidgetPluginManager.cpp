@@ -178,7 +178,7 @@ void TestWidgetPluginManager::truncatedLibraryIsSkipped()
     QFETCH(int, bytes);
     QFile library(builtFile(kGood));
     QVERIFY(library.open(QFile::ReadOnly));
-    QVERIFY(library.size() > 2 * bytes);
+    QVERIFY(library.size() / 2 > bytes);
     write(QStringLiteral("truncated.so"), library.read(bytes));
     const WidgetPluginManager manager;
     manager.loadPlugins(subFolder());
@@ -280,10 +280,11 @@ void TestWidgetPluginManager::loadingTheSameFolderTwiceChangesNothing()
     copy(kGood);
     const WidgetPluginManager manager;
     manager.loadPlugins(subFolder());
-    const QHash<QString, IWidgetPlugin *> first = manager.plugins();
+    const QList<IWidgetPlugin *> first = manager.plugins().values();
     manager.loadPlugins(subFolder());
 
-    QCOMPARE(manager.plugins(), first);
+    QCOMPARE(first.size(), 1);
+    QCOMPARE(manager.plugins().values(), first);
 }
 
 void TestWidgetPluginManager::tableIsHandedOutByReference()
@@ -393,9 +394,11 @@ void TestWidgetPluginManager::folderIsBelowTheProgram()
 
 void TestWidgetPluginManager::emptyNameScansConfWidgets()
 {
-    const QDir program(QCoreApplication::applicationDirPath());
-    QVERIFY2(program.mkdir(QStringLiteral("ConfWidgets")), "left over from a killed run?");
-    QDir confWidgets(program.filePath(QStringLiteral("ConfWidgets")));
+    const QString program = QCoreApplication::applicationDirPath();
+    QDir confWidgets(program + QStringLiteral("/ConfWidgets"));
+    // A run that was killed leaves it behind.
+    QVERIFY(confWidgets.removeRecursively());
+    QVERIFY(confWidgets.mkpath(QStringLiteral(".")));
     const auto tidy = qScopeGuard([&] { confWidgets.removeRecursively(); });
     QVERIFY(QFile::copy(builtFile(kGood), confWidgets.filePath(QLatin1String(kGood))));
     const WidgetPluginManager byDefault;
