@@ -306,6 +306,8 @@ void TestTXFTPFailures::oddServerEndsInAnError_data()
     QTest::newRow("bytes without a line end") << QList<QByteArray>({QByteArray(1 << 20, 'x')});
     QTest::newRow("null bytes") << QList<QByteArray>({QByteArray("22\0 \0\r\n", 8), ""});
     QTest::newRow("empty lines") << QList<QByteArray>({QByteArray("\r\n").repeated(1000)});
+    QTest::newRow("a greeting without an end")
+        << QList<QByteArray>({QByteArray("220-hello\r\n").repeated(100000)});
     QTest::newRow("demands an account")
         << QList<QByteArray>({"220 hello\r\n", "332 account?\r\n", "500 no\r\n"});
 }
@@ -313,6 +315,7 @@ void TestTXFTPFailures::oddServerEndsInAnError_data()
 void TestTXFTPFailures::oddServerEndsInAnError()
 {
     QFETCH(QList<QByteArray>, answers);
+    TXTransferSettings::setConnectTimeout(kShortMilliseconds);
     LocalScriptedServer server(answers);
     QVERIFY2(server.start(), qPrintable(server.error()));
     TXFTP ftp;
