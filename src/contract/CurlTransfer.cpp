@@ -23,7 +23,8 @@ QString plainText(const QByteArray &bytes)
 {
     QString text = QString::fromUtf8(bytes);
     std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return !c.isPrint(); }, u' ');
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
+        u' ');
     return text.trimmed();
 }
 
