@@ -7,6 +7,7 @@
 namespace {
 
 constexpr qsizetype kLineCharacters = 76;
+constexpr qsizetype kWordCharacters = 75;
 constexpr qsizetype kLongestPlainWord = 36;
 constexpr char kWordStart[] = "=?UTF-8?B?";
 constexpr char kWordEnd[] = "?=";
@@ -81,8 +82,8 @@ QByteArray encodedWords(const QString &text, qsizetype column)
     QByteArray words;
     for (qsizetype start = 0; start < utf8.size();) {
         // Four characters of base64 hold three bytes.
-        const qsizetype space = (kLineCharacters - column - kWordFrame) / 4 * 3;
-        const qsizetype bytes = wholeCharacters(utf8, start, space);
+        const qsizetype space = std::min(kWordCharacters, kLineCharacters - column) - kWordFrame;
+        const qsizetype bytes = wholeCharacters(utf8, start, space / 4 * 3);
         words += words.isEmpty() ? "" : "\r\n ";
         words += kWordStart + utf8.mid(start, bytes).toBase64() + kWordEnd;
         start += bytes;
