@@ -177,7 +177,8 @@ void CurlTransfer::keepServerLine(const QByteArray &line)
         return line.contains(secret);
     };
     if (std::none_of(secrets.begin(), secrets.end(), isIn)) {
-        serverLine = line.left(kServerLineBytes);
+        // A copy: the line lies in a buffer of libcurl.
+        serverLine = QByteArray(line.constData(), std::min(line.size(), kServerLineBytes));
     } else {
         serverLine.clear();
     }

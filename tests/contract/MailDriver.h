@@ -47,8 +47,8 @@ inline MailOutcome sendMail(const QHash<QString, QVariant> &settings,
                             const QList<QString> &receivers = {},
                             const QList<QString> &copyReceivers = {})
 {
-    const QPointer<TXMailSender> sender
-        = TXMailSender::createTXMailSender(settings, body, subject, receivers, copyReceivers);
+    const QPointer<TXMailSender> sender =
+        TXMailSender::createTXMailSender(settings, body, subject, receivers, copyReceivers);
     const QSignalSpy succeeded(sender, SIGNAL(mailSendingSucceed()));
     const QSignalSpy failed(sender, SIGNAL(mailSendingFailed(QString)));
     QSignalSpy gone(sender, SIGNAL(destroyed()));

@@ -9,8 +9,9 @@
 /// A mail server that answers each command as it is told, also with what no real server would. It
 /// runs in the event loop of the test.
 ///
-/// The dialogue is that of a server which takes everything; `changes` replaces the answers to single
-/// commands ("EHLO", "." for the end of the mail, "" for the greeting). The answer kSilence stands
+/// The dialogue is that of a server which takes everything; `changes` replaces the answers to
+/// single commands ("EHLO", "login" for what follows AUTH, "." for the end of the mail, "" for the
+/// greeting). The answer kSilence stands
 /// for none, kHangUp for closing the connection.
 class ScriptedServer
 {
@@ -57,7 +58,7 @@ private:
             if (!isInMail || line == ".") {
                 received.append(line);
                 isInMail = false;
-                answer(socket, line.split(' ').first());
+                answer(socket, isInLogin ? "login" : line.split(' ').first());
             }
         }
     }
@@ -69,6 +70,7 @@ private:
             socket->close();
         } else if (text != kSilence) {
             isInMail = text.startsWith("354");
+            isInLogin = text.startsWith("334");
             socket->write(text + "\r\n");
         }
     }
@@ -76,10 +78,13 @@ private:
     QTcpServer server;
     bool listens = false;
     bool isInMail = false;
+    bool isInLogin = false;
     int open = 0;
     QByteArrayList received;
     QHash<QByteArray, QByteArray> answers = {
-        {"", "220 ready"},        {"EHLO", "250-hello\r\n250 AUTH PLAIN"}, {"AUTH", "235 welcome"},
-        {"DATA", "354 go ahead"}, {".", "250 taken"},                      {"QUIT", "221 bye"},
+        {"", "220 ready"},        {"EHLO", "250-hello\r\n250 AUTH PLAIN"},
+        {"AUTH", "334 "},         {"login", "235 welcome"},
+        {"DATA", "354 go ahead"}, {".", "250 taken"},
+        {"QUIT", "221 bye"},
     };
 };

@@ -51,14 +51,27 @@ void TestMailAddress::addressIsRead_data()
     QTest::newRow("one quote") << "\" <mia@example.org>" << plain << "\"";
     QTest::newRow("bracket in name") << "a < b <mia@example.org>" << plain << "a < b";
     QTest::newRow("control in name") << "Mia\r\nBcc: x <mia@example.org>" << plain << "Mia Bcc: x";
-    QTest::newRow("no dot") << "root@localhost" << "root@localhost" << "";
-    QTest::newRow("signs") << "a.b+c_d'e=f@x-y.org" << "a.b+c_d'e=f@x-y.org" << "";
-    QTest::newRow("quoted local part") << R"("mia moll"@x.org)" << R"("mia moll"@x.org)" << "";
-    QTest::newRow("at in quotes") << R"("a@b"@x.org)" << R"("a@b"@x.org)" << "";
-    QTest::newRow("address literal") << "mia@[127.0.0.1]" << "mia@[127.0.0.1]" << "";
+    QTest::newRow("no dot") << "root@localhost"
+                            << "root@localhost"
+                            << "";
+    QTest::newRow("signs") << "a.b+c_d'e=f@x-y.org"
+                           << "a.b+c_d'e=f@x-y.org"
+                           << "";
+    QTest::newRow("quoted local part") << R"("mia moll"@x.org)"
+                                       << R"("mia moll"@x.org)"
+                                       << "";
+    QTest::newRow("at in quotes") << R"("a@b"@x.org)"
+                                  << R"("a@b"@x.org)"
+                                  << "";
+    QTest::newRow("address literal") << "mia@[127.0.0.1]"
+                                     << "mia@[127.0.0.1]"
+                                     << "";
     QTest::newRow("other script") << QStringLiteral("mia@Bücher.example")
-                                  << "mia@xn--bcher-kva.example" << "";
-    QTest::newRow("capitals are kept") << "Mia@Example.ORG" << "Mia@Example.ORG" << "";
+                                  << "mia@xn--bcher-kva.example"
+                                  << "";
+    QTest::newRow("capitals are kept") << "Mia@Example.ORG"
+                                       << "Mia@Example.ORG"
+                                       << "";
 }
 
 void TestMailAddress::addressIsRead()
@@ -103,31 +116,51 @@ void TestMailAddress::otherTextIsRefusedInWords_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("word");
-    QTest::newRow("empty") << "" << "not a mail address";
-    QTest::newRow("no at") << "mia" << "not a mail address";
-    QTest::newRow("at and dot") << "@." << "not a mail address";
-    QTest::newRow("no domain") << "mia@" << "not a mail address";
-    QTest::newRow("no local part") << "@example.org" << "not a mail address";
-    QTest::newRow("dot behind at") << "mia@.org" << "not a mail address";
-    QTest::newRow("dot at the end") << "mia@example." << "not a mail address";
-    QTest::newRow("blank") << "mia moll@example.org" << "not a mail address";
-    QTest::newRow("two") << "a@x.org b@x.org" << "not a mail address";
-    QTest::newRow("bracket inside") << "a@x.org>,<b@x.org" << "not a mail address";
-    QTest::newRow("bracket not closed") << "Mia <mia@x.org" << "not a mail address";
-    QTest::newRow("options") << "<mia@x.org> SIZE=1" << "not a mail address";
-    QTest::newRow("empty brackets") << "Mia <>" << "not a mail address";
-    QTest::newRow("quote not closed") << R"("mia@x.org)" << "not a mail address";
-    QTest::newRow("bad domain") << "mia@a/b" << "not a mail address";
-    QTest::newRow("bad literal") << "mia@[a b]" << "not a mail address";
+    QTest::newRow("empty") << ""
+                           << "not a mail address";
+    QTest::newRow("no at") << "mia"
+                           << "not a mail address";
+    QTest::newRow("at and dot") << "@."
+                                << "not a mail address";
+    QTest::newRow("no domain") << "mia@"
+                               << "not a mail address";
+    QTest::newRow("no local part") << "@example.org"
+                                   << "not a mail address";
+    QTest::newRow("dot behind at") << "mia@.org"
+                                   << "not a mail address";
+    QTest::newRow("dot at the end") << "mia@example."
+                                    << "not a mail address";
+    QTest::newRow("blank") << "mia moll@example.org"
+                           << "not a mail address";
+    QTest::newRow("two") << "a@x.org b@x.org"
+                         << "not a mail address";
+    QTest::newRow("bracket inside") << "a@x.org>,<b@x.org"
+                                    << "not a mail address";
+    QTest::newRow("bracket not closed") << "Mia <mia@x.org"
+                                        << "not a mail address";
+    QTest::newRow("options") << "<mia@x.org> SIZE=1"
+                             << "not a mail address";
+    QTest::newRow("empty brackets") << "Mia <>"
+                                    << "not a mail address";
+    QTest::newRow("quote not closed") << R"("mia@x.org)"
+                                      << "not a mail address";
+    QTest::newRow("bad domain") << "mia@a/b"
+                                << "not a mail address";
+    QTest::newRow("bad literal") << "mia@[a b]"
+                                 << "not a mail address";
     QTest::newRow("local part not ASCII") << QStringLiteral("zoë@x.org") << "before the '@'";
-    QTest::newRow("line break") << "mia@x.org\r\nBcc: b@x.org" << "line break";
-    QTest::newRow("line break behind") << "mia@x.org\n" << "line break";
-    QTest::newRow("break in brackets") << "Mia <mia\r\n@x.org>" << "line break";
+    QTest::newRow("line break") << "mia@x.org\r\nBcc: b@x.org"
+                                << "line break";
+    QTest::newRow("line break behind") << "mia@x.org\n"
+                                       << "line break";
+    QTest::newRow("break in brackets") << "Mia <mia\r\n@x.org>"
+                                       << "line break";
     QTest::newRow("NUL") << QString::fromLatin1("mia\0@x.org", 10) << "control character";
     QTest::newRow("separator") << QStringLiteral("mia@x\u2028.org") << "line break";
-    QTest::newRow("too long") << QString(250, 'x') + "@x.org" << "too long";
-    QTest::newRow("too long as ASCII")
-        << "m@" + QStringLiteral("ü.").repeated(120) + "org" << "not a mail address";
+    QTest::newRow("too long") << QString(250, 'x') + "@x.org"
+                              << "too long";
+    QTest::newRow("too long as ASCII") << "m@" + QStringLiteral("ü.").repeated(120) + "org"
+                                       << "not a mail address";
 }
 
 void TestMailAddress::otherTextIsRefusedInWords()
@@ -160,8 +193,8 @@ void TestMailAddress::listIsCutAtCommasAndSemicolons_data()
     QTest::newRow("superfluous") << ",a@x.org,; b@x.org;" << QStringList{"a@x.org", "b@x.org"};
     QTest::newRow("names") << "\"A, B; C\" <a@x.org>, D <d@x.org>"
                            << QStringList{"a@x.org", "d@x.org"};
-    QTest::newRow("escaped quote") << R"("A\", B" <a@x.org>; b@x.org)"
-                                   << QStringList{"a@x.org", "b@x.org"};
+    QTest::newRow("escaped quote")
+        << R"("A\", B" <a@x.org>; b@x.org)" << QStringList{"a@x.org", "b@x.org"};
     QTest::newRow("same twice") << "a@x.org,a@x.org" << QStringList{"a@x.org", "a@x.org"};
 }
 

@@ -58,11 +58,16 @@ void TestMailHeaderText::controlsBecomeBlanks_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("clean");
-    QTest::newRow("none") << "abc" << "abc";
-    QTest::newRow("line feed") << "a\nb" << "a b";
-    QTest::newRow("carriage return") << "a\rb" << "a b";
-    QTest::newRow("both are one") << "a\r\nb" << "a b";
-    QTest::newRow("other order") << "a\n\rb" << "a  b";
+    QTest::newRow("none") << "abc"
+                          << "abc";
+    QTest::newRow("line feed") << "a\nb"
+                               << "a b";
+    QTest::newRow("carriage return") << "a\rb"
+                                     << "a b";
+    QTest::newRow("both are one") << "a\r\nb"
+                                  << "a b";
+    QTest::newRow("other order") << "a\n\rb"
+                                 << "a  b";
     QTest::newRow("tab, NUL, DEL") << QString::fromLatin1("a\tb\0c\x7f", 6) << "a b c ";
     QTest::newRow("next line") << QStringLiteral("a\u0085b") << "a b";
     QTest::newRow("separators") << QStringLiteral("a\u2028b\u2029c") << "a b c";

@@ -114,17 +114,29 @@ void TestMailMessage::bodyArrives_data()
     QTest::addColumn<QString>("body");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<QString>("encoding");
-    QTest::newRow("plain") << "a\r\nb\r\n" << "a\nb\n" << "7bit";
-    QTest::newRow("line ends") << "a\nb\rc\r\nd" << "a\nb\nc\nd\n" << "7bit";
-    QTest::newRow("blank lines") << "\n\na\n\n" << "\n\na\n\n" << "7bit";
-    QTest::newRow("empty") << "" << "\n" << "7bit";
-    QTest::newRow("dots") << ".\n..\n.a\n" << ".\n..\n.a\n" << "7bit";
-    QTest::newRow("like headers") << "Bcc: x@x.org\n\nb" << "Bcc: x@x.org\n\nb\n" << "7bit";
+    QTest::newRow("plain") << "a\r\nb\r\n"
+                           << "a\nb\n"
+                           << "7bit";
+    QTest::newRow("line ends") << "a\nb\rc\r\nd"
+                               << "a\nb\nc\nd\n"
+                               << "7bit";
+    QTest::newRow("blank lines") << "\n\na\n\n"
+                                 << "\n\na\n\n"
+                                 << "7bit";
+    QTest::newRow("empty") << ""
+                           << "\n"
+                           << "7bit";
+    QTest::newRow("dots") << ".\n..\n.a\n"
+                          << ".\n..\n.a\n"
+                          << "7bit";
+    QTest::newRow("like headers") << "Bcc: x@x.org\n\nb"
+                                  << "Bcc: x@x.org\n\nb\n"
+                                  << "7bit";
     QTest::newRow("longest line") << QString(998, 'x') << QString(998, 'x') + '\n' << "7bit";
     QTest::newRow("too long") << QString(999, 'x') << QString(999, 'x') + '\n' << "base64";
-    QTest::newRow("not ASCII") << QStringLiteral("ä\r\n😀") << QStringLiteral("ä\n😀\n")
-                               << "base64";
-    QTest::newRow("NUL") << QString(QChar(0)) + "a" << QString(QChar(0)) + "a\n" << "base64";
+    QTest::newRow("not ASCII") << QStringLiteral("ä\r\n😀") << QStringLiteral("ä\n😀\n") << "base64";
+    QTest::newRow("NUL") << QString(QChar(0)) + "a" << QString(QChar(0)) + "a\n"
+                         << "base64";
 }
 
 void TestMailMessage::bodyArrives()
@@ -142,8 +154,7 @@ void TestMailMessage::bodyArrives()
 
 void TestMailMessage::nothingInjectsAHeader()
 {
-    const QStringList names
-        = readMail(contentOf(simpleMail()))["names"].toVariant().toStringList();
+    const QStringList names = readMail(contentOf(simpleMail()))["names"].toVariant().toStringList();
     const QString attack = "a\r\nBcc: eve@example.org\n\rX-A: b\r\n\r\nbody";
     MailMessage message = simpleMail(attack);
     message.sender = address(attack + " <mia@example.org>");
