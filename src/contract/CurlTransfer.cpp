@@ -163,7 +163,7 @@ int CurlTransfer::debug(CURL *, curl_infotype type, char *data, size_t size, voi
 {
     const auto text = QByteArray::fromRawData(data, qsizetype(size));
     auto *self = static_cast<CurlTransfer *>(transfer);
-    if (type == CURLINFO_HEADER_IN) {
+    if (type == CURLINFO_HEADER_IN && !self->hasSaidGoodbye) {
         self->keepServerLine(text);
     } else if (type == CURLINFO_HEADER_OUT && text == "QUIT\r\n") {
         self->leaveServer();
@@ -186,6 +186,7 @@ void CurlTransfer::keepServerLine(const QByteArray &line)
 
 void CurlTransfer::leaveServer()
 {
+    hasSaidGoodbye = true;
     // libcurl would wait for the answer, in a way that nothing can end, and complain.
     curl_easy_setopt(easy, CURLOPT_ERRORBUFFER, nullptr);
     const QMutexLocker locker(&mutex);

@@ -14,6 +14,8 @@ namespace {
 constexpr qsizetype kLongestMailbox = 254;
 constexpr qsizetype kLongestPlainName = 30;
 constexpr qsizetype kShownCharacters = 80;
+constexpr char kBreakRefused[] =
+    QT_TRANSLATE_NOOP("QObject", "This mail address holds a line break or a control character: %1");
 
 QString refusal(const char *sentence, const QString &text)
 {
@@ -90,6 +92,14 @@ QStringList pieces(const QString &list)
     return found;
 }
 
+/// Whether the text before the address in brackets looks like one more receiver, who would get
+/// nothing.
+bool isAddressOnAnotherLine(const QString &name)
+{
+    return !name.startsWith(u'"') && name.contains(u'@')
+        && std::any_of(name.begin(), name.end(), isControlOrBreak);
+}
+
 QByteArray quoted(const QString &name)
 {
     QByteArray escaped = name.toLatin1();
@@ -109,16 +119,16 @@ std::optional<MailAddress> MailAddress::fromText(const QString &text, QString *r
 {
     const QString bare = withoutBlanksAround(text);
     const qsizetype bracket = bare.endsWith(u'>') ? bare.lastIndexOf(u'<') : -1;
-    MailAddress address;
-    const bool isRead = address.readMailbox(
-        bracket < 0 ? bare : bare.mid(bracket + 1, bare.size() - bracket - 2), reason);
-    if (!isRead) {
+    const QString name = bare.left(std::max<qsizetype>(bracket, 0));
+    if (isAddressOnAnotherLine(name)) {
+        *reason = refusal(kBreakRefused, text);
         return std::nullopt;
     }
-    if (bracket > 0) {
-        const QString name = withoutBlanksAround(withoutControls(bare.left(bracket)));
-        address.owner = withoutQuotes(name);
+    MailAddress address;
+    if (!address.readMailbox(bracket < 0 ? bare : bare.mid(bracket + 1).chopped(1), reason)) {
+        return std::nullopt;
     }
+    address.owner = withoutQuotes(withoutBlanksAround(withoutControls(name)));
     return address;
 }
 
@@ -131,10 +141,7 @@ bool MailAddress::readMailbox(const QString &text, QString *reason)
     const qsizetype at = text.lastIndexOf(u'@');
     const QString local = text.left(at);
     if (std::any_of(text.begin(), text.end(), isControlOrBreak)) {
-        *reason = refusal(
-            QT_TRANSLATE_NOOP("QObject",
-                              "This mail address holds a line break or a control character: %1"),
-            text);
+        *reason = refusal(kBreakRefused, text);
         return false;
     }
     domainName = at < 0 ? QByteArray() : domainFromText(text.mid(at + 1));

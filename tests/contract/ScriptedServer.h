@@ -38,6 +38,9 @@ public:
         return received.contains(command);
     }
 
+    /// Whether a client waits for an answer that it will not get.
+    [[nodiscard]] bool isSilent() const { return silent; }
+
     /// How many clients are connected.
     [[nodiscard]] int clients() const { return open; }
 
@@ -68,7 +71,9 @@ private:
         const QByteArray text = answers.value(command, "250 ok");
         if (text == kHangUp) {
             socket->close();
-        } else if (text != kSilence) {
+        } else if (text == kSilence) {
+            silent = true;
+        } else {
             isInMail = text.startsWith("354");
             isInLogin = text.startsWith("334");
             socket->write(text + "\r\n");
@@ -77,6 +82,7 @@ private:
 
     QTcpServer server;
     bool listens = false;
+    bool silent = false;
     bool isInMail = false;
     bool isInLogin = false;
     int open = 0;

@@ -1,5 +1,7 @@
 #include "CurlReason.h"
 #include "CurlTransfer.h"
+#include "ScriptedServer.h"
+#include "TXTransferSettings.h"
 #include "TestBase.h"
 
 class TestCurlReason : public TestBase
@@ -13,6 +15,8 @@ private slots:
     void successHasNoReason();
     void reasonHoldsSentenceAndDetail();
     void callersSentenceReplacesBoth();
+    void serverIsQuotedWhenItComplains_data();
+    void serverIsQuotedWhenItComplains();
     void sentencesAreTranslated();
 };
 
@@ -81,6 +85,36 @@ void TestCurlReason::callersSentenceReplacesBoth()
     curl_easy_setopt(transfer.handle(), CURLOPT_URL, "nonsense://localhost");
     QVERIFY(!transfer.perform());
     QCOMPARE(curlReason(transfer, "caller's"), "caller's");
+}
+
+void TestCurlReason::serverIsQuotedWhenItComplains_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<bool>("isQuoted");
+    QTest::newRow("greeting") << QByteArray("220 hello") << false;
+    QTest::newRow("go on") << QByteArray("354 go on") << false;
+    QTest::newRow("not now") << QByteArray("421 busy") << true;
+    QTest::newRow("never") << QByteArray("554 no") << true;
+    QTest::newRow("something else") << QByteArray("HTTP/1.1 400") << true;
+}
+
+void TestCurlReason::serverIsQuotedWhenItComplains()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(bool, isQuoted);
+    const ScriptedServer server({{"", line}, {"EHLO", ScriptedServer::kHangUp}});
+    CurlTransfer transfer;
+    const QByteArray url = "smtp://127.0.0.1:" + QByteArray::number(server.port());
+    curl_easy_setopt(transfer.handle(), CURLOPT_URL, url.constData());
+    // The server that speaks another language is waited for.
+    TXTransferSettings::setConnectTimeout(1000);
+    const std::unique_ptr<QThread> worker(QThread::create([&transfer] { transfer.perform(); }));
+    worker->start();
+    QTRY_VERIFY(worker->isFinished());
+    TXTransferSettings::setConnectTimeout(0);
+    QVERIFY(transfer.code() != CURLE_OK);
+    QCOMPARE(transfer.lastServerLine(), QString::fromLatin1(line));
+    QCOMPARE(curlReason(transfer).contains(QString::fromLatin1(line)), isQuoted);
 }
 
 void TestCurlReason::sentencesAreTranslated()

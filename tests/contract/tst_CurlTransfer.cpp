@@ -71,6 +71,7 @@ private slots:
     void cancelAfterTheEndChangesNothing();
     void silenceAtGoodbyeCostsNoTime_data();
     void silenceAtGoodbyeCostsNoTime();
+    void answerToGoodbyeIsNotKept();
     void brokenConnectionIsAFailure();
     void lastLineOfTheServerIsKept();
     void lineWithThePasswordIsNotKept_data();
@@ -227,6 +228,19 @@ void TestCurlTransfer::silenceAtGoodbyeCostsNoTime()
     QTEST(transfer.code(), "code");
     QTRY_VERIFY(server.hasGot("QUIT"));
     QTEST(transfer.detail(), "detail");
+}
+
+void TestCurlTransfer::answerToGoodbyeIsNotKept()
+{
+    // Often the answer comes too late to be read, hence several times.
+    for (int i = 0; i < 20; ++i) {
+        const ScriptedServer server({{"MAIL", "550 no"}});
+        CurlTransfer transfer;
+        prepareMail(transfer, server.port());
+        const Worker worker(transfer);
+        QTRY_VERIFY(worker.isFinished());
+        QCOMPARE(transfer.lastServerLine(), "550 no");
+    }
 }
 
 void TestCurlTransfer::brokenConnectionIsAFailure()

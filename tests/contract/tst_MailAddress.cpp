@@ -51,6 +51,7 @@ void TestMailAddress::addressIsRead_data()
     QTest::newRow("one quote") << "\" <mia@example.org>" << plain << "\"";
     QTest::newRow("bracket in name") << "a < b <mia@example.org>" << plain << "a < b";
     QTest::newRow("control in name") << "Mia\r\nBcc: x <mia@example.org>" << plain << "Mia Bcc: x";
+    QTest::newRow("address as name") << "mia@example.org <mia@example.org>" << plain << plain;
     QTest::newRow("no dot") << "root@localhost"
                             << "root@localhost"
                             << "";
@@ -155,6 +156,8 @@ void TestMailAddress::otherTextIsRefusedInWords_data()
                                        << "line break";
     QTest::newRow("break in brackets") << "Mia <mia\r\n@x.org>"
                                        << "line break";
+    QTest::newRow("one a line") << "a@x.org\r\n<b@x.org>"
+                                << "line break";
     QTest::newRow("NUL") << QString::fromLatin1("mia\0@x.org", 10) << "control character";
     QTest::newRow("separator") << QStringLiteral("mia@x\u2028.org") << "line break";
     QTest::newRow("too long") << QString(250, 'x') + "@x.org"
