@@ -1,6 +1,6 @@
 #include "CurlReason.h"
 #include "CurlTransfer.h"
-#include "ScriptedServer.h"
+#include "ScriptedMailServer.h"
 #include "TXTransferSettings.h"
 #include "TestBase.h"
 
@@ -102,7 +102,7 @@ void TestCurlReason::serverIsQuotedWhenItComplains()
 {
     QFETCH(QByteArray, line);
     QFETCH(bool, isQuoted);
-    const ScriptedServer server({{"", line}, {"EHLO", ScriptedServer::kHangUp}});
+    const ScriptedMailServer server({{"", line}, {"EHLO", ScriptedMailServer::kHangUp}});
     CurlTransfer transfer;
     const QByteArray url = "smtp://127.0.0.1:" + QByteArray::number(server.port());
     curl_easy_setopt(transfer.handle(), CURLOPT_URL, url.constData());

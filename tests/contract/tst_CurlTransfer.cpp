@@ -1,7 +1,7 @@
 #include "ClosedPort.h"
 #include "CurlTransfer.h"
 #include "FullServer.h"
-#include "ScriptedServer.h"
+#include "ScriptedMailServer.h"
 #include "SilentServer.h"
 #include "TXTransferSettings.h"
 #include "TestBase.h"
@@ -101,7 +101,7 @@ void TestCurlTransfer::finish()
 
 void TestCurlTransfer::transferGoesWell()
 {
-    const ScriptedServer server;
+    const ScriptedMailServer server;
     CurlTransfer transfer;
     QCOMPARE(transfer.code(), int(CURLE_OK));
     prepareMail(transfer, server.port());
@@ -167,7 +167,7 @@ void TestCurlTransfer::cancelEndsItAtOnce_data()
 void TestCurlTransfer::cancelEndsItAtOnce()
 {
     QFETCH(QByteArray, silentCommand);
-    const ScriptedServer server({{silentCommand, ScriptedServer::kSilence}});
+    const ScriptedMailServer server({{silentCommand, ScriptedMailServer::kSilence}});
     CurlTransfer transfer;
     prepareMail(transfer, server.port());
     Worker worker(transfer);
@@ -217,7 +217,7 @@ void TestCurlTransfer::silenceAtGoodbyeCostsNoTime_data()
 void TestCurlTransfer::silenceAtGoodbyeCostsNoTime()
 {
     QFETCH(QByteArray, answer);
-    const ScriptedServer server({{"MAIL", answer}, {"QUIT", ScriptedServer::kSilence}});
+    const ScriptedMailServer server({{"MAIL", answer}, {"QUIT", ScriptedMailServer::kSilence}});
     CurlTransfer transfer;
     prepareMail(transfer, server.port());
     QElapsedTimer timer;
@@ -234,7 +234,7 @@ void TestCurlTransfer::answerToGoodbyeIsNotKept()
 {
     // Often the answer comes too late to be read, hence several times.
     for (int i = 0; i < 20; ++i) {
-        const ScriptedServer server({{"MAIL", "550 no"}});
+        const ScriptedMailServer server({{"MAIL", "550 no"}});
         CurlTransfer transfer;
         prepareMail(transfer, server.port());
         const Worker worker(transfer);
@@ -245,7 +245,7 @@ void TestCurlTransfer::answerToGoodbyeIsNotKept()
 
 void TestCurlTransfer::brokenConnectionIsAFailure()
 {
-    const ScriptedServer server({{"DATA", ScriptedServer::kHangUp}});
+    const ScriptedMailServer server({{"DATA", ScriptedMailServer::kHangUp}});
     CurlTransfer transfer;
     prepareMail(transfer, server.port());
     const Worker worker(transfer);
@@ -257,7 +257,7 @@ void TestCurlTransfer::brokenConnectionIsAFailure()
 
 void TestCurlTransfer::lastLineOfTheServerIsKept()
 {
-    const ScriptedServer server({{"MAIL", "550-no\r\n550 not you"}});
+    const ScriptedMailServer server({{"MAIL", "550-no\r\n550 not you"}});
     CurlTransfer transfer;
     prepareMail(transfer, server.port());
     const Worker worker(transfer);
@@ -277,7 +277,7 @@ void TestCurlTransfer::lineWithThePasswordIsNotKept_data()
 void TestCurlTransfer::lineWithThePasswordIsNotKept()
 {
     QFETCH(QByteArray, echo);
-    const ScriptedServer server({{"login", "535 what is '" + echo + "'?"}});
+    const ScriptedMailServer server({{"login", "535 what is '" + echo + "'?"}});
     CurlTransfer transfer;
     prepareMail(transfer, server.port());
     transfer.setLogin("mia", "s3cret");
@@ -290,7 +290,7 @@ void TestCurlTransfer::lineWithThePasswordIsNotKept()
 
 void TestCurlTransfer::oddBytesOfTheServerArePlainText()
 {
-    const ScriptedServer server({{"MAIL", "550 a\tb\x1b[31m \xff \xf0\x9f\x98\x80"}});
+    const ScriptedMailServer server({{"MAIL", "550 a\tb\x1b[31m \xff \xf0\x9f\x98\x80"}});
     CurlTransfer transfer;
     prepareMail(transfer, server.port());
     const Worker worker(transfer);
@@ -300,7 +300,7 @@ void TestCurlTransfer::oddBytesOfTheServerArePlainText()
 
 void TestCurlTransfer::endlessLineOfTheServerEnds()
 {
-    const ScriptedServer server({{"MAIL", "550 " + QByteArray(10 << 20, 'x')}});
+    const ScriptedMailServer server({{"MAIL", "550 " + QByteArray(10 << 20, 'x')}});
     CurlTransfer transfer;
     prepareMail(transfer, server.port());
     const Worker worker(transfer);
@@ -311,7 +311,8 @@ void TestCurlTransfer::endlessLineOfTheServerEnds()
 
 void TestCurlTransfer::missingAuthoritiesAreAFailure()
 {
-    const ScriptedServer server({{"EHLO", "250-hello\r\n250 STARTTLS"}, {"STARTTLS", "220 go"}});
+    const ScriptedMailServer server(
+        {{"EHLO", "250-hello\r\n250 STARTTLS"}, {"STARTTLS", "220 go"}});
     TXTransferSettings::setCertificateAuthoritiesFile("/nowhere/authorities.pem");
     CurlTransfer transfer;
     prepareMail(transfer, server.port());
@@ -324,7 +325,7 @@ void TestCurlTransfer::missingAuthoritiesAreAFailure()
 void TestCurlTransfer::environmentNamesNoProxy()
 {
     qputenv("ALL_PROXY", "http://127.0.0.1:" + QByteArray::number(closedPort()));
-    const ScriptedServer server;
+    const ScriptedMailServer server;
     CurlTransfer transfer;
     prepareMail(transfer, server.port());
     const Worker worker(transfer);

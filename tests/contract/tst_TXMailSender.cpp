@@ -2,7 +2,7 @@
 #include "MailDriver.h"
 #include "MailReader.h"
 #include "ProcessResources.h"
-#include "ScriptedServer.h"
+#include "ScriptedMailServer.h"
 #include "SilentServer.h"
 #include "TXTransferSettings.h"
 #include "TestBase.h"
@@ -221,7 +221,7 @@ void TestTXMailSender::mailArrives()
 
 void TestTXMailSender::loginIsNotUsedWhereNoneIsOffered()
 {
-    const ScriptedServer server({{"EHLO", "250 hello"}});
+    const ScriptedMailServer server({{"EHLO", "250 hello"}});
     const MailOutcome outcome = sendMail(withLogin(mailSettings(server.port()), "mia", "s3cret"));
     QVERIFY2(outcome.sent, qPrintable(outcome.reason));
     QVERIFY(!server.commands().join().contains("AUTH"));
@@ -354,7 +354,7 @@ void TestTXMailSender::cancelledSenderIsGoneAtOnce_data()
 void TestTXMailSender::cancelledSenderIsGoneAtOnce()
 {
     QFETCH(QByteArray, silentCommand);
-    const ScriptedServer server({{silentCommand, ScriptedServer::kSilence}});
+    const ScriptedMailServer server({{silentCommand, ScriptedMailServer::kSilence}});
     const QPointer<TXMailSender> sender =
         makeSender(withLogin(mailSettings(server.port()), "mia", "s3cret"));
     int told = 0;

@@ -2,7 +2,7 @@
 #include "FullServer.h"
 #include "LocalMailServer.h"
 #include "MailDriver.h"
-#include "ScriptedServer.h"
+#include "ScriptedMailServer.h"
 #include "SilentServer.h"
 #include "TXTransferSettings.h"
 #include "TestBase.h"
@@ -121,7 +121,7 @@ void TestTXMailSenderFailures::incompleteSettingsAreToldByField()
     QFETCH(QVariant, value);
     QFETCH(QString, words);
     // The server is there: nothing but the setting can be why.
-    const ScriptedServer server;
+    const ScriptedMailServer server;
     Settings settings = mailSettings(server.port());
     settings[key] = value;
     verifyFailure(settings, {words});
@@ -130,7 +130,7 @@ void TestTXMailSenderFailures::incompleteSettingsAreToldByField()
 
 void TestTXMailSenderFailures::passwordThatIsNoCipherIsTold()
 {
-    const ScriptedServer server;
+    const ScriptedMailServer server;
     Settings settings = mailSettings(server.port());
     settings["MailServerLogin"] = "mia";
     settings["MailServerPassword"] = kPassword;
@@ -349,7 +349,7 @@ void TestTXMailSenderFailures::refusalIsTold()
     QFETCH(QByteArray, command);
     QFETCH(QByteArray, answer);
     QFETCH(QString, words);
-    const ScriptedServer server({{command, answer}});
+    const ScriptedMailServer server({{command, answer}});
     TXTransferSettings::setConnectTimeout(3 * kShortMilliseconds);
     verifyFailure(mailSettings(server.port()), {words, QString::fromLatin1(answer)});
 }
@@ -365,7 +365,7 @@ void TestTXMailSenderFailures::brokenConnectionIsTold_data()
 void TestTXMailSenderFailures::brokenConnectionIsTold()
 {
     QFETCH(QByteArray, command);
-    const ScriptedServer server({{command, ScriptedServer::kHangUp}});
+    const ScriptedMailServer server({{command, ScriptedMailServer::kHangUp}});
     verifyFailure(withLogin(mailSettings(server.port()), "mia", kPassword), {"broken"});
 }
 
@@ -374,7 +374,7 @@ void TestTXMailSenderFailures::passwordIsNeverTold()
     for (const QByteArray &echo :
          {QByteArray(kPassword), QByteArray(kPassword).toBase64(),
           QByteArray(QByteArray(1, '\0') + "mia" + '\0' + kPassword).toBase64()}) {
-        const ScriptedServer server({{"login", "535 not '" + echo + "'"}});
+        const ScriptedMailServer server({{"login", "535 not '" + echo + "'"}});
         const MailOutcome outcome =
             sendMail(withLogin(mailSettings(server.port()), "mia", kPassword));
         QVERIFY(outcome.reason.contains("refused the login"));

@@ -13,13 +13,13 @@
 /// single commands ("EHLO", "login" for what follows AUTH, "." for the end of the mail, "" for the
 /// greeting). The answer kSilence stands
 /// for none, kHangUp for closing the connection.
-class ScriptedServer
+class ScriptedMailServer
 {
 public:
     static constexpr char kSilence[] = "";
     static constexpr char kHangUp[] = "hang up";
 
-    explicit ScriptedServer(const QHash<QByteArray, QByteArray> &changes = {})
+    explicit ScriptedMailServer(const QHash<QByteArray, QByteArray> &changes = {})
     {
         for (auto change = changes.begin(); change != changes.end(); ++change) {
             answers[change.key()] = change.value();
