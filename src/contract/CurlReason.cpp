@@ -40,10 +40,10 @@ constexpr std::array kSentences = {
              QT_TRANSLATE_NOOP("QObject", "The transfer was cancelled.")},
     Sentence{CURLE_GOT_NOTHING, false,
              QT_TRANSLATE_NOOP("QObject", "The server closed the connection.")},
-    Sentence{CURLE_SEND_ERROR, true,
+    Sentence{CURLE_SEND_ERROR, false,
              QT_TRANSLATE_NOOP("QObject",
                                "The connection was broken or the server refused what was sent.")},
-    Sentence{CURLE_RECV_ERROR, true,
+    Sentence{CURLE_RECV_ERROR, false,
              QT_TRANSLATE_NOOP("QObject", "The connection was broken by the server.")},
     Sentence{CURLE_PEER_FAILED_VERIFICATION, true,
              QT_TRANSLATE_NOOP("QObject",
@@ -72,6 +72,12 @@ const Sentence *sentenceOf(int code)
     return found == kSentences.end() ? nullptr : &*found;
 }
 
+/// "250 ok" before a silence says nothing about the silence; SMTP and FTP agree about the digits.
+bool isComplaint(const QString &serverLine)
+{
+    return !serverLine.isEmpty() && !QStringLiteral("123").contains(serverLine.front());
+}
+
 } // namespace
 
 QString curlSentence(int code)
@@ -95,7 +101,7 @@ QString curlReason(const CurlTransfer &transfer, const QString &sentence)
     if (isDetailOfUse && !transfer.detail().isEmpty()) {
         reason += u'\n' + transfer.detail();
     }
-    if (!transfer.lastServerLine().isEmpty()) {
+    if (isComplaint(transfer.lastServerLine())) {
         reason += u'\n'
             + QCoreApplication::translate("QObject", "The server's last message: %1")
                   .arg(transfer.lastServerLine());

@@ -16,7 +16,7 @@ class CurlTransfer;
 TXCORECOMMON_PRIVATE_EXPORT QString curlSentence(int code);
 
 /// A sentence, on a second line libcurl's own words where they tell more than the sentence, and on
-/// a last line what the server said last, if it said anything. `sentence` replaces that of
-/// curlSentence() where the caller knows better. Empty for a transfer that went well.
+/// a last line what the server said last, unless that was that all is well. `sentence` replaces
+/// that of curlSentence() where the caller knows better. Empty for a transfer that went well.
 TXCORECOMMON_PRIVATE_EXPORT QString curlReason(const CurlTransfer &transfer,
                                                const QString &sentence = {});

@@ -23,7 +23,8 @@ QString plainText(const QByteArray &bytes)
 {
     QString text = QString::fromUtf8(bytes);
     std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return !c.isPrint(); }, u' ');
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
+        u' ');
     return text.trimmed();
 }
 
@@ -162,7 +163,7 @@ int CurlTransfer::debug(CURL *, curl_infotype type, char *data, size_t size, voi
 {
     const auto text = QByteArray::fromRawData(data, qsizetype(size));
     auto *self = static_cast<CurlTransfer *>(transfer);
-    if (type == CURLINFO_HEADER_IN) {
+    if (type == CURLINFO_HEADER_IN && !self->hasSaidGoodbye) {
         self->keepServerLine(text);
     } else if (type == CURLINFO_HEADER_OUT && text == "QUIT\r\n") {
         self->leaveServer();
@@ -176,7 +177,11 @@ void CurlTransfer::keepServerLine(const QByteArray &line)
         return line.contains(secret);
     };
     if (std::none_of(secrets.begin(), secrets.end(), isIn)) {
+<<<<<<< HEAD
+        // A copy: the line lies in a buffer of libcurl.
+=======
         // A copy in any case: the line is libcurl's own memory.
+>>>>>>> servers
         serverLine = QByteArray(line.constData(), std::min(line.size(), kServerLineBytes));
     } else {
         serverLine.clear();
@@ -185,6 +190,7 @@ void CurlTransfer::keepServerLine(const QByteArray &line)
 
 void CurlTransfer::leaveServer()
 {
+    hasSaidGoodbye = true;
     // libcurl would wait for the answer, in a way that nothing can end, and complain.
     curl_easy_setopt(easy, CURLOPT_ERRORBUFFER, nullptr);
     const QMutexLocker locker(&mutex);

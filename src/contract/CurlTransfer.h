@@ -58,8 +58,8 @@ public:
     /// empty.
     [[nodiscard]] QString detail() const;
 
-    /// The last line that the server sent on the control connection (SMTP, FTP), without the line
-    /// end, at most 500 bytes of it, as plain text; empty when it sent none.
+    /// The last line that the server sent on the control connection (SMTP, FTP) before the goodbye,
+    /// without the line end, at most 500 bytes of it, as plain text; empty when it sent none.
     [[nodiscard]] QString lastServerLine() const;
 
 private:
@@ -80,6 +80,7 @@ private:
     CURLcode result = CURLE_OK;
     std::array<char, CURL_ERROR_SIZE> errorText = {};
     QByteArray serverLine;
+    bool hasSaidGoodbye = false;
     std::vector<QByteArray> secrets;
     std::atomic_bool cancelled = false;
 
