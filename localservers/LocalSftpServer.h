@@ -5,7 +5,8 @@
 /// An SFTP server with one user, who logs in with a password and may do everything in an empty
 /// folder that is the server's root. Its host key is made anew at each start().
 ///
-/// log() holds "login NAME", then "accepted" or "refused", then "OPERATION PATH" for each operation
+/// log() holds "key of NAME" for each key that a client tries (none is accepted), "login NAME" for
+/// a password, then "accepted" or "refused", then "OPERATION PATH" for each operation
 /// ("realpath .", "open /a"). Settings count from the next start() on.
 class LocalSftpServer : public LocalServer
 {

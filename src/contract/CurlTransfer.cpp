@@ -176,7 +176,8 @@ void CurlTransfer::keepServerLine(const QByteArray &line)
         return line.contains(secret);
     };
     if (std::none_of(secrets.begin(), secrets.end(), isIn)) {
-        serverLine = line.left(kServerLineBytes);
+        // A copy in any case: the line is libcurl's own memory.
+        serverLine = QByteArray(line.constData(), std::min(line.size(), kServerLineBytes));
     } else {
         serverLine.clear();
     }
