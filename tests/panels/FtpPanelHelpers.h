@@ -1,13 +1,11 @@
 #pragma once
 
-#include "FTPConfigurationWidget.h"
 #include "StoredSecret.h"
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
-#include <QUrl>
+#include <QHash>
+#include <QString>
 #include <QVariant>
+#include <QWidget>
 
 /// What the tests of the FTP panel and of its dialog share.
 namespace FtpTest {
