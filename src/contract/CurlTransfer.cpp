@@ -177,11 +177,7 @@ void CurlTransfer::keepServerLine(const QByteArray &line)
         return line.contains(secret);
     };
     if (std::none_of(secrets.begin(), secrets.end(), isIn)) {
-<<<<<<< HEAD
         // A copy: the line lies in a buffer of libcurl.
-=======
-        // A copy in any case: the line is libcurl's own memory.
->>>>>>> servers
         serverLine = QByteArray(line.constData(), std::min(line.size(), kServerLineBytes));
     } else {
         serverLine.clear();
