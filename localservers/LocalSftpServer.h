@@ -29,8 +29,8 @@ public:
     /// Where the server stops to answer; Never from the beginning.
     void setSilence(Silence value) { silence = value; }
 
-    /// The public half of the running server's host key, "ssh-rsa AAAA…", as a file of known hosts
-    /// has it behind the name of the host; empty when the server does not run.
+    /// The public half of the running server's host key, "ssh-ed25519 AAAA…", as a file of known
+    /// hosts has it behind the name of the host; empty when the server does not run.
     [[nodiscard]] QByteArray hostKey() const;
 
     /// The user's folder on disc; empty when the server does not run.

@@ -83,7 +83,7 @@ async def greet_and_stay_silent(_reader, writer):
 async def serve():
     Logins.options = options = serverlink.begin()
     os.mkdir("home")
-    key = asyncssh.generate_private_key("ssh-rsa", key_size=2048)
+    key = asyncssh.generate_private_key("ssh-ed25519")
     key.write_public_key(HOST_KEY_FILE)
     if options["silentAt"] == "greeting":
         server = await asyncio.start_server(greet_and_stay_silent, "127.0.0.1", 0)
