@@ -1,6 +1,7 @@
 #include "GalleryPages.h"
 
 #include "LogPage.h"
+#include "PagesPage.h"
 
 #include <QCoreApplication>
 
@@ -23,6 +24,7 @@ const QList<GalleryPageEntry> &galleryPages()
 {
     static const QList<GalleryPageEntry> pages = {
         {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
+        {"pages", QT_TRANSLATE_NOOP("GalleryPages", "Pages"), make<PagesPage>},
     };
     return pages;
 }
