@@ -12,8 +12,6 @@
 
 #include <memory>
 
-#include <sys/stat.h>
-
 namespace {
 
 constexpr auto kGood = "goodplugin.so";
@@ -51,7 +49,6 @@ private slots:
     void pluginOfAnotherKindIsSkipped();
     void suffixDoesNotMatter();
     void foldersAreNotEntered();
-    void pipeInTheFolderDoesNotBlock();
     void namesakesMakeOneEntryAndBothStayLoaded();
     void laterFolderReplacesANamesake();
     void loadingAgainAddsAndDoesNotClear();
@@ -222,17 +219,6 @@ void TestWidgetPluginManager::foldersAreNotEntered()
     QCOMPARE(manager.plugins().keys(), QStringList(QStringLiteral("twin")));
     manager.loadPlugins(subFolder() + QStringLiteral("/inner.so"));
     QVERIFY(manager.plugin(QStringLiteral("good")));
-}
-
-void TestWidgetPluginManager::pipeInTheFolderDoesNotBlock()
-{
-    const QByteArray pipe = QFile::encodeName(folder->filePath(QStringLiteral("pipe.so")));
-    QCOMPARE(mkfifo(pipe.constData(), S_IRUSR | S_IWUSR), 0);
-    copy(kGood);
-    const WidgetPluginManager manager;
-    manager.loadPlugins(subFolder());
-
-    QCOMPARE(manager.plugins().size(), 1);
 }
 
 void TestWidgetPluginManager::namesakesMakeOneEntryAndBothStayLoaded()
