@@ -1,5 +1,6 @@
 #include "GalleryPages.h"
 
+#include "ErrorsPage.h"
 #include "LogPage.h"
 #include "PagesPage.h"
 
@@ -25,6 +26,7 @@ const QList<GalleryPageEntry> &galleryPages()
     static const QList<GalleryPageEntry> pages = {
         {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
         {"pages", QT_TRANSLATE_NOOP("GalleryPages", "Pages"), make<PagesPage>},
+        {"errors", QT_TRANSLATE_NOOP("GalleryPages", "Errors"), make<ErrorsPage>},
     };
     return pages;
 }

@@ -34,7 +34,7 @@ const QColor kHeaderRowColour(0xee, 0xf1, 0xf6);
 constexpr std::array kHeadingPoints = {24.0, 15.0, 12.0};
 constexpr std::array kHeadingGaps = {0.0, 22.0, 14.0};
 
-void formatCode(QTextBlock block)
+void formatCode(const QTextBlock &block)
 {
     const QStringList families = {QStringLiteral("DejaVu Sans Mono"),
                                   QFontDatabase::systemFont(QFontDatabase::FixedFont).family()};
