@@ -16,7 +16,8 @@ constexpr int kMargin = 14;
 
 EmbeddingPanel::EmbeddingPanel(QWidget *parent)
     : QGroupBox(parent)
-    , embeddedDialog(new LabColourDialog(this))
+    , frame(new QFrame(this))
+    , embeddedDialog(new LabColourDialog(frame))
     , windowDialog(new LabColourDialog(this))
     , windowButton(new QPushButton(this))
     , explanation(new QLabel(this))
@@ -66,7 +67,6 @@ void EmbeddingPanel::windowFinished(int result)
 
 void EmbeddingPanel::setUpLayout()
 {
-    auto *frame = new QFrame(this);
     frame->setFrameShape(QFrame::StyledPanel);
     auto *inFrame = new QVBoxLayout(frame);
     inFrame->setContentsMargins(0, 0, 0, 0);

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 
 class LabColourDialog;
+class QFrame;
 class QLabel;
 class QPushButton;
 
@@ -41,6 +42,7 @@ private:
     void showOutcome(Outcome newOutcome);
     void retranslate();
 
+    QFrame *frame;
     LabColourDialog *embeddedDialog;
     LabColourDialog *windowDialog;
     QPushButton *windowButton;

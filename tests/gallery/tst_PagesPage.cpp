@@ -80,6 +80,7 @@ void TestPagesPage::open(const QString &folder)
     page->resize(860, 640);
     page->show();
     QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    QVERIFY(dialog(false) && dialog(true));
 }
 
 template<class Widget>
