@@ -133,7 +133,7 @@ void TestTXPasswordLineEdit::maskStandsForEveryValue_data()
     QTest::newRow("bars") << QString(25, u'|');
     QTest::newRow("other scripts") << QString::fromUtf8("пароль 密碼 🔑");
     QTest::newRow("control characters") << QStringLiteral("a\r\nb\tc");
-    QTest::newRow("1 MB") << QString(1024 * 1024, u'w');
+    QTest::newRow("1 MB") << QString(qsizetype(1024) * 1024, u'w');
 }
 
 void TestTXPasswordLineEdit::maskStandsForEveryValue()
