@@ -1,6 +1,8 @@
 #include "GalleryPages.h"
 
+#include "ErrorsPage.h"
 #include "LogPage.h"
+#include "PagesPage.h"
 
 #include <QCoreApplication>
 
@@ -23,6 +25,8 @@ const QList<GalleryPageEntry> &galleryPages()
 {
     static const QList<GalleryPageEntry> pages = {
         {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
+        {"pages", QT_TRANSLATE_NOOP("GalleryPages", "Pages"), make<PagesPage>},
+        {"errors", QT_TRANSLATE_NOOP("GalleryPages", "Errors"), make<ErrorsPage>},
     };
     return pages;
 }

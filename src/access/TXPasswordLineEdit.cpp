@@ -34,12 +34,6 @@ void TXPasswordLineEdit::setText(const QString &text)
     QLineEdit::setText(encrypted.isEmpty() ? QString() : QString(kMaskLength, kMaskCharacter));
 }
 
-void TXPasswordLineEdit::clear()
-{
-    encrypted.clear();
-    QLineEdit::clear();
-}
-
 void TXPasswordLineEdit::treatTextEdited(const QString &newText)
 {
     if (encrypted.isEmpty()) {
@@ -48,4 +42,10 @@ void TXPasswordLineEdit::treatTextEdited(const QString &newText)
     encrypted.clear();
     QString typed = newText;
     QLineEdit::setText(typed.remove(kMaskCharacter));
+}
+
+void TXPasswordLineEdit::clear()
+{
+    encrypted.clear();
+    QLineEdit::clear();
 }

@@ -31,12 +31,12 @@ public slots:
     /// empty the field. Where the value cannot be enciphered, the field becomes empty.
     void setText(const QString &text);
 
-    /// Empties the field, whoever has set its value.
-    void clear();
-
     /// Drops the value set by the program after an edit by the user; `newText` is the text of the
     /// widget. What the user typed stays, but for the mask's character "|".
     void treatTextEdited(const QString &newText);
+
+    /// Empties the field, whoever has set its value.
+    void clear();
 
 private:
     QString encrypted;

@@ -257,10 +257,8 @@ void FTPConfigurationWidget::showScheme(const QString &scheme)
 
 void FTPConfigurationWidget::showPassword(const QString &password)
 {
-    // The field ignores an empty text, and the password of another account must not stay: emptied
-    // is what it shows first, then the value behind the mask.
+    // The field ignores an empty text, and the password of another account must not stay.
     ui->passwordLineEdit->clear();
-    ui->passwordLineEdit->treatTextEdited(QString());
     ui->passwordLineEdit->setText(password);
 }
 

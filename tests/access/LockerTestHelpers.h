@@ -29,12 +29,7 @@ inline void checkLockerWindow(const QDialog &dialog)
     QCOMPARE(dialog.windowTitle(), "Lock User Interface");
     QVERIFY(dialog.isModal());
     QCOMPARE(dialog.windowModality(), Qt::WindowModal);
-    QCOMPARE(dialog.windowType(), Qt::Window);
-    const Qt::WindowFlags flags = dialog.windowFlags();
-    QVERIFY(flags.testFlag(Qt::WindowTitleHint));
-    QVERIFY(flags.testFlag(Qt::CustomizeWindowHint));
-    QVERIFY(!flags.testFlag(Qt::WindowCloseButtonHint));
-    QVERIFY(!flags.testFlag(Qt::WindowSystemMenuHint));
+    QCOMPARE(dialog.windowFlags(), Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
     QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
     QCOMPARE(dialog.size(), QSize(300, dialog.sizeHint().height()));
 }
@@ -71,4 +66,15 @@ inline void cancel(QDialog &dialog)
     } else {
         QTest::mouseClick(button(dialog, way.constData()), Qt::LeftButton);
     }
+}
+
+/// Presses Return on "Cancel" while "Apply" could be clicked.
+inline void returnOnCancel(const QDialog &dialog)
+{
+    QPushButton *cancelButton = button(dialog, "cancel_pushButton");
+    field(dialog, "password1_lineEdit")->setText(QStringLiteral("abc"));
+    field(dialog, "password2_lineEdit")->setText(QStringLiteral("abc"));
+    QVERIFY(button(dialog, "apply_pushButton")->isEnabled());
+    cancelButton->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(cancelButton, Qt::Key_Return);
 }

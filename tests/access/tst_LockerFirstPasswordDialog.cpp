@@ -18,6 +18,7 @@ private slots:
     void cancelKeepsThePassword_data();
     void cancelKeepsThePassword();
     void returnAppliesOnlyWhenThatIsPossible();
+    void returnOnCancelCancels();
     void keyboardGoesFromFieldToButtons();
 };
 
@@ -137,6 +138,16 @@ void TestLockerFirstPasswordDialog::returnAppliesOnlyWhenThatIsPossible()
     });
     QCOMPARE(dialog.exec(), 1);
     QCOMPARE(dialog.password(), "abc");
+}
+
+void TestLockerFirstPasswordDialog::returnOnCancelCancels()
+{
+    LockerFirstPasswordDialog dialog(false, nullptr);
+    dialog.setPassword("before");
+    DialogDriver driver;
+    driver.expect([](QDialog &opened) { returnOnCancel(opened); });
+    QCOMPARE(dialog.exec(), -1);
+    QCOMPARE(dialog.password(), "before");
 }
 
 void TestLockerFirstPasswordDialog::keyboardGoesFromFieldToButtons()

@@ -39,6 +39,7 @@ private slots:
     void appliedPasswordIsInItsStoredForm();
     void cancelKeepsThePassword_data();
     void cancelKeepsThePassword();
+    void returnOnCancelCancels();
     void keyboardGoesFromFieldToButtons();
 };
 
@@ -173,6 +174,16 @@ void TestLockerPasswordDialog::cancelKeepsThePassword()
     dialog.setPassword("before");
     DialogDriver driver;
     driver.expect([&](QDialog &) { cancel(dialog); });
+    QCOMPARE(dialog.exec(), -1);
+    QCOMPARE(dialog.password(), "before");
+}
+
+void TestLockerPasswordDialog::returnOnCancelCancels()
+{
+    LockerPasswordDialog dialog(false, nullptr);
+    dialog.setPassword("before");
+    DialogDriver driver;
+    driver.expect([](QDialog &opened) { returnOnCancel(opened); });
     QCOMPARE(dialog.exec(), -1);
     QCOMPARE(dialog.password(), "before");
 }

@@ -64,6 +64,7 @@ private slots:
     void cancelEndsWithMinusOne_data();
     void cancelEndsWithMinusOne();
     void changeStaysReadableAfterCancel();
+    void changedPasswordOutweighsACancelledFirstOne();
     void emptyPasswordDoesNotDisableChanging();
     void keyboardReachesAllButtons();
 };
@@ -243,6 +244,22 @@ void TestLockerUIDialog::changeStaysReadableAfterCancel()
     QVERIFY(dialog.isPasswordChanged());
 }
 
+void TestLockerUIDialog::changedPasswordOutweighsACancelledFirstOne()
+{
+    LockerUIDialog dialog(false, nullptr);
+    dialog.setPassword("abc");
+    DialogDriver driver;
+    driver.expect([&dialog](QDialog &opened) {
+        clickChange(opened);
+        dialog.setPassword(QString());
+        clickLock(opened);
+    });
+    driver.expect([](QDialog &opened) { enterChange(opened, "abc", "new"); });
+    driver.expect([](QDialog &opened) { cancelByButton(opened); });
+    QCOMPARE(dialog.exec(), 1);
+    QVERIFY(dialog.password().isEmpty());
+}
+
 void TestLockerUIDialog::emptyPasswordDoesNotDisableChanging()
 {
     LockerUIDialog dialog(false, nullptr);
@@ -260,7 +277,13 @@ void TestLockerUIDialog::keyboardReachesAllButtons()
     dialog.setPassword("abc");
     DialogDriver driver;
     driver.expect([](QDialog &opened) { QTest::keyClick(&opened, Qt::Key_Return); });
+    driver.expect([](QDialog &opened) {
+        QPushButton *cancelButton = button(opened, "cancelPushButton");
+        cancelButton->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(cancelButton, Qt::Key_Return);
+    });
     QCOMPARE(dialog.exec(), 0);
+    QCOMPARE(dialog.exec(), -1);
 }
 
 int main(int argc, char **argv)

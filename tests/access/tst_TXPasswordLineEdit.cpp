@@ -2,13 +2,16 @@
 
 #include "TestBase.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QClipboard>
 #include <QDir>
 #include <QDrag>
+#include <QDragEnterEvent>
 #include <QFile>
 #include <QInputMethodQueryEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QSignalSpy>
 #include <QStandardPaths>
 
@@ -74,6 +77,14 @@ private slots:
     void contextMenuOffersNoCopy();
     void draggingGivesNothing();
     void shownFieldPaintsTheSameForEveryValue();
+    void committedInputReplacesTheValue();
+    void clearButtonDropsTheValue();
+    void baseClassSeesAndSetsTheShownTextOnly();
+    void signalsCarryOnlyTheMask();
+    void readableEchoShowsTheMask();
+    void readableEchoDragsTheMask();
+    void droppedTextReplacesTheValue();
+    void editThatChangesNothingKeepsTheValue();
     void typedTextIsThePlainValue();
     void treatTextEditedLeavesTypedTextAlone();
 
@@ -122,7 +133,7 @@ void TestTXPasswordLineEdit::maskStandsForEveryValue_data()
     QTest::newRow("bars") << QString(25, u'|');
     QTest::newRow("other scripts") << QString::fromUtf8("пароль 密碼 🔑");
     QTest::newRow("control characters") << QStringLiteral("a\r\nb\tc");
-    QTest::newRow("1 MB") << QString(1024 * 1024, u'w');
+    QTest::newRow("1 MB") << QString(qsizetype(1024) * 1024, u'w');
 }
 
 void TestTXPasswordLineEdit::maskStandsForEveryValue()
@@ -236,7 +247,7 @@ void TestTXPasswordLineEdit::cutDropsTheValueAndGivesNothing()
     edit->selectAll();
     edit->cut();
     QCOMPARE(QGuiApplication::clipboard()->text(), "before");
-    QVERIFY(!edit->text().contains(kSecret));
+    QVERIFY(edit->text().isEmpty());
 }
 
 void TestTXPasswordLineEdit::clearDropsTheValue()
@@ -346,6 +357,110 @@ void TestTXPasswordLineEdit::shownFieldPaintsTheSameForEveryValue()
     edit->setText(QString(200, u'w'));
     edit->clearFocus();
     QCOMPARE(edit->grab().toImage(), one);
+}
+
+void TestTXPasswordLineEdit::committedInputReplacesTheValue()
+{
+    edit->setText(kSecret);
+    QInputMethodEvent composing(QStringLiteral("ni"), {});
+    QCoreApplication::sendEvent(edit.get(), &composing);
+    QCOMPARE(edit->text(), kSecret);
+
+    QInputMethodEvent committing;
+    committing.setCommitString(QString::fromUtf8("你|"));
+    QCoreApplication::sendEvent(edit.get(), &committing);
+    QCOMPARE(edit->text(), QString::fromUtf8("你"));
+}
+
+void TestTXPasswordLineEdit::clearButtonDropsTheValue()
+{
+    edit->setClearButtonEnabled(true);
+    edit->setText(kSecret);
+    auto *clearButton = edit->findChild<QAbstractButton *>();
+    QVERIFY(clearButton);
+    QTest::mouseClick(clearButton, Qt::LeftButton);
+    QVERIFY(edit->text().isEmpty());
+    QVERIFY(shownText(*edit).isEmpty());
+}
+
+void TestTXPasswordLineEdit::baseClassSeesAndSetsTheShownTextOnly()
+{
+    edit->setText(kSecret);
+    QLineEdit *base = edit.get();
+    QCOMPARE(base->text(), kMask);
+    base->setText(QStringLiteral("other"));
+    QCOMPARE(edit->text(), kSecret);
+    QCOMPARE(base->text(), "other");
+
+    QVERIFY(edit->setProperty("text", QStringLiteral("third")));
+    QCOMPARE(edit->text(), kSecret);
+    QCOMPARE(base->text(), "third");
+}
+
+void TestTXPasswordLineEdit::signalsCarryOnlyTheMask()
+{
+    const QSignalSpy changed(edit.get(), SIGNAL(textChanged(QString)));
+    edit->setText(kSecret);
+    edit->setText(QStringLiteral("other"));
+    QCOMPARE(changed, QList<QVariantList>({{kMask}}));
+}
+
+void TestTXPasswordLineEdit::readableEchoShowsTheMask()
+{
+    edit->setEchoMode(QLineEdit::Normal);
+    edit->setText(kSecret);
+    QCOMPARE(edit->displayText(), kMask);
+    edit->selectAll();
+    edit->copy();
+    QCOMPARE(QGuiApplication::clipboard()->text(), kMask);
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(edit.get());
+    QCOMPARE(accessible->text(QAccessible::Value), kMask);
+    QCOMPARE(edit->text(), kSecret);
+}
+
+void TestTXPasswordLineEdit::readableEchoDragsTheMask()
+{
+    edit->resize(400, 30);
+    edit->setEchoMode(QLineEdit::Normal);
+    edit->setDragEnabled(true);
+    edit->setText(kSecret);
+    edit->selectAll();
+    const QPoint start(15, 15);
+    QTest::mousePress(edit.get(), Qt::LeftButton, {}, start);
+    QMouseEvent move(QEvent::MouseMove, start + QPoint(60, 0),
+                     edit->mapToGlobal(start + QPoint(60, 0)), Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(edit.get(), &move);
+    const auto *drag = edit->findChild<QDrag *>();
+    QVERIFY(drag);
+    QCOMPARE(drag->mimeData()->text(), kMask);
+    QCOMPARE(edit->text(), kSecret);
+}
+
+void TestTXPasswordLineEdit::droppedTextReplacesTheValue()
+{
+    edit->setText(kSecret);
+    QMimeData data;
+    data.setText(QStringLiteral("dropped|text"));
+    const QPoint place(5, edit->height() / 2);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(edit.get(), &enter);
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(edit.get(), &drop);
+    QCOMPARE(edit->text(), "droppedtext");
+}
+
+void TestTXPasswordLineEdit::editThatChangesNothingKeepsTheValue()
+{
+    edit->setText(kSecret);
+    QTest::keyClick(edit.get(), Qt::Key_Home);
+    QTest::keyClick(edit.get(), Qt::Key_Backspace);
+    QTest::keyClick(edit.get(), Qt::Key_End);
+    QTest::keyClick(edit.get(), Qt::Key_Delete);
+    QTest::keyClick(edit.get(), Qt::Key_Return);
+    QCOMPARE(edit->text(), kSecret);
+    edit->setReadOnly(true);
+    QTest::keyClicks(edit.get(), "x");
+    QCOMPARE(edit->text(), kSecret);
 }
 
 void TestTXPasswordLineEdit::typedTextIsThePlainValue()
