@@ -62,8 +62,9 @@ public:
     /// Why the last check() failed; NoError before the first and after a successful one.
     [[nodiscard]] int errorCode() const;
 
-    /// The same in words, in the language at the time of the check, in several lines where the
-    /// server said something too. Never holds the password. Empty when there is no error.
+    /// The same in words, in the language at the time of the check; the server's own complaint, if
+    /// it had one, follows on a line of its own. Never holds the password. Empty when there is no
+    /// error.
     [[nodiscard]] QString errorText() const;
 
 private:

@@ -6,6 +6,10 @@
 #include "TXTransferSettings.h"
 #include "TestBase.h"
 
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QUrl>
 
 namespace {

@@ -10,6 +10,7 @@
 #include "TXTransferSettings.h"
 #include "TestBase.h"
 
+#include <QProcess>
 #include <QUrl>
 
 namespace {
@@ -20,7 +21,7 @@ constexpr int kConversationMilliseconds = 2000;
 
 QUrl urlOf(const QString &scheme, quint16 port)
 {
-    return QUrl(QStringLiteral("%1://mia:s3cret@127.0.0.1:%2/").arg(scheme).arg(port));
+    return {QStringLiteral("%1://mia:s3cret@127.0.0.1:%2/").arg(scheme).arg(port)};
 }
 
 void addSchemes()
@@ -215,29 +216,24 @@ void TestTXFTPFailures::connectionThatNeverCompletesEndsByTimeOut()
 void TestTXFTPFailures::ftpServerThatFallsSilentEndsByTimeOut_data()
 {
     QTest::addColumn<LocalFtpServer::Silence>("silence");
-    QTest::addColumn<QString>("lastLine");
     QTest::addColumn<QStringList>("log");
     QTest::newRow("after the greeting")
-        << LocalFtpServer::Silence::AfterGreeting << "220 " << QStringList("USER mia");
-    QTest::newRow("after USER") << LocalFtpServer::Silence::AfterUser << "331 "
+        << LocalFtpServer::Silence::AfterGreeting << QStringList("USER mia");
+    QTest::newRow("after USER") << LocalFtpServer::Silence::AfterUser
                                 << QStringList({"USER mia", "PASS"});
 }
 
 void TestTXFTPFailures::ftpServerThatFallsSilentEndsByTimeOut()
 {
     QFETCH(LocalFtpServer::Silence, silence);
-    QFETCH(QString, lastLine);
     QFETCH(QStringList, log);
     TXTransferSettings::setConnectTimeout(kConversationMilliseconds);
     LocalFtpServer server;
     server.setSilence(silence);
     QVERIFY2(server.start(), qPrintable(server.error()));
-    TXFTP ftp;
 
-    QVERIFY(!ftp.check(urlOf("ftp", server.port())));
+    failWith(urlOf("ftp", server.port()), TXFTP::TimedOut);
 
-    QCOMPARE(ftp.errorCode(), int(TXFTP::TimedOut));
-    QVERIFY2(ftp.errorText().contains(lastLine), qPrintable(ftp.errorText()));
     QCOMPARE(server.log(), log);
 }
 

@@ -2,6 +2,9 @@
 #include "LocalFtpServer.h"
 #include "TestBase.h"
 
+#include <QDir>
+#include <QFile>
+
 class TestLocalFtpServer : public TestBase
 {
     Q_OBJECT

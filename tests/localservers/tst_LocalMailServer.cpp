@@ -2,6 +2,10 @@
 #include "LocalMailServer.h"
 #include "TestBase.h"
 
+#include <QBuffer>
+#include <QFile>
+#include <QSignalSpy>
+
 namespace {
 
 using Security = LocalMailServer::Security;
@@ -9,7 +13,8 @@ using Stage = LocalMailServer::Stage;
 
 size_t readFrom(char *buffer, size_t size, size_t count, void *source)
 {
-    return size_t(static_cast<QIODevice *>(source)->read(buffer, qint64(size * count)));
+    const auto bytes = static_cast<qint64>(size) * static_cast<qint64>(count);
+    return static_cast<size_t>(static_cast<QIODevice *>(source)->read(buffer, bytes));
 }
 
 /// A client that sends one mail.

@@ -2,6 +2,8 @@
 #include "LocalSftpServer.h"
 #include "TestBase.h"
 
+#include <QDir>
+
 class TestLocalSftpServer : public TestBase
 {
     Q_OBJECT
