@@ -215,18 +215,16 @@ void TestTXFTPFailures::connectionThatNeverCompletesEndsByTimeOut()
 void TestTXFTPFailures::ftpServerThatFallsSilentEndsByTimeOut_data()
 {
     QTest::addColumn<LocalFtpServer::Silence>("silence");
-    QTest::addColumn<QString>("lastLine");
     QTest::addColumn<QStringList>("log");
     QTest::newRow("after the greeting")
-        << LocalFtpServer::Silence::AfterGreeting << "220 " << QStringList("USER mia");
-    QTest::newRow("after USER") << LocalFtpServer::Silence::AfterUser << "331 "
+        << LocalFtpServer::Silence::AfterGreeting << QStringList("USER mia");
+    QTest::newRow("after USER") << LocalFtpServer::Silence::AfterUser
                                 << QStringList({"USER mia", "PASS"});
 }
 
 void TestTXFTPFailures::ftpServerThatFallsSilentEndsByTimeOut()
 {
     QFETCH(LocalFtpServer::Silence, silence);
-    QFETCH(QString, lastLine);
     QFETCH(QStringList, log);
     TXTransferSettings::setConnectTimeout(kConversationMilliseconds);
     LocalFtpServer server;
@@ -237,7 +235,8 @@ void TestTXFTPFailures::ftpServerThatFallsSilentEndsByTimeOut()
     QVERIFY(!ftp.check(urlOf("ftp", server.port())));
 
     QCOMPARE(ftp.errorCode(), int(TXFTP::TimedOut));
-    QVERIFY2(ftp.errorText().contains(lastLine), qPrintable(ftp.errorText()));
+    // The server was content with what it said last, so that is no reason.
+    QVERIFY2(!ftp.errorText().contains('\n'), qPrintable(ftp.errorText()));
     QCOMPARE(server.log(), log);
 }
 
