@@ -232,15 +232,13 @@ void TestCurlTransfer::silenceAtGoodbyeCostsNoTime()
 
 void TestCurlTransfer::answerToGoodbyeIsNotKept()
 {
-    // Often the answer comes too late to be read, hence several times.
-    for (int i = 0; i < 20; ++i) {
-        const ScriptedMailServer server({{"MAIL", "550 no"}});
-        CurlTransfer transfer;
-        prepareMail(transfer, server.port());
-        const Worker worker(transfer);
-        QTRY_VERIFY(worker.isFinished());
-        QCOMPARE(transfer.lastServerLine(), "550 no");
-    }
+    // Ahead of the goodbye, so that libcurl surely has it when it looks.
+    const ScriptedMailServer server({{"MAIL", "550 no\r\n221 bye"}});
+    CurlTransfer transfer;
+    prepareMail(transfer, server.port());
+    const Worker worker(transfer);
+    QTRY_VERIFY(worker.isFinished());
+    QCOMPARE(transfer.lastServerLine(), "550 no");
 }
 
 void TestCurlTransfer::brokenConnectionIsAFailure()

@@ -233,7 +233,6 @@ void TestTXFTPFailures::ftpServerThatFallsSilentEndsByTimeOut()
     QVERIFY2(server.start(), qPrintable(server.error()));
 
     failWith(urlOf("ftp", server.port()), TXFTP::TimedOut);
-
     QCOMPARE(server.log(), log);
 }
 
