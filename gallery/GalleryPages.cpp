@@ -1,5 +1,6 @@
 #include "GalleryPages.h"
 
+#include "AccessPage.h"
 #include "LogPage.h"
 
 #include <QCoreApplication>
@@ -23,6 +24,7 @@ const QList<GalleryPageEntry> &galleryPages()
 {
     static const QList<GalleryPageEntry> pages = {
         {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
+        {"access", QT_TRANSLATE_NOOP("GalleryPages", "Access"), make<AccessPage>},
     };
     return pages;
 }
