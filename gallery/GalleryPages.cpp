@@ -1,6 +1,7 @@
 #include "GalleryPages.h"
 
 #include "AccessPage.h"
+#include "ControlsPage.h"
 #include "LogPage.h"
 
 #include <QCoreApplication>
@@ -25,6 +26,7 @@ const QList<GalleryPageEntry> &galleryPages()
     static const QList<GalleryPageEntry> pages = {
         {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
         {"access", QT_TRANSLATE_NOOP("GalleryPages", "Access"), make<AccessPage>},
+        {"controls", QT_TRANSLATE_NOOP("GalleryPages", "Controls"), make<ControlsPage>},
     };
     return pages;
 }
