@@ -2,7 +2,9 @@
 
 #include "AccessPage.h"
 #include "ControlsPage.h"
+#include "ErrorsPage.h"
 #include "LogPage.h"
+#include "PagesPage.h"
 
 #include <QCoreApplication>
 
@@ -25,6 +27,8 @@ const QList<GalleryPageEntry> &galleryPages()
 {
     static const QList<GalleryPageEntry> pages = {
         {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
+        {"pages", QT_TRANSLATE_NOOP("GalleryPages", "Pages"), make<PagesPage>},
+        {"errors", QT_TRANSLATE_NOOP("GalleryPages", "Errors"), make<ErrorsPage>},
         {"access", QT_TRANSLATE_NOOP("GalleryPages", "Access"), make<AccessPage>},
         {"controls", QT_TRANSLATE_NOOP("GalleryPages", "Controls"), make<ControlsPage>},
     };

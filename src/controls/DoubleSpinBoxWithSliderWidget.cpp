@@ -5,6 +5,7 @@
 #include <QEvent>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -23,10 +24,13 @@ double scaleFor(int decimals)
     return double(scale);
 }
 
-/// Truncated towards zero. More steps than an int holds become as many as it holds, where a plain
-/// conversion would be undefined.
+/// Truncated towards zero. More steps than an int holds become as many as it holds, and what is no
+/// number becomes 0, where a plain conversion would be undefined.
 int toSteps(double value, double scale)
 {
+    if (std::isnan(value)) {
+        return 0;
+    }
     constexpr double kLeast = std::numeric_limits<int>::min();
     constexpr double kMost = std::numeric_limits<int>::max();
     return int(std::clamp(value * scale, kLeast, kMost));

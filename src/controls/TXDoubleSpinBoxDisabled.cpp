@@ -12,7 +12,10 @@ TXDoubleSpinBoxDisabled::TXDoubleSpinBoxDisabled(QWidget *parent)
 
 void TXDoubleSpinBoxDisabled::changeEvent(QEvent *event)
 {
-    if (event && event->type() == QEvent::EnabledChange) {
+    if (!event) {
+        return; // The base class would read it.
+    }
+    if (event->type() == QEvent::EnabledChange) {
         TXWidgetUtilities::treatWhenSpinBoxDisabled(this);
     }
     QDoubleSpinBox::changeEvent(event);

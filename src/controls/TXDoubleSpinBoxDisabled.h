@@ -13,8 +13,11 @@ class TXGUICOMMON_EXPORT TXDoubleSpinBoxDisabled : public QDoubleSpinBox
     Q_OBJECT
 
 public:
+    /// Looks disabled at once below a disabled parent.
     explicit TXDoubleSpinBoxDisabled(QWidget *parent = nullptr);
 
 protected:
+    /// Adjusts the look before the base class treats a change of the enabled state. Null is
+    /// ignored.
     void changeEvent(QEvent *event) override;
 };

@@ -12,7 +12,10 @@ TXSpinBoxDisabled::TXSpinBoxDisabled(QWidget *parent)
 
 void TXSpinBoxDisabled::changeEvent(QEvent *event)
 {
-    if (event && event->type() == QEvent::EnabledChange) {
+    if (!event) {
+        return; // The base class would read it.
+    }
+    if (event->type() == QEvent::EnabledChange) {
         TXWidgetUtilities::treatWhenSpinBoxDisabled(this);
     }
     QSpinBox::changeEvent(event);

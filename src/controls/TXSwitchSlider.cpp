@@ -1,12 +1,16 @@
 #include "TXSwitchSlider.h"
 
 #include <QMouseEvent>
+#include <QStyleOptionFocusRect>
+#include <QStyleOptionSlider>
+#include <QStylePainter>
 
 namespace {
 
 constexpr int kFramePixels = 4;
 constexpr double kGroovePart = 0.87;
 constexpr double kGrooveRadiusPart = 0.47;
+constexpr double kDisabledOpacity = 0.4;
 
 /// %1 width of the handle, %2 height of the groove, %3 its radius, %4 radius of the handle.
 constexpr char kStyleSheet[] =
@@ -56,6 +60,22 @@ void TXSwitchSlider::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton) {
         setChecked(!isChecked());
+    }
+}
+
+void TXSwitchSlider::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionSlider slider;
+    initStyleOption(&slider);
+    slider.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
+    // The style sheet has one look for all states.
+    painter.setOpacity(isEnabled() ? 1.0 : kDisabledOpacity);
+    painter.drawComplexControl(QStyle::CC_Slider, slider);
+    if (hasFocus() && slider.state.testFlag(QStyle::State_KeyboardFocusChange)) {
+        QStyleOptionFocusRect frame;
+        frame.initFrom(this);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, frame);
     }
 }
 

@@ -6,8 +6,11 @@
 
 /// An on/off switch, drawn as a slider with two positions: the value 0 is off, 1 is on.
 ///
-/// A click anywhere on it with the left button toggles it; the keys of a slider work too. Its
-/// looks follow its height, so give it a fixed one.
+/// A click anywhere on it with the left button toggles it; the keys of a slider work too. To
+/// assistive technology it is a slider from 0 to 1, under the accessible name that the host gives.
+///
+/// Its looks follow its height by a style sheet that is replaced at each change of its size, so one
+/// that a host sets on it does not last. Give it a fixed size, about twice as wide as high.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT TXSwitchSlider : public QSlider
@@ -36,6 +39,9 @@ public slots:
 protected:
     /// Toggles on the left button. A press never drags or pages, as it would on a slider.
     void mousePressEvent(QMouseEvent *event) override;
+
+    /// Fades a disabled switch, and marks one that the keyboard has brought to focus.
+    void paintEvent(QPaintEvent *event) override;
 
     /// Draws the switch anew for its height.
     void resizeEvent(QResizeEvent *event) override;
