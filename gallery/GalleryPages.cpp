@@ -1,5 +1,7 @@
 #include "GalleryPages.h"
 
+#include "AccessPage.h"
+#include "ControlsPage.h"
 #include "ErrorsPage.h"
 #include "LogPage.h"
 #include "PagesPage.h"
@@ -27,6 +29,8 @@ const QList<GalleryPageEntry> &galleryPages()
         {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
         {"pages", QT_TRANSLATE_NOOP("GalleryPages", "Pages"), make<PagesPage>},
         {"errors", QT_TRANSLATE_NOOP("GalleryPages", "Errors"), make<ErrorsPage>},
+        {"access", QT_TRANSLATE_NOOP("GalleryPages", "Access"), make<AccessPage>},
+        {"controls", QT_TRANSLATE_NOOP("GalleryPages", "Controls"), make<ControlsPage>},
     };
     return pages;
 }
