@@ -34,6 +34,12 @@ void TXPasswordLineEdit::setText(const QString &text)
     QLineEdit::setText(encrypted.isEmpty() ? QString() : QString(kMaskLength, kMaskCharacter));
 }
 
+void TXPasswordLineEdit::clear()
+{
+    encrypted.clear();
+    QLineEdit::clear();
+}
+
 void TXPasswordLineEdit::treatTextEdited(const QString &newText)
 {
     if (encrypted.isEmpty()) {

@@ -12,8 +12,8 @@
 /// length. The user's first edit of a masked field drops the value, and the field goes on as a
 /// plain password field.
 ///
-/// setText() and text() hide the functions of QLineEdit, which are not virtual: call them through
-/// this type, or the mask is taken for the value.
+/// text(), setText() and clear() hide the functions of QLineEdit, which are not virtual: call them
+/// through this type, or the mask is taken for the value.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT TXPasswordLineEdit : public QLineEdit
@@ -30,6 +30,9 @@ public slots:
     /// Sets the value and shows the mask. An empty text changes nothing at all; take clear() to
     /// empty the field. Where the value cannot be enciphered, the field becomes empty.
     void setText(const QString &text);
+
+    /// Empties the field, whoever has set its value.
+    void clear();
 
     /// Drops the value set by the program after an edit by the user; `newText` is the text of the
     /// widget. What the user typed stays, but for the mask's character "|".

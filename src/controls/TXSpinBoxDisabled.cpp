@@ -1,0 +1,19 @@
+#include "TXSpinBoxDisabled.h"
+
+#include "TXWidgetUtilities.h"
+
+#include <QEvent>
+
+TXSpinBoxDisabled::TXSpinBoxDisabled(QWidget *parent)
+    : QSpinBox(parent)
+{
+    TXWidgetUtilities::treatWhenSpinBoxDisabled(this);
+}
+
+void TXSpinBoxDisabled::changeEvent(QEvent *event)
+{
+    if (event && event->type() == QEvent::EnabledChange) {
+        TXWidgetUtilities::treatWhenSpinBoxDisabled(this);
+    }
+    QSpinBox::changeEvent(event);
+}
