@@ -23,7 +23,8 @@ QString plainText(const QByteArray &bytes)
 {
     QString text = QString::fromUtf8(bytes);
     std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return !c.isPrint(); }, u' ');
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
+        u' ');
     return text.trimmed();
 }
 
@@ -176,7 +177,7 @@ void CurlTransfer::keepServerLine(const QByteArray &line)
         return line.contains(secret);
     };
     if (std::none_of(secrets.begin(), secrets.end(), isIn)) {
-        // A copy in any case: the line is libcurl's own memory.
+        // A copy: the line lies in a buffer of libcurl.
         serverLine = QByteArray(line.constData(), std::min(line.size(), kServerLineBytes));
     } else {
         serverLine.clear();
