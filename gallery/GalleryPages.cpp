@@ -1,6 +1,8 @@
 #include "GalleryPages.h"
 
+#include "FtpPage.h"
 #include "LogPage.h"
+#include "MailPage.h"
 
 #include <QCoreApplication>
 
@@ -23,6 +25,8 @@ const QList<GalleryPageEntry> &galleryPages()
 {
     static const QList<GalleryPageEntry> pages = {
         {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
+        {"mail", QT_TRANSLATE_NOOP("GalleryPages", "Mail"), make<MailPage>},
+        {"ftp", QT_TRANSLATE_NOOP("GalleryPages", "FTP"), make<FtpPage>},
     };
     return pages;
 }
