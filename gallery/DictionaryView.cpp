@@ -17,7 +17,7 @@ enum Column {
 
 constexpr int kKeyWidth = 170;
 constexpr int kTypeWidth = 70;
-constexpr qsizetype kFewestRows = 5;
+constexpr int kFewestRows = 5;
 constexpr int kRowGap = 2;
 
 } // namespace
@@ -29,10 +29,16 @@ DictionaryView::DictionaryView(QWidget *parent)
     setRootIsDecorated(false);
     setAlternatingRowColors(true);
     setUniformRowHeights(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     setColumnWidth(KeyColumn, kKeyWidth);
     setColumnWidth(TypeColumn, kTypeWidth);
     retranslate();
-    fitHeight(kFewestRows);
+    fitHeight();
+}
+
+void DictionaryView::setTypesShown(bool isShown)
+{
+    setColumnHidden(TypeColumn, !isShown);
 }
 
 void DictionaryView::setDictionary(const QHash<QString, QVariant> &dictionary)
@@ -49,7 +55,8 @@ void DictionaryView::setDictionary(const QHash<QString, QVariant> &dictionary)
         item->setFont(ValueColumn, QFontDatabase::systemFont(QFontDatabase::FixedFont));
         item->setToolTip(ValueColumn, value.toString());
     }
-    fitHeight(std::max(keys.size(), kFewestRows));
+    resizeColumnToContents(KeyColumn);
+    fitHeight();
 }
 
 void DictionaryView::changeEvent(QEvent *event)
@@ -66,9 +73,9 @@ void DictionaryView::retranslate()
     setAccessibleName(tr("Settings"));
 }
 
-void DictionaryView::fitHeight(qsizetype rows)
+void DictionaryView::fitHeight()
 {
-    const int rowHeight = fontMetrics().height() + kRowGap;
-    setFixedHeight(header()->sizeHint().height() + int(rows) * rowHeight + 2 * frameWidth()
-                   + kRowGap);
+    const int rows = std::max(topLevelItemCount(), kFewestRows);
+    const int rowHeight = std::max(sizeHintForRow(0), fontMetrics().height());
+    setMinimumHeight(header()->sizeHint().height() + rows * rowHeight + 2 * frameWidth() + kRowGap);
 }

@@ -13,7 +13,10 @@ class DictionaryView : public QTreeWidget
 public:
     explicit DictionaryView(QWidget *parent = nullptr);
 
-    /// Replaces what is shown, and makes the view just high enough for it.
+    /// Whether the column of types is there; true at first.
+    void setTypesShown(bool isShown);
+
+    /// Replaces what is shown, and makes the view at least high enough for it.
     void setDictionary(const QHash<QString, QVariant> &dictionary);
 
 protected:
@@ -21,5 +24,5 @@ protected:
 
 private:
     void retranslate();
-    void fitHeight(qsizetype rows);
+    void fitHeight();
 };

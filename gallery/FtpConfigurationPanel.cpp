@@ -6,6 +6,12 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+namespace {
+
+constexpr int kRowGap = 6;
+
+} // namespace
+
 FtpConfigurationPanel::FtpConfigurationPanel(QWidget *parent)
     : GalleryPanel(parent)
     , widget(new FTPConfigurationWidget(this))
@@ -29,7 +35,7 @@ void FtpConfigurationPanel::retranslate()
 {
     setTitle(tr("FTP panel"));
     statusBox->setText(tr("Show st&atus"));
-    activeBox->setText(tr("Show bo&x \"Active\""));
+    activeBox->setText(tr("Show &box \"Active\""));
     eraseBox->setText(tr("Show box \"&Erase\""));
     importerBox->setText(tr("&Importer"));
 }
@@ -57,6 +63,9 @@ void FtpConfigurationPanel::setImporter(bool isImporter)
 void FtpConfigurationPanel::setUpLayout()
 {
     auto *boxes = new QGridLayout;
+    boxes->setHorizontalSpacing(2 * kGap);
+    boxes->setVerticalSpacing(kRowGap);
+    boxes->setColumnStretch(2, 1);
     boxes->addWidget(statusBox, 0, 0);
     boxes->addWidget(importerBox, 0, 1);
     boxes->addWidget(activeBox, 1, 0);
@@ -64,6 +73,7 @@ void FtpConfigurationPanel::setUpLayout()
 
     auto *rows = new QVBoxLayout(this);
     setGaps(rows);
+    widget->layout()->setContentsMargins(0, 0, 0, 0);
     rows->addWidget(widget);
     rows->addStretch();
     rows->addLayout(boxes);

@@ -97,7 +97,7 @@ TransferSettingsWish FtpServerPanel::transferSettings() const
 void FtpServerPanel::retranslate()
 {
     setTitle(tr("Local server"));
-    protocolLabel->setText(tr("&Protocol:"));
+    protocolLabel->setText(tr("Protoc&ol:"));
     setEntries(protocolBox, {tr("FTP"), tr("SFTP")});
     troubleLabel->setText(tr("&Trouble:"));
     setEntries(troubleBox,

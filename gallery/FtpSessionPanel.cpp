@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int kListHeight = 70;
+
 /// The value's name in the source, which is what a developer looks for.
 QString nameOf(FTPConfigurationWidget::FtpStatus status)
 {
@@ -58,7 +60,7 @@ void FtpSessionPanel::retranslate()
 {
     setTitle(tr("Session"));
     commandsLabel->setText(tr("What the server &got:"));
-    emissionsLabel->setText(tr("Signa&ls of the panel:"));
+    emissionsLabel->setText(tr("Signals of t&he panel:"));
     setButtonText(clearButton, tr("Clea&r"));
 }
 
@@ -68,6 +70,8 @@ QPlainTextEdit *FtpSessionPanel::makeList(QLabel *label)
     list->setReadOnly(true);
     list->setTabChangesFocus(true);
     list->setMaximumBlockCount(kMaximumLines);
+    list->setMinimumHeight(kListHeight);
+    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     list->setLineWrapMode(QPlainTextEdit::NoWrap);
     list->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     label->setBuddy(list);

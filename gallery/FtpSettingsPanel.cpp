@@ -34,7 +34,7 @@ void FtpSettingsPanel::retranslate()
     setTitle(tr("Settings and dialogs"));
     setButtonText(settingsButton, tr("Sho&w Settings"));
     setButtonText(importButton, tr("I&mport Dialog..."));
-    setButtonText(exportButton, tr("Exp&ort Dialog..."));
+    setButtonText(exportButton, tr("E&xport Dialog..."));
 }
 
 void FtpSettingsPanel::openImportDialog()

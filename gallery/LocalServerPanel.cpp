@@ -119,7 +119,7 @@ void LocalServerPanel::setEntries(QComboBox *box, const QStringList &texts)
 
 void LocalServerPanel::retranslate()
 {
-    sliderLabel->setText(tr("&Server:"));
+    sliderLabel->setText(tr("Ser&ver:"));
     slider->setAccessibleName(title());
     setButtonText(fillInButton, tr("&Fill In the Panel"));
     showState();

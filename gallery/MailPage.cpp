@@ -23,10 +23,10 @@ MailPage::MailPage(QWidget *parent)
     , serverPanel(new MailServerPanel(this))
     , senderBox(new QGroupBox(this))
     , senderWidget(new EMailSenderWidget(senderBox))
-    , received(new ReceivedMailsPanel(this))
     , settingsBox(new QGroupBox(this))
     , settingsButton(new QPushButton(settingsBox))
     , settingsView(new DictionaryView(settingsBox))
+    , received(new ReceivedMailsPanel(this))
 {
     setUpLayout();
     retranslate();
@@ -107,6 +107,7 @@ void MailPage::setUpLayout()
 {
     auto *senderRows = new QVBoxLayout(senderBox);
     senderRows->setContentsMargins(kGap, kGap, kGap, kGap);
+    senderWidget->layout()->setContentsMargins(0, 0, 0, 0);
     senderRows->addWidget(senderWidget);
     senderRows->addStretch();
 
@@ -114,17 +115,18 @@ void MailPage::setUpLayout()
     settingsRows->setContentsMargins(kGap, kGap, kGap, kGap);
     settingsRows->setSpacing(kGap);
     settingsRows->addWidget(settingsButton, 0, Qt::AlignLeft);
-    settingsRows->addWidget(settingsView);
+    settingsRows->addWidget(settingsView, 1);
+    settingsView->setTypesShown(false);
 
     auto *columns = new QHBoxLayout;
     columns->setSpacing(kGap);
-    columns->addWidget(senderBox, 2);
-    columns->addWidget(received, 3);
+    columns->addWidget(senderBox);
+    columns->addWidget(settingsBox, 1);
 
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(kGap);
     rows->addWidget(serverPanel);
-    rows->addLayout(columns, 1);
-    rows->addWidget(settingsBox);
+    rows->addLayout(columns);
+    rows->addWidget(received, 1);
 }

@@ -41,9 +41,9 @@ private:
     MailServerPanel *serverPanel;
     QGroupBox *senderBox;
     EMailSenderWidget *senderWidget;
-    ReceivedMailsPanel *received;
     QGroupBox *settingsBox;
     QPushButton *settingsButton;
     DictionaryView *settingsView;
+    ReceivedMailsPanel *received;
     bool isFilling = false;
 };

@@ -139,7 +139,7 @@ void MailServerPanel::retranslate()
     setEntries(troubleBox,
                {tr("None"), tr("Wrong password"), tr("Receiver refused"), tr("Silent server"),
                 tr("Nobody listens")});
-    loginBox->setText(tr("&Login needed"));
+    loginBox->setText(tr("Login &needed"));
     LocalServerPanel::retranslate();
 }
 

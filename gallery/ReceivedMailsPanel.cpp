@@ -3,12 +3,12 @@
 #include "MailSubject.h"
 
 #include <QFontDatabase>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTreeWidget>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -25,15 +25,18 @@ enum Role {
     TlsRole,
 };
 
-constexpr int kAddressWidth = 112;
+constexpr int kAddressWidth = 124;
 constexpr int kFlagWidth = 44;
-constexpr int kListRows = 5;
+constexpr int kListHeight = 180;
+constexpr int kListShare = 8;
+constexpr int kContentShare = 5;
 
 } // namespace
 
 ReceivedMailsPanel::ReceivedMailsPanel(QWidget *parent)
     : GalleryPanel(parent)
     , list(new QTreeWidget(this))
+    , listLabel(new QLabel(this))
     , contentLabel(new QLabel(this))
     , content(new QPlainTextEdit(this))
     , clearButton(new QPushButton(this))
@@ -44,6 +47,8 @@ ReceivedMailsPanel::ReceivedMailsPanel(QWidget *parent)
     content->setLineWrapMode(QPlainTextEdit::NoWrap);
     content->setTabChangesFocus(true);
     contentLabel->setBuddy(content);
+    content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    listLabel->setBuddy(list);
     setUpLayout();
     retranslate();
     connect(list, SIGNAL(itemSelectionChanged()), this, SLOT(showContent()));
@@ -76,7 +81,7 @@ void ReceivedMailsPanel::clear()
 void ReceivedMailsPanel::retranslate()
 {
     setTitle(tr("Received mails"));
-    list->setAccessibleName(title());
+    listLabel->setText(tr("&Mails:"));
     list->setHeaderLabels({tr("From"), tr("To"), tr("Subject"), tr("TLS"), tr("Login")});
     for (int row = 0; row < list->topLevelItemCount(); ++row) {
         showTexts(list->topLevelItem(row));
@@ -115,21 +120,21 @@ void ReceivedMailsPanel::setUpList()
     list->setColumnWidth(ToColumn, kAddressWidth);
     list->setColumnWidth(TlsColumn, kFlagWidth);
     list->setColumnWidth(LoginColumn, kFlagWidth);
-    list->setFixedHeight(list->header()->sizeHint().height()
-                         + kListRows * (fontMetrics().height() + 2) + 2 * list->frameWidth());
+    list->setMinimumHeight(kListHeight);
+    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
 }
 
 void ReceivedMailsPanel::setUpLayout()
 {
-    auto *contentRow = new QHBoxLayout;
-    contentRow->addWidget(contentLabel);
-    contentRow->addStretch();
-    contentRow->addWidget(clearButton);
-
-    auto *rows = new QVBoxLayout(this);
-    setGaps(rows);
-    rows->addWidget(list);
-    rows->addLayout(contentRow);
-    rows->addWidget(content, 1);
+    auto *grid = new QGridLayout(this);
+    setGaps(grid);
+    grid->addWidget(listLabel, 0, 0);
+    grid->addWidget(contentLabel, 0, 1);
+    grid->addWidget(clearButton, 0, 2, Qt::AlignRight);
+    grid->addWidget(list, 1, 0);
+    grid->addWidget(content, 1, 1, 1, 2);
+    grid->setColumnStretch(0, kListShare);
+    grid->setColumnStretch(1, kContentShare);
+    grid->setRowStretch(1, 1);
     clearButton->setEnabled(false);
 }

@@ -38,6 +38,7 @@ private:
     void setUpLayout();
 
     QTreeWidget *list;
+    QLabel *listLabel;
     QLabel *contentLabel;
     QPlainTextEdit *content;
     QPushButton *clearButton;
