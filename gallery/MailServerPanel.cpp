@@ -18,7 +18,7 @@ constexpr int kSilenceMilliseconds = 2000;
 const QString kLogin = QStringLiteral("mia");
 const QString kPassword = QStringLiteral("s3cret");
 const QString kWrongPassword = QStringLiteral("forgotten");
-const QString kSender = QStringLiteral("press@example.org");
+const QString kSender = QStringLiteral("ada@example.org");
 const QString kReceiver = QStringLiteral("mia@example.org");
 const QString kCopyReceiver = QStringLiteral("leo@example.org");
 

@@ -25,7 +25,7 @@ enum Role {
     TlsRole,
 };
 
-constexpr int kAddressWidth = 124;
+constexpr int kAddressWidth = 120;
 constexpr int kFlagWidth = 44;
 constexpr int kListHeight = 180;
 constexpr int kListShare = 8;

@@ -23,6 +23,12 @@ using Trouble = FtpServerPanel::Trouble;
 Q_DECLARE_METATYPE(Protocol)
 Q_DECLARE_METATYPE(Trouble)
 
+namespace {
+
+constexpr int kReadsOfErrors = 2;
+
+} // namespace
+
 class TestFtpPage : public TestBase
 {
     Q_OBJECT
@@ -51,6 +57,7 @@ private slots:
     void dialogsShowTheirSettingsAfterOk();
     void cancelledDialogShowsNothing();
     void pictureShowsASuccessfulCheck();
+    void pictureComesWithoutAServerToo();
     void mnemonicsAreDistinct();
     void pageIsNotTooWide();
 
@@ -334,6 +341,24 @@ void TestFtpPage::pictureShowsASuccessfulCheck()
     QCOMPARE(bullet().accessibleName(), "Connection succeeded");
     QVERIFY(lines(0).startsWith("USER mia"));
     QCOMPARE(settings().topLevelItemCount(), 5);
+}
+
+void TestFtpPage::pictureComesWithoutAServerToo()
+{
+    const QByteArray before = qgetenv("TMPDIR");
+    // LocalServer reads the errors of a process that it has not opened.
+    for (int i = 0; i < kReadsOfErrors; ++i) {
+        QTest::ignoreMessage(QtWarningMsg, "QIODevice::read (QProcess): device not open");
+    }
+    // Nothing can be made there, not even by the superuser.
+    qputenv("TMPDIR", "/proc");
+
+    page->fillForPicture();
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+
+    QVERIFY(page->isReady());
+    QVERIFY(!server->isRunning());
+    QVERIFY(!server->error().isEmpty());
 }
 
 void TestFtpPage::mnemonicsAreDistinct()

@@ -21,6 +21,12 @@ using Trouble = MailServerPanel::Trouble;
 Q_DECLARE_METATYPE(Security)
 Q_DECLARE_METATYPE(Trouble)
 
+namespace {
+
+constexpr int kReadsOfErrors = 2;
+
+} // namespace
+
 class TestMailPage : public TestBase
 {
     Q_OBJECT
@@ -43,6 +49,7 @@ private slots:
     void serverStopsWithThePage();
     void settingsAreShownWithTheCipher();
     void pictureShowsAMail();
+    void pictureComesWithoutAServerToo();
     void mnemonicsAreDistinct();
     void textsFollowTheLanguage();
     void pageIsNotTooWide();
@@ -154,7 +161,7 @@ void TestMailPage::testMailArrives()
 
     QTRY_COMPARE(mails().topLevelItemCount(), 1);
     const QTreeWidgetItem *mail = mails().topLevelItem(0);
-    QCOMPARE(mail->text(0), "press@example.org");
+    QCOMPARE(mail->text(0), "ada@example.org");
     QCOMPARE(mail->text(1), "mia@example.org, leo@example.org");
     QTEST(mail->text(3), "tls");
     QCOMPARE(mail->text(4), isLoginNeeded ? "mia" : "");
@@ -276,6 +283,24 @@ void TestMailPage::pictureShowsAMail()
     QCOMPARE(mails().topLevelItemCount(), 1);
     QCOMPARE(mails().topLevelItem(0)->text(2), "Proof is ready");
     QCOMPARE(settings().topLevelItemCount(), 8);
+}
+
+void TestMailPage::pictureComesWithoutAServerToo()
+{
+    const QByteArray before = qgetenv("TMPDIR");
+    // LocalServer reads the errors of a process that it has not opened.
+    for (int i = 0; i < kReadsOfErrors; ++i) {
+        QTest::ignoreMessage(QtWarningMsg, "QIODevice::read (QProcess): device not open");
+    }
+    // Nothing can be made there, not even by the superuser.
+    qputenv("TMPDIR", "/proc");
+
+    page->fillForPicture();
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+
+    QVERIFY(page->isReady());
+    QVERIFY(!server->isRunning());
+    QVERIFY(!server->error().isEmpty());
 }
 
 void TestMailPage::mnemonicsAreDistinct()
