@@ -62,7 +62,13 @@ LocalServerPanel::LocalServerPanel(QWidget *parent)
     connect(fillInButton, SIGNAL(clicked()), this, SIGNAL(fillInWanted()));
 }
 
-LocalServerPanel::~LocalServerPanel() = default;
+LocalServerPanel::~LocalServerPanel()
+{
+    // A server tells what is left to tell while it stops, and there is nobody any more.
+    if (server) {
+        server->disconnect(this);
+    }
+}
 
 quint16 LocalServerPanel::port() const
 {
