@@ -3,7 +3,9 @@
 #include "AccessPage.h"
 #include "ControlsPage.h"
 #include "ErrorsPage.h"
+#include "FtpPage.h"
 #include "LogPage.h"
+#include "MailPage.h"
 #include "PagesPage.h"
 
 #include <QCoreApplication>
@@ -31,6 +33,8 @@ const QList<GalleryPageEntry> &galleryPages()
         {"errors", QT_TRANSLATE_NOOP("GalleryPages", "Errors"), make<ErrorsPage>},
         {"access", QT_TRANSLATE_NOOP("GalleryPages", "Access"), make<AccessPage>},
         {"controls", QT_TRANSLATE_NOOP("GalleryPages", "Controls"), make<ControlsPage>},
+        {"mail", QT_TRANSLATE_NOOP("GalleryPages", "Mail"), make<MailPage>},
+        {"ftp", QT_TRANSLATE_NOOP("GalleryPages", "FTP"), make<FtpPage>},
     };
     return pages;
 }
