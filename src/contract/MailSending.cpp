@@ -32,17 +32,23 @@ size_t readRest(char *buffer, size_t size, size_t count, void *user)
 
 using TextList = std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)>;
 
+/// Null without memory.
 TextList textList(const QList<QByteArray> &texts)
 {
     TextList list(nullptr, curl_slist_free_all);
-    // To the front, since the library walks through the whole list to append to it.
-    for (auto text = texts.rbegin(); text != texts.rend(); ++text) {
-        auto *node = curl_slist_append(nullptr, text->constData());
+    curl_slist *last = nullptr;
+    for (const QByteArray &text : texts) {
+        // Not to the list itself, which would be walked through each time.
+        curl_slist *node = curl_slist_append(nullptr, text.constData());
         if (!node) {
             return {nullptr, curl_slist_free_all};
         }
-        node->next = list.release();
-        list.reset(node);
+        if (last) {
+            last->next = node;
+        } else {
+            list.reset(node);
+        }
+        last = node;
     }
     return list;
 }
@@ -121,6 +127,9 @@ QString MailSending::send(const MailServer &server, const MailMessage &message)
 {
     Rest rest{message.content(QDateTime::currentDateTime())};
     const TextList receiverList = textList(message.envelopeReceivers());
+    if (!receiverList) {
+        return curlSentence(CURLE_OUT_OF_MEMORY);
+    }
     CURL *easy = transfer.handle();
     setUpServer(server);
     curl_easy_setopt(easy, CURLOPT_MAIL_FROM, message.sender.mailbox().constData());

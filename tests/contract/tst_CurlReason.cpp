@@ -4,6 +4,10 @@
 #include "TXTransferSettings.h"
 #include "TestBase.h"
 
+#include <QTranslator>
+
+#include <memory>
+
 class TestCurlReason : public TestBase
 {
     Q_OBJECT

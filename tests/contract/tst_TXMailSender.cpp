@@ -16,6 +16,9 @@ namespace {
 /// Far below the time-outs, far above what a busy machine needs.
 constexpr int kAtOnceMilliseconds = 2000;
 
+const QString kSubject = QStringLiteral("Prüfbericht 😀");
+const QString kBody = QStringLiteral("Größe: 3 µm\n.\n印刷 😀");
+
 TXMailSender *makeSender(const QHash<QString, QVariant> &settings)
 {
     return TXMailSender::createTXMailSender(settings, "body", "subject", {}, {});
@@ -62,6 +65,10 @@ private slots:
 
 protected:
     void finish() override { TXTransferSettings::setCertificateAuthoritiesFile({}); }
+
+private:
+    /// Fails unless it is the mail of kSubject and kBody, made not before that second.
+    void verifyContent(const QByteArray &content, qint64 before);
 };
 
 void TestTXMailSender::senderIsNeverNull()
@@ -194,8 +201,7 @@ void TestTXMailSender::mailArrives()
         settings = withLogin(settings, login, password);
     }
     settings["MailCopyDestination"] = "eve@example.org";
-    const QString body = QStringLiteral("Größe: 3 µm\n.\n印刷 😀");
-    const MailOutcome outcome = sendMail(settings, body, QStringLiteral("Prüfbericht 😀"));
+    const MailOutcome outcome = sendMail(settings, kBody, kSubject);
 
     QCOMPARE(outcome.reason, QString());
     QVERIFY(outcome.sent);
@@ -206,17 +212,22 @@ void TestTXMailSender::mailArrives()
     QCOMPARE(received.receivers, QStringList({"bob@example.org", "eve@example.org"}));
     QCOMPARE(received.usedTls, security != Security::Plain);
     QCOMPARE(received.login, login);
-    const QJsonObject mail = readMail(received.content);
-    QVERIFY2(mail["defects"].toArray().isEmpty(), received.content);
+    QCOMPARE(server.error(), QString());
+    verifyContent(received.content, before);
+}
+
+void TestTXMailSender::verifyContent(const QByteArray &content, qint64 before)
+{
+    const QJsonObject mail = readMail(content);
+    QVERIFY2(mail["defects"].toArray().isEmpty(), content);
     QCOMPARE(mail["from"].toString(), "mia@example.org");
     QCOMPARE(mail["to"].toString(), "bob@example.org");
     QCOMPARE(mail["cc"].toString(), "eve@example.org");
-    QCOMPARE(mail["subject"].toString(), QStringLiteral("Prüfbericht 😀"));
-    QCOMPARE(mail["body"].toString().remove('\r'), body + '\n');
+    QCOMPARE(mail["subject"].toString(), kSubject);
+    QCOMPARE(mail["body"].toString().remove('\r'), kBody + '\n');
     QVERIFY(mail["id"].toString().endsWith("@example.org>"));
     QVERIFY(mail["time"].toDouble() >= double(before));
     QVERIFY(mail["time"].toDouble() <= double(QDateTime::currentSecsSinceEpoch()));
-    QCOMPARE(server.error(), QString());
 }
 
 void TestTXMailSender::loginIsNotUsedWhereNoneIsOffered()
