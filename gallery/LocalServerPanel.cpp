@@ -57,7 +57,7 @@ LocalServerPanel::LocalServerPanel(QWidget *parent)
     errorText->setWordWrap(true);
     errorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
     setUpLayout();
-    showError({});
+    hideError();
     connect(slider, SIGNAL(clicked(bool)), this, SLOT(switchTo(bool)));
     connect(fillInButton, SIGNAL(clicked()), this, SIGNAL(fillInWanted()));
 }
@@ -145,7 +145,7 @@ void LocalServerPanel::switchTo(bool isOn)
 void LocalServerPanel::start()
 {
     const WaitCursor cursor;
-    showError({});
+    hideError();
     server = makeServer();
     if (!server->start()) {
         showError(server->error());
@@ -169,13 +169,18 @@ void LocalServerPanel::showState()
 
 void LocalServerPanel::showError(const QString &reason)
 {
-    const bool isThere = !reason.isEmpty();
-    errorText->setText(isThere ? tr("The server did not start: %1\nIt needs Python 3 with the "
-                                    "package \"%2\".")
-                                     .arg(shortened(reason), neededPackage())
-                               : QString());
-    errorText->setVisible(isThere);
-    errorPicture->setVisible(isThere);
+    const QString text = tr("The server did not start: %1\nIt needs Python 3 with the package "
+                            "\"%2\".");
+    errorText->setText(text.arg(shortened(reason), neededPackage()));
+    errorText->show();
+    errorPicture->show();
+}
+
+void LocalServerPanel::hideError()
+{
+    errorText->clear();
+    errorText->hide();
+    errorPicture->hide();
 }
 
 void LocalServerPanel::setUpLayout()

@@ -86,6 +86,7 @@ private:
     void start();
     void showState();
     void showError(const QString &reason);
+    void hideError();
     void setUpLayout();
 
     TXSwitchSlider *slider;
