@@ -117,6 +117,8 @@ EMailSenderWidget::EMailSenderWidget(QWidget *parent)
 
 EMailSenderWidget::~EMailSenderWidget() = default;
 
+// By value: hosts are built against this signature.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void EMailSenderWidget::load(QHash<QString, QVariant> settings)
 {
     setLoginName(settings.value(kLoginKey).toString());
