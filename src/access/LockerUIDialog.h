@@ -19,15 +19,15 @@ class LockerUIDialog;
 ///     LockerUIDialog dialog(true, window);
 ///     dialog.setPassword(storedPassword);
 ///     const int result = dialog.exec();
-///     if (dialog.isPasswordChanged()) {
-///         storedPassword = dialog.password();
-///     }
+///     storedPassword = dialog.password();
 ///     if (result >= 0) {
 ///         lock();
 ///     }
 ///
 /// exec() gives 1 to lock when the password has changed, 0 to lock with the old one, and -1 when
 /// the user has cancelled, also by Escape. A cancel does not take a change of the password back.
+/// The result and isPasswordChanged() speak of the last change only, so read password() in any
+/// case.
 ///
 /// With `useHash` a password is stored as the lower-case hexadecimal text of its MD5 digest, else
 /// in clear. The text does not tell which; the host passes the same value each time.

@@ -2,7 +2,164 @@
 
 #include <QAbstractSpinBox>
 #include <QFontMetrics>
+#include <QHeaderView>
 #include <QLabel>
+#include <QMainWindow>
+#include <QPointer>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTableView>
+#include <QTreeView>
+
+#include <utility>
+
+namespace {
+
+using State = QHash<QString, QVariant>;
+
+constexpr int kMainWindowStateVersion = 0;
+
+const QString kGeometry = QStringLiteral("geometry");
+const QString kState = QStringLiteral("state");
+const QString kHeaderState = QStringLiteral("headerState");
+const QString kHorizontalState = QStringLiteral("horizontalState");
+const QString kVerticalState = QStringLiteral("verticalState");
+const QString kChildren = QStringLiteral("children");
+
+struct Headers
+{
+    QHeaderView *horizontal = nullptr;
+    QHeaderView *vertical = nullptr;
+};
+
+Headers headersOf(QWidget *widget)
+{
+    if (const auto *table = qobject_cast<QTableView *>(widget)) {
+        return {table->horizontalHeader(), table->verticalHeader()};
+    }
+    if (const auto *tree = qobject_cast<QTreeView *>(widget)) {
+        return {tree->header(), nullptr};
+    }
+    return {};
+}
+
+/// Such a header has nothing worth keeping.
+bool isAllFixed(const QHeaderView &header)
+{
+    for (int section = 0; section < header.count(); ++section) {
+        if (header.sectionResizeMode(section) != QHeaderView::Fixed) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void saveOwnState(QWidget *widget, State *entry)
+{
+    if (const auto *window = qobject_cast<QMainWindow *>(widget)) {
+        entry->insert(kState, window->saveState(kMainWindowStateVersion));
+    } else if (const auto *splitter = qobject_cast<QSplitter *>(widget)) {
+        entry->insert(kState, splitter->saveState());
+    }
+}
+
+/// The vertical header counts only where there is no horizontal one, also when that one is not
+/// kept: states that hosts have stored are of this form.
+void saveHeader(QWidget *widget, State *entry)
+{
+    const Headers headers = headersOf(widget);
+    const QHeaderView *header = headers.horizontal ? headers.horizontal : headers.vertical;
+    if (header && !isAllFixed(*header)) {
+        const QString &key = headers.horizontal ? kHorizontalState : kVerticalState;
+        entry->insert(kHeaderState, State{{key, header->saveState()}});
+    }
+}
+
+void saveChildren(QWidget *widget, State *entry)
+{
+    State children;
+    for (QObject *child : widget->children()) {
+        TXWidgetUtilities::saveWidgetStateInHash(qobject_cast<QWidget *>(child), children);
+    }
+    if (!children.isEmpty()) {
+        entry->insert(kChildren, std::move(children));
+    }
+}
+
+void restoreOwnState(QWidget *widget, const State &entry)
+{
+    const auto found = entry.constFind(kState);
+    if (found == entry.cend()) {
+        return;
+    }
+    if (auto *window = qobject_cast<QMainWindow *>(widget)) {
+        window->restoreState(found->toByteArray(), kMainWindowStateVersion);
+    } else if (auto *splitter = qobject_cast<QSplitter *>(widget)) {
+        splitter->restoreState(found->toByteArray());
+    }
+}
+
+void restoreUnlessFixed(QHeaderView *header, const QVariant &state)
+{
+    if (!isAllFixed(*header)) {
+        header->restoreState(state.toByteArray());
+    }
+}
+
+void restoreHeader(QWidget *widget, const State &entry)
+{
+    const State state = entry.value(kHeaderState).toHash();
+    const Headers headers = headersOf(widget);
+    if (headers.horizontal && state.contains(kHorizontalState)) {
+        restoreUnlessFixed(headers.horizontal, state.value(kHorizontalState));
+    } else if (headers.vertical && state.contains(kVerticalState)) {
+        restoreUnlessFixed(headers.vertical, state.value(kVerticalState));
+    }
+}
+
+void restoreChildren(QWidget *widget, const State &entry)
+{
+    const State state = entry.value(kChildren).toHash();
+    if (state.isEmpty()) {
+        return;
+    }
+    // Restoring resizes widgets, and whoever listens may delete others.
+    QList<QPointer<QObject>> children(widget->children().cbegin(), widget->children().cend());
+    for (const QPointer<QObject> &child : std::as_const(children)) {
+        TXWidgetUtilities::restoreWidgetStateInHash(qobject_cast<QWidget *>(child.data()), state);
+    }
+}
+
+} // namespace
+
+void TXWidgetUtilities::saveWidgetStateInHash(QWidget *widget, QHash<QString, QVariant> &state)
+{
+    if (!widget) {
+        return;
+    }
+    State entry;
+    entry.insert(kGeometry, widget->saveGeometry());
+    saveOwnState(widget, &entry);
+    saveHeader(widget, &entry);
+    saveChildren(widget, &entry);
+    state.insert(widget->objectName(), std::move(entry));
+}
+
+void TXWidgetUtilities::restoreWidgetStateInHash(QWidget *widget,
+                                                 const QHash<QString, QVariant> &state)
+{
+    if (!widget) {
+        return;
+    }
+    const State entry = state.value(widget->objectName()).toHash();
+    if (entry.isEmpty()) {
+        return;
+    }
+    widget->restoreGeometry(entry.value(kGeometry).toByteArray());
+    restoreOwnState(widget, entry);
+    restoreHeader(widget, entry);
+    restoreChildren(widget, entry);
+}
 
 QSize TXWidgetUtilities::maxSizeNeededForLabelList(const QList<QLabel *> &labels)
 {
@@ -15,6 +172,37 @@ QSize TXWidgetUtilities::maxSizeNeededForLabelList(const QList<QLabel *> &labels
         }
     }
     return needed;
+}
+
+QSize TXWidgetUtilities::maxSizeNeededForButtonList(const QList<QPushButton *> &buttons)
+{
+    QSize needed(0, 0);
+    for (const QPushButton *button : buttons) {
+        if (button) {
+            const QString text = QStringLiteral("  %1  ").arg(button->text());
+            const QFontMetrics metrics(button->font());
+            needed = needed.expandedTo(metrics.size(Qt::TextShowMnemonic, text));
+        }
+    }
+    return needed;
+}
+
+void TXWidgetUtilities::setFixedWidthToButtonList(const QList<QPushButton *> &buttons, int width)
+{
+    for (QPushButton *button : buttons) {
+        if (button) {
+            button->setFixedWidth(width);
+        }
+    }
+}
+
+void TXWidgetUtilities::setFixedSizeToButtonList(const QList<QPushButton *> &buttons, QSize size)
+{
+    for (QPushButton *button : buttons) {
+        if (button) {
+            button->setFixedSize(size);
+        }
+    }
 }
 
 void TXWidgetUtilities::treatWhenSpinBoxDisabled(QAbstractSpinBox *spinBox)

@@ -178,7 +178,7 @@ void TestWidgetPluginManager::truncatedLibraryIsSkipped()
     QFETCH(int, bytes);
     QFile library(builtFile(kGood));
     QVERIFY(library.open(QFile::ReadOnly));
-    QVERIFY(library.size() > 2 * bytes);
+    QVERIFY(library.size() / 2 > bytes);
     write(QStringLiteral("truncated.so"), library.read(bytes));
     const WidgetPluginManager manager;
     manager.loadPlugins(subFolder());
@@ -280,7 +280,9 @@ void TestWidgetPluginManager::loadingTheSameFolderTwiceChangesNothing()
     copy(kGood);
     const WidgetPluginManager manager;
     manager.loadPlugins(subFolder());
-    const QHash<QString, IWidgetPlugin *> first = manager.plugins();
+    // A detached copy, as the manager gives its own table.
+    QHash<QString, IWidgetPlugin *> first = manager.plugins();
+    first.detach();
     manager.loadPlugins(subFolder());
 
     QCOMPARE(manager.plugins(), first);
