@@ -1,9 +1,11 @@
 #include "ControlsPage.h"
+#include "EmissionList.h"
 #include "GalleryLanguages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
 #include "PageChecks.h"
 #include "TestBase.h"
+#include "WidgetStateTree.h"
 
 #include <QPushButton>
 
@@ -17,6 +19,7 @@ private slots:
     void pageFitsTheWindow();
     void mnemonicsAreNotShared();
     void everyControlHasANameAndIsReachedByTab();
+    void pictureShowsEmissionsAndAKeptState();
 
 protected:
     void prepare() override;
@@ -62,6 +65,20 @@ void TestControlsPage::everyControlHasANameAndIsReachedByTab()
 {
     QCOMPARE(namelessControls(*window), QStringList());
     QCOMPARE(controlsOutOfReach(*window), QStringList());
+}
+
+void TestControlsPage::pictureShowsEmissionsAndAKeptState()
+{
+    GalleryPage *page = window->currentPage();
+
+    page->fillForPicture();
+
+    QVERIFY(page->isReady());
+    QVERIFY(page->findChild<EmissionList *>()->count() > 0);
+    QCOMPARE(page->findChild<WidgetStateTree *>()->topLevelItemCount(), 1);
+    const auto windows = page->furtherWindows();
+    QCOMPARE(windows.size(), 1);
+    QVERIFY(windows.first().window->isVisible());
 }
 
 int main(int argc, char **argv)

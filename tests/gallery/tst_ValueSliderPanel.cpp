@@ -8,6 +8,7 @@
 
 #include <QDoubleSpinBox>
 #include <QPlainTextEdit>
+#include <QSignalSpy>
 #include <QSlider>
 #include <QWheelEvent>
 
