@@ -87,7 +87,7 @@ void ReceivedMailsPanel::retranslate()
     for (int row = 0; row < list->topLevelItemCount(); ++row) {
         showTexts(list->topLevelItem(row));
     }
-    contentLabel->setText(tr("As it c&ame:"));
+    contentLabel->setText(tr("As it cam&e:"));
     setButtonText(clearButton, tr("Clea&r"));
 }
 
