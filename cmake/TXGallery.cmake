@@ -57,13 +57,16 @@ endfunction()
 # tx_add_gallery_manual(<target> <from> <to>)
 #
 # Makes a PDF manual of the Markdown file before the target, again whenever the text has changed.
+# The program that makes it gets a runtime folder of its own, which Qt makes when it is missing: a
+# container has none, and Qt would remark on that in every build.
 function(tx_add_gallery_manual target from to)
   cmake_path(GET to PARENT_PATH folder)
   add_custom_command(
     OUTPUT ${to}
     DEPENDS ${from} TXManualMaker
     COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
-    COMMAND TXManualMaker ${from} ${to}
+    COMMAND ${CMAKE_COMMAND} -E env XDG_RUNTIME_DIR=${CMAKE_CURRENT_BINARY_DIR}/runtime
+      $<TARGET_FILE:TXManualMaker> ${from} ${to}
     COMMENT "Making the manual"
     VERBATIM)
   add_custom_target(${target}Manual DEPENDS ${to})

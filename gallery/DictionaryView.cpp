@@ -20,6 +20,13 @@ constexpr int kTypeWidth = 70;
 constexpr int kFewestRows = 5;
 constexpr int kRowGap = 2;
 
+QString textOf(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QStringList
+        ? value.toStringList().join(QStringLiteral(", "))
+        : value.toString();
+}
+
 } // namespace
 
 DictionaryView::DictionaryView(QWidget *parent)
@@ -41,19 +48,15 @@ void DictionaryView::setTypesShown(bool isShown)
     setColumnHidden(TypeColumn, !isShown);
 }
 
-void DictionaryView::setDictionary(const QHash<QString, QVariant> &dictionary)
+void DictionaryView::setDictionary(const QHash<QString, QVariant> &dictionary,
+                                   const std::optional<QHash<QString, QVariant>> &kept)
 {
     clear();
     QStringList keys = dictionary.keys();
     std::sort(keys.begin(), keys.end());
     for (const QString &key : qAsConst(keys)) {
         const QVariant value = dictionary.value(key);
-        auto *item = new QTreeWidgetItem(this);
-        item->setText(KeyColumn, key);
-        item->setText(TypeColumn, QString::fromLatin1(value.typeName()));
-        item->setText(ValueColumn, value.toString());
-        item->setFont(ValueColumn, QFontDatabase::systemFont(QFontDatabase::FixedFont));
-        item->setToolTip(ValueColumn, value.toString());
+        addEntry(key, value, kept && kept->value(key) != value);
     }
     resizeColumnToContents(KeyColumn);
     fitHeight();
@@ -65,6 +68,21 @@ void DictionaryView::changeEvent(QEvent *event)
         retranslate();
     }
     QTreeWidget::changeEvent(event);
+}
+
+void DictionaryView::addEntry(const QString &key, const QVariant &value, bool isBold)
+{
+    auto *item = new QTreeWidgetItem(this);
+    item->setText(KeyColumn, key);
+    item->setText(TypeColumn, QString::fromLatin1(value.typeName()));
+    item->setText(ValueColumn, textOf(value));
+    item->setToolTip(ValueColumn, textOf(value));
+    for (int column = 0; column < ColumnCount; ++column) {
+        QFont shown =
+            column == ValueColumn ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : font();
+        shown.setBold(isBold);
+        item->setFont(column, shown);
+    }
 }
 
 void DictionaryView::retranslate()

@@ -2,20 +2,15 @@
 
 #include "LabColourDialog.h"
 
-#include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
-namespace {
-
-constexpr int kMargin = 14;
-
-} // namespace
+namespace { } // namespace
 
 EmbeddingPanel::EmbeddingPanel(QWidget *parent)
-    : QGroupBox(parent)
+    : GalleryPanel(parent)
     , frame(new QFrame(this))
     , embeddedDialog(new LabColourDialog(frame))
     , windowDialog(new LabColourDialog(this))
@@ -42,14 +37,6 @@ void EmbeddingPanel::openWindow()
     windowDialog->show();
     windowDialog->raise();
     windowDialog->activateWindow();
-}
-
-void EmbeddingPanel::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
-    QGroupBox::changeEvent(event);
 }
 
 void EmbeddingPanel::embeddedOkClicked()
@@ -79,8 +66,7 @@ void EmbeddingPanel::setUpLayout()
     side->addWidget(windowButton, 0, Qt::AlignLeft);
 
     auto *columns = new QHBoxLayout(this);
-    columns->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    columns->setSpacing(kMargin);
+    setGaps(columns);
     columns->addWidget(frame, 3);
     columns->addLayout(side, 2);
 }
@@ -109,7 +95,6 @@ void EmbeddingPanel::retranslate()
     setTitle(tr("A dialog in two places"));
     explanation->setText(tr("Part of the page, the dialog is not ended by its buttons. As a window "
                             "it is, and hands its colour over."));
-    windowButton->setText(tr("Open as &Window"));
-    windowButton->setMinimumWidth(windowButton->sizeHint().width() + kMargin);
+    setButtonText(windowButton, tr("Open as &Window"));
     showOutcome(outcome);
 }

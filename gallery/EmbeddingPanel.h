@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QGroupBox>
+#include "GalleryPanel.h"
 
 class LabColourDialog;
 class QFrame;
@@ -9,7 +9,7 @@ class QPushButton;
 
 /// One dialog in two places: embedded, where its OK leaves it as it is, and as a window, which OK
 /// closes, handing its colour over to the embedded one.
-class EmbeddingPanel : public QGroupBox
+class EmbeddingPanel final : public GalleryPanel
 {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ public slots:
     void openWindow();
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private slots:
     void embeddedOkClicked();
@@ -40,7 +40,6 @@ private:
 
     void setUpLayout();
     void showOutcome(Outcome newOutcome);
-    void retranslate();
 
     QFrame *frame;
     LabColourDialog *embeddedDialog;

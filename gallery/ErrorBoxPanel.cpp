@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr int kMargin = 14;
-
 /// In the order of the kinds.
 constexpr std::array kIcons = {
     QStyle::SP_MessageBoxInformation,
@@ -29,7 +27,7 @@ QLabel *makeNote(QWidget *parent)
 } // namespace
 
 ErrorBoxPanel::ErrorBoxPanel(QWidget *parent)
-    : QGroupBox(parent)
+    : GalleryPanel(parent)
     , group(new QButtonGroup(this))
     , shortLabel(new QLabel(this))
     , detailLabel(new QLabel(this))
@@ -52,12 +50,10 @@ ErrorBoxPanel::ErrorBoxPanel(QWidget *parent)
 
 void ErrorBoxPanel::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    } else if (event->type() == QEvent::StyleChange) {
+    if (event->type() == QEvent::StyleChange) {
         showIcons();
     }
-    QGroupBox::changeEvent(event);
+    GalleryPanel::changeEvent(event);
 }
 
 void ErrorBoxPanel::buttonClicked(int id)
@@ -68,15 +64,15 @@ void ErrorBoxPanel::buttonClicked(int id)
 void ErrorBoxPanel::setUpLayout()
 {
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    setMargins(grid);
     grid->addWidget(shortLabel, 0, 0);
     grid->addWidget(detailLabel, 1, 0);
-    grid->setColumnMinimumWidth(1, kMargin);
+    grid->setColumnMinimumWidth(1, kGap);
     for (size_t kind = 0; kind < kKinds; ++kind) {
         grid->addWidget(shortButtons[kind], 0, int(kind) + 2);
         grid->addWidget(detailButtons[kind], 1, int(kind) + 2);
     }
-    grid->setColumnMinimumWidth(kKinds + 2, kMargin);
+    grid->setColumnMinimumWidth(kKinds + 2, kGap);
     grid->addWidget(shortNote, 0, kKinds + 3);
     grid->addWidget(detailNote, 1, kKinds + 3);
     grid->setColumnStretch(kKinds + 3, 1);
@@ -104,11 +100,10 @@ void ErrorBoxPanel::retranslate()
         tr("In&formation", "with details"), tr("Q&uestion", "with details"),
         tr("War&ning", "with details"), tr("C&ritical", "with details")};
     for (size_t kind = 0; kind < kKinds; ++kind) {
-        shortButtons[kind]->setText(shortTexts[kind]);
-        detailButtons[kind]->setText(detailTexts[kind]);
+        setButtonText(shortButtons[kind], shortTexts[kind]);
+        setButtonText(detailButtons[kind], detailTexts[kind]);
         const QString name = QString(shortTexts[kind]).remove(QLatin1Char('&'));
         shortButtons[kind]->setAccessibleName(tr("%1, short").arg(name));
         detailButtons[kind]->setAccessibleName(tr("%1, with details").arg(name));
-        shortButtons[kind]->setMinimumWidth(shortButtons[kind]->sizeHint().width() + kMargin);
     }
 }

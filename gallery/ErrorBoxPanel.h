@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QGroupBox>
+#include "GalleryPanel.h"
 
 #include <array>
 
@@ -9,7 +9,7 @@ class QLabel;
 class QPushButton;
 
 /// The eight buttons for the boxes in which an error can be shown: four kinds in two forms.
-class ErrorBoxPanel : public QGroupBox
+class ErrorBoxPanel final : public GalleryPanel
 {
     Q_OBJECT
 
@@ -22,6 +22,7 @@ signals:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private slots:
     void buttonClicked(int id);
@@ -31,7 +32,6 @@ private:
 
     void setUpLayout();
     void showIcons();
-    void retranslate();
 
     QButtonGroup *group;
     std::array<QPushButton *, kKinds> shortButtons = {};

@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
-#include <QEvent>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QLabel>
@@ -18,7 +17,6 @@
 namespace {
 
 const QString kTitleKey = QStringLiteral("MessageBoxTitle");
-constexpr int kMargin = 14;
 constexpr int kButtonGap = 6;
 constexpr int kVisibleLines = 6;
 
@@ -32,7 +30,7 @@ QString pictureOfTheGallery()
 } // namespace
 
 ErrorComposer::ErrorComposer(QWidget *parent)
-    : QGroupBox(parent)
+    : GalleryPanel(parent)
     , exampleLabel(new QLabel(this))
     , exampleBox(new QComboBox(this))
     , browseButton(new QPushButton(this))
@@ -81,14 +79,6 @@ void ErrorComposer::readProfile(const QString &path)
     profilePath = path;
     exampleBox->setCurrentIndex(0);
     takeExample();
-}
-
-void ErrorComposer::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
-    QGroupBox::changeEvent(event);
 }
 
 void ErrorComposer::takeExample()
@@ -158,8 +148,8 @@ void ErrorComposer::setUpLayout()
     exampleRow->addWidget(browseButton);
 
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    grid->setHorizontalSpacing(kMargin);
+    setMargins(grid);
+    grid->setHorizontalSpacing(kGap);
     grid->addWidget(exampleLabel, 0, 0);
     grid->addLayout(exampleRow, 0, 1);
     grid->addWidget(titleCheck, 1, 0);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "TXError.h"
+#include "GalleryPanel.h"
 
-#include <QGroupBox>
+#include "TXError.h"
 
 class QCheckBox;
 class QComboBox;
@@ -13,7 +13,7 @@ class QPushButton;
 
 /// An error put together by hand, or taken from an example and changed, with its complete text
 /// beside it.
-class ErrorComposer : public QGroupBox
+class ErrorComposer final : public GalleryPanel
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ public:
     void readProfile(const QString &path);
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private slots:
     void takeExample();
@@ -41,7 +41,6 @@ private:
     void connectFields();
     void showError(const TXError &error);
     void showText();
-    void retranslate();
 
     QLabel *exampleLabel;
     QComboBox *exampleBox;

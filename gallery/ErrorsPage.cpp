@@ -11,7 +11,6 @@
 namespace {
 
 const QString kManual = QStringLiteral("TXGallery.pdf");
-constexpr int kGap = 14;
 
 } // namespace
 
@@ -27,7 +26,7 @@ ErrorsPage::ErrorsPage(const QString &manual, QWidget *parent)
 {
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(kGap);
+    rows->setSpacing(GalleryPanel::kGap);
     rows->addWidget(composer, 1);
     rows->addWidget(boxPanel);
     rows->addWidget(manualPanel);

@@ -34,7 +34,7 @@ FtpConfigurationPanel::FtpConfigurationPanel(QWidget *parent)
 void FtpConfigurationPanel::retranslate()
 {
     setTitle(tr("FTP panel"));
-    statusBox->setText(tr("Show st&atus"));
+    statusBox->setText(tr("Show stat&us"));
     activeBox->setText(tr("Show &box \"Active\""));
     eraseBox->setText(tr("Show box \"&Erase\""));
     importerBox->setText(tr("&Importer"));

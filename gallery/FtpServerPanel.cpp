@@ -80,11 +80,6 @@ std::unique_ptr<LocalServer> FtpServerPanel::makeServer()
                                        : makeServerOf<LocalSftpServer>(isSilent);
 }
 
-QString FtpServerPanel::neededPackage() const
-{
-    return protocol() == Protocol::Ftp ? QStringLiteral("pyftpdlib") : QStringLiteral("asyncssh");
-}
-
 TransferSettingsWish FtpServerPanel::transferSettings() const
 {
     TransferSettingsWish wish;

@@ -40,7 +40,6 @@ public:
 
 protected:
     [[nodiscard]] std::unique_ptr<LocalServer> makeServer() override;
-    [[nodiscard]] QString neededPackage() const override;
     [[nodiscard]] TransferSettingsWish transferSettings() const override;
     void retranslate() override;
 

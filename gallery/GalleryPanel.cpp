@@ -8,17 +8,14 @@ GalleryPanel::GalleryPanel(QWidget *parent)
     : QGroupBox(parent)
 { }
 
-void GalleryPanel::changeEvent(QEvent *event)
+void GalleryPanel::setMargins(QLayout *layout)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
-    QGroupBox::changeEvent(event);
+    layout->setContentsMargins(kGap, kGap, kGap, kGap);
 }
 
 void GalleryPanel::setGaps(QLayout *layout)
 {
-    layout->setContentsMargins(kGap, kGap, kGap, kGap);
+    setMargins(layout);
     layout->setSpacing(kGap);
 }
 
@@ -26,4 +23,12 @@ void GalleryPanel::setButtonText(QPushButton *button, const QString &text)
 {
     button->setText(text);
     button->setMinimumWidth(button->sizeHint().width() + kGap);
+}
+
+void GalleryPanel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    QGroupBox::changeEvent(event);
 }

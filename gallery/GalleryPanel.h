@@ -18,15 +18,18 @@ public:
 
     explicit GalleryPanel(QWidget *parent = nullptr);
 
+    /// The same margins for the layout of every framed section. Its spacing stays as it is.
+    static void setMargins(QLayout *layout);
+
+    /// The same margins, and as much room between the parts.
+    static void setGaps(QLayout *layout);
+
+    /// Sets the text of a button and makes it wide enough to leave room around a long one.
+    static void setButtonText(QPushButton *button, const QString &text);
+
 protected:
     void changeEvent(QEvent *event) override;
 
     /// Sets all texts of the panel, its title among them, in the language of the moment.
     virtual void retranslate() = 0;
-
-    /// The same margins and spacing for the layout of every panel.
-    static void setGaps(QLayout *layout);
-
-    /// Sets the text of a button and makes it wide enough to leave room around a long one.
-    static void setButtonText(QPushButton *button, const QString &text);
 };

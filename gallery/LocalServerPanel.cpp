@@ -6,6 +6,7 @@
 #include "TXSwitchSlider.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -57,7 +58,7 @@ LocalServerPanel::LocalServerPanel(QWidget *parent)
     errorText->setWordWrap(true);
     errorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
     setUpLayout();
-    hideError();
+    showFailure();
     connect(slider, SIGNAL(clicked(bool)), this, SLOT(switchTo(bool)));
     connect(fillInButton, SIGNAL(clicked()), this, SIGNAL(fillInWanted()));
 }
@@ -110,6 +111,7 @@ void LocalServerPanel::addOption(QLabel *label, QWidget *option)
         parts->addWidget(label);
     }
     parts->addWidget(option);
+    option->installEventFilter(this);
     options->insertLayout(place, parts);
 }
 
@@ -123,12 +125,24 @@ void LocalServerPanel::setEntries(QComboBox *box, const QStringList &texts)
     }
 }
 
+bool LocalServerPanel::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() == QEvent::Wheel) {
+        // A turn of the wheel while scrolling past must not restart the server at each step. Left
+        // to the page, which scrolls on.
+        event->ignore();
+        return true;
+    }
+    return GalleryPanel::eventFilter(object, event);
+}
+
 void LocalServerPanel::retranslate()
 {
     sliderLabel->setText(tr("Ser&ver:"));
     slider->setAccessibleName(title());
     setButtonText(fillInButton, tr("&Fill In the Panel"));
     showState();
+    showFailure();
 }
 
 void LocalServerPanel::switchTo(bool isOn)
@@ -142,18 +156,28 @@ void LocalServerPanel::switchTo(bool isOn)
     showState();
 }
 
+void LocalServerPanel::serverStopped()
+{
+    setFailure(Failure::Stopped, server->error());
+    // Its signal is what this is called by.
+    server->disconnect(this);
+    server.release()->deleteLater();
+    slider->setChecked(false);
+}
+
 void LocalServerPanel::start()
 {
     const WaitCursor cursor;
-    hideError();
+    setFailure(Failure::None);
     server = makeServer();
     if (!server->start()) {
-        showError(server->error());
+        setFailure(Failure::NotStarted, server->error());
         slider->setChecked(false);
         return;
     }
     settingsChange.emplace(transferSettings());
     connect(server.get(), SIGNAL(logged(QString)), this, SIGNAL(logged(QString)));
+    connect(server.get(), SIGNAL(stoppedByItself()), this, SLOT(serverStopped()));
     showState();
     emit started();
 }
@@ -167,20 +191,33 @@ void LocalServerPanel::showState()
     fillInButton->setEnabled(isRunning());
 }
 
-void LocalServerPanel::showError(const QString &reason)
+void LocalServerPanel::setFailure(Failure newFailure, const QString &newReason)
 {
-    const QString text = tr("The server did not start: %1\nIt needs Python 3 with the package "
-                            "\"%2\".");
-    errorText->setText(text.arg(shortened(reason), neededPackage()));
-    errorText->show();
-    errorPicture->show();
+    failure = newFailure;
+    reason = shortened(newReason);
+    showFailure();
 }
 
-void LocalServerPanel::hideError()
+void LocalServerPanel::showFailure()
 {
-    errorText->clear();
-    errorText->hide();
-    errorPicture->hide();
+    errorText->setText(failureText());
+    errorText->setVisible(failure != Failure::None);
+    errorPicture->setVisible(failure != Failure::None);
+}
+
+QString LocalServerPanel::failureText() const
+{
+    switch (failure) {
+    case Failure::None:
+        break;
+    case Failure::NotStarted:
+        return tr("The server did not start: %1").arg(reason) + u'\n'
+            + tr("\"./dev setup\" installs what is needed.");
+    case Failure::Stopped:
+        return reason.isEmpty() ? tr("The server has stopped by itself.")
+                                : tr("The server has stopped by itself: %1").arg(reason);
+    }
+    return {};
 }
 
 void LocalServerPanel::setUpLayout()

@@ -18,7 +18,8 @@ class TXSwitchSlider;
 /// panels have somebody to talk to.
 ///
 /// The options of a subclass stand in a row below the switch. A server that does not start turns
-/// the switch back, and the panel tells why. The server stops when the panel goes.
+/// the switch back, and so does one that stops by itself; the panel tells why. The server stops
+/// when the panel goes.
 class LocalServerPanel : public GalleryPanel
 {
     Q_OBJECT
@@ -31,7 +32,8 @@ public:
     /// Where the server listens; 0 while it does not run.
     [[nodiscard]] quint16 port() const;
 
-    /// Why the last start failed, as the user reads it; empty when it did not.
+    /// Why the server did not start or has stopped by itself, as the user reads it; empty when
+    /// neither has happened since it was last switched on.
     [[nodiscard]] QString error() const;
 
     /// Emits logged() for what the server has told by now.
@@ -62,31 +64,40 @@ protected:
     /// A server that is set up as the options tell, not started.
     [[nodiscard]] virtual std::unique_ptr<LocalServer> makeServer() = 0;
 
-    /// The Python package without which the server that the options name does not start.
-    [[nodiscard]] virtual QString neededPackage() const = 0;
-
     /// What clients on this computer need while the server runs. Nothing by default.
     [[nodiscard]] virtual TransferSettingsWish transferSettings() const { return {}; }
 
     /// The running server or null.
     [[nodiscard]] LocalServer *runningServer() const { return server.get(); }
 
-    /// Adds an option to the row, with a label before it unless that is null.
+    /// Adds an option to the row, with a label before it unless that is null. The wheel does not
+    /// turn it.
     void addOption(QLabel *label, QWidget *option);
 
     /// The texts of the entries, in the order of the box; makes the entries when there are none.
     static void setEntries(QComboBox *box, const QStringList &texts);
 
+    /// Keeps the wheel from the options.
+    bool eventFilter(QObject *object, QEvent *event) override;
+
     void retranslate() override;
 
 private slots:
     void switchTo(bool isOn);
+    void serverStopped();
 
 private:
+    enum class Failure {
+        None,
+        NotStarted,
+        Stopped,
+    };
+
     void start();
     void showState();
-    void showError(const QString &reason);
-    void hideError();
+    void setFailure(Failure newFailure, const QString &newReason = {});
+    void showFailure();
+    [[nodiscard]] QString failureText() const;
     void setUpLayout();
 
     TXSwitchSlider *slider;
@@ -96,6 +107,9 @@ private:
     QHBoxLayout *options;
     QLabel *errorPicture;
     QLabel *errorText;
+    Failure failure = Failure::None;
+    // Of the failure, as the server has told it.
+    QString reason;
     std::unique_ptr<LocalServer> server;
     std::optional<TransferSettingsChange> settingsChange;
 };

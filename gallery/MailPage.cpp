@@ -58,8 +58,7 @@ void MailPage::retranslate()
 {
     senderBox->setTitle(tr("Mail panel"));
     settingsBox->setTitle(tr("Settings of the panel"));
-    settingsButton->setText(tr("Sho&w Settings"));
-    settingsButton->setMinimumWidth(settingsButton->sizeHint().width() + kGap);
+    GalleryPanel::setButtonText(settingsButton, tr("Sho&w Settings"));
 }
 
 void MailPage::fillIn()
@@ -106,14 +105,13 @@ void MailPage::endFilling()
 void MailPage::setUpLayout()
 {
     auto *senderRows = new QVBoxLayout(senderBox);
-    senderRows->setContentsMargins(kGap, kGap, kGap, kGap);
+    GalleryPanel::setMargins(senderRows);
     senderWidget->layout()->setContentsMargins(0, 0, 0, 0);
     senderRows->addWidget(senderWidget);
     senderRows->addStretch();
 
     auto *settingsRows = new QVBoxLayout(settingsBox);
-    settingsRows->setContentsMargins(kGap, kGap, kGap, kGap);
-    settingsRows->setSpacing(kGap);
+    GalleryPanel::setGaps(settingsRows);
     settingsRows->addWidget(settingsButton, 0, Qt::AlignLeft);
     settingsRows->addWidget(settingsView, 1);
     settingsView->setTypesShown(false);

@@ -113,11 +113,6 @@ std::unique_ptr<LocalServer> MailServerPanel::makeServer()
     return server;
 }
 
-QString MailServerPanel::neededPackage() const
-{
-    return QStringLiteral("aiosmtpd");
-}
-
 TransferSettingsWish MailServerPanel::transferSettings() const
 {
     TransferSettingsWish wish;

@@ -44,7 +44,6 @@ signals:
 
 protected:
     [[nodiscard]] std::unique_ptr<LocalServer> makeServer() override;
-    [[nodiscard]] QString neededPackage() const override;
     [[nodiscard]] TransferSettingsWish transferSettings() const override;
     void retranslate() override;
 

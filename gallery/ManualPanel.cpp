@@ -2,7 +2,6 @@
 
 #include "TXDisplayAppManual.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -12,12 +11,11 @@
 namespace {
 
 const QString kMissingManual = QStringLiteral("Measuring Device.pdf");
-constexpr int kMargin = 14;
 
 } // namespace
 
 ManualPanel::ManualPanel(QString fileName, QWidget *parent)
-    : QGroupBox(parent)
+    : GalleryPanel(parent)
     , fileName(std::move(fileName))
     , note(new QLabel(this))
     , openButton(new QPushButton(this))
@@ -26,22 +24,14 @@ ManualPanel::ManualPanel(QString fileName, QWidget *parent)
     note->setWordWrap(true);
     note->setForegroundRole(QPalette::PlaceholderText);
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    setMargins(row);
     row->addWidget(openButton);
     row->addWidget(missingButton);
-    row->addSpacing(kMargin);
+    row->addSpacing(kGap);
     row->addWidget(note, 1);
     retranslate();
     connect(openButton, SIGNAL(clicked()), this, SLOT(openManual()));
     connect(missingButton, SIGNAL(clicked()), this, SLOT(openMissingManual()));
-}
-
-void ManualPanel::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
-    QGroupBox::changeEvent(event);
 }
 
 void ManualPanel::openManual()
@@ -57,10 +47,7 @@ void ManualPanel::openMissingManual()
 void ManualPanel::retranslate()
 {
     setTitle(tr("Manual"));
-    openButton->setText(tr("Open &Manual"));
-    missingButton->setText(tr("Open a Missin&g One"));
-    for (QPushButton *button : {openButton, missingButton}) {
-        button->setMinimumWidth(button->sizeHint().width() + kMargin);
-    }
+    setButtonText(openButton, tr("Open &Manual"));
+    setButtonText(missingButton, tr("Open a Missin&g One"));
     note->setText(tr("The manual of this gallery, in the system's viewer of PDF files."));
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QGroupBox>
+#include "GalleryPanel.h"
 
 class QLabel;
 class QPushButton;
 
 /// Opens the manual of the program, and asks for one that is not there.
-class ManualPanel : public QGroupBox
+class ManualPanel final : public GalleryPanel
 {
     Q_OBJECT
 
@@ -15,15 +15,13 @@ public:
     explicit ManualPanel(QString fileName, QWidget *parent = nullptr);
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private slots:
     void openManual();
     void openMissingManual();
 
 private:
-    void retranslate();
-
     QString fileName;
     QLabel *note;
     QPushButton *openButton;

@@ -6,12 +6,6 @@
 
 #include <QVBoxLayout>
 
-namespace {
-
-constexpr int kGap = 14;
-
-} // namespace
-
 PagesPage::PagesPage(QWidget *parent)
     : PagesPage(QString(), parent)
 { }
@@ -23,7 +17,7 @@ PagesPage::PagesPage(const QString &pluginFolder, QWidget *parent)
 {
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(kGap);
+    rows->setSpacing(GalleryPanel::kGap);
     rows->addWidget(pluginPanel);
     rows->addWidget(embeddingPanel);
     rows->addStretch(1);

@@ -1,14 +1,13 @@
 #include "PluginPanel.h"
 
+#include "DictionaryView.h"
 #include "PageSettings.h"
-#include "SettingsView.h"
 
 #include "ConfWidget.h"
 #include "IWidgetPlugin.h"
 #include "TXStackedWidget.h"
 
 #include <QDir>
-#include <QEvent>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -19,7 +18,6 @@
 
 namespace {
 
-constexpr int kMargin = 14;
 constexpr int kButtonGap = 6;
 constexpr int kListRows = 3;
 constexpr int kRowPadding = 6;
@@ -30,7 +28,7 @@ constexpr int kLastColumn = 2;
 } // namespace
 
 PluginPanel::PluginPanel(const QString &folder, QWidget *parent)
-    : QGroupBox(parent)
+    : GalleryPanel(parent)
     , folder(folder)
     , nothingLabel(new QLabel(this))
     , content(new QWidget(this))
@@ -38,7 +36,7 @@ PluginPanel::PluginPanel(const QString &folder, QWidget *parent)
     , list(new QTreeWidget(content))
     , stack(new TXStackedWidget(content))
     , settingsLabel(new QLabel(content))
-    , settingsView(new SettingsView(content))
+    , settingsView(new DictionaryView(content))
     , stateLabel(new QLabel(content))
     , saveButton(new QPushButton(content))
     , restoreButton(new QPushButton(content))
@@ -60,14 +58,6 @@ PluginPanel::PluginPanel(const QString &folder, QWidget *parent)
     list->setCurrentItem(list->topLevelItem(0));
 }
 
-void PluginPanel::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
-    QGroupBox::changeEvent(event);
-}
-
 void PluginPanel::showChosen()
 {
     if (const Entry *entry = chosen()) {
@@ -83,7 +73,7 @@ void PluginPanel::showSettings()
         return;
     }
     const QHash<QString, QVariant> settings = entry->page->save();
-    settingsView->showSettings(settings, entry->kept);
+    settingsView->setDictionary(settings, entry->kept);
     showState(*entry, settings != entry->kept);
 }
 
@@ -158,10 +148,10 @@ void PluginPanel::setUpLayout()
 
     auto *grid = new QGridLayout(content);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(2 * kMargin);
+    grid->setHorizontalSpacing(2 * kGap);
     grid->addWidget(listLabel, 0, 0, 1, 2);
     grid->addWidget(list, 1, 0, 1, 2);
-    grid->setRowMinimumHeight(2, kMargin / 2);
+    grid->setRowMinimumHeight(2, kGap / 2);
     grid->addWidget(stack, 3, 0, 2, 1, Qt::AlignTop);
     grid->addWidget(settingsLabel, 3, 1);
     grid->addWidget(settingsView, 4, 1);
@@ -171,7 +161,7 @@ void PluginPanel::setUpLayout()
     grid->setRowStretch(4, 1);
 
     auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    setMargins(rows);
     rows->addWidget(nothingLabel);
     rows->addWidget(content, 1);
 }
@@ -197,6 +187,7 @@ void PluginPanel::retranslate()
             .arg(QDir::toNativeSeparators(
                 QDir::cleanPath(manager.buildPluginDir(folder).absolutePath()))));
     listLabel->setText(tr("&Plug-ins found:"));
+    list->setAccessibleName(tr("Plug-ins found"));
     list->setHeaderLabels({tr("Title"), tr("Name"), tr("Class")});
     for (size_t row = 0; row < entries.size(); ++row) {
         list->topLevelItem(int(row))->setText(kTitleColumn, entries[row].plugin->pageTitle());
@@ -204,6 +195,5 @@ void PluginPanel::retranslate()
     settingsLabel->setText(tr("Settings, read bac&k live:"));
     saveButton->setText(tr("Sa&ve"));
     restoreButton->setText(tr("&Restore"));
-    settingsView->retranslate();
     showSettings();
 }

@@ -1,24 +1,25 @@
 #pragma once
 
+#include "GalleryPanel.h"
+
 #include "WidgetPluginManager.h"
 
-#include <QGroupBox>
 #include <QHash>
 #include <QVariant>
 
 #include <vector>
 
 class ConfWidget;
+class DictionaryView;
 class IWidgetPlugin;
 class QLabel;
 class QPushButton;
 class QTreeWidget;
-class SettingsView;
 class TXStackedWidget;
 
 /// The configuration pages that plug-ins bring: which were found, the page of the chosen one, and
 /// its settings, read back at each change.
-class PluginPanel : public QGroupBox
+class PluginPanel final : public GalleryPanel
 {
     Q_OBJECT
 
@@ -27,7 +28,7 @@ public:
     explicit PluginPanel(const QString &folder, QWidget *parent = nullptr);
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private slots:
     void showChosen();
@@ -52,7 +53,6 @@ private:
     [[nodiscard]] int rowHeight() const;
     void setUpLayout();
     void showState(const Entry &entry, bool isChanged);
-    void retranslate();
 
     WidgetPluginManager manager;
     QString folder;
@@ -64,7 +64,7 @@ private:
     QTreeWidget *list;
     TXStackedWidget *stack;
     QLabel *settingsLabel;
-    SettingsView *settingsView;
+    DictionaryView *settingsView;
     QLabel *stateLabel;
     QPushButton *saveButton;
     QPushButton *restoreButton;

@@ -82,11 +82,12 @@ void ReceivedMailsPanel::retranslate()
 {
     setTitle(tr("Received mails"));
     listLabel->setText(tr("&Mails:"));
+    list->setAccessibleName(tr("Received mails"));
     list->setHeaderLabels({tr("From"), tr("To"), tr("Subject"), tr("TLS"), tr("Login")});
     for (int row = 0; row < list->topLevelItemCount(); ++row) {
         showTexts(list->topLevelItem(row));
     }
-    contentLabel->setText(tr("As it c&ame:"));
+    contentLabel->setText(tr("As it cam&e:"));
     setButtonText(clearButton, tr("Clea&r"));
 }
 

@@ -24,6 +24,7 @@ LocalServer::LocalServer(const QString &script, QObject *parent)
     , scriptPath(QDir(QStringLiteral(TX_LOCAL_SERVERS_FOLDER)).absoluteFilePath(script))
 {
     connect(&process, SIGNAL(readyReadStandardOutput()), this, SLOT(readLines()));
+    connect(&process, SIGNAL(finished(int, QProcess::ExitStatus)), this, SLOT(processEnded()));
 }
 
 LocalServer::~LocalServer()
@@ -40,8 +41,12 @@ bool LocalServer::start()
     forgetLastRun();
     fail(prepare());
     if (failure.isEmpty() && launch() && waitForPort()) {
-        // An event may have come right behind the port.
+        isWanted = true;
+        // An event may have come right behind the port, and so may the end.
         readLines();
+        if (!isRunning()) {
+            QMetaObject::invokeMethod(this, "processEnded", Qt::QueuedConnection);
+        }
         return true;
     }
     const QString reason = error();
@@ -52,6 +57,7 @@ bool LocalServer::start()
 
 void LocalServer::stop()
 {
+    isWanted = false;
     if (isRunning()) {
         process.closeWriteChannel();
         if (!process.waitForFinished(kEndMilliseconds)) {
@@ -76,7 +82,9 @@ QString LocalServer::folder() const
 QString LocalServer::error()
 {
     readEvents();
-    errorOutput += process.readAllStandardError();
+    if (process.isOpen()) {
+        errorOutput += process.readAllStandardError();
+    }
     const QString printed = QString::fromUtf8(errorOutput).trimmed();
     if (failure.isEmpty() || printed.isEmpty()) {
         return failure + printed;
@@ -120,6 +128,17 @@ void LocalServer::readLines()
     while (listeningPort != 0 && process.canReadLine()) {
         takeEvent(QJsonDocument::fromJson(process.readLine()).object());
     }
+}
+
+void LocalServer::processEnded()
+{
+    // Asked for once more when the server has been started again meanwhile.
+    if (!isWanted || isRunning()) {
+        return;
+    }
+    isWanted = false;
+    readLines();
+    emit stoppedByItself();
 }
 
 bool LocalServer::launch()

@@ -65,6 +65,11 @@ signals:
     /// A line has been added to log().
     void logged(const QString &line);
 
+    /// The process has ended without stop(), some time after a successful start(); error() tells
+    /// what it has printed. Emitted once, from the event loop or by a call that reads from the
+    /// script, as log() does. The server may be deleted later, not in a slot of this signal.
+    void stoppedByItself();
+
     /// isSilent() has become true. Emitted for each client that gets no answer any more.
     void becameSilent();
 
@@ -85,6 +90,7 @@ protected:
 
 private slots:
     void readLines();
+    void processEnded();
 
 private:
     [[nodiscard]] bool launch();
@@ -96,6 +102,8 @@ private:
     QString scriptPath;
     std::optional<QTemporaryDir> workingFolder;
     QProcess process;
+    // From a successful start() to stop() or to the end of the process.
+    bool isWanted = false;
     quint16 listeningPort = 0;
     QString failure;
     QByteArray errorOutput;

@@ -42,7 +42,7 @@ inline QStringList mnemonics(const QWidget &parent)
 /// The Alt keys of the strip above each page.
 inline QStringList mnemonicsOfTheHeader()
 {
-    return {QStringLiteral("Alt+L"), QStringLiteral("Alt+P"), QStringLiteral("Alt+S")};
+    return {QStringLiteral("Alt+A"), QStringLiteral("Alt+L"), QStringLiteral("Alt+S")};
 }
 
 /// A language in which every text is the English one behind a star.

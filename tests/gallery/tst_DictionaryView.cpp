@@ -9,6 +9,9 @@ class TestDictionaryView : public TestBase
 private slots:
     void entriesAreSortedByKey();
     void newDictionaryReplacesTheOld();
+    void partsOfAListAreSeparatedByCommas();
+    void whatDiffersFromTheKeptIsBold();
+    void nothingIsBoldWithoutTheKept();
     void everyRowIsSeenWithoutScrolling();
     void typesMayBeHidden();
     void headersFollowTheLanguage();
@@ -37,6 +40,37 @@ void TestDictionaryView::newDictionaryReplacesTheOld()
 
     QCOMPARE(view.topLevelItemCount(), 1);
     QCOMPARE(view.topLevelItem(0)->text(2), "3");
+}
+
+void TestDictionaryView::partsOfAListAreSeparatedByCommas()
+{
+    DictionaryView view;
+
+    view.setDictionary({{"a", QStringList({"left", "right"})}});
+
+    QCOMPARE(view.topLevelItem(0)->text(2), "left, right");
+}
+
+void TestDictionaryView::whatDiffersFromTheKeptIsBold()
+{
+    DictionaryView view;
+
+    view.setDictionary({{"a", 1}, {"b", 2}, {"c", 3}}, {{{"a", 1}, {"b", 7}}});
+
+    for (int column = 0; column < view.columnCount(); ++column) {
+        QVERIFY(!view.topLevelItem(0)->font(column).bold());
+        QVERIFY(view.topLevelItem(1)->font(column).bold());
+        QVERIFY(view.topLevelItem(2)->font(column).bold());
+    }
+}
+
+void TestDictionaryView::nothingIsBoldWithoutTheKept()
+{
+    DictionaryView view;
+
+    view.setDictionary({{"a", 1}});
+
+    QVERIFY(!view.topLevelItem(0)->font(0).bold());
 }
 
 void TestDictionaryView::everyRowIsSeenWithoutScrolling()

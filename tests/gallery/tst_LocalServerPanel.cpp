@@ -5,23 +5,37 @@
 
 #include "TXSwitchSlider.h"
 
+#include <QComboBox>
+#include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QWheelEvent>
 
 #include <memory>
 
 namespace {
 
-/// A panel whose server can be one that never starts.
+constexpr int kPatienceMilliseconds = 20000;
+constexpr int kWheelStep = 120;
+
+/// A panel whose server can be another script's, with an option that restarts it.
 class Panel final : public LocalServerPanel
 {
 public:
     Panel()
         : LocalServerPanel(nullptr)
+        , option(new QComboBox(this))
     {
+        option->addItems({QStringLiteral("one"), QStringLiteral("two")});
+        addOption(nullptr, option);
         retranslate();
+        connect(option, SIGNAL(currentIndexChanged(int)), this, SLOT(restart()));
     }
 
+    QComboBox *option;
     bool isBroken = false;
+    /// Of the server's script, unless empty.
+    QString script;
 
 protected:
     std::unique_ptr<LocalServer> makeServer() override
@@ -29,10 +43,11 @@ protected:
         if (isBroken) {
             return std::make_unique<LocalServer>(QStringLiteral("none/such.py"));
         }
+        if (!script.isEmpty()) {
+            return std::make_unique<LocalServer>(script);
+        }
         return std::make_unique<LocalFtpServer>();
     }
-
-    QString neededPackage() const override { return QStringLiteral("somepackage"); }
 
     void retranslate() override
     {
@@ -60,6 +75,10 @@ private slots:
     void mouseAndKeyboardTurnTheSwitch();
     void stateIsToldInWords();
     void failureIsToldAndTurnsTheSwitchBack();
+    void failureFollowsTheLanguage();
+    void serverThatStopsByItselfTurnsTheSwitchBack();
+    void silentEndIsToldWithoutAReason();
+    void wheelTurnsNoOptionAndIsLeftToThePage();
     void nextStartTakesTheFailureAway();
     void failureOfARestartTurnsTheSwitchBack();
     void restartKeepsTheSwitchAndTellsThePort();
@@ -70,8 +89,24 @@ private slots:
 private:
     [[nodiscard]] TXSwitchSlider &slider() const { return *panel->findChild<TXSwitchSlider *>(); }
 
+    /// Starts a server that ends right after its start, with this line of Python.
+    void startWithEnd(const QByteArray &lastLine);
+
+    QTemporaryDir scripts;
     std::unique_ptr<Panel> panel;
 };
+
+void TestLocalServerPanel::startWithEnd(const QByteArray &lastLine)
+{
+    QFile file(scripts.filePath(QStringLiteral("script.py")));
+    QVERIFY(file.open(QFile::WriteOnly));
+    file.write("import sys\nsys.stdin.readline()\nprint(7, flush=True)\n" + lastLine);
+    file.close();
+    panel->script = file.fileName();
+    QSignalSpy started(panel.get(), SIGNAL(started()));
+    panel->setRunning(true);
+    QCOMPARE(started.count(), 1);
+}
 
 void TestLocalServerPanel::mouseAndKeyboardTurnTheSwitch()
 {
@@ -115,7 +150,70 @@ void TestLocalServerPanel::failureIsToldAndTurnsTheSwitchBack()
     QCOMPARE(started.count(), 0);
     QVERIFY2(panel->error().startsWith("The server did not start: "), qPrintable(panel->error()));
     QVERIFY(panel->error().contains("such.py"));
-    QVERIFY(panel->error().endsWith("It needs Python 3 with the package \"somepackage\"."));
+    QVERIFY(panel->error().endsWith("\"./dev setup\" installs what is needed."));
+}
+
+void TestLocalServerPanel::failureFollowsTheLanguage()
+{
+    panel->isBroken = true;
+    panel->setRunning(true);
+    const QString before = panel->error();
+    PageTest::StarTranslator translator;
+
+    QCoreApplication::installTranslator(&translator);
+    QCoreApplication::sendPostedEvents();
+    const QString inOtherLanguage = panel->error();
+    QCoreApplication::removeTranslator(&translator);
+    QCoreApplication::sendPostedEvents();
+
+    QVERIFY2(inOtherLanguage.startsWith("*The server did not start: "),
+             qPrintable(inOtherLanguage));
+    QVERIFY(inOtherLanguage.contains("such.py"));
+    QVERIFY(inOtherLanguage.endsWith("*\"./dev setup\" installs what is needed."));
+    QCOMPARE(panel->error(), before);
+}
+
+void TestLocalServerPanel::serverThatStopsByItselfTurnsTheSwitchBack()
+{
+    startWithEnd("raise OSError('the roof is on fire')");
+
+    QTRY_VERIFY_WITH_TIMEOUT(!panel->isRunning(), kPatienceMilliseconds);
+
+    QVERIFY(!slider().isChecked());
+    QCOMPARE(slider().accessibleDescription(), "off");
+    QVERIFY2(panel->error().startsWith("The server has stopped by itself: "),
+             qPrintable(panel->error()));
+    QVERIFY(panel->error().endsWith("the roof is on fire"));
+    panel->script.clear();
+    panel->setRunning(true);
+    QVERIFY(panel->isRunning());
+    QCOMPARE(panel->error(), QString());
+}
+
+void TestLocalServerPanel::silentEndIsToldWithoutAReason()
+{
+    startWithEnd("sys.exit(0)");
+
+    QTRY_VERIFY_WITH_TIMEOUT(!panel->isRunning(), kPatienceMilliseconds);
+
+    QCOMPARE(panel->error(), "The server has stopped by itself.");
+}
+
+void TestLocalServerPanel::wheelTurnsNoOptionAndIsLeftToThePage()
+{
+    panel->setRunning(true);
+    const quint16 port = panel->port();
+
+    const QPointF place(5, 5);
+    QWheelEvent event(place, panel->option->mapToGlobal(place), {}, {0, -kWheelStep}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(panel->option, &event);
+
+    QCOMPARE(panel->option->currentIndex(), 0);
+    QCOMPARE(panel->port(), port);
+    QVERIFY(!event.isAccepted());
+    panel->option->setCurrentIndex(1);
+    QVERIFY(panel->port() != port);
 }
 
 void TestLocalServerPanel::nextStartTakesTheFailureAway()

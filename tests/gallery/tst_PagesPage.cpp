@@ -1,10 +1,10 @@
 #include "DialogDriver.h"
+#include "DictionaryView.h"
 #include "LabColourDialog.h"
 #include "Mnemonics.h"
 #include "PagePlugins.h"
 #include "PageSettings.h"
 #include "PagesPage.h"
-#include "SettingsView.h"
 #include "TestBase.h"
 #include "TestTranslations.h"
 
@@ -52,7 +52,7 @@ private:
     template<class Widget>
     Widget *visible() const;
     QTreeWidget *list() const;
-    SettingsView *settings() const { return page->findChild<SettingsView *>(); }
+    DictionaryView *settings() const { return page->findChild<DictionaryView *>(); }
     QTreeWidgetItem *setting(const QString &key) const;
     QPushButton *button(const QString &text, const QWidget *parent = nullptr) const;
     bool showsText(const QString &text) const;
@@ -176,16 +176,16 @@ void TestPagesPage::stackTakesTheSizeOfThePage()
 
 void TestPagesPage::changesAreReadBackLive()
 {
-    QCOMPARE(setting("ColourTolerance")->text(1), "2");
-    QCOMPARE(setting("ColourTolerance")->text(2), "double");
-    QVERIFY(!setting("ColourTolerance")->font(1).bold());
+    QCOMPARE(setting("ColourTolerance")->text(2), "2");
+    QCOMPARE(setting("ColourTolerance")->text(1), "double");
+    QVERIFY(!setting("ColourTolerance")->font(2).bold());
     QVERIFY(!button("Restore")->isEnabled());
 
     visible<QDoubleSpinBox>()->stepUp();
 
-    QCOMPARE(setting("ColourTolerance")->text(1), "2.1");
-    QVERIFY(setting("ColourTolerance")->font(1).bold());
-    QVERIFY(!setting("ColourObserver")->font(1).bold());
+    QCOMPARE(setting("ColourTolerance")->text(2), "2.1");
+    QVERIFY(setting("ColourTolerance")->font(2).bold());
+    QVERIFY(!setting("ColourObserver")->font(2).bold());
     QVERIFY(showsText("Changed"));
     QVERIFY(button("Restore")->isEnabled());
 }
@@ -198,7 +198,7 @@ void TestPagesPage::savedSettingsAreThereAtTheNextStart()
     DialogDriver::click(button("Save"));
 
     QVERIFY(showsText("These settings are saved."));
-    QVERIFY(!setting("ColourTolerance")->font(1).bold());
+    QVERIFY(!setting("ColourTolerance")->font(2).bold());
     QVERIFY(!button("Save")->isEnabled());
     QVERIFY(!readPageSettings("ReportPreferences"));
     QSettings().sync();
@@ -217,7 +217,7 @@ void TestPagesPage::restoringDropsChanges()
     DialogDriver::click(button("Restore"));
 
     QCOMPARE(visible<QDoubleSpinBox>()->value(), 3.5);
-    QCOMPARE(setting("ColourDifferenceFormula")->text(1), "CIEDE2000");
+    QCOMPARE(setting("ColourDifferenceFormula")->text(2), "CIEDE2000");
     QVERIFY(showsText("These settings are saved."));
 }
 
@@ -229,7 +229,7 @@ void TestPagesPage::damagedSettingsReadAsDefaults()
     open();
 
     QCOMPARE(visible<QDoubleSpinBox>()->value(), 2.0);
-    QCOMPARE(setting("ColourObserver")->text(1), "2");
+    QCOMPARE(setting("ColourObserver")->text(2), "2");
 }
 
 void TestPagesPage::missingPluginsAreToldWithTheirFolder()

@@ -24,6 +24,11 @@ private slots:
     void brokenScriptTellsWhyInWords();
     void scriptGetsItsOptionsAndTellsEvents();
     void lateErrorOfTheScriptIsTold();
+    void missingFolderIsToldInWords();
+    void endWithoutStopIsTold_data();
+    void endWithoutStopIsTold();
+    void endByStopIsNotTold();
+    void failedStartIsNoEnd();
     void stopLeavesNoProcessAndNoFolder();
     void stoppedServerStartsAgain();
     void deletedServerLeavesNoProcess();
@@ -115,6 +120,71 @@ void TestLocalServer::lateErrorOfTheScriptIsTold()
     QVERIFY2(server.error().endsWith("the roof is on fire"), qPrintable(server.error()));
     QVERIFY(server.start());
     server.stop();
+}
+
+void TestLocalServer::missingFolderIsToldInWords()
+{
+    const QByteArray before = qgetenv("TMPDIR");
+    // Nothing can be made there, not even by the superuser.
+    qputenv("TMPDIR", "/proc");
+    LocalFtpServer server;
+
+    const bool isUp = server.start();
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+
+    QVERIFY(!isUp);
+    QVERIFY2(server.error().startsWith("no folder for the server"), qPrintable(server.error()));
+}
+
+void TestLocalServer::endWithoutStopIsTold_data()
+{
+    QTest::addColumn<QByteArray>("lastLine");
+
+    QTest::newRow("ends") << QByteArray("os._exit(0)");
+    QTest::newRow("fails") << QByteArray("raise OSError('the roof is on fire')");
+    QTest::newRow("is killed") << QByteArray("os.kill(os.getpid(), signal.SIGKILL)");
+}
+
+void TestLocalServer::endWithoutStopIsTold()
+{
+    QFETCH(QByteArray, lastLine);
+    LocalServer server(write("serverlink.begin()\n"
+                             "serverlink.ready(7)\n"
+                             "serverlink.log('the last word')\n"
+                             + lastLine));
+    QSignalSpy ended(&server, SIGNAL(stoppedByItself()));
+
+    QVERIFY2(server.start(), qPrintable(server.error()));
+
+    QVERIFY(ended.count() == 1 || ended.wait(kPatienceMilliseconds));
+    QVERIFY(!server.isRunning());
+    QCOMPARE(server.log(), QStringList("the last word"));
+    server.stop();
+    QCoreApplication::processEvents();
+    QCOMPARE(ended.count(), 1);
+}
+
+void TestLocalServer::endByStopIsNotTold()
+{
+    LocalFtpServer server;
+    QSignalSpy ended(&server, SIGNAL(stoppedByItself()));
+    QVERIFY2(server.start(), qPrintable(server.error()));
+
+    server.stop();
+    QCoreApplication::processEvents();
+
+    QCOMPARE(ended.count(), 0);
+}
+
+void TestLocalServer::failedStartIsNoEnd()
+{
+    LocalServer server(write("pass"));
+    QSignalSpy ended(&server, SIGNAL(stoppedByItself()));
+
+    QVERIFY(!server.start());
+    QCoreApplication::processEvents();
+
+    QCOMPARE(ended.count(), 0);
 }
 
 void TestLocalServer::stopLeavesNoProcessAndNoFolder()
