@@ -48,7 +48,7 @@ QString nameForScript(LocalMailServer::Stage stage)
 QStringList textsOf(const QJsonArray &array)
 {
     QStringList texts;
-    for (const QJsonValue &value : array) {
+    for (const QJsonValueConstRef value : array) {
         texts.append(value.toString());
     }
     return texts;

@@ -5,7 +5,8 @@
 /// An SFTP server with one user, who logs in with a password and may do everything in an empty
 /// folder that is the server's root. Its host key is made anew at each start().
 ///
-/// log() holds "login NAME", then "accepted" or "refused", then "OPERATION PATH" for each operation
+/// log() holds "key of NAME" for each key that a client tries (none is accepted), "login NAME" for
+/// a password, then "accepted" or "refused", then "OPERATION PATH" for each operation
 /// ("realpath .", "open /a"). Settings count from the next start() on.
 class LocalSftpServer : public LocalServer
 {
@@ -28,8 +29,8 @@ public:
     /// Where the server stops to answer; Never from the beginning.
     void setSilence(Silence value) { silence = value; }
 
-    /// The public half of the running server's host key, "ssh-rsa AAAA…", as a file of known hosts
-    /// has it behind the name of the host; empty when the server does not run.
+    /// The public half of the running server's host key, "ssh-ed25519 AAAA…", as a file of known
+    /// hosts has it behind the name of the host; empty when the server does not run.
     [[nodiscard]] QByteArray hostKey() const;
 
     /// The user's folder on disc; empty when the server does not run.

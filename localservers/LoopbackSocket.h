@@ -13,13 +13,13 @@ public:
     Q_DISABLE_COPY_MOVE(LoopbackSocket)
 
     /// Takes a free port, and so keeps others from taking it.
-    [[nodiscard]] bool bindToFreePort();
+    [[nodiscard]] bool bindToFreePort() const;
 
     /// Takes connections; the backlog is how many more than one may wait to be accepted.
-    [[nodiscard]] bool listen(int backlog);
+    [[nodiscard]] bool listen(int backlog) const;
 
     /// Starts to connect to the port.
-    void connectTo(quint16 port);
+    void connectTo(quint16 port) const;
 
     /// Whether the connection that connectTo() started is there within the time.
     [[nodiscard]] bool waitForConnected(int milliseconds) const;

@@ -34,18 +34,18 @@ LoopbackSocket::~LoopbackSocket()
     close(handle);
 }
 
-bool LoopbackSocket::bindToFreePort()
+bool LoopbackSocket::bindToFreePort() const
 {
     const sockaddr_in address = loopbackAddress(0);
     return bind(handle, reinterpret_cast<const sockaddr *>(&address), sizeof(address)) == 0;
 }
 
-bool LoopbackSocket::listen(int backlog)
+bool LoopbackSocket::listen(int backlog) const
 {
     return ::listen(handle, backlog) == 0;
 }
 
-void LoopbackSocket::connectTo(quint16 port)
+void LoopbackSocket::connectTo(quint16 port) const
 {
     const sockaddr_in address = loopbackAddress(port);
     // How it went is told by waitForConnected(): a socket that never blocks is never done here.

@@ -121,6 +121,8 @@ void EMailSenderWidget::load(QHash<QString, QVariant> settings)
 {
     setLoginName(settings.value(kLoginKey).toString());
     const QString cipher = settings.value(kPasswordKey).toString();
+    // The field ignores an empty text, and the password of another account must not stay.
+    ui->passwordLineEdit->clear();
     setPassword(QString::fromUtf8(StoredSecret::decipher(cipher)));
     setSMTPServerName(settings.value(kServerKey).toString());
     setPortNumber(settings.value(kPortKey).toInt());

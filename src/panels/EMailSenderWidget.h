@@ -43,8 +43,8 @@ public:
     ~EMailSenderWidget() override;
 
     /// Fills the fields. A key that is missing, or whose value does not convert, counts as the
-    /// empty text, as port 25, or as "NONE". An empty password, and one that was not enciphered for
-    /// this user, leaves the password field as it is.
+    /// empty text, as port 25, or as "NONE"; so does a password that was not enciphered for this
+    /// user.
     void load(QHash<QString, QVariant> settings);
 
     /// What is on the panel, under all eight keys. The password is enciphered anew at each call, so

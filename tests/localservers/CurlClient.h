@@ -1,5 +1,7 @@
 #pragma once
 
+#include "LocalServer.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -30,6 +32,16 @@ public:
         set(CURLOPT_PASSWORD, password);
     }
 
+    /// Lets run() end with CURLE_ABORTED_BY_CALLBACK once the server has fallen silent.
+    void giveUpWhenSilent(LocalServer &server)
+    {
+        set(CURLOPT_NOPROGRESS, 0L);
+        set(CURLOPT_XFERINFOFUNCTION, isSilent);
+        set(CURLOPT_XFERINFODATA, static_cast<void *>(&server));
+        // Else libcurl waits two minutes for the answer to its goodbye.
+        set(CURLOPT_SERVER_RESPONSE_TIMEOUT, 1L);
+    }
+
     [[nodiscard]] int run() { return curl_easy_perform(handle.get()); }
 
     /// The server's last answer as a number; 0 when there was none.
@@ -41,5 +53,10 @@ public:
     }
 
 private:
+    static int isSilent(void *server, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
+    {
+        return static_cast<LocalServer *>(server)->isSilent() ? 1 : 0;
+    }
+
     std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> handle{curl_easy_init(), curl_easy_cleanup};
 };

@@ -1,6 +1,9 @@
 #include "LocalCertificate.h"
 #include "TestBase.h"
 
+#include <QFile>
+#include <QProcess>
+
 class TestLocalCertificate : public TestBase
 {
     Q_OBJECT

@@ -3,6 +3,12 @@
 #include "ProcessTable.h"
 #include "TestBase.h"
 
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
 namespace {
 
 constexpr int kPatienceMilliseconds = 20000;

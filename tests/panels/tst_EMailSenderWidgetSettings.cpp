@@ -49,7 +49,9 @@ private slots:
     void saveAfterLoadGivesAllBackWithANewCipher();
     void saveOfAnEmptyPanelHasAllKeys();
     void missingKeysEmptyTheFields();
-    void passwordStaysWhenAnEmptyOneIsLoaded();
+    void settingAnEmptyPasswordChangesNothing();
+    void loadLeavesNoEarlierPassword_data();
+    void loadLeavesNoEarlierPassword();
     void settersAndGetters();
 
     void portsOutOfRange_data();
@@ -143,18 +145,33 @@ void TestEMailSenderWidgetSettings::missingKeysEmptyTheFields()
     QCOMPARE(panel->copyDestincationAddress(), QString());
 }
 
-void TestEMailSenderWidgetSettings::passwordStaysWhenAnEmptyOneIsLoaded()
+void TestEMailSenderWidgetSettings::settingAnEmptyPasswordChangesNothing()
 {
     panel->setPassword(QStringLiteral("first"));
-
     panel->setPassword(QString());
     QCOMPARE(panel->password(), QStringLiteral("first"));
+}
 
-    panel->load({});
-    QCOMPARE(panel->password(), QStringLiteral("first"));
+void TestEMailSenderWidgetSettings::loadLeavesNoEarlierPassword_data()
+{
+    QTest::addColumn<QHash<QString, QVariant>>("settings");
+    QTest::newRow("no key") << QHash<QString, QVariant>();
+    QTest::newRow("no cipher") << QHash<QString, QVariant>{{"MailServerPassword", "no cipher"}};
+    QTest::newRow("empty password") << EMailSenderWidget().save();
+}
 
-    panel->load({{"MailServerPassword", "no cipher"}});
-    QCOMPARE(panel->password(), QStringLiteral("first"));
+void TestEMailSenderWidgetSettings::loadLeavesNoEarlierPassword()
+{
+    using Settings = QHash<QString, QVariant>;
+    QFETCH(Settings, settings);
+    panel->setPassword(QStringLiteral("first"));
+    panel->load(settings);
+    QCOMPARE(panel->password(), QString());
+
+    auto *field = panel->findChild<QLineEdit *>(QStringLiteral("passwordLineEdit"));
+    QTest::keyClicks(field, "typed");
+    panel->load(settings);
+    QCOMPARE(panel->password(), QString());
 }
 
 void TestEMailSenderWidgetSettings::settersAndGetters()

@@ -1,0 +1,203 @@
+#include "LocalServerPanel.h"
+
+#include "LocalServer.h"
+
+#include "TXResources.h"
+#include "TXSwitchSlider.h"
+
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+constexpr QSize kSwitchSize(44, 22);
+constexpr int kPartGap = 8;
+
+/// What went wrong, and the last line of what the script printed, without the lines of its stack.
+QString shortened(const QString &reason)
+{
+    const QStringList lines = reason.split(u'\n', Qt::SkipEmptyParts);
+    if (lines.size() < 2) {
+        return reason;
+    }
+    return lines.first() + u'\n' + lines.last().trimmed();
+}
+
+/// Shows the wait cursor for as long as it exists.
+class WaitCursor
+{
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+
+    WaitCursor(const WaitCursor &) = delete;
+    WaitCursor &operator=(const WaitCursor &) = delete;
+};
+
+} // namespace
+
+LocalServerPanel::LocalServerPanel(QWidget *parent)
+    : GalleryPanel(parent)
+    , slider(new TXSwitchSlider(this))
+    , sliderLabel(new QLabel(this))
+    , state(new QLabel(this))
+    , fillInButton(new QPushButton(this))
+    , options(new QHBoxLayout)
+    , errorPicture(new QLabel(this))
+    , errorText(new QLabel(this))
+{
+    slider->setFixedSize(kSwitchSize);
+    sliderLabel->setBuddy(slider);
+    state->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    errorPicture->setPixmap(TXDisplayLittleErrorBulletStaticImage());
+    errorText->setTextFormat(Qt::PlainText);
+    errorText->setWordWrap(true);
+    errorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    setUpLayout();
+    showError({});
+    connect(slider, SIGNAL(clicked(bool)), this, SLOT(switchTo(bool)));
+    connect(fillInButton, SIGNAL(clicked()), this, SIGNAL(fillInWanted()));
+}
+
+LocalServerPanel::~LocalServerPanel()
+{
+    // A server tells what is left to tell while it stops, and there is nobody any more.
+    if (server) {
+        server->disconnect(this);
+    }
+}
+
+quint16 LocalServerPanel::port() const
+{
+    return server ? server->port() : quint16(0);
+}
+
+QString LocalServerPanel::error() const
+{
+    return errorText->text();
+}
+
+void LocalServerPanel::catchUp()
+{
+    if (server) {
+        static_cast<void>(server->log());
+    }
+}
+
+void LocalServerPanel::setRunning(bool isWanted)
+{
+    slider->setChecked(isWanted);
+}
+
+void LocalServerPanel::restart()
+{
+    if (server) {
+        switchTo(false);
+        start();
+    }
+}
+
+void LocalServerPanel::addOption(QLabel *label, QWidget *option)
+{
+    const int place = options->count() - 1;
+    auto *parts = new QHBoxLayout;
+    parts->setSpacing(kPartGap);
+    if (label) {
+        label->setBuddy(option);
+        parts->addWidget(label);
+    }
+    parts->addWidget(option);
+    options->insertLayout(place, parts);
+}
+
+void LocalServerPanel::setEntries(QComboBox *box, const QStringList &texts)
+{
+    if (box->count() == 0) {
+        box->addItems(texts);
+    }
+    for (int i = 0; i < texts.size(); ++i) {
+        box->setItemText(i, texts[i]);
+    }
+}
+
+void LocalServerPanel::retranslate()
+{
+    sliderLabel->setText(tr("Ser&ver:"));
+    slider->setAccessibleName(title());
+    setButtonText(fillInButton, tr("&Fill In the Panel"));
+    showState();
+}
+
+void LocalServerPanel::switchTo(bool isOn)
+{
+    if (isOn) {
+        start();
+        return;
+    }
+    server.reset();
+    settingsChange.reset();
+    showState();
+}
+
+void LocalServerPanel::start()
+{
+    const WaitCursor cursor;
+    showError({});
+    server = makeServer();
+    if (!server->start()) {
+        showError(server->error());
+        slider->setChecked(false);
+        return;
+    }
+    settingsChange.emplace(transferSettings());
+    connect(server.get(), SIGNAL(logged(QString)), this, SIGNAL(logged(QString)));
+    showState();
+    emit started();
+}
+
+void LocalServerPanel::showState()
+{
+    const QString place = QStringLiteral("127.0.0.1:%1").arg(port());
+    state->setText(isRunning() ? tr("on, at %1").arg(place) : tr("off"));
+    state->setForegroundRole(isRunning() ? QPalette::WindowText : QPalette::PlaceholderText);
+    slider->setAccessibleDescription(state->text());
+    fillInButton->setEnabled(isRunning());
+}
+
+void LocalServerPanel::showError(const QString &reason)
+{
+    const bool isThere = !reason.isEmpty();
+    errorText->setText(isThere ? tr("The server did not start: %1\nIt needs Python 3 with the "
+                                    "package \"%2\".")
+                                     .arg(shortened(reason), neededPackage())
+                               : QString());
+    errorText->setVisible(isThere);
+    errorPicture->setVisible(isThere);
+}
+
+void LocalServerPanel::setUpLayout()
+{
+    auto *switchRow = new QHBoxLayout;
+    switchRow->setSpacing(kPartGap);
+    switchRow->addWidget(sliderLabel);
+    switchRow->addWidget(slider);
+    switchRow->addWidget(state, 1);
+    switchRow->addWidget(fillInButton);
+
+    options->setSpacing(2 * kGap);
+    options->addStretch();
+
+    auto *errorRow = new QHBoxLayout;
+    errorRow->setSpacing(kPartGap);
+    errorRow->addWidget(errorPicture, 0, Qt::AlignTop);
+    errorRow->addWidget(errorText, 1);
+
+    auto *rows = new QVBoxLayout(this);
+    setGaps(rows);
+    rows->addLayout(switchRow);
+    rows->addLayout(options);
+    rows->addLayout(errorRow);
+}

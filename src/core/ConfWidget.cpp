@@ -1,0 +1,5 @@
+#include "ConfWidget.h"
+
+ConfWidget::ConfWidget(QWidget *parent)
+    : QWidget(parent)
+{ }
