@@ -34,6 +34,10 @@ class QWidget;
 /// | "headerState" | dictionary   | tables and trees, see saveWidgetStateInHash()                |
 /// | "children"    | dictionary   | widgets with child widgets: their entries, by object name    |
 ///
+/// Restore before the window is shown. Qt places child widgets as it does windows, clear of the
+/// upper edge by the height of a title bar; when the window is shown, layouts, splitters and
+/// scrolling views put that right. In a window that is on the screen they do so at its next resize.
+///
 /// A widget is known by its object name among its siblings. Of siblings with the same name, or
 /// without one, only the last is kept, and when restoring all of them get what it had.
 class TXGUICOMMON_EXPORT TXWidgetUtilities
@@ -53,9 +57,12 @@ public:
     /// Gives the widget, and all widgets below it, what `state` holds for them. Null is ignored.
     ///
     /// A widget without an entry, or with an empty one, stays as it is with all that is below it,
-    /// whatever the dictionary holds further down. A value that is missing, of another type or
-    /// damaged changes nothing; nothing is reported. A header whose sections are all fixed by now
-    /// stays as it is. Costs as much as saving.
+    /// whatever the dictionary holds further down. A value that is missing or of another type
+    /// changes nothing, and nothing is reported. A header whose sections are all fixed by now stays
+    /// as it is. Costs as much as saving.
+    ///
+    /// The byte arrays are in Qt's own formats. Qt refuses most that are cut short and trusts all
+    /// others, so keep a dictionary where only the application writes.
     static void restoreWidgetStateInHash(QWidget *widget, const QHash<QString, QVariant> &state);
 
     /// The size that shows each of these labels' texts on one line, in pixels: the largest width

@@ -2,21 +2,44 @@
 
 #include "TestBase.h"
 
-#include <QDoubleSpinBox>
+#include <QDataStream>
+#include <QDateTimeEdit>
+#include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListView>
 #include <QMainWindow>
 #include <QPushButton>
+#include <QRandomGenerator>
+#include <QSettings>
+#include <QSpinBox>
 #include <QSplitter>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTreeView>
+#include <QTreeWidget>
 
 #include <memory>
 
 namespace {
 
 using State = QHash<QString, QVariant>;
+
+const QString kGeometry = QStringLiteral("geometry");
+const QString kState = QStringLiteral("state");
+const QString kHeaderState = QStringLiteral("headerState");
+const QString kHorizontal = QStringLiteral("horizontalState");
+const QString kVertical = QStringLiteral("verticalState");
+const QString kChildren = QStringLiteral("children");
+
+template<class Widget>
+Widget *named(const char *name, QWidget *parent = nullptr)
+{
+    auto *widget = new Widget(parent);
+    widget->setObjectName(QString::fromLatin1(name));
+    return widget;
+}
 
 State saved(QWidget *widget)
 {
@@ -25,565 +48,1272 @@ State saved(QWidget *widget)
     return state;
 }
 
-/// The dictionary under the keys, one below the other.
-State at(const State &state, const QStringList &path)
+void restore(QWidget *widget, const State &state)
 {
-    State found = state;
-    for (const QString &key : path) {
-        found = found.value(key).toHash();
+    TXWidgetUtilities::restoreWidgetStateInHash(widget, state);
+}
+
+/// The entry of the widget that is reached by these names from the outermost one.
+State entryAt(const State &state, const QStringList &names)
+{
+    State entry = state.value(names.constFirst()).toHash();
+    for (const QString &name : names.mid(1)) {
+        entry = entry.value(kChildren).toHash().value(name).toHash();
     }
-    return found;
+    return entry;
 }
 
-QStringList sortedKeys(const State &state)
+QSet<QString> keysOf(const State &state)
 {
-    QStringList keys = state.keys();
-    keys.sort();
-    return keys;
+    const QStringList keys = state.keys();
+    return {keys.cbegin(), keys.cend()};
 }
 
-QByteArray bytes(const State &state, const char *key)
+/// A window with a splitter with a tree beside a table.
+class Window
 {
-    return state.value(QString::fromLatin1(key)).toByteArray();
-}
-
-template<class Widget>
-Widget *named(Widget *widget, const char *name)
-{
-    widget->setObjectName(QString::fromLatin1(name));
-    return widget;
-}
-
-std::unique_ptr<QTableView> makeTable(QStandardItemModel *model, QHeaderView::ResizeMode horizontal,
-                                      QHeaderView::ResizeMode vertical)
-{
-    auto table = std::make_unique<QTableView>();
-    table->setObjectName(QStringLiteral("table"));
-    table->setModel(model);
-    table->horizontalHeader()->setSectionResizeMode(horizontal);
-    table->verticalHeader()->setSectionResizeMode(vertical);
-    return table;
-}
-
-QStringList widgetNames(const QWidget &parent)
-{
-    QStringList names;
-    const auto children = parent.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QWidget *child : children) {
-        names.append(child->objectName());
+public:
+    explicit Window(bool isShown = true)
+        : splitter(named<QSplitter>("splitter"))
+        , tree(named<QTreeView>("tree"))
+        , table(named<QTableView>("table"))
+        , model(3, 4)
+    {
+        window.setObjectName(QStringLiteral("window"));
+        window.resize(400, 300);
+        window.setCentralWidget(splitter);
+        splitter->addWidget(tree);
+        splitter->addWidget(table);
+        tree->setModel(&model);
+        tree->setSortingEnabled(true);
+        table->setModel(&model);
+        window.setVisible(isShown);
     }
-    return names;
+
+    void change()
+    {
+        window.resize(500, 350);
+        splitter->setSizes({1000, 300});
+        tree->header()->resizeSection(1, 44);
+        tree->sortByColumn(2, Qt::AscendingOrder);
+        table->horizontalHeader()->resizeSection(1, 66);
+        table->verticalHeader()->resizeSection(1, 50);
+        deliver();
+    }
+
+    static void deliver() { QCoreApplication::processEvents(); }
+
+    QMainWindow window;
+    QSplitter *splitter;
+    QTreeView *tree;
+    QTableView *table;
+    QStandardItemModel model;
+};
+
+bool everyValueIsPlain(const State &state)
+{
+    return std::all_of(state.cbegin(), state.cend(), [](const QVariant &value) {
+        return value.typeId() == QMetaType::QByteArray
+            || (value.typeId() == QMetaType::QVariantHash && everyValueIsPlain(value.toHash()));
+    });
 }
 
-/// A value of every wrong type, and damaged bytes.
-QVariantList wrongValues()
+/// Puts a value in the place of each value of the dictionary in turn, at all depths, and hands each
+/// changed dictionary on.
+void forEachReplaced(const State &state, const std::function<QVariant(const QVariant &)> &change,
+                     const std::function<void(const State &)> &use)
 {
-    return {QVariant(),     QVariant(7),
-            QVariant("no"), QVariant(QVariantList{1, 2}),
-            QVariant(true), QVariant(QByteArray("\x01\xd9\xd0\xcb damaged")),
-            QVariant(1.5),  QVariant(State{{QStringLiteral("x"), 1}})};
+    for (auto value = state.cbegin(); value != state.cend(); ++value) {
+        State changed = state;
+        changed.insert(value.key(), change(value.value()));
+        use(changed);
+        if (value->typeId() == QMetaType::QVariantHash) {
+            forEachReplaced(value->toHash(), change, [&](const State &inner) {
+                changed.insert(value.key(), inner);
+                use(changed);
+            });
+        }
+    }
 }
+
+/// What is kept of windows, splitters and headers, without the places of widgets, which layouts
+/// have the last word on.
+State withoutGeometries(const State &state)
+{
+    State rest;
+    for (auto value = state.cbegin(); value != state.cend(); ++value) {
+        if (value->typeId() == QMetaType::QVariantHash) {
+            rest.insert(value.key(), withoutGeometries(value->toHash()));
+        } else if (value.key() != kGeometry) {
+            rest.insert(value.key(), value.value());
+        }
+    }
+    return rest;
+}
+
+/// What the rules say of one widget, written down a second time as plainly as can be.
+State modelOf(QWidget *widget)
+{
+    State entry;
+    entry[kGeometry] = widget->saveGeometry();
+    if (widget->inherits("QMainWindow")) {
+        entry[kState] = static_cast<QMainWindow *>(widget)->saveState(0);
+    }
+    if (widget->inherits("QSplitter")) {
+        entry[kState] = static_cast<QSplitter *>(widget)->saveState();
+    }
+    QHeaderView *header = nullptr;
+    if (widget->inherits("QTableView")) {
+        header = static_cast<QTableView *>(widget)->horizontalHeader();
+    }
+    if (widget->inherits("QTreeView")) {
+        header = static_cast<QTreeView *>(widget)->header();
+    }
+    if (header) {
+        int free = 0;
+        for (int i = 0; i < header->count(); ++i) {
+            free += header->sectionResizeMode(i) == QHeaderView::Fixed ? 0 : 1;
+        }
+        if (free > 0) {
+            entry[kHeaderState] = State{{kHorizontal, header->saveState()}};
+        }
+    }
+    State children;
+    const auto direct = widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : direct) {
+        children[child->objectName()] = modelOf(child);
+    }
+    if (!children.isEmpty()) {
+        entry[kChildren] = children;
+    }
+    return entry;
+}
+
+/// Grows trees of widgets, and shakes them.
+class RandomTree
+{
+public:
+    explicit RandomTree(quint32 seed)
+        : random(seed)
+    {
+        root = std::unique_ptr<QWidget>(grow(nullptr, 4));
+        root->resize(600, 500);
+        root->show();
+        QCoreApplication::processEvents();
+        shake();
+    }
+
+    /// Gives all that is kept other values.
+    void shake()
+    {
+        for (QWidget *plain : std::as_const(plains)) {
+            // Qt restores nothing to where it would hide a title bar.
+            plain->setGeometry(number(200), 30 + number(200), 10 + number(200), 10 + number(200));
+        }
+        for (QSplitter *splitter : std::as_const(splitters)) {
+            QList<int> sizes;
+            for (int i = 0; i < splitter->count(); ++i) {
+                sizes.append(50 + number(200));
+            }
+            splitter->setSizes(sizes);
+        }
+        for (QHeaderView *header : std::as_const(headers)) {
+            for (int i = 0; i < header->count(); ++i) {
+                header->resizeSection(i, 30 + number(100));
+            }
+            if (header->count() > 1) {
+                header->moveSection(number(header->count()), number(header->count()));
+                header->setSortIndicator(number(header->count()), Qt::DescendingOrder);
+            }
+        }
+        QCoreApplication::processEvents();
+    }
+
+    /// Where the widgets without a layout are.
+    QList<QRect> places() const
+    {
+        QList<QRect> rects;
+        for (const QWidget *plain : plains) {
+            rects.append(plain->geometry());
+        }
+        return rects;
+    }
+
+    std::unique_ptr<QWidget> root;
+
+private:
+    int number(int below) { return int(random.bounded(below)); }
+
+    QWidget *grow(QWidget *parent, int depth)
+    {
+        QWidget *widget = make(parent, depth > 0 ? number(5) : 2 + number(3), depth);
+        widget->setObjectName(QStringLiteral("widget %1").arg(++count));
+        return widget;
+    }
+
+    QWidget *make(QWidget *parent, int kind, int depth)
+    {
+        switch (kind) {
+        case 0:
+            return makeWindow(parent, depth);
+        case 1:
+            return makeSplitter(parent, depth);
+        case 2:
+            return makeTree(parent);
+        case 3:
+            return makeTable(parent);
+        default:
+            return makePlain(parent, depth);
+        }
+    }
+
+    QWidget *makeWindow(QWidget *parent, int depth)
+    {
+        auto *window = new QMainWindow(parent);
+        window->setWindowFlags(Qt::Widget);
+        window->setCentralWidget(grow(window, depth - 1));
+        auto *dock = new QDockWidget(window);
+        dock->setObjectName(QStringLiteral("dock %1").arg(++count));
+        dock->setWidget(grow(dock, depth - 1));
+        window->addDockWidget(Qt::LeftDockWidgetArea, dock);
+        return window;
+    }
+
+    QWidget *makeSplitter(QWidget *parent, int depth)
+    {
+        auto *splitter = new QSplitter(number(2) ? Qt::Vertical : Qt::Horizontal, parent);
+        for (int i = 1 + number(3); i > 0; --i) {
+            splitter->addWidget(grow(splitter, depth - 1));
+        }
+        splitters.append(splitter);
+        return splitter;
+    }
+
+    QWidget *makeTree(QWidget *parent)
+    {
+        auto *tree = new QTreeView(parent);
+        tree->setModel(makeModel(tree));
+        mix(tree->header());
+        return tree;
+    }
+
+    QWidget *makeTable(QWidget *parent)
+    {
+        auto *table = new QTableView(parent);
+        table->setModel(makeModel(table));
+        mix(table->horizontalHeader());
+        return table;
+    }
+
+    QStandardItemModel *makeModel(QWidget *view)
+    {
+        return new QStandardItemModel(number(3), number(4), view);
+    }
+
+    /// A header of fixed sections, of free ones, or of both.
+    void mix(QHeaderView *header)
+    {
+        const int kind = number(3);
+        header->setSectionsMovable(true);
+        header->setStretchLastSection(false);
+        for (int i = 0; i < header->count(); ++i) {
+            const bool isFixed = kind == 0 || (kind == 1 && i != header->count() - 1);
+            header->setSectionResizeMode(i,
+                                         isFixed ? QHeaderView::Fixed : QHeaderView::Interactive);
+        }
+        if (kind != 0) {
+            headers.append(header);
+        }
+    }
+
+    QWidget *makePlain(QWidget *parent, int depth)
+    {
+        auto *plain = new QWidget(parent);
+        for (int i = depth > 0 ? number(4) : 0; i > 0; --i) {
+            QWidget *child = grow(plain, depth - 1);
+            plains.append(child);
+        }
+        return plain;
+    }
+
+    QRandomGenerator random;
+    int count = 0;
+    QList<QWidget *> plains;
+    QList<QSplitter *> splitters;
+    QList<QHeaderView *> headers;
+};
+
+/// Deletes another widget when it is resized.
+class Deleter : public QWidget
+{
+public:
+    using QWidget::QWidget;
+    QPointer<QWidget> victim;
+
+protected:
+    void resizeEvent(QResizeEvent *) override { delete victim; }
+};
+
+/// Writes its name down when it is resized.
+class Recorder : public QWidget
+{
+public:
+    Recorder(const QString &name, QStringList *log, QWidget *parent)
+        : QWidget(parent)
+        , log(log)
+    {
+        setObjectName(name);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent *) override { log->append(objectName()); }
+
+private:
+    QStringList *log;
+};
 
 } // namespace
+
+Q_DECLARE_METATYPE(QHeaderView::ResizeMode)
 
 class TestTXWidgetUtilities : public TestBase
 {
     Q_OBJECT
 
 private slots:
-    void nullIsIgnoredEverywhere();
-    void plainWidgetHasItsGeometryOnly();
-    void otherEntriesOfTheDictionaryStay();
-    void laterOfTwoNamesakesIsKept();
-    void mainWindowWithSplitterWithTreeGivesThreeLevels();
-    void objectsThatAreNoWidgetsAreSkipped();
-
+    void nullIsNotSaved();
+    void nullIsNotRestored();
+    void entryStandsUnderTheObjectName();
+    void entryOfTheSameNameIsReplacedAsAWhole();
+    void plainWidgetKeepsItsGeometryOnly();
+    void windowSplitterAndTreeMakeThreeLevels();
+    void stateOfAMainWindowHasVersionZero();
+    void tableKeepsItsHorizontalHeaderOnly_data();
     void tableKeepsItsHorizontalHeaderOnly();
-    void tableWithFixedColumnsKeepsNoHeader_data();
-    void tableWithFixedColumnsKeepsNoHeader();
-    void oneColumnThatIsNotFixedIsEnough();
-    void treeWithoutColumnsKeepsNoHeader();
-    void headerOfAListIsNone();
+    void tableWithAFixedHorizontalHeaderKeepsNoHeader();
+    void oneFreeSectionIsEnough();
+    void treeKeepsItsHeader();
+    void headerWithoutSectionsIsNotKept();
+    void convenienceViewsKeepTheirHeadersToo();
+    void otherViewsKeepNoHeader();
+    void laterSiblingOfTheSameNameWins();
+    void unnamedSiblingsShareOneEntry();
+    void objectsThatAreNoWidgetsAreLeftOut();
+    void windowsBelowAreChildrenLikeAnyOther();
+    void dictionaryHoldsPlainValuesOnly();
 
-    void treeGetsItsColumnsAndOrderBack();
-    void splitterGetsItsSizesBack();
-    void mainWindowGetsItsDocksBack();
-    void geometryComesBack();
-    void headerThatIsFixedByNowStays();
-    void verticalStateIsForViewsWithoutHorizontalState();
-    void horizontalStateOfAFixedHeaderEndsTheSearch();
-    void missingNameStopsTheDescent();
+    void roundTripBringsEverythingBack();
+    void roundTripThroughSettingsBringsEverythingBack();
+    void layoutsHaveTheLastWordWhenRestoredBeforeShowing();
+    void childAtTheUpperEdgeIsMovedAsAWindowWouldBe();
+    void widgetWithoutAnEntryStopsTheDescent();
     void emptyEntryStopsTheDescent();
-    void entryWithoutGeometryIsRestoredBelow();
-    void namesakesAllGetTheSameState();
-    void wrongTypesChangeNothing_data();
-    void wrongTypesChangeNothing();
-    void childThatGoesMeanwhileIsNotTouched();
-    void stateSurvivesSettings();
+    void entryWithoutGeometryRestoresTheRest();
+    void stateIsForWindowsAndSplittersOnly();
+    void headerThatBecameFixedIgnoresItsState();
+    void tableTakesAVerticalStateWhenThereIsNoHorizontalOne();
+    void verticalHeaderThatBecameFixedIgnoresItsState();
+    void horizontalStateKeepsTheVerticalOneOut();
+    void fixedHorizontalHeaderKeepsTheVerticalStateOut();
+    void treeTakesNoVerticalState();
+    void headerStateIsForTablesAndTreesOnly();
+    void siblingsOfTheSameNameAllTakeItsEntry();
+    void childrenAreRestoredInTheirOrder();
+    void siblingMayBeDeletedWhileRestoring();
 
-    void largestLabelOfBothDirectionsCounts();
-    void mnemonicsOfLabelsTakeNoRoom();
-    void labelsArePolishedFirst();
-    void buttonsHaveAMarginOfTwoBlanks();
-    void percentSignsInButtonsAreJustText();
-    void emptyListsNeedNoSize();
-    void buttonListsGetTheirSize();
-    void disabledSpinBoxLooksLikeAValue();
+    void valueOfAnotherTypeDoesNoHarm_data();
+    void valueOfAnotherTypeDoesNoHarm();
+    void bytesThatAreCutShortDoNoHarm();
+    void bytesOfAnotherWidgetDoNoHarm();
+    void deepNestingIsKept();
+    void randomTreesAreSavedByTheRulesAndRestored_data();
+    void randomTreesAreSavedByTheRulesAndRestored();
+
+    void largestLabelDecides();
+    void labelsArePolished();
+    void largestButtonDecides();
+    void buttonsAreMeasuredWithTwoBlanksAtEachSide_data();
+    void buttonsAreMeasuredWithTwoBlanksAtEachSide();
+    void buttonsAreNotPolished();
+    void widthAndHeightMayComeFromDifferentWidgets();
+    void emptyListsNeedNoRoom();
+    void buttonsGetTheFixedWidth();
+    void buttonsGetTheFixedSize();
+    void disabledSpinBoxLooksLikeAPlainValue_data();
+    void disabledSpinBoxLooksLikeAPlainValue();
+    void spinBoxInADisabledParentIsDisabled();
+    void nullSpinBoxIsIgnored();
 };
 
-void TestTXWidgetUtilities::nullIsIgnoredEverywhere()
+void TestTXWidgetUtilities::nullIsNotSaved()
 {
-    State state = {{QStringLiteral("before"), 1}};
+    State state{{QStringLiteral("other"), 1}};
     TXWidgetUtilities::saveWidgetStateInHash(nullptr, state);
-    QCOMPARE(state.size(), 1);
-    TXWidgetUtilities::restoreWidgetStateInHash(nullptr, state);
-    TXWidgetUtilities::treatWhenSpinBoxDisabled(nullptr);
-    TXWidgetUtilities::setFixedWidthToButtonList({nullptr, nullptr}, 10);
-    TXWidgetUtilities::setFixedSizeToButtonList({nullptr}, QSize(10, 10));
-    QCOMPARE(TXWidgetUtilities::maxSizeNeededForLabelList({nullptr}), QSize(0, 0));
-    QCOMPARE(TXWidgetUtilities::maxSizeNeededForButtonList({nullptr}), QSize(0, 0));
+
+    QCOMPARE(state, State({{QStringLiteral("other"), 1}}));
 }
 
-void TestTXWidgetUtilities::plainWidgetHasItsGeometryOnly()
+void TestTXWidgetUtilities::nullIsNotRestored()
 {
-    QWidget widget;
-    widget.setObjectName("plain");
-    const State state = saved(&widget);
-    QCOMPARE(state.keys(), QStringList("plain"));
-    QCOMPARE(sortedKeys(at(state, {"plain"})), QStringList("geometry"));
-    QCOMPARE(bytes(at(state, {"plain"}), "geometry"), widget.saveGeometry());
+    restore(nullptr, {});
+    restore(nullptr, {{QString(), State{{kGeometry, QByteArray("x")}}}});
 }
 
-void TestTXWidgetUtilities::otherEntriesOfTheDictionaryStay()
+void TestTXWidgetUtilities::entryStandsUnderTheObjectName()
+{
+    QWidget first;
+    first.setObjectName(QStringLiteral("first"));
+    QWidget unnamed;
+    State state{{QStringLiteral("other"), 1}};
+    TXWidgetUtilities::saveWidgetStateInHash(&first, state);
+    TXWidgetUtilities::saveWidgetStateInHash(&unnamed, state);
+
+    QCOMPARE(keysOf(state),
+             QSet<QString>({QStringLiteral("other"), QStringLiteral("first"), QString()}));
+    QCOMPARE(state.value(QStringLiteral("other")), QVariant(1));
+}
+
+void TestTXWidgetUtilities::entryOfTheSameNameIsReplacedAsAWhole()
 {
     QWidget widget;
-    widget.setObjectName("mine");
-    State state = {{QStringLiteral("other"), 5}, {QStringLiteral("mine"), 6}};
+    State state{{QString(), State{{QStringLiteral("old"), 1}}}};
     TXWidgetUtilities::saveWidgetStateInHash(&widget, state);
-    QCOMPARE(sortedKeys(state), QStringList({"mine", "other"}));
-    QCOMPARE(state.value("other"), QVariant(5));
-    QCOMPARE(bytes(at(state, {"mine"}), "geometry"), widget.saveGeometry());
+
+    QCOMPARE(keysOf(entryAt(state, {QString()})), QSet<QString>({kGeometry}));
 }
 
-void TestTXWidgetUtilities::laterOfTwoNamesakesIsKept()
+void TestTXWidgetUtilities::plainWidgetKeepsItsGeometryOnly()
 {
-    QWidget parent;
-    parent.setObjectName("parent");
-    auto *first = named(new QWidget(&parent), "same");
-    auto *second = named(new QWidget(&parent), "same");
-    first->setGeometry(1, 32, 30, 40);
-    second->setGeometry(5, 36, 70, 80);
-    QVERIFY(first->saveGeometry() != second->saveGeometry());
+    QWidget widget;
+    widget.setGeometry(10, 20, 30, 40);
 
-    const State children = at(saved(&parent), {"parent", "children"});
-    QCOMPARE(children.size(), 1);
-    QCOMPARE(bytes(at(children, {"same"}), "geometry"), second->saveGeometry());
-
-    first->raise(); // Is the last of children() now.
-    const State raised = at(saved(&parent), {"parent", "children", "same"});
-    QCOMPARE(bytes(raised, "geometry"), first->saveGeometry());
+    QCOMPARE(entryAt(saved(&widget), {QString()}), State({{kGeometry, widget.saveGeometry()}}));
 }
 
-void TestTXWidgetUtilities::mainWindowWithSplitterWithTreeGivesThreeLevels()
+void TestTXWidgetUtilities::windowSplitterAndTreeMakeThreeLevels()
 {
-    QStandardItemModel model(2, 3);
-    QMainWindow window;
-    window.setObjectName("window");
-    auto *splitter = named(new QSplitter(&window), "splitter");
-    auto *tree = named(new QTreeView(splitter), "tree");
-    tree->setModel(&model);
-    window.setCentralWidget(splitter);
+    Window window;
+    const State state = saved(&window.window);
 
-    const State state = saved(&window);
-    const State top = at(state, {"window"});
-    const State middle = at(top, {"children", "splitter"});
-    const State bottom = at(middle, {"children", "tree"});
-    QCOMPARE(bytes(top, "state"), window.saveState(0));
-    QCOMPARE(bytes(middle, "state"), splitter->saveState());
-    QVERIFY(!bottom.contains("state"));
-    QVERIFY(!top.contains("headerState"));
-    QVERIFY(!middle.contains("headerState"));
-    QCOMPARE(sortedKeys(at(bottom, {"headerState"})), QStringList("horizontalState"));
-    QCOMPARE(bytes(at(bottom, {"headerState"}), "horizontalState"), tree->header()->saveState());
+    QCOMPARE(state.size(), 1);
+    const State outer = entryAt(state, {QStringLiteral("window")});
+    QCOMPARE(keysOf(outer), QSet<QString>({kGeometry, kState, kChildren}));
+    QCOMPARE(outer.value(kState), QVariant(window.window.saveState(0)));
+
+    const QStringList path{QStringLiteral("window"), QStringLiteral("splitter")};
+    const State middle = entryAt(state, path);
+    QCOMPARE(keysOf(middle), QSet<QString>({kGeometry, kState, kChildren}));
+    QCOMPARE(middle.value(kState), QVariant(window.splitter->saveState()));
+
+    const State inner = entryAt(state, path + QStringList(QStringLiteral("tree")));
+    QVERIFY(!inner.contains(kState));
+    QCOMPARE(inner.value(kHeaderState),
+             QVariant(State{{kHorizontal, window.tree->header()->saveState()}}));
 }
 
-void TestTXWidgetUtilities::objectsThatAreNoWidgetsAreSkipped()
+void TestTXWidgetUtilities::stateOfAMainWindowHasVersionZero()
 {
-    QWidget parent;
-    parent.setObjectName("parent");
-    auto *between = named(new QObject(&parent), "between");
-    QObject below(between);
-    QVERIFY(!at(saved(&parent), {"parent"}).contains("children"));
+    Window window;
+    const State state = saved(&window.window);
+    const QByteArray bytes = entryAt(state, {QStringLiteral("window")}).value(kState).toByteArray();
+
+    QVERIFY(window.window.restoreState(bytes, 0));
+    QVERIFY(!window.window.restoreState(bytes, 1));
+
+    // And it is asked for with version 0: one of another version is refused.
+    QMainWindow other;
+    other.setObjectName(QStringLiteral("window"));
+    auto *dock = named<QDockWidget>("dock", &other);
+    other.addDockWidget(Qt::LeftDockWidgetArea, dock);
+    const QByteArray left = other.saveState(1);
+    other.addDockWidget(Qt::RightDockWidgetArea, dock);
+    restore(&other, {{QStringLiteral("window"), State{{kState, left}}}});
+    QCOMPARE(other.dockWidgetArea(dock), Qt::RightDockWidgetArea);
+}
+
+void TestTXWidgetUtilities::tableKeepsItsHorizontalHeaderOnly_data()
+{
+    QTest::addColumn<QHeaderView::ResizeMode>("vertical");
+    QTest::newRow("free vertical header") << QHeaderView::Interactive;
+    QTest::newRow("fixed vertical header") << QHeaderView::Fixed;
 }
 
 void TestTXWidgetUtilities::tableKeepsItsHorizontalHeaderOnly()
 {
-    QStandardItemModel model(2, 3);
-    const auto table = makeTable(&model, QHeaderView::Stretch, QHeaderView::Interactive);
-    const State header = at(saved(table.get()), {"table", "headerState"});
-    QCOMPARE(sortedKeys(header), QStringList("horizontalState"));
-    QCOMPARE(bytes(header, "horizontalState"), table->horizontalHeader()->saveState());
-}
-
-void TestTXWidgetUtilities::tableWithFixedColumnsKeepsNoHeader_data()
-{
-    QTest::addColumn<QHeaderView::ResizeMode>("vertical");
-    QTest::newRow("rows fixed too") << QHeaderView::Fixed;
-    QTest::newRow("rows free") << QHeaderView::Interactive;
-}
-
-void TestTXWidgetUtilities::tableWithFixedColumnsKeepsNoHeader()
-{
     QFETCH(QHeaderView::ResizeMode, vertical);
-    QStandardItemModel model(2, 3);
-    const auto table = makeTable(&model, QHeaderView::Fixed, vertical);
-    QVERIFY(!at(saved(table.get()), {"table"}).contains("headerState"));
+    QStandardItemModel model(3, 3);
+    QTableView table;
+    table.setModel(&model);
+    table.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table.horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
+    table.verticalHeader()->setSectionResizeMode(vertical);
+
+    QCOMPARE(entryAt(saved(&table), {QString()}).value(kHeaderState),
+             QVariant(State{{kHorizontal, table.horizontalHeader()->saveState()}}));
 }
 
-void TestTXWidgetUtilities::oneColumnThatIsNotFixedIsEnough()
+void TestTXWidgetUtilities::tableWithAFixedHorizontalHeaderKeepsNoHeader()
 {
-    QStandardItemModel model(2, 3);
-    const auto table = makeTable(&model, QHeaderView::Fixed, QHeaderView::Fixed);
-    table->horizontalHeader()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
-    QVERIFY(at(saved(table.get()), {"table"}).contains("headerState"));
+    QStandardItemModel model(3, 3);
+    QTableView table;
+    table.setModel(&model);
+    table.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table.verticalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+
+    QVERIFY(!entryAt(saved(&table), {QString()}).contains(kHeaderState));
 }
 
-void TestTXWidgetUtilities::treeWithoutColumnsKeepsNoHeader()
+void TestTXWidgetUtilities::oneFreeSectionIsEnough()
 {
-    QStandardItemModel model;
+    QStandardItemModel model(1, 3);
     QTreeView tree;
-    tree.setObjectName("tree");
     tree.setModel(&model);
-    QVERIFY(!at(saved(&tree), {"tree"}).contains("headerState"));
+    for (int free = 0; free < 3; ++free) {
+        tree.header()->setSectionResizeMode(QHeaderView::Fixed);
+        QVERIFY(!entryAt(saved(&tree), {QString()}).contains(kHeaderState));
+        tree.header()->setSectionResizeMode(free, QHeaderView::ResizeToContents);
+        QVERIFY(entryAt(saved(&tree), {QString()}).contains(kHeaderState));
+    }
 }
 
-void TestTXWidgetUtilities::headerOfAListIsNone()
+void TestTXWidgetUtilities::treeKeepsItsHeader()
 {
+    QStandardItemModel model(1, 2);
+    QTreeView tree;
+    tree.setModel(&model);
+
+    QCOMPARE(entryAt(saved(&tree), {QString()}).value(kHeaderState),
+             QVariant(State{{kHorizontal, tree.header()->saveState()}}));
+}
+
+void TestTXWidgetUtilities::headerWithoutSectionsIsNotKept()
+{
+    QStandardItemModel noColumns(3, 0);
+    QTreeView tree;
+    QTableView table;
+    QVERIFY(!entryAt(saved(&tree), {QString()}).contains(kHeaderState));
+    QVERIFY(!entryAt(saved(&table), {QString()}).contains(kHeaderState));
+
+    tree.setModel(&noColumns);
+    table.setModel(&noColumns);
+    QVERIFY(!entryAt(saved(&tree), {QString()}).contains(kHeaderState));
+    QVERIFY(!entryAt(saved(&table), {QString()}).contains(kHeaderState));
+}
+
+void TestTXWidgetUtilities::convenienceViewsKeepTheirHeadersToo()
+{
+    QTableWidget table(2, 2);
+    QTreeWidget tree;
+    tree.setColumnCount(2);
+
+    QVERIFY(entryAt(saved(&table), {QString()}).contains(kHeaderState));
+    QVERIFY(entryAt(saved(&tree), {QString()}).contains(kHeaderState));
+}
+
+void TestTXWidgetUtilities::otherViewsKeepNoHeader()
+{
+    QStandardItemModel model(2, 2);
+    QListView list;
+    list.setModel(&model);
     QHeaderView header(Qt::Horizontal);
-    header.setObjectName("header");
-    QVERIFY(!at(saved(&header), {"header"}).contains("headerState"));
+    header.setModel(&model);
+
+    QVERIFY(!entryAt(saved(&list), {QString()}).contains(kHeaderState));
+    QVERIFY(!entryAt(saved(&header), {QString()}).contains(kHeaderState));
 }
 
-void TestTXWidgetUtilities::treeGetsItsColumnsAndOrderBack()
+void TestTXWidgetUtilities::laterSiblingOfTheSameNameWins()
 {
-    QStandardItemModel model(5, 3);
-    QTreeView tree;
-    tree.setObjectName("tree");
-    tree.setModel(&model);
-    tree.setSortingEnabled(true);
-    tree.sortByColumn(1, Qt::DescendingOrder);
-    tree.header()->setStretchLastSection(false);
-    tree.setColumnWidth(0, 111);
-    tree.setColumnWidth(2, 77);
-    const State state = saved(&tree);
+    QWidget parent;
+    auto *first = named<QWidget>("twin", &parent);
+    auto *second = named<QWidget>("twin", &parent);
+    named<QWidget>("inner", first);
+    first->setGeometry(1, 2, 30, 40);
+    second->setGeometry(5, 6, 70, 80);
 
-    tree.sortByColumn(2, Qt::AscendingOrder);
-    tree.setColumnWidth(0, 30);
-    tree.setColumnWidth(2, 200);
-    TXWidgetUtilities::restoreWidgetStateInHash(&tree, state);
-    QCOMPARE(tree.columnWidth(0), 111);
-    QCOMPARE(tree.columnWidth(2), 77);
-    QCOMPARE(tree.header()->sortIndicatorSection(), 1);
-    QCOMPARE(tree.header()->sortIndicatorOrder(), Qt::DescendingOrder);
+    const State children = entryAt(saved(&parent), {QString()}).value(kChildren).toHash();
+
+    QCOMPARE(children,
+             State({{QStringLiteral("twin"), State{{kGeometry, second->saveGeometry()}}}}));
+    first->raise();
+    QCOMPARE(parent.children().constLast(), first);
+    QVERIFY(entryAt(saved(&parent), {QString(), QStringLiteral("twin")}).contains(kChildren));
 }
 
-void TestTXWidgetUtilities::splitterGetsItsSizesBack()
+void TestTXWidgetUtilities::unnamedSiblingsShareOneEntry()
 {
-    QSplitter splitter;
-    splitter.setObjectName("splitter");
-    splitter.resize(400, 100);
-    splitter.addWidget(named(new QWidget, "left"));
-    splitter.addWidget(named(new QWidget, "right"));
-    splitter.show();
-    splitter.setSizes({100, 295});
-    const QList<int> sizes = splitter.sizes();
-    const State state = saved(&splitter);
+    QWidget parent;
+    parent.setObjectName(QStringLiteral("parent"));
+    new QWidget(&parent);
+    auto *last = new QWidget(&parent);
+    last->setGeometry(5, 6, 70, 80);
 
-    splitter.setSizes({300, 95});
-    QVERIFY(splitter.sizes() != sizes);
-    TXWidgetUtilities::restoreWidgetStateInHash(&splitter, state);
-    QCOMPARE(splitter.sizes(), sizes);
+    QCOMPARE(entryAt(saved(&parent), {QStringLiteral("parent")}).value(kChildren).toHash(),
+             State({{QString(), State{{kGeometry, last->saveGeometry()}}}}));
 }
 
-void TestTXWidgetUtilities::mainWindowGetsItsDocksBack()
+void TestTXWidgetUtilities::objectsThatAreNoWidgetsAreLeftOut()
 {
-    QMainWindow window;
-    window.setObjectName("window");
-    auto *dock = named(new QDockWidget(&window), "dock");
-    window.addDockWidget(Qt::LeftDockWidgetArea, dock);
-    const State state = saved(&window);
+    QWidget parent;
+    auto *object = new QObject(&parent);
+    object->setObjectName(QStringLiteral("object"));
+    QVERIFY(!entryAt(saved(&parent), {QString()}).contains(kChildren));
 
-    window.addDockWidget(Qt::BottomDockWidgetArea, dock);
-    TXWidgetUtilities::restoreWidgetStateInHash(&window, state);
-    QCOMPARE(window.dockWidgetArea(dock), Qt::LeftDockWidgetArea);
+    named<QWidget>("widget", &parent);
+    const State children = entryAt(saved(&parent), {QString()}).value(kChildren).toHash();
+    QCOMPARE(children.keys(), QStringList(QStringLiteral("widget")));
+
+    // Nor is an entry of its name of any use to it.
+    restore(&parent,
+            {{QString(),
+              State{{kChildren,
+                     State{{QStringLiteral("object"), State{{kGeometry, QByteArray()}}}}}}}});
 }
 
-void TestTXWidgetUtilities::geometryComesBack()
+void TestTXWidgetUtilities::windowsBelowAreChildrenLikeAnyOther()
 {
-    QWidget widget;
-    widget.setObjectName("widget");
-    widget.setGeometry(20, 30, 200, 150);
-    const State state = saved(&widget);
-    widget.setGeometry(50, 60, 300, 250);
-    TXWidgetUtilities::restoreWidgetStateInHash(&widget, state);
-    QCOMPARE(widget.geometry(), QRect(20, 30, 200, 150));
+    QWidget parent;
+    auto *dialog = named<QDialog>("dialog", &parent);
+    dialog->resize(123, 45);
+    const State state = saved(&parent);
+    QVERIFY(entryAt(state, {QString(), QStringLiteral("dialog")}).contains(kGeometry));
+
+    dialog->resize(200, 200);
+    restore(&parent, state);
+    QCOMPARE(dialog->size(), QSize(123, 45));
 }
 
-void TestTXWidgetUtilities::headerThatIsFixedByNowStays()
+void TestTXWidgetUtilities::dictionaryHoldsPlainValuesOnly()
 {
-    QStandardItemModel model(2, 2);
-    const auto table = makeTable(&model, QHeaderView::Interactive, QHeaderView::Interactive);
-    table->setColumnWidth(0, 111);
-    const State state = saved(table.get());
-
-    table->setColumnWidth(0, 55);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    TXWidgetUtilities::restoreWidgetStateInHash(table.get(), state);
-    QCOMPARE(table->columnWidth(0), 55);
-    QCOMPARE(table->horizontalHeader()->sectionResizeMode(0), QHeaderView::Fixed);
+    Window window;
+    const State state = saved(&window.window);
+    QVERIFY(!state.isEmpty());
+    QVERIFY(everyValueIsPlain(state));
 }
 
-void TestTXWidgetUtilities::verticalStateIsForViewsWithoutHorizontalState()
+void TestTXWidgetUtilities::roundTripBringsEverythingBack()
 {
-    QStandardItemModel model(2, 2);
-    const auto table = makeTable(&model, QHeaderView::Interactive, QHeaderView::Interactive);
-    table->setRowHeight(0, 44);
-    const State header = {{QStringLiteral("verticalState"), table->verticalHeader()->saveState()}};
-    const State state = {{QStringLiteral("table"), State{{QStringLiteral("headerState"), header}}}};
-    table->setRowHeight(0, 99);
-    TXWidgetUtilities::restoreWidgetStateInHash(table.get(), state);
-    QCOMPARE(table->rowHeight(0), 44);
+    Window window;
+    window.change();
+    const State state = saved(&window.window);
+    const QList<int> sizes = window.splitter->sizes();
 
-    table->setRowHeight(0, 99);
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    TXWidgetUtilities::restoreWidgetStateInHash(table.get(), state);
-    QCOMPARE(table->rowHeight(0), 99);
+    window.window.resize(300, 200);
+    window.splitter->setSizes({100, 1000});
+    window.tree->header()->resizeSection(1, 99);
+    window.tree->sortByColumn(0, Qt::DescendingOrder);
+    window.table->horizontalHeader()->resizeSection(1, 99);
+    window.table->verticalHeader()->resizeSection(1, 40);
+    Window::deliver();
+    QVERIFY(window.splitter->sizes() != sizes);
+    restore(&window.window, state);
+    Window::deliver();
+
+    QCOMPARE(window.window.size(), QSize(500, 350));
+    QCOMPARE(window.splitter->sizes(), sizes);
+    QCOMPARE(window.tree->header()->sectionSize(1), 44);
+    QCOMPARE(window.tree->header()->sortIndicatorSection(), 2);
+    QCOMPARE(window.tree->header()->sortIndicatorOrder(), Qt::AscendingOrder);
+    QCOMPARE(window.table->horizontalHeader()->sectionSize(1), 66);
+    // The one that is not kept.
+    QCOMPARE(window.table->verticalHeader()->sectionSize(1), 40);
 }
 
-void TestTXWidgetUtilities::horizontalStateOfAFixedHeaderEndsTheSearch()
+void TestTXWidgetUtilities::roundTripThroughSettingsBringsEverythingBack()
 {
-    QStandardItemModel model(2, 2);
-    const auto table = makeTable(&model, QHeaderView::Interactive, QHeaderView::Interactive);
-    table->setRowHeight(0, 44);
-    const State header = {
-        {QStringLiteral("horizontalState"), table->horizontalHeader()->saveState()},
-        {QStringLiteral("verticalState"), table->verticalHeader()->saveState()}};
-    const State state = {{QStringLiteral("table"), State{{QStringLiteral("headerState"), header}}}};
-    table->setRowHeight(0, 99);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    TXWidgetUtilities::restoreWidgetStateInHash(table.get(), state);
-    QCOMPARE(table->rowHeight(0), 99);
+    State state;
+    {
+        Window window;
+        window.change();
+        state = saved(&window.window);
+        QSettings().setValue(QStringLiteral("state"), state);
+    }
+    QSettings().sync();
+    const State stored = QSettings().value(QStringLiteral("state")).toHash();
+    QCOMPARE(stored, state);
+
+    Window another;
+    restore(&another.window, stored);
+    Window::deliver();
+    QCOMPARE(another.window.size(), QSize(500, 350));
+    QCOMPARE(another.tree->header()->sectionSize(1), 44);
 }
 
-void TestTXWidgetUtilities::missingNameStopsTheDescent()
+void TestTXWidgetUtilities::layoutsHaveTheLastWordWhenRestoredBeforeShowing()
 {
-    QWidget top;
-    top.setObjectName("top");
-    auto *middle = named(new QWidget(&top), "middle");
-    auto *bottom = named(new QWidget(middle), "bottom");
-    bottom->setGeometry(1, 32, 30, 40);
-    const State state = saved(&top);
+    Window window;
+    window.change();
+    const State state = saved(&window.window);
+    Window another(false);
+    restore(&another.window, state);
+    another.window.show();
+    Window::deliver();
 
-    bottom->setGeometry(5, 36, 70, 80);
-    middle->setObjectName("renamed");
-    TXWidgetUtilities::restoreWidgetStateInHash(&top, state);
-    QCOMPARE(bottom->geometry(), QRect(5, 36, 70, 80));
+    QCOMPARE(another.window.size(), QSize(500, 350));
+    QCOMPARE(another.splitter->sizes(), window.splitter->sizes());
+    QCOMPARE(another.tree->geometry(), window.tree->geometry());
+    QCOMPARE(another.table->geometry(), window.table->geometry());
+    QCOMPARE(another.tree->viewport()->geometry(), window.tree->viewport()->geometry());
+    QCOMPARE(another.tree->header()->geometry(), window.tree->header()->geometry());
+    QCOMPARE(another.splitter->handle(1)->geometry(), window.splitter->handle(1)->geometry());
+}
 
-    middle->setObjectName("middle");
-    TXWidgetUtilities::restoreWidgetStateInHash(&top, state);
-    QCOMPARE(bottom->geometry(), QRect(1, 32, 30, 40));
+void TestTXWidgetUtilities::childAtTheUpperEdgeIsMovedAsAWindowWouldBe()
+{
+    QWidget parent;
+    auto *child = named<QWidget>("child", &parent);
+    child->setGeometry(5, 0, 50, 60);
+    const State state = saved(&parent);
+    QVERIFY(child->restoreGeometry(child->saveGeometry()));
+    const QRect byQt = child->geometry();
+    QVERIFY(byQt.top() > 0);
+
+    child->setGeometry(5, 0, 50, 60);
+    restore(&parent, state);
+    QCOMPARE(child->geometry(), byQt);
+}
+
+void TestTXWidgetUtilities::widgetWithoutAnEntryStopsTheDescent()
+{
+    QWidget outer;
+    auto *middle = named<QWidget>("middle", &outer);
+    auto *inner = named<QWidget>("inner", middle);
+    inner->resize(50, 60);
+    const State state = saved(&outer);
+    inner->resize(10, 10);
+
+    outer.setObjectName(QStringLiteral("renamed"));
+    restore(&outer, state);
+    QCOMPARE(inner->size(), QSize(10, 10));
+
+    outer.setObjectName(QString());
+    middle->setObjectName(QStringLiteral("renamed"));
+    restore(&outer, state);
+    QCOMPARE(inner->size(), QSize(10, 10));
+
+    // The widget's own entry on top helps as little: it is looked for among its siblings.
+    State mixed = state;
+    mixed.insert(QStringLiteral("inner"),
+                 entryAt(state, {QString(), QStringLiteral("middle"), QStringLiteral("inner")}));
+    restore(&outer, mixed);
+    QCOMPARE(inner->size(), QSize(10, 10));
+
+    middle->setObjectName(QStringLiteral("middle"));
+    restore(&outer, mixed);
+    QCOMPARE(inner->size(), QSize(50, 60));
 }
 
 void TestTXWidgetUtilities::emptyEntryStopsTheDescent()
 {
-    QWidget widget;
-    widget.setObjectName("widget");
-    const QRect before = widget.geometry();
-    TXWidgetUtilities::restoreWidgetStateInHash(&widget, {{QStringLiteral("widget"), State()}});
-    QCOMPARE(widget.geometry(), before);
+    QWidget outer;
+    auto *inner = named<QWidget>("inner", &outer);
+    inner->resize(50, 60);
+    State state = saved(&outer);
+    inner->resize(10, 10);
+    state.insert(QString(), State());
+    restore(&outer, state);
+
+    QCOMPARE(inner->size(), QSize(10, 10));
 }
 
-void TestTXWidgetUtilities::entryWithoutGeometryIsRestoredBelow()
+void TestTXWidgetUtilities::entryWithoutGeometryRestoresTheRest()
 {
-    QWidget top;
-    top.setObjectName("top");
-    auto *child = named(new QWidget(&top), "child");
-    child->setGeometry(1, 32, 30, 40);
-    const State children = at(saved(&top), {"top", "children"});
-    const QRect before = top.geometry();
+    QWidget outer;
+    outer.resize(200, 100);
+    auto *inner = named<QWidget>("inner", &outer);
+    inner->resize(50, 60);
+    State entry = entryAt(saved(&outer), {QString()});
+    entry.remove(kGeometry);
+    outer.resize(300, 200);
+    inner->resize(10, 10);
+    restore(&outer, {{QString(), entry}});
 
-    child->setGeometry(5, 36, 70, 80);
-    TXWidgetUtilities::restoreWidgetStateInHash(
-        &top, {{QStringLiteral("top"), State{{QStringLiteral("children"), children}}}});
-    QCOMPARE(child->geometry(), QRect(1, 32, 30, 40));
-    QCOMPARE(top.geometry(), before);
+    QCOMPARE(outer.size(), QSize(300, 200));
+    QCOMPARE(inner->size(), QSize(50, 60));
 }
 
-void TestTXWidgetUtilities::namesakesAllGetTheSameState()
+void TestTXWidgetUtilities::stateIsForWindowsAndSplittersOnly()
+{
+    Window window;
+    State state = saved(&window.window);
+    QTableView table;
+    table.setModel(&window.model);
+    State entry = entryAt(saved(&table), {QString()});
+    entry.insert(kState, window.splitter->saveState());
+    const State before = withoutGeometries(saved(&table));
+    restore(&table, {{QString(), entry}});
+
+    QCOMPARE(withoutGeometries(saved(&table)), before);
+}
+
+void TestTXWidgetUtilities::headerThatBecameFixedIgnoresItsState()
+{
+    Window window;
+    window.change();
+    const State state = saved(&window.window);
+    for (QHeaderView *header : {window.tree->header(), window.table->horizontalHeader()}) {
+        header->setSectionResizeMode(QHeaderView::Fixed);
+        header->resizeSection(1, 77);
+    }
+    restore(&window.window, state);
+
+    QCOMPARE(window.tree->header()->sectionSize(1), 77);
+    QCOMPARE(window.table->horizontalHeader()->sectionSize(1), 77);
+    QCOMPARE(window.tree->header()->sectionResizeMode(1), QHeaderView::Fixed);
+}
+
+void TestTXWidgetUtilities::tableTakesAVerticalStateWhenThereIsNoHorizontalOne()
+{
+    Window window;
+    window.change();
+    const QByteArray vertical = window.table->verticalHeader()->saveState();
+    window.table->verticalHeader()->resizeSection(1, 40);
+    window.table->horizontalHeader()->resizeSection(1, 99);
+    restore(window.table,
+            {{QStringLiteral("table"), State{{kHeaderState, State{{kVertical, vertical}}}}}});
+
+    QCOMPARE(window.table->verticalHeader()->sectionSize(1), 50);
+    QCOMPARE(window.table->horizontalHeader()->sectionSize(1), 99);
+}
+
+void TestTXWidgetUtilities::verticalHeaderThatBecameFixedIgnoresItsState()
+{
+    Window window;
+    window.change();
+    const QByteArray vertical = window.table->verticalHeader()->saveState();
+    window.table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    window.table->verticalHeader()->resizeSection(1, 40);
+    restore(window.table,
+            {{QStringLiteral("table"), State{{kHeaderState, State{{kVertical, vertical}}}}}});
+
+    QCOMPARE(window.table->verticalHeader()->sectionSize(1), 40);
+}
+
+void TestTXWidgetUtilities::horizontalStateKeepsTheVerticalOneOut()
+{
+    Window window;
+    window.change();
+    const State headers{{kHorizontal, window.table->horizontalHeader()->saveState()},
+                        {kVertical, window.table->verticalHeader()->saveState()}};
+    window.table->verticalHeader()->resizeSection(1, 40);
+    window.table->horizontalHeader()->resizeSection(1, 99);
+    restore(window.table, {{QStringLiteral("table"), State{{kHeaderState, headers}}}});
+
+    QCOMPARE(window.table->horizontalHeader()->sectionSize(1), 66);
+    QCOMPARE(window.table->verticalHeader()->sectionSize(1), 40);
+}
+
+void TestTXWidgetUtilities::fixedHorizontalHeaderKeepsTheVerticalStateOut()
+{
+    Window window;
+    window.change();
+    const State headers{{kHorizontal, window.table->horizontalHeader()->saveState()},
+                        {kVertical, window.table->verticalHeader()->saveState()}};
+    window.table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    window.table->verticalHeader()->resizeSection(1, 40);
+    restore(window.table, {{QStringLiteral("table"), State{{kHeaderState, headers}}}});
+
+    QCOMPARE(window.table->verticalHeader()->sectionSize(1), 40);
+}
+
+void TestTXWidgetUtilities::treeTakesNoVerticalState()
+{
+    Window window;
+    window.change();
+    const QByteArray header = window.tree->header()->saveState();
+    window.tree->header()->resizeSection(1, 99);
+    restore(window.tree,
+            {{QStringLiteral("tree"), State{{kHeaderState, State{{kVertical, header}}}}}});
+
+    QCOMPARE(window.tree->header()->sectionSize(1), 99);
+}
+
+void TestTXWidgetUtilities::headerStateIsForTablesAndTreesOnly()
+{
+    QStandardItemModel model(1, 2);
+    QHeaderView header(Qt::Horizontal);
+    header.setModel(&model);
+    header.resizeSection(0, 55);
+    const QByteArray state = header.saveState();
+    header.resizeSection(0, 99);
+    auto *child = named<QWidget>("child", &header);
+    const State entry{
+        {kHeaderState, State{{kHorizontal, state}}},
+        {kChildren, State{{QStringLiteral("child"), saved(child).value(child->objectName())}}}};
+    child->resize(7, 7);
+    restore(&header, {{QString(), entry}});
+
+    QCOMPARE(header.sectionSize(0), 99);
+    // Its children are looked at all the same.
+    QVERIFY(child->size() != QSize(7, 7));
+}
+
+void TestTXWidgetUtilities::siblingsOfTheSameNameAllTakeItsEntry()
 {
     QWidget parent;
-    parent.setObjectName("parent");
-    auto *first = named(new QWidget(&parent), "same");
-    auto *second = named(new QWidget(&parent), "same");
-    first->setGeometry(1, 32, 30, 40);
-    second->setGeometry(5, 36, 70, 80);
-    TXWidgetUtilities::restoreWidgetStateInHash(&parent, saved(&parent));
-    QCOMPARE(first->geometry(), QRect(5, 36, 70, 80));
-    QCOMPARE(second->geometry(), QRect(5, 36, 70, 80));
+    auto *first = named<QWidget>("twin", &parent);
+    auto *second = named<QWidget>("twin", &parent);
+    first->resize(30, 40);
+    second->resize(70, 80);
+    const State state = saved(&parent);
+    restore(&parent, state);
+
+    QCOMPARE(first->size(), QSize(70, 80));
+    QCOMPARE(second->size(), QSize(70, 80));
 }
 
-void TestTXWidgetUtilities::wrongTypesChangeNothing_data()
+void TestTXWidgetUtilities::childrenAreRestoredInTheirOrder()
 {
-    QTest::addColumn<QString>("key");
-    for (const char *key : {"geometry", "state", "headerState", "children", "horizontalState"}) {
-        QTest::newRow(key) << QString::fromLatin1(key);
-    }
-}
-
-void TestTXWidgetUtilities::wrongTypesChangeNothing()
-{
-    QFETCH(QString, key);
-    QStandardItemModel model(2, 2);
-    QMainWindow window;
-    window.setObjectName("window");
-    auto *splitter = named(new QSplitter(&window), "splitter");
-    auto *tree = named(new QTreeView(splitter), "tree");
-    tree->setModel(&model);
-    window.setCentralWidget(splitter);
-    const State before = saved(&window);
-    const QVariantList values = wrongValues();
-    for (const QVariant &value : values) {
-        const State entry = key == "horizontalState"
-            ? State{{QStringLiteral("headerState"), State{{key, value}}}}
-            : State{{key, value}};
-        const State ofSplitter = {{QStringLiteral("children"), State{{"tree", entry}}}};
-        TXWidgetUtilities::restoreWidgetStateInHash(&window, {{"window", entry}});
-        TXWidgetUtilities::restoreWidgetStateInHash(&window, {{"window", value}});
-        TXWidgetUtilities::restoreWidgetStateInHash(splitter, {{"splitter", entry}});
-        TXWidgetUtilities::restoreWidgetStateInHash(splitter, {{"splitter", ofSplitter}});
-        QCOMPARE(saved(&window), before);
-    }
-}
-
-void TestTXWidgetUtilities::childThatGoesMeanwhileIsNotTouched()
-{
-    // A child that deletes its later sibling when it is resized.
-    class Jealous : public QWidget
-    {
-    public:
-        explicit Jealous(QWidget *parent)
-            : QWidget(parent)
-        { }
-        std::unique_ptr<QWidget> sibling;
-
-    protected:
-        void resizeEvent(QResizeEvent *) override { sibling.reset(); }
-    };
+    QStringList log;
+    QStringList names;
     QWidget parent;
-    parent.setObjectName("parent");
-    auto *jealous = named(new Jealous(&parent), "jealous");
-    named(new QWidget(&parent), "sibling");
+    for (int i = 20; i > 0; --i) {
+        names.append(QString::number(i));
+        new Recorder(names.constLast(), &log, &parent);
+    }
     parent.show();
     const State state = saved(&parent);
-    jealous->resize(7, 7);
-    jealous->sibling.reset(parent.findChild<QWidget *>("sibling"));
-    TXWidgetUtilities::restoreWidgetStateInHash(&parent, state);
-    QCOMPARE(widgetNames(parent), QStringList("jealous"));
-}
-
-void TestTXWidgetUtilities::stateSurvivesSettings()
-{
-    QSplitter splitter;
-    splitter.setObjectName("splitter");
-    splitter.addWidget(named(new QWidget, "left"));
-    const State state = saved(&splitter);
-    {
-        QSettings settings;
-        settings.setValue("window", state);
+    for (QObject *child : parent.children()) {
+        qobject_cast<QWidget *>(child)->resize(1, 1);
     }
-    QCOMPARE(QSettings().value("window").toHash(), state);
+    log.clear();
+    restore(&parent, state);
+
+    QCOMPARE(log, names);
 }
 
-void TestTXWidgetUtilities::largestLabelOfBothDirectionsCounts()
-{
-    QLabel wide(QStringLiteral("a rather wide text on one line"));
-    QLabel high(QStringLiteral("a\nb\nc"));
-    const QFontMetrics metrics(wide.font());
-    const QSize size = TXWidgetUtilities::maxSizeNeededForLabelList({&wide, nullptr, &high});
-    QCOMPARE(size.width(), metrics.size(Qt::TextShowMnemonic, wide.text()).width());
-    QCOMPARE(size.height(), metrics.size(Qt::TextShowMnemonic, high.text()).height());
-}
-
-void TestTXWidgetUtilities::mnemonicsOfLabelsTakeNoRoom()
-{
-    QLabel plain(QStringLiteral("Login"));
-    QLabel marked(QStringLiteral("&Login"));
-    QCOMPARE(TXWidgetUtilities::maxSizeNeededForLabelList({&marked}),
-             TXWidgetUtilities::maxSizeNeededForLabelList({&plain}));
-}
-
-void TestTXWidgetUtilities::labelsArePolishedFirst()
+void TestTXWidgetUtilities::siblingMayBeDeletedWhileRestoring()
 {
     QWidget parent;
-    parent.setStyleSheet(QStringLiteral("QLabel { font-size: 40px; }"));
-    QLabel label(QStringLiteral("Login"), &parent);
-    QVERIFY(TXWidgetUtilities::maxSizeNeededForLabelList({&label}).height() >= 40);
+    auto *deleter = new Deleter(&parent);
+    deleter->setObjectName(QStringLiteral("deleter"));
+    deleter->victim = named<QWidget>("victim", &parent);
+    auto *last = named<QWidget>("last", &parent);
+    last->resize(50, 60);
+    State state = saved(&parent);
+    // Only now, as showing resizes too.
+    QPointer<QWidget> victim = deleter->victim;
+    deleter->victim = nullptr;
+    parent.show();
+    deleter->resize(10, 10);
+    last->resize(10, 10);
+    deleter->victim = victim;
+    restore(&parent, state);
+
+    QVERIFY(!victim);
+    QCOMPARE(last->size(), QSize(50, 60));
 }
 
-void TestTXWidgetUtilities::buttonsHaveAMarginOfTwoBlanks()
+void TestTXWidgetUtilities::valueOfAnotherTypeDoesNoHarm_data()
 {
-    QPushButton button(QStringLiteral("Apply"));
-    const QFontMetrics metrics(button.font());
-    QCOMPARE(TXWidgetUtilities::maxSizeNeededForButtonList({nullptr, &button}),
-             metrics.size(Qt::TextShowMnemonic, QStringLiteral("  Apply  ")));
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("nothing") << QVariant();
+    QTest::newRow("truth") << QVariant(true);
+    QTest::newRow("number") << QVariant(12);
+    QTest::newRow("fraction") << QVariant(1.5);
+    QTest::newRow("text") << QVariant(QStringLiteral("geometry"));
+    QTest::newRow("megabyte of text") << QVariant(QString(1000000, u'x'));
+    QTest::newRow("empty bytes") << QVariant(QByteArray());
+    QTest::newRow("megabyte of zeros") << QVariant(QByteArray(1000000, '\0'));
+    QTest::newRow("list") << QVariant(QVariantList{1, QByteArray("x")});
+    QTest::newRow("texts") << QVariant(QStringList{QStringLiteral("a"), QStringLiteral("b")});
+    QTest::newRow("empty dictionary") << QVariant(State());
+    QTest::newRow("dictionary") << QVariant(State{{kGeometry, 1}, {kState, 2}, {kChildren, 3}});
+    QTest::newRow("map") << QVariant(QVariantMap{{kGeometry, 1}});
+    QTest::newRow("size") << QVariant(QSize(3, 4));
+    QTest::newRow("null pointer") << QVariant::fromValue(nullptr);
 }
 
-void TestTXWidgetUtilities::percentSignsInButtonsAreJustText()
+void TestTXWidgetUtilities::valueOfAnotherTypeDoesNoHarm()
 {
-    QPushButton button(QStringLiteral("100 %1 %2"));
-    const QFontMetrics metrics(button.font());
+    QFETCH(QVariant, value);
+    Window window;
+    const State state = saved(&window.window);
+    const State kept = withoutGeometries(state);
+    int replaced = 0;
+    int changes = 0;
+    forEachReplaced(
+        state, [&value](const QVariant &) { return value; },
+        [&](const State &changed) {
+            ++replaced;
+            restore(&window.window, changed);
+            Window::deliver();
+            // What is of no use changes nothing, and the rest is what it was anyway.
+            const bool isKept = withoutGeometries(saved(&window.window)) == kept
+                && window.window.size() == QSize(400, 300);
+            changes += isKept ? 0 : 1;
+        });
+
+    QVERIFY(replaced > 20);
+    QCOMPARE(changes, 0);
+}
+
+void TestTXWidgetUtilities::bytesThatAreCutShortDoNoHarm()
+{
+    Window window;
+    const State state = saved(&window.window);
+    for (const int part : {1, 4, 8, 20, 50, 90}) {
+        forEachReplaced(
+            state,
+            [part](const QVariant &value) {
+                return value.typeId() == QMetaType::QByteArray
+                    ? QVariant(value.toByteArray().left(value.toByteArray().size() * part / 100))
+                    : value;
+            },
+            [&](const State &changed) {
+                restore(&window.window, changed);
+                Window::deliver();
+            });
+    }
+    restore(&window.window, state);
+    Window::deliver();
+
+    QCOMPARE(withoutGeometries(saved(&window.window)), withoutGeometries(state));
+}
+
+void TestTXWidgetUtilities::bytesOfAnotherWidgetDoNoHarm()
+{
+    Window window;
+    const State state = saved(&window.window);
+    for (const QByteArray &bytes :
+         {window.window.saveGeometry(), window.window.saveState(0), window.splitter->saveState(),
+          window.tree->header()->saveState(), window.table->verticalHeader()->saveState()}) {
+        forEachReplaced(
+            state,
+            [&bytes](const QVariant &value) {
+                return value.typeId() == QMetaType::QByteArray ? QVariant(bytes) : value;
+            },
+            [&](const State &changed) {
+                restore(&window.window, changed);
+                Window::deliver();
+            });
+    }
+    restore(&window.window, state);
+    Window::deliver();
+
+    QCOMPARE(window.splitter->count(), 2);
+    QCOMPARE(window.tree->header()->count(), 4);
+}
+
+void TestTXWidgetUtilities::deepNestingIsKept()
+{
+    constexpr int kDepth = 500;
+    QWidget root;
+    QWidget *innermost = &root;
+    for (int i = 0; i < kDepth; ++i) {
+        innermost = named<QWidget>("x", innermost);
+    }
+    innermost->resize(50, 60);
+    const State state = saved(&root);
+    innermost->resize(10, 10);
+    restore(&root, state);
+
+    QCOMPARE(innermost->size(), QSize(50, 60));
+}
+
+void TestTXWidgetUtilities::randomTreesAreSavedByTheRulesAndRestored_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 60; ++seed) {
+        QTest::addRow("seed %u", seed) << seed;
+    }
+}
+
+void TestTXWidgetUtilities::randomTreesAreSavedByTheRulesAndRestored()
+{
+    QFETCH(quint32, seed);
+    RandomTree tree(seed);
+    const State before = saved(tree.root.get());
+    const QSize size = tree.root->size();
+    const QList<QRect> places = tree.places();
+    QCOMPARE(before, State({{tree.root->objectName(), modelOf(tree.root.get())}}));
+
+    tree.shake();
+    const State shaken = saved(tree.root.get());
+    QCOMPARE(shaken, State({{tree.root->objectName(), modelOf(tree.root.get())}}));
+    QVERIFY(places.isEmpty() || shaken != before);
+
+    restore(tree.root.get(), before);
+    QCoreApplication::processEvents();
+    QCOMPARE(withoutGeometries(saved(tree.root.get())), withoutGeometries(before));
+    QCOMPARE(tree.root->size(), size);
+    QCOMPARE(tree.places(), places);
+}
+
+void TestTXWidgetUtilities::largestLabelDecides()
+{
+    QLabel small(QStringLiteral("x"));
+    QLabel wide(QStringLiteral("a wide label"));
+    const QSize needed = TXWidgetUtilities::maxSizeNeededForLabelList({&small, nullptr, &wide});
+
+    const QFontMetrics metrics(wide.font());
+    QCOMPARE(needed, metrics.size(Qt::TextShowMnemonic, wide.text()));
+}
+
+void TestTXWidgetUtilities::labelsArePolished()
+{
+    QLabel label(QStringLiteral("&x"));
+    label.setStyleSheet(QStringLiteral("font-size: 40pt"));
+    const QSize needed = TXWidgetUtilities::maxSizeNeededForLabelList({&label});
+
+    QVERIFY(label.testAttribute(Qt::WA_WState_Polished));
+    QCOMPARE(label.font().pointSize(), 40);
+    QCOMPARE(needed, QFontMetrics(label.font()).size(Qt::TextShowMnemonic, label.text()));
+}
+
+void TestTXWidgetUtilities::largestButtonDecides()
+{
+    QPushButton small(QStringLiteral("x"));
+    QPushButton wide(QStringLiteral("a wide button"));
+    const QSize needed =
+        TXWidgetUtilities::maxSizeNeededForButtonList({nullptr, &wide, &small, nullptr});
+
+    const QFontMetrics metrics(wide.font());
+    QCOMPARE(needed, metrics.size(Qt::TextShowMnemonic, QStringLiteral("  a wide button  ")));
+}
+
+void TestTXWidgetUtilities::buttonsAreMeasuredWithTwoBlanksAtEachSide_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("plain") << QStringLiteral("Cancel");
+    QTest::newRow("mnemonic") << QStringLiteral("&Cancel");
+    QTest::newRow("ampersand") << QStringLiteral("Save && close");
+    QTest::newRow("two lines") << QStringLiteral("one\ntwo");
+    QTest::newRow("place marker") << QStringLiteral("%1%1%1");
+    QTest::newRow("control characters") << QStringLiteral("\x01\t\x7f");
+}
+
+void TestTXWidgetUtilities::buttonsAreMeasuredWithTwoBlanksAtEachSide()
+{
+    QFETCH(QString, text);
+    QPushButton button(text);
+
     QCOMPARE(TXWidgetUtilities::maxSizeNeededForButtonList({&button}),
-             metrics.size(Qt::TextShowMnemonic, QStringLiteral("  100 %1 %2  ")));
+             QFontMetrics(button.font())
+                 .size(Qt::TextShowMnemonic,
+                       QStringLiteral("  ") + button.text() + QStringLiteral("  ")));
 }
 
-void TestTXWidgetUtilities::emptyListsNeedNoSize()
+void TestTXWidgetUtilities::buttonsAreNotPolished()
 {
-    QCOMPARE(TXWidgetUtilities::maxSizeNeededForLabelList({}), QSize(0, 0));
-    QCOMPARE(TXWidgetUtilities::maxSizeNeededForButtonList({}), QSize(0, 0));
+    QPushButton button(QStringLiteral("x"));
+    button.setStyleSheet(QStringLiteral("font-size: 40pt"));
+    const QSize needed = TXWidgetUtilities::maxSizeNeededForButtonList({&button});
+
+    QVERIFY(!button.testAttribute(Qt::WA_WState_Polished));
+    button.ensurePolished();
+    QVERIFY(TXWidgetUtilities::maxSizeNeededForButtonList({&button}).height() > needed.height());
 }
 
-void TestTXWidgetUtilities::buttonListsGetTheirSize()
+void TestTXWidgetUtilities::widthAndHeightMayComeFromDifferentWidgets()
+{
+    QPushButton wide(QStringLiteral("a very wide button with little height"));
+    QPushButton high(QStringLiteral("1\n2\n3"));
+    const QSize ofWide = TXWidgetUtilities::maxSizeNeededForButtonList({&wide});
+    const QSize ofHigh = TXWidgetUtilities::maxSizeNeededForButtonList({&high});
+    QVERIFY(ofWide.width() > ofHigh.width() && ofWide.height() < ofHigh.height());
+    QCOMPARE(TXWidgetUtilities::maxSizeNeededForButtonList({&wide, &high}),
+             QSize(ofWide.width(), ofHigh.height()));
+
+    QLabel wideLabel(wide.text());
+    QLabel highLabel(high.text());
+    QCOMPARE(TXWidgetUtilities::maxSizeNeededForLabelList({&highLabel, &wideLabel}),
+             QSize(TXWidgetUtilities::maxSizeNeededForLabelList({&wideLabel}).width(),
+                   TXWidgetUtilities::maxSizeNeededForLabelList({&highLabel}).height()));
+}
+
+void TestTXWidgetUtilities::emptyListsNeedNoRoom()
+{
+    QCOMPARE(TXWidgetUtilities::maxSizeNeededForButtonList({}), QSize(0, 0));
+    QCOMPARE(TXWidgetUtilities::maxSizeNeededForButtonList({nullptr}), QSize(0, 0));
+    QCOMPARE(TXWidgetUtilities::maxSizeNeededForLabelList({}), QSize(0, 0));
+    QCOMPARE(TXWidgetUtilities::maxSizeNeededForLabelList({nullptr, nullptr}), QSize(0, 0));
+    TXWidgetUtilities::setFixedWidthToButtonList({}, 10);
+    TXWidgetUtilities::setFixedSizeToButtonList({}, QSize(10, 10));
+}
+
+void TestTXWidgetUtilities::buttonsGetTheFixedWidth()
 {
     QPushButton first;
     QPushButton second;
-    TXWidgetUtilities::setFixedWidthToButtonList({&first, nullptr, &second}, 123);
+    TXWidgetUtilities::setFixedWidthToButtonList({&first, nullptr, &second}, 77);
+
     for (const QPushButton *button : {&first, &second}) {
-        QCOMPARE(button->minimumWidth(), 123);
-        QCOMPARE(button->maximumWidth(), 123);
+        QCOMPARE(button->minimumWidth(), 77);
+        QCOMPARE(button->maximumWidth(), 77);
         QCOMPARE(button->minimumHeight(), 0);
-    }
-    TXWidgetUtilities::setFixedSizeToButtonList({&first, nullptr, &second}, QSize(45, 67));
-    for (const QPushButton *button : {&first, &second}) {
-        QCOMPARE(button->minimumSize(), QSize(45, 67));
-        QCOMPARE(button->maximumSize(), QSize(45, 67));
+        QCOMPARE(button->maximumHeight(), QWIDGETSIZE_MAX);
     }
 }
 
-void TestTXWidgetUtilities::disabledSpinBoxLooksLikeAValue()
+void TestTXWidgetUtilities::buttonsGetTheFixedSize()
 {
-    QDoubleSpinBox box;
-    box.setEnabled(false);
-    TXWidgetUtilities::treatWhenSpinBoxDisabled(&box);
-    QVERIFY(!box.hasFrame());
-    QVERIFY(box.isReadOnly());
-    QCOMPARE(box.buttonSymbols(), QAbstractSpinBox::NoButtons);
+    QPushButton first;
+    QPushButton second;
+    TXWidgetUtilities::setFixedSizeToButtonList({nullptr, &first, &second}, QSize(77, 33));
 
-    box.setEnabled(true);
-    box.setButtonSymbols(QAbstractSpinBox::PlusMinus);
+    for (const QPushButton *button : {&first, &second}) {
+        QCOMPARE(button->minimumSize(), QSize(77, 33));
+        QCOMPARE(button->maximumSize(), QSize(77, 33));
+    }
+}
+
+void TestTXWidgetUtilities::disabledSpinBoxLooksLikeAPlainValue_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("integer") << 0;
+    QTest::newRow("fraction") << 1;
+    QTest::newRow("date") << 2;
+}
+
+void TestTXWidgetUtilities::disabledSpinBoxLooksLikeAPlainValue()
+{
+    QFETCH(int, kind);
+    std::unique_ptr<QAbstractSpinBox> box;
+    switch (kind) {
+    case 0:
+        box = std::make_unique<QSpinBox>();
+        break;
+    case 1:
+        box = std::make_unique<QDoubleSpinBox>();
+        break;
+    default:
+        box = std::make_unique<QDateTimeEdit>();
+    }
+    box->setEnabled(false);
+    TXWidgetUtilities::treatWhenSpinBoxDisabled(box.get());
+    QVERIFY(!box->hasFrame());
+    QVERIFY(box->isReadOnly());
+    QCOMPARE(box->buttonSymbols(), QAbstractSpinBox::NoButtons);
+
+    box->setEnabled(true);
+    TXWidgetUtilities::treatWhenSpinBoxDisabled(box.get());
+    QVERIFY(box->hasFrame());
+    QVERIFY(!box->isReadOnly());
+    QCOMPARE(box->buttonSymbols(), QAbstractSpinBox::UpDownArrows);
+
+    // Whatever an enabled box was set to goes.
+    box->setButtonSymbols(QAbstractSpinBox::PlusMinus);
+    box->setReadOnly(true);
+    TXWidgetUtilities::treatWhenSpinBoxDisabled(box.get());
+    QCOMPARE(box->buttonSymbols(), QAbstractSpinBox::UpDownArrows);
+    QVERIFY(!box->isReadOnly());
+}
+
+void TestTXWidgetUtilities::spinBoxInADisabledParentIsDisabled()
+{
+    QWidget parent;
+    QSpinBox box(&parent);
+    parent.setEnabled(false);
     TXWidgetUtilities::treatWhenSpinBoxDisabled(&box);
-    QVERIFY(box.hasFrame());
-    QVERIFY(!box.isReadOnly());
-    QCOMPARE(box.buttonSymbols(), QAbstractSpinBox::UpDownArrows);
+
+    QVERIFY(box.isReadOnly());
+}
+
+void TestTXWidgetUtilities::nullSpinBoxIsIgnored()
+{
+    TXWidgetUtilities::treatWhenSpinBoxDisabled(nullptr);
 }
 
 int main(int argc, char **argv)
