@@ -97,7 +97,7 @@ void TestEMailSenderWidget::formIsAsDesigned()
     QCOMPARE(panel->layout()->count(), 20);
 
     QCOMPARE(child<TXPasswordLineEdit>("passwordLineEdit").echoMode(), QLineEdit::Password);
-    const QSpinBox &port = child<QSpinBox>("portSpinBox");
+    const auto &port = child<QSpinBox>("portSpinBox");
     QCOMPARE(port.buttonSymbols(), QAbstractSpinBox::NoButtons);
     QCOMPARE(port.maximum(), 100000);
     QCOMPARE(child<QLabel>("label_7").alignment(),
@@ -290,7 +290,7 @@ void TestEMailSenderWidget::labelsNameTheirFields()
 void TestEMailSenderWidget::wheelDoesNotChangeThePort()
 {
     panel->show();
-    QSpinBox &port = child<QSpinBox>("portSpinBox");
+    auto &port = child<QSpinBox>("portSpinBox");
     port.setFocus();
     QWheelEvent event(QPointF(5, 5), port.mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, 120),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);

@@ -19,7 +19,7 @@ class Sender : public QObject
 
 signals:
     void mailSendingSucceed();
-    void mailSendingFailed(QString reason);
+    void mailSendingFailed(QString);
 };
 
 } // namespace

@@ -316,7 +316,8 @@ void TestEMailSenderWidgetSettings::portsOfOtherTypes()
 void TestEMailSenderWidgetSettings::textsOfAMegabyte()
 {
     constexpr int kLineEditLength = 32767;
-    const QString text(1024 * 1024, u'x');
+    constexpr qsizetype kMegabyte = 1048576;
+    const QString text(kMegabyte, u'x');
     Settings settings;
     for (const QString &key : kKeys) {
         settings.insert(key, text);
