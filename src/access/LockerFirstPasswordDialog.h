@@ -44,7 +44,9 @@ public slots:
     /// Ends the dialog with -1.
     void on_cancel_pushButton_clicked();
 
+    /// Calls passwordChanged().
     void on_password1_lineEdit_textChanged(const QString &arg1);
+    /// Calls passwordChanged().
     void on_password2_lineEdit_textChanged(const QString &arg1);
 
 private:

@@ -51,7 +51,9 @@ public slots:
     /// them otherwise. What stands in them stays.
     void on_currentPassword_lineEdit_textChanged(const QString &arg1);
 
+    /// Calls passwordChanged().
     void on_password1_lineEdit_textChanged(const QString &arg1);
+    /// Calls passwordChanged().
     void on_password2_lineEdit_textChanged(const QString &arg1);
 
 private:

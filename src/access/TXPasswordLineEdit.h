@@ -21,6 +21,7 @@ class TXGUICOMMON_EXPORT TXPasswordLineEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty field in password echo mode.
     explicit TXPasswordLineEdit(QWidget *parent = nullptr);
 
     /// The value: the one that the program has set, or else what the user has typed.

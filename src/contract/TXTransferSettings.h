@@ -13,7 +13,9 @@
 class TXCORECOMMON_EXPORT TXTransferSettings
 {
 public:
+    /// See connectTimeout().
     static constexpr int kDefaultConnectTimeoutMilliseconds = 15000;
+    /// See totalTimeout().
     static constexpr int kDefaultTotalTimeoutMilliseconds = 60000;
 
     TXTransferSettings() = delete;
@@ -37,10 +39,12 @@ public:
     /// A file that cannot be read lets every TLS connection fail. Certificates cannot be left
     /// unchecked.
     static QString certificateAuthoritiesFile();
+    /// Sets the file; it is read when a transfer starts.
     static void setCertificateAuthoritiesFile(const QString &path);
 
     /// Path of a file of known host keys in OpenSSH format. An SFTP server whose key is not in it
     /// is refused. Empty, the default, means that host keys are not checked.
     static QString knownHostsFile();
+    /// Sets the file; it is read when a transfer starts.
     static void setKnownHostsFile(const QString &path);
 };

@@ -38,18 +38,26 @@ public:
 
     /// Digits behind the decimal point, 0 and above.
     [[nodiscard]] int decimals() const;
+    /// Rounds range and value to so many digits; a negative number reads as 0. The slider does not
+    /// get finer than 18 digits.
     void setDecimals(int decimals);
 
+    /// The lower end of the range, 0 at first.
     [[nodiscard]] double minimumValue() const;
+    /// Raises value and upper end where they would be below.
     void setMinimumValue(double minimum);
 
+    /// The upper end of the range, 100 at first.
     [[nodiscard]] double maximumValue() const;
+    /// Lowers value and lower end where they would be above.
     void setMaximumValue(double maximum);
 
+    /// The number in the box that is shown.
     [[nodiscard]] double value() const;
 
-    /// What one press of an arrow adds or takes; the slider's own step stays.
+    /// What one press of an arrow adds or takes, 0.1 at first; the slider's own step stays.
     [[nodiscard]] double singleStep() const;
+    /// A negative step changes nothing.
     void setSingleStep(double step);
 
     /// Shown behind the number, as a unit.
@@ -60,18 +68,26 @@ public:
 
     /// The width in pixels of the box that is shown.
     int spinBoxWidth();
+    /// The least width of both boxes, in pixels.
     void setSpinBoxMinimumWidth(int width);
+    /// The greatest width of both boxes, in pixels.
     void setSpinBoxMaximumWidth(int width);
+    /// What stands on the boxes' buttons, or whether there are any.
     void setSpinBoxButtonSymbol(QAbstractSpinBox::ButtonSymbols symbols);
 
-    /// The name before the boxes, which also is their accessible name.
+    /// The name before the boxes, empty at first.
     QString dataName();
+    /// Sets the name, which also is the accessible name of boxes and slider.
     void setDataName(const QString &name);
+    /// The least width of the name, in pixels, for aligning several of these widgets.
     void setLabelMinimumWidth(int width);
+    /// Shows or hides the name; shown at first.
     void setLabelVisible(bool visible);
 
-    /// Names the ends of the slider, in a row that is there while one of the two is not empty.
+    /// Names the lower end of the slider, in a row below it that is there while one of its two ends
+    /// has a name.
     void setMinLabelName(const QString &name);
+    /// Names the upper end of the slider, in the same row.
     void setMaxLabelName(const QString &name);
 
     /// Puts the box to the right of the slider.
@@ -89,6 +105,7 @@ signals:
     void valueChanged(double value);
 
 public slots:
+    /// Sets the number, clamped to the range. Emits valueChanged() when it changes by it.
     void setValue(double value);
 
     /// Brings the slider to the boxes' value and emits valueChanged().

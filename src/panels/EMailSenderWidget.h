@@ -63,31 +63,43 @@ public:
     /// closed the box.
     bool checkFieldBeforeAccept();
 
+    /// The user name for the server; empty means that there is no login.
     void setLoginName(const QString &name);
+    /// The text of the field "Login".
     QString loginName();
 
-    /// The password in clear. Setting an empty one changes nothing.
+    /// The password, in clear. An empty one changes nothing.
     void setPassword(const QString &password);
+    /// The password in clear, whether the program or the user has entered it.
     QString password();
 
+    /// Host name or address of the server.
     void setSMTPServerName(const QString &name);
+    /// The text of the field "SMTP Server".
     QString smtpServerName();
 
     /// 25 replaces a port below 1, and 100000 one above. Only the user can enter 0, which is then
     /// what this returns.
     void setPortNumber(int port);
+    /// The number in the field "Port".
     int portNumber();
 
     /// One of "NONE", "SSL" and "TLS", in this case; anything else selects "NONE".
     void setEncryption(const QString &encryption);
+    /// The word for the kind of encryption that is selected.
     QString encryption() const;
 
+    /// The address of the sender.
     void setSenderName(const QString &name);
+    /// The text of the field "From".
     QString senderName();
 
+    /// The address of the receiver.
     void setMainDestinationAddress(const QString &address);
+    /// The text of the field "To".
     QString mainDestinationAddress();
 
+    /// The address of who gets a copy; empty means nobody.
     void setCopyDestinationAddress(const QString &address);
     /// What setCopyDestinationAddress() has set. The name is misspelt and stays so for those who
     /// call it.
