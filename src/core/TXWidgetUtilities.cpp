@@ -82,7 +82,7 @@ void saveChildren(QWidget *widget, State *entry)
         TXWidgetUtilities::saveWidgetStateInHash(qobject_cast<QWidget *>(child), children);
     }
     if (!children.isEmpty()) {
-        entry->insert(kChildren, std::move(children));
+        entry->insert(kChildren, children);
     }
 }
 
@@ -142,7 +142,7 @@ void TXWidgetUtilities::saveWidgetStateInHash(QWidget *widget, QHash<QString, QV
     saveOwnState(widget, &entry);
     saveHeader(widget, &entry);
     saveChildren(widget, &entry);
-    state.insert(widget->objectName(), std::move(entry));
+    state.insert(widget->objectName(), entry);
 }
 
 void TXWidgetUtilities::restoreWidgetStateInHash(QWidget *widget,

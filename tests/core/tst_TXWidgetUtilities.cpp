@@ -4,6 +4,7 @@
 
 #include <QDataStream>
 #include <QDateTimeEdit>
+#include <QDialog>
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
