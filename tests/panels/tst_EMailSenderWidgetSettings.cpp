@@ -56,6 +56,7 @@ private slots:
 
     void portsOutOfRange_data();
     void portsOutOfRange();
+    void userMayEnterPortZero();
     void encryptionIsFoundByItsExactWord_data();
     void encryptionIsFoundByItsExactWord();
     void wrongTypesUnderEveryKey_data();
@@ -223,6 +224,20 @@ void TestEMailSenderWidgetSettings::portsOutOfRange()
     panel->load({{"MailServerPort", given}});
     QCOMPARE(panel->portNumber(), kept);
     QCOMPARE(panel->save().value(QStringLiteral("MailServerPort")), QVariant(kept));
+}
+
+void TestEMailSenderWidgetSettings::userMayEnterPortZero()
+{
+    QSpinBox &port = child<QSpinBox>("portSpinBox");
+    port.selectAll();
+    QTest::keyClicks(&port, "0");
+
+    QCOMPARE(panel->portNumber(), 0);
+    const Settings saved = panel->save();
+    QCOMPARE(saved.value(QStringLiteral("MailServerPort")), QVariant(0));
+
+    panel->load(saved);
+    QCOMPARE(panel->portNumber(), 25);
 }
 
 void TestEMailSenderWidgetSettings::encryptionIsFoundByItsExactWord_data()
