@@ -1,10 +1,7 @@
 #include "RatioReporter.h"
 #include "TXWidgetUtilities.h"
 
-#include <QGroupBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QSettings>
 #include <QSplitter>
@@ -12,288 +9,311 @@
 #include <QTemporaryDir>
 #include <QTreeView>
 
-#include <memory>
+#include <vector>
 
-// Keeping the looks of a window with many widgets: beside the calls of Qt that cannot be avoided
-// with a dictionary of the same shape, and beside QSettings with a key for each widget, which is
-// what is written by hand.
+#include <malloc.h>
+
+// Saving and restoring the state of a window of panels, each a splitter with a tree and some plain
+// widgets. The argument is the number of widgets, with those inside the trees. The peers:
+// - The least that could be done: Qt's own calls on a flat list of the same widgets, what they give
+//   thrown away, and the same dictionary made of ready bytes.
+// - The same dictionary by code that knows this one window, keeping what the calls give.
+// - What one would write first: a key of QSettings a widget.
 
 namespace {
 
 using State = QHash<QString, QVariant>;
 
-constexpr int kRowsInGroup = 10;
-constexpr int kGroupsInPart = 5;
-constexpr int kBytes = 66;
+const QString kGeometry = QStringLiteral("geometry");
+const QString kState = QStringLiteral("state");
+const QString kHeaderState = QStringLiteral("headerState");
+const QString kHorizontalState = QStringLiteral("horizontalState");
+const QString kChildren = QStringLiteral("children");
 
-/// A main window with a splitter, and in it parts of a tree and groups of labels and line edits,
-/// with about so many widgets in all.
-class Window : public QMainWindow
+constexpr int kPlainWidgets = 30; // a panel
+
+/// A widget, what Qt's calls give for it, and where it is in the window.
+struct Node
+{
+    QWidget *widget = nullptr;
+    QMainWindow *window = nullptr;
+    QSplitter *splitter = nullptr;
+    QHeaderView *header = nullptr;
+    QString name;
+    QString path;
+    QByteArray geometry;
+    QByteArray state;
+    QByteArray headerState;
+    std::vector<Node> children;
+};
+
+class Window
 {
 public:
     explicit Window(int widgets)
-        : model(1, 3)
+        : model(1, 4)
     {
-        setObjectName(QStringLiteral("window"));
-        auto *splitter = new QSplitter(this);
-        splitter->setObjectName(QStringLiteral("splitter"));
-        setCentralWidget(splitter);
-        for (int part = 0; findChildren<QWidget *>().size() < widgets; ++part) {
-            addPart(splitter, part);
+        // Or the heap shrinks after each round, and whoever comes first pays for new pages.
+        mallopt(M_TRIM_THRESHOLD, 1 << 30);
+        window.setObjectName(QStringLiteral("window"));
+        window.setCentralWidget(&centre);
+        for (qsizetype count = 2; count < widgets;) {
+            count += 1 + addPanel()->findChildren<QWidget *>().size();
         }
+        window.resize(700, 600);
+        window.ensurePolished();
+        root = describe(&window, QString());
     }
 
-    [[nodiscard]] int widgetCount() const { return int(findChildren<QWidget *>().size()) + 1; }
+    ~Window() { window.takeCentralWidget(); }
+
+    /// Calls the function with each node of the tree.
+    template<class Use>
+    void forEach(Use use)
+    {
+        visit(root, use);
+    }
+
+    QMainWindow window;
+    Node root;
 
 private:
-    void addPart(QSplitter *splitter, int number)
+    QWidget *addPanel()
     {
-        auto *part = new QWidget(splitter);
-        part->setObjectName(QStringLiteral("part%1").arg(number));
-        auto *tree = new QTreeView(part);
-        tree->setObjectName(QStringLiteral("tree"));
+        auto *panel = new QSplitter(&centre);
+        panel->setObjectName(nextName());
+        auto *tree = new QTreeView(panel);
+        tree->setObjectName(nextName());
         tree->setModel(&model);
-        for (int group = 0; group < kGroupsInPart; ++group) {
-            addGroup(part, group);
+        auto *form = new QWidget(panel);
+        form->setObjectName(nextName());
+        for (int i = 0; i < kPlainWidgets; ++i) {
+            auto *field = new QWidget(form);
+            field->setObjectName(nextName());
+            field->setGeometry(10, 30 + 10 * i, 100, 10);
         }
+        return panel;
     }
 
-    static void addGroup(QWidget *part, int number)
+    QString nextName() { return QStringLiteral("widget%1").arg(++names); }
+
+    Node describe(QWidget *widget, const QString &above)
     {
-        auto *group = new QGroupBox(part);
-        group->setObjectName(QStringLiteral("group%1").arg(number));
-        for (int row = 0; row < kRowsInGroup; ++row) {
-            auto *label = new QLabel(group);
-            label->setObjectName(QStringLiteral("label%1").arg(row));
-            auto *edit = new QLineEdit(group);
-            edit->setObjectName(QStringLiteral("edit%1").arg(row));
+        Node node;
+        node.widget = widget;
+        node.name = widget->objectName();
+        node.path = QStringLiteral("%1/%2").arg(above, QString::number(++nodes));
+        node.geometry = widget->saveGeometry();
+        node.window = qobject_cast<QMainWindow *>(widget);
+        node.splitter = qobject_cast<QSplitter *>(widget);
+        const auto *tree = qobject_cast<QTreeView *>(widget);
+        node.header = tree ? tree->header() : nullptr;
+        node.state = node.window ? node.window->saveState()
+            : node.splitter      ? node.splitter->saveState()
+                                 : QByteArray();
+        node.headerState = node.header ? node.header->saveState() : QByteArray();
+        for (QObject *object : widget->children()) {
+            if (auto *child = qobject_cast<QWidget *>(object)) {
+                node.children.push_back(describe(child, node.path));
+            }
+        }
+        return node;
+    }
+
+    template<class Use>
+    void visit(Node &node, Use use)
+    {
+        use(node);
+        for (Node &child : node.children) {
+            visit(child, use);
         }
     }
 
     QStandardItemModel model;
+    QWidget centre;
+    int names = 0;
+    int nodes = 0;
 };
 
-QWidgetList childWidgets(const QWidget *widget)
+void saveByQt(const Node &node)
 {
-    QWidgetList children;
-    for (QObject *child : widget->children()) {
-        if (child->isWidgetType()) {
-            children.append(static_cast<QWidget *>(child));
-        }
+    benchmark::DoNotOptimize(node.widget->saveGeometry());
+    if (node.window) {
+        benchmark::DoNotOptimize(node.window->saveState());
+    } else if (node.splitter) {
+        benchmark::DoNotOptimize(node.splitter->saveState());
+    } else if (node.header) {
+        benchmark::DoNotOptimize(node.header->saveState());
     }
-    return children;
 }
 
-QByteArray ownState(QWidget *widget)
+void restoreByQt(const Node &node)
 {
-    if (auto *window = qobject_cast<QMainWindow *>(widget)) {
-        return window->saveState();
+    node.widget->restoreGeometry(node.geometry);
+    if (node.window) {
+        node.window->restoreState(node.state);
+    } else if (node.splitter) {
+        node.splitter->restoreState(node.state);
+    } else if (node.header) {
+        node.header->restoreState(node.headerState);
     }
-    if (auto *splitter = qobject_cast<QSplitter *>(widget)) {
-        return splitter->saveState();
-    }
-    if (auto *tree = qobject_cast<QTreeView *>(widget)) {
-        return tree->header()->saveState();
-    }
-    return {};
 }
 
-// --- Saving
-// ---------------------------------------------------------------------------------------
-
-struct Ours
+/// The bytes that a node holds.
+struct Ready
 {
-    void save(QWidget *window)
-    {
-        State state;
-        TXWidgetUtilities::saveWidgetStateInHash(window, state);
-        benchmark::DoNotOptimize(state);
-    }
+    static QByteArray geometry(const Node &node) { return node.geometry; }
+    static QByteArray state(const Node &node) { return node.state; }
+    static QByteArray headerState(const Node &node) { return node.headerState; }
 };
 
-/// What Qt has to do in any case: asking all widgets, and a dictionary with constant bytes.
-struct BareQt
+/// What Qt gives for a node's widget.
+struct Fresh
 {
-    void save(QWidget *window)
+    static QByteArray geometry(const Node &node) { return node.widget->saveGeometry(); }
+    static QByteArray state(const Node &node)
     {
-        ask(window);
-        State state;
-        build(window, &state);
-        benchmark::DoNotOptimize(state);
+        return node.window ? node.window->saveState() : node.splitter->saveState();
     }
-
-    void ask(QWidget *widget)
-    {
-        benchmark::DoNotOptimize(widget->saveGeometry());
-        benchmark::DoNotOptimize(ownState(widget));
-        for (QObject *child : widget->children()) {
-            if (child->isWidgetType()) {
-                ask(static_cast<QWidget *>(child));
-            }
-        }
-    }
-
-    void build(const QWidget *widget, State *state)
-    {
-        State entry;
-        entry.insert(geometryKey, bytes);
-        if (qobject_cast<const QTreeView *>(widget)) {
-            entry.insert(headerKey, State{{horizontalKey, bytes}});
-        } else if (qobject_cast<const QMainWindow *>(widget)
-                   || qobject_cast<const QSplitter *>(widget)) {
-            entry.insert(stateKey, bytes);
-        }
-        State children;
-        for (const QObject *child : widget->children()) {
-            if (child->isWidgetType()) {
-                build(static_cast<const QWidget *>(child), &children);
-            }
-        }
-        if (!children.isEmpty()) {
-            entry.insert(childrenKey, children);
-        }
-        state->insert(widget->objectName(), entry);
-    }
-
-    const QString geometryKey = QStringLiteral("geometry");
-    const QString stateKey = QStringLiteral("state");
-    const QString headerKey = QStringLiteral("headerState");
-    const QString horizontalKey = QStringLiteral("horizontalState");
-    const QString childrenKey = QStringLiteral("children");
-    const QByteArray bytes = QByteArray(kBytes, 'b');
+    static QByteArray headerState(const Node &node) { return node.header->saveState(); }
 };
 
-/// A key for each widget, in a file.
-struct Settings
+template<class Bytes>
+void build(const Node &node, State *state)
 {
-    void save(QWidget *window)
-    {
-        store.clear();
-        saveBelow(window, window->objectName());
-        store.sync();
+    State entry;
+    entry.insert(kGeometry, Bytes::geometry(node));
+    if (node.window || node.splitter) {
+        entry.insert(kState, Bytes::state(node));
     }
-
-    void saveBelow(QWidget *widget, const QString &path)
-    {
-        store.setValue(path + QStringLiteral("/geometry"), widget->saveGeometry());
-        const QByteArray own = ownState(widget);
-        if (!own.isEmpty()) {
-            store.setValue(path + QStringLiteral("/state"), own);
-        }
-        const QWidgetList children = childWidgets(widget);
-        for (QWidget *child : children) {
-            saveBelow(child, path + u'/' + child->objectName());
-        }
+    if (node.header) {
+        entry.insert(kHeaderState, State{{kHorizontalState, Bytes::headerState(node)}});
     }
-
-    void restoreBelow(QWidget *widget, const QString &path)
-    {
-        widget->restoreGeometry(store.value(path + QStringLiteral("/geometry")).toByteArray());
-        const QByteArray own = store.value(path + QStringLiteral("/state")).toByteArray();
-        if (!own.isEmpty()) {
-            restoreOwn(widget, own);
-        }
-        const QWidgetList children = childWidgets(widget);
-        for (QWidget *child : children) {
-            restoreBelow(child, path + u'/' + child->objectName());
-        }
+    State children;
+    for (const Node &child : node.children) {
+        build<Bytes>(child, &children);
     }
+    if (!children.isEmpty()) {
+        entry.insert(kChildren, std::move(children));
+    }
+    state->insert(node.name, std::move(entry));
+}
 
-    static void restoreOwn(QWidget *widget, const QByteArray &state)
-    {
-        if (auto *window = qobject_cast<QMainWindow *>(widget)) {
-            window->restoreState(state);
-        } else if (auto *splitter = qobject_cast<QSplitter *>(widget)) {
-            splitter->restoreState(state);
-        } else if (auto *tree = qobject_cast<QTreeView *>(widget)) {
-            tree->header()->restoreState(state);
+/// Finds all that the dictionary holds for the nodes.
+void look(const Node &node, const State &state)
+{
+    const State entry = state.value(node.name).toHash();
+    benchmark::DoNotOptimize(entry.value(kGeometry).toByteArray());
+    if (node.window || node.splitter) {
+        benchmark::DoNotOptimize(entry.value(kState).toByteArray());
+    }
+    if (node.header) {
+        benchmark::DoNotOptimize(
+            entry.value(kHeaderState).toHash().value(kHorizontalState).toByteArray());
+    }
+    if (!node.children.empty()) {
+        const State children = entry.value(kChildren).toHash();
+        for (const Node &child : node.children) {
+            look(child, children);
         }
     }
+}
 
-    QTemporaryDir folder;
-    QSettings store{folder.filePath(QStringLiteral("state.ini")), QSettings::IniFormat};
-};
-
-template<class Way>
-void save(benchmark::State &state)
+void saveOurs(benchmark::State &state)
 {
     Window window(int(state.range(0)));
-    Way way;
     for (auto step : state) {
-        way.save(&window);
+        State saved;
+        TXWidgetUtilities::saveWidgetStateInHash(&window.window, saved);
+        benchmark::DoNotOptimize(saved);
     }
-    state.SetItemsProcessed(state.iterations() * window.widgetCount());
 }
 
-// --- Restoring
-// ------------------------------------------------------------------------------------
+void savePeer(benchmark::State &state)
+{
+    Window window(int(state.range(0)));
+    for (auto step : state) {
+        window.forEach(saveByQt);
+        State saved;
+        build<Ready>(window.root, &saved);
+        benchmark::DoNotOptimize(saved);
+    }
+}
+
+void saveByHand(benchmark::State &state)
+{
+    Window window(int(state.range(0)));
+    for (auto step : state) {
+        State saved;
+        build<Fresh>(window.root, &saved);
+        benchmark::DoNotOptimize(saved);
+    }
+}
+
+void saveSettings(benchmark::State &state)
+{
+    Window window(int(state.range(0)));
+    const QTemporaryDir folder;
+    for (auto step : state) {
+        QSettings settings(folder.filePath(QStringLiteral("state.ini")), QSettings::IniFormat);
+        window.forEach([&settings](const Node &node) {
+            settings.setValue(node.path, node.widget->saveGeometry());
+        });
+        settings.sync();
+    }
+}
 
 void restoreOurs(benchmark::State &state)
 {
     Window window(int(state.range(0)));
     State saved;
-    TXWidgetUtilities::saveWidgetStateInHash(&window, saved);
+    build<Ready>(window.root, &saved);
     for (auto step : state) {
-        TXWidgetUtilities::restoreWidgetStateInHash(&window, saved);
+        TXWidgetUtilities::restoreWidgetStateInHash(&window.window, saved);
     }
-    state.SetItemsProcessed(state.iterations() * window.widgetCount());
 }
 
-/// The same calls of Qt with the bytes at hand, and the look-up of every widget's entry.
-void restoreBareQt(benchmark::State &state)
+void restorePeer(benchmark::State &state)
 {
-    struct Restoring
-    {
-        void restore(QWidget *widget, const State &entries)
-        {
-            const State entry = entries.value(widget->objectName()).toHash();
-            widget->restoreGeometry(entry.value(QStringLiteral("geometry")).toByteArray());
-            const QByteArray own = entry.contains(QStringLiteral("headerState"))
-                ? entry.value(QStringLiteral("headerState"))
-                      .toHash()
-                      .value(QStringLiteral("horizontalState"))
-                      .toByteArray()
-                : entry.value(QStringLiteral("state")).toByteArray();
-            if (!own.isEmpty()) {
-                Settings::restoreOwn(widget, own);
-            }
-            const State below = entry.value(QStringLiteral("children")).toHash();
-            const QWidgetList children = childWidgets(widget);
-            for (QWidget *child : children) {
-                restore(child, below);
-            }
-        }
-    };
     Window window(int(state.range(0)));
     State saved;
-    TXWidgetUtilities::saveWidgetStateInHash(&window, saved);
+    build<Ready>(window.root, &saved);
     for (auto step : state) {
-        Restoring().restore(&window, saved);
+        look(window.root, saved);
+        window.forEach(restoreByQt);
     }
 }
 
 void restoreSettings(benchmark::State &state)
 {
     Window window(int(state.range(0)));
-    Settings settings;
-    settings.save(&window);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("state.ini"));
+    {
+        QSettings settings(path, QSettings::IniFormat);
+        window.forEach([&settings](const Node &node) {
+            settings.setValue(node.path, node.widget->saveGeometry());
+        });
+    }
     for (auto step : state) {
-        settings.store.sync();
-        settings.restoreBelow(&window, window.objectName());
+        QSettings settings(path, QSettings::IniFormat);
+        window.forEach([&settings](const Node &node) {
+            node.widget->restoreGeometry(settings.value(node.path).toByteArray());
+        });
     }
 }
 
-void sizes(benchmark::internal::Benchmark *family)
+void addSizes(benchmark::internal::Benchmark *family)
 {
-    family->Arg(150)->Arg(1300)->Arg(12500)->Unit(benchmark::kMicrosecond);
+    family->ArgName("widgets")->Arg(150)->Arg(1300)->Arg(12500)->Unit(benchmark::kMillisecond);
 }
 
 } // namespace
 
-BENCHMARK(save<Ours>)->Name("SaveState/ours")->Apply(sizes);
-BENCHMARK(save<BareQt>)->Name("SaveState/bare calls and dictionary")->Apply(sizes);
-BENCHMARK(save<Settings>)->Name("SaveState/QSettings")->Apply(sizes);
-
-BENCHMARK(restoreOurs)->Name("RestoreState/ours")->Apply(sizes);
-BENCHMARK(restoreBareQt)->Name("RestoreState/bare calls and look-ups")->Apply(sizes);
-BENCHMARK(restoreSettings)->Name("RestoreState/QSettings")->Apply(sizes);
+BENCHMARK(saveOurs)->Name("Save/ours")->Apply(addSizes);
+BENCHMARK(savePeer)->Name("Save/bare calls and dictionary")->Apply(addSizes);
+BENCHMARK(saveByHand)->Name("Save/code for this window")->Apply(addSizes);
+BENCHMARK(saveSettings)->Name("Save/QSettings")->Apply(addSizes);
+BENCHMARK(restoreOurs)->Name("Restore/ours")->Apply(addSizes);
+BENCHMARK(restorePeer)->Name("Restore/bare calls and dictionary")->Apply(addSizes);
+BENCHMARK(restoreSettings)->Name("Restore/QSettings")->Apply(addSizes);

@@ -15,6 +15,7 @@
 
 namespace {
 
+// Filled by emplace(), which makes a value in its place where insert() would copy it.
 using State = QHash<QString, QVariant>;
 
 constexpr int kMainWindowStateVersion = 0;
@@ -57,9 +58,9 @@ bool isAllFixed(const QHeaderView &header)
 void saveOwnState(QWidget *widget, State *entry)
 {
     if (const auto *window = qobject_cast<QMainWindow *>(widget)) {
-        entry->insert(kState, window->saveState(kMainWindowStateVersion));
+        entry->emplace(kState, window->saveState(kMainWindowStateVersion));
     } else if (const auto *splitter = qobject_cast<QSplitter *>(widget)) {
-        entry->insert(kState, splitter->saveState());
+        entry->emplace(kState, splitter->saveState());
     }
 }
 
@@ -71,7 +72,7 @@ void saveHeader(QWidget *widget, State *entry)
     const QHeaderView *header = headers.horizontal ? headers.horizontal : headers.vertical;
     if (header && !isAllFixed(*header)) {
         const QString &key = headers.horizontal ? kHorizontalState : kVerticalState;
-        entry->insert(kHeaderState, State{{key, header->saveState()}});
+        entry->emplace(kHeaderState, State{{key, header->saveState()}});
     }
 }
 
@@ -82,7 +83,7 @@ void saveChildren(QWidget *widget, State *entry)
         TXWidgetUtilities::saveWidgetStateInHash(qobject_cast<QWidget *>(child), children);
     }
     if (!children.isEmpty()) {
-        entry->insert(kChildren, children);
+        entry->emplace(kChildren, std::move(children));
     }
 }
 
@@ -108,7 +109,11 @@ void restoreUnlessFixed(QHeaderView *header, const QVariant &state)
 
 void restoreHeader(QWidget *widget, const State &entry)
 {
-    const State state = entry.value(kHeaderState).toHash();
+    const auto found = entry.constFind(kHeaderState);
+    if (found == entry.cend()) {
+        return;
+    }
+    const State state = found->toHash();
     const Headers headers = headersOf(widget);
     if (headers.horizontal && state.contains(kHorizontalState)) {
         restoreUnlessFixed(headers.horizontal, state.value(kHorizontalState));
@@ -119,10 +124,11 @@ void restoreHeader(QWidget *widget, const State &entry)
 
 void restoreChildren(QWidget *widget, const State &entry)
 {
-    const State state = entry.value(kChildren).toHash();
-    if (state.isEmpty()) {
+    const auto found = entry.constFind(kChildren);
+    if (found == entry.cend()) {
         return;
     }
+    const State state = found->toHash();
     // Restoring resizes widgets, and whoever listens may delete others.
     QList<QPointer<QObject>> children(widget->children().cbegin(), widget->children().cend());
     for (const QPointer<QObject> &child : std::as_const(children)) {
@@ -138,11 +144,11 @@ void TXWidgetUtilities::saveWidgetStateInHash(QWidget *widget, QHash<QString, QV
         return;
     }
     State entry;
-    entry.insert(kGeometry, widget->saveGeometry());
+    entry.emplace(kGeometry, widget->saveGeometry());
     saveOwnState(widget, &entry);
     saveHeader(widget, &entry);
     saveChildren(widget, &entry);
-    state.insert(widget->objectName(), entry);
+    state.emplace(widget->objectName(), std::move(entry));
 }
 
 void TXWidgetUtilities::restoreWidgetStateInHash(QWidget *widget,
