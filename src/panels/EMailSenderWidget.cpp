@@ -123,9 +123,12 @@ void EMailSenderWidget::load(QHash<QString, QVariant> settings)
 {
     setLoginName(settings.value(kLoginKey).toString());
     const QString cipher = settings.value(kPasswordKey).toString();
-    // The field ignores an empty text, and the password of another account must not stay.
-    ui->passwordLineEdit->clear();
-    setPassword(QString::fromUtf8(StoredSecret::decipher(cipher)));
+    const QString password = QString::fromUtf8(StoredSecret::decipher(cipher));
+    if (password.isEmpty()) {
+        // The field ignores an empty text, and the password of another account must not stay.
+        ui->passwordLineEdit->clear();
+    }
+    setPassword(password);
     setSMTPServerName(settings.value(kServerKey).toString());
     setPortNumber(settings.value(kPortKey).toInt());
     setEncryption(settings.value(kEncryptionKey).toString());

@@ -295,7 +295,7 @@ void TestEMailSenderWidgetMail::textsInjectNothing_data()
         {"command", QStringLiteral("a@example.org>\r\nRCPT TO:<mallory@example.org>\r\n")},
         {"parameter", QStringLiteral("a@example.org> ORCPT=mallory@example.org")},
         {"null", QStringLiteral("a@example.org") + QChar(0) + QStringLiteral("mallory")},
-        {"long", QStringLiteral("a@example.org") + QString(1024 * 1024, u'm')}};
+        {"long", QStringLiteral("a@example.org") + QString(1 << 20, u'm')}};
     for (const char *key : {"MailSender", "MailMainDestination", "MailCopyDestination",
                             "MailServerAddress", "MailServerLogin"}) {
         for (const auto &[name, text] : texts) {

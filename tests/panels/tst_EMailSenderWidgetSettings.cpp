@@ -228,7 +228,7 @@ void TestEMailSenderWidgetSettings::portsOutOfRange()
 
 void TestEMailSenderWidgetSettings::userMayEnterPortZero()
 {
-    QSpinBox &port = child<QSpinBox>("portSpinBox");
+    auto &port = child<QSpinBox>("portSpinBox");
     port.selectAll();
     QTest::keyClicks(&port, "0");
 
