@@ -35,3 +35,40 @@ function(tx_copy_gallery_resources target from to)
   add_custom_target(${target}Resources DEPENDS ${copies})
   add_dependencies(${target} ${target}Resources)
 endfunction()
+
+# tx_add_gallery_plugin(<plug-in> [<further unit>...])
+#
+# Adds a plug-in with a configuration page: a module made of <plug-in>.h and <plug-in>.cpp of the
+# calling folder, with its further units, built into the folder ConfWidgets beside the gallery.
+function(tx_add_gallery_plugin plugin)
+  add_library(${plugin} MODULE)
+  foreach(unit IN LISTS plugin ARGN)
+    target_sources(${plugin} PRIVATE ${unit}.h ${unit}.cpp)
+  endforeach()
+  tx_set_compiler_options(${plugin})
+  get_target_property(gallery_bin TXGallery RUNTIME_OUTPUT_DIRECTORY)
+  set_target_properties(${plugin} PROPERTIES
+    PREFIX ""
+    LIBRARY_OUTPUT_DIRECTORY ${gallery_bin}/ConfWidgets)
+  target_link_libraries(${plugin} PRIVATE TXGUICommon::TXGUICommon)
+  add_dependencies(TXGallery ${plugin})
+endfunction()
+
+# tx_add_gallery_manual(<target> <from> <to>)
+#
+# Makes a PDF manual of the Markdown file before the target, again whenever the text has changed.
+# The program that makes it gets a runtime folder of its own, which Qt makes when it is missing: a
+# container has none, and Qt would remark on that in every build.
+function(tx_add_gallery_manual target from to)
+  cmake_path(GET to PARENT_PATH folder)
+  add_custom_command(
+    OUTPUT ${to}
+    DEPENDS ${from} TXManualMaker
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
+    COMMAND ${CMAKE_COMMAND} -E env XDG_RUNTIME_DIR=${CMAKE_CURRENT_BINARY_DIR}/runtime
+      $<TARGET_FILE:TXManualMaker> ${from} ${to}
+    COMMENT "Making the manual"
+    VERBATIM)
+  add_custom_target(${target}Manual DEPENDS ${to})
+  add_dependencies(${target} ${target}Manual)
+endfunction()

@@ -37,7 +37,7 @@ endfunction()
 #   [PRECOMPILE <header>])   # the library's one precompiled header
 #
 # Adds the units of the calling folder to the library. A unit is a name: <unit>.h with <unit>.cpp,
-# or one of the two where the other does not exist.
+# or one of the two where the other does not exist. Its form, if it has one, is src/forms/<unit>.ui.
 function(tx_add_library_folder library)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "PRECOMPILE" "PUBLIC;PRIVATE")
   set(here ${CMAKE_CURRENT_SOURCE_DIR})
@@ -45,6 +45,11 @@ function(tx_add_library_folder library)
   foreach(unit IN LISTS arg_PUBLIC arg_PRIVATE)
     if(EXISTS ${here}/${unit}.cpp)
       target_sources(${library} PRIVATE ${here}/${unit}.cpp)
+    endif()
+    # Without this a build after an edit of the form makes its header and forgets who includes it.
+    if(EXISTS ${PROJECT_SOURCE_DIR}/src/forms/${unit}.ui)
+      set_source_files_properties(${here}/${unit}.cpp TARGET_DIRECTORY ${library}
+        PROPERTIES OBJECT_DEPENDS ${PROJECT_SOURCE_DIR}/src/forms/${unit}.ui)
     endif()
   endforeach()
   foreach(unit IN LISTS arg_PUBLIC)

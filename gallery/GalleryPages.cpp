@@ -1,6 +1,12 @@
 #include "GalleryPages.h"
 
+#include "AccessPage.h"
+#include "ControlsPage.h"
+#include "ErrorsPage.h"
+#include "FtpPage.h"
 #include "LogPage.h"
+#include "MailPage.h"
+#include "PagesPage.h"
 
 #include <QCoreApplication>
 
@@ -23,6 +29,12 @@ const QList<GalleryPageEntry> &galleryPages()
 {
     static const QList<GalleryPageEntry> pages = {
         {"log", QT_TRANSLATE_NOOP("GalleryPages", "Log"), make<LogPage>},
+        {"pages", QT_TRANSLATE_NOOP("GalleryPages", "Pages"), make<PagesPage>},
+        {"errors", QT_TRANSLATE_NOOP("GalleryPages", "Errors"), make<ErrorsPage>},
+        {"access", QT_TRANSLATE_NOOP("GalleryPages", "Access"), make<AccessPage>},
+        {"controls", QT_TRANSLATE_NOOP("GalleryPages", "Controls"), make<ControlsPage>},
+        {"mail", QT_TRANSLATE_NOOP("GalleryPages", "Mail"), make<MailPage>},
+        {"ftp", QT_TRANSLATE_NOOP("GalleryPages", "FTP"), make<FtpPage>},
     };
     return pages;
 }

@@ -1,5 +1,6 @@
 #include "LogPage.h"
 
+#include "GalleryPanel.h"
 #include "LogPreview.h"
 #include "ScanPanel.h"
 
@@ -20,7 +21,7 @@ namespace {
 
 constexpr int kMaximumEntries = 20000;
 constexpr int kLineButtons = 4;
-constexpr int kGap = 14;
+constexpr int kGap = GalleryPanel::kGap;
 
 /// Folders that every machine with Qt has an answer to, though perhaps that they are missing.
 QString pictureFolders()
@@ -106,8 +107,7 @@ void LogPage::retranslate()
     errorButton->setText(tr("&Error"));
     qtWarningButton->setText(tr("&Qt Warning"));
     previewLabel->setText(tr("Live &view:"));
-    windowButton->setText(tr("&Open Log Window"));
-    windowButton->setMinimumWidth(windowButton->sizeHint().width() + kGap);
+    GalleryPanel::setButtonText(windowButton, tr("&Open Log Window"));
     preview->setAccessibleName(tr("Live view of the log"));
 }
 
@@ -178,7 +178,7 @@ void LogPage::writeAllLines()
 void LogPage::setUpLayout()
 {
     auto *lineRow = new QHBoxLayout(lineBox);
-    lineRow->setContentsMargins(kGap, kGap, kGap, kGap);
+    GalleryPanel::setMargins(lineRow);
     for (QPushButton *button : {informationButton, warningButton, errorButton, qtWarningButton}) {
         lineRow->addWidget(button);
     }

@@ -8,7 +8,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -23,13 +22,12 @@ namespace {
 
 constexpr int kCountsIntervalMilliseconds = 100;
 constexpr int kValuePointsAboveNormal = 6;
-constexpr int kMargin = 14;
 constexpr int kPictureGap = 7;
 
 } // namespace
 
 ScanPanel::ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent)
-    : QGroupBox(parent)
+    : GalleryPanel(parent)
     , log(log)
     , gate(new LogGate(log, this))
     , countsTimer(new QTimer(this))
@@ -86,14 +84,6 @@ void ScanPanel::start()
     updateButtons();
     cancelButton->setFocus();
     showCounts();
-}
-
-void ScanPanel::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-    }
-    QGroupBox::changeEvent(event);
 }
 
 void ScanPanel::cancel()
@@ -159,7 +149,7 @@ void ScanPanel::setUpLayout()
     folderRow->addWidget(folderLabel);
     folderRow->addWidget(folderEdit, 1);
     folderRow->addWidget(browseButton);
-    folderRow->addSpacing(kMargin);
+    folderRow->addSpacing(kGap);
     folderRow->addWidget(startButton);
     folderRow->addWidget(cancelButton);
 
@@ -177,8 +167,7 @@ void ScanPanel::setUpLayout()
     }
 
     auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    rows->setSpacing(kMargin);
+    setGaps(rows);
     rows->addLayout(folderRow);
     rows->addLayout(tileRow);
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "FolderScan.h"
+#include "GalleryPanel.h"
 
 #include <QElapsedTimer>
-#include <QGroupBox>
 #include <QPixmap>
 #include <QSharedPointer>
 
@@ -19,7 +19,7 @@ class TXLogManager;
 ///
 /// Each folder becomes an entry of the log, written from the scan's own threads; a last entry sums
 /// up. The panel stops a running scan when it goes.
-class ScanPanel : public QGroupBox
+class ScanPanel final : public GalleryPanel
 {
     Q_OBJECT
 
@@ -40,7 +40,7 @@ signals:
     void scanLogged(QSharedPointer<TXLogItem> lastEntry);
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void retranslate() override;
 
 private slots:
     void cancel();
@@ -60,7 +60,6 @@ private:
     Tile makeTile(const QPixmap &picture = QPixmap());
     void setUpLayout();
     void updateButtons();
-    void retranslate();
     [[nodiscard]] QStringList paths() const;
 
     QSharedPointer<TXLogManager> log;

@@ -43,3 +43,9 @@ void TXPasswordLineEdit::treatTextEdited(const QString &newText)
     QString typed = newText;
     QLineEdit::setText(typed.remove(kMaskCharacter));
 }
+
+void TXPasswordLineEdit::clear()
+{
+    encrypted.clear();
+    QLineEdit::clear();
+}

@@ -12,8 +12,8 @@
 /// length. The user's first edit of a masked field drops the value, and the field goes on as a
 /// plain password field.
 ///
-/// setText() and text() hide the functions of QLineEdit, which are not virtual: call them through
-/// this type, or the mask is taken for the value.
+/// text(), setText() and clear() hide the functions of QLineEdit, which are not virtual: call them
+/// through this type, or the mask is taken for the value.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT TXPasswordLineEdit : public QLineEdit
@@ -21,6 +21,7 @@ class TXGUICOMMON_EXPORT TXPasswordLineEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty field in password echo mode.
     explicit TXPasswordLineEdit(QWidget *parent = nullptr);
 
     /// The value: the one that the program has set, or else what the user has typed.
@@ -34,6 +35,9 @@ public slots:
     /// Drops the value set by the program after an edit by the user; `newText` is the text of the
     /// widget. What the user typed stays, but for the mask's character "|".
     void treatTextEdited(const QString &newText);
+
+    /// Empties the field, whoever has set its value.
+    void clear();
 
 private:
     QString encrypted;

@@ -1,5 +1,7 @@
 #include "TXMailSender.h"
 
+#include "MailSending.h"
+
 #include <QCoreApplication>
 #include <QThread>
 
@@ -14,31 +16,49 @@ QObject *possibleParent()
 
 } // namespace
 
-TXMailSender::TXMailSender(QObject *parent)
+TXMailSender::TXMailSender(std::unique_ptr<MailSending> sending, QObject *parent)
     : QObject(parent)
+    , sending(std::move(sending))
 { }
 
-TXMailSender::~TXMailSender() = default;
-
-TXMailSender *TXMailSender::createTXMailSender(const QHash<QString, QVariant> &, const QString &,
-                                               const QString &, const QList<QString> &,
-                                               const QList<QString> &)
+TXMailSender::~TXMailSender()
 {
-    return new TXMailSender(possibleParent());
+    if (worker) {
+        sending->cancel();
+        worker->wait();
+    }
+}
+
+TXMailSender *TXMailSender::createTXMailSender(const QHash<QString, QVariant> &settings,
+                                               const QString &body, const QString &subject,
+                                               const QList<QString> &receivers,
+                                               const QList<QString> &copyReceivers)
+{
+    auto sending = std::make_unique<MailSending>(settings, body, subject, receivers, copyReceivers);
+    return new TXMailSender(std::move(sending), possibleParent());
 }
 
 void TXMailSender::sendMessage()
 {
-    if (started) {
+    if (worker) {
         return;
     }
-    started = true;
-    QMetaObject::invokeMethod(this, "fail", Qt::QueuedConnection);
+    worker.reset(QThread::create([this] { reason = sending->run(); }));
+    connect(worker.get(), SIGNAL(finished()), this, SLOT(tellOutcome()));
+    worker->start();
+    if (!worker->isRunning() && !worker->isFinished()) {
+        reason = tr("The system is too busy to send a mail.");
+        QMetaObject::invokeMethod(this, "tellOutcome", Qt::QueuedConnection);
+    }
 }
 
-void TXMailSender::fail()
+void TXMailSender::tellOutcome()
 {
     // Before the signal, so that a receiver may delete the sender.
     deleteLater();
-    emit mailSendingFailed(tr("Sending mail is not available in this version."));
+    if (reason.isEmpty()) {
+        emit mailSendingSucceed();
+    } else {
+        emit mailSendingFailed(reason);
+    }
 }

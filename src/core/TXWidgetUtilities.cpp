@@ -80,7 +80,9 @@ void saveChildren(QWidget *widget, State *entry)
 {
     State children;
     for (QObject *child : widget->children()) {
-        TXWidgetUtilities::saveWidgetStateInHash(qobject_cast<QWidget *>(child), children);
+        if (child->isWidgetType()) {
+            TXWidgetUtilities::saveWidgetStateInHash(static_cast<QWidget *>(child), children);
+        }
     }
     if (!children.isEmpty()) {
         entry->emplace(kChildren, std::move(children));
@@ -122,6 +124,13 @@ void restoreHeader(QWidget *widget, const State &entry)
     }
 }
 
+/// Whether the child has not gone meanwhile. Looks where it was, which nearly always answers.
+bool isStillChild(const QWidget *widget, const QObject *child, qsizetype place)
+{
+    const QObjectList &children = widget->children();
+    return (place < children.size() && children.at(place) == child) || children.contains(child);
+}
+
 void restoreChildren(QWidget *widget, const State &entry)
 {
     const auto found = entry.constFind(kChildren);
@@ -130,9 +139,13 @@ void restoreChildren(QWidget *widget, const State &entry)
     }
     const State state = found->toHash();
     // Restoring resizes widgets, and whoever listens may delete others.
-    QList<QPointer<QObject>> children(widget->children().cbegin(), widget->children().cend());
-    for (const QPointer<QObject> &child : std::as_const(children)) {
-        TXWidgetUtilities::restoreWidgetStateInHash(qobject_cast<QWidget *>(child.data()), state);
+    const QPointer<QWidget> guard(widget);
+    const QObjectList children = widget->children();
+    for (qsizetype place = 0; guard && place < children.size(); ++place) {
+        QObject *child = children.at(place);
+        if (isStillChild(widget, child, place) && child->isWidgetType()) {
+            TXWidgetUtilities::restoreWidgetStateInHash(static_cast<QWidget *>(child), state);
+        }
     }
 }
 

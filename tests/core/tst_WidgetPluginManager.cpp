@@ -280,11 +280,12 @@ void TestWidgetPluginManager::loadingTheSameFolderTwiceChangesNothing()
     copy(kGood);
     const WidgetPluginManager manager;
     manager.loadPlugins(subFolder());
-    const QList<IWidgetPlugin *> first = manager.plugins().values();
+    // A detached copy, as the manager gives its own table.
+    QHash<QString, IWidgetPlugin *> first = manager.plugins();
+    first.detach();
     manager.loadPlugins(subFolder());
 
-    QCOMPARE(first.size(), 1);
-    QCOMPARE(manager.plugins().values(), first);
+    QCOMPARE(manager.plugins(), first);
 }
 
 void TestWidgetPluginManager::tableIsHandedOutByReference()

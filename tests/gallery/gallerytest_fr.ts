@@ -29,4 +29,32 @@
         <translation>Dossier %1</translation>
     </message>
 </context>
+<context>
+    <name>ColourPreferencesPlugin</name>
+    <message>
+        <source>Colour Measurement</source>
+        <translation>Mesure des couleurs</translation>
+    </message>
+</context>
+<context>
+    <name>ColourPreferencesPage</name>
+    <message>
+        <source>White point:</source>
+        <translation>Point blanc :</translation>
+    </message>
+</context>
+<context>
+    <name>PluginPanel</name>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorExamples</name>
+    <message>
+        <source>The password of the measuring device cannot be read.</source>
+        <translation>Le mot de passe de l'instrument est illisible.</translation>
+    </message>
+</context>
 </TS>

@@ -3,6 +3,7 @@
 #include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
+#include "Mnemonics.h"
 #include "TestBase.h"
 #include "TestTranslations.h"
 
@@ -34,6 +35,7 @@ private slots:
     void f6MovesBetweenListAndPage();
     void tabReachesListAndChoices();
     void everyControlHasAnAccessibleName();
+    void mnemonicsDoNotClashOnAnyPage();
     void closingWhileAJobRunsEndsCleanly();
 
 protected:
@@ -251,16 +253,29 @@ void TestGalleryWindow::tabReachesListAndChoices()
 void TestGalleryWindow::everyControlHasAnAccessibleName()
 {
     open();
-    const auto widgets = window->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        const QWidget *parent = widget->parentWidget();
-        const bool isPart = parent && parent->focusPolicy() != Qt::NoFocus;
-        if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0 || isPart) {
-            continue;
+    for (int row = 0; row < galleryPages().size(); ++row) {
+        window->showPage(row);
+        const auto widgets = window->findChildren<QWidget *>();
+        for (QWidget *widget : widgets) {
+            const QWidget *parent = widget->parentWidget();
+            const bool isPart = parent && parent->focusPolicy() != Qt::NoFocus;
+            if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0 || isPart) {
+                continue;
+            }
+            const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
+                     widget->metaObject()->className());
         }
-        const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
-        QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
-                 widget->metaObject()->className());
+    }
+}
+
+void TestGalleryWindow::mnemonicsDoNotClashOnAnyPage()
+{
+    open();
+    for (int row = 0; row < galleryPages().size(); ++row) {
+        window->showPage(row);
+
+        QCOMPARE(clashingMnemonics(*window), QStringList());
     }
 }
 

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+#include <QAbstractSpinBox>
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+class QDoubleSpinBox;
+class QLabel;
+
+namespace Ui {
+class DoubleSpinBoxWithSliderWidget;
+}
+
+/// A number that is entered in a spin box or with a slider, the two kept together.
+///
+/// There are two spin boxes, one on each side of the slider, with the same settings and the same
+/// value; one of them is shown, at first the right one. A name stands before them, and a row below
+/// the slider can name its two ends.
+///
+/// The slider counts in steps of 10 to the power of minus decimals(). A value is truncated towards
+/// zero to a step, not rounded, and the spin boxes follow: 0.29 with two decimals may become 0.28.
+/// A range with more steps than an int holds is cut to what it holds.
+///
+/// The wheel is ignored, so that scrolling a page never changes a value. Values out of range are
+/// clamped. Thread: the GUI thread.
+class TXGUICOMMON_EXPORT DoubleSpinBoxWithSliderWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// From 0 to 100 in steps of 0.1 with two decimals, at 0, the box to the right of the slider.
+    explicit DoubleSpinBoxWithSliderWidget(QWidget *parent = nullptr);
+    ~DoubleSpinBoxWithSliderWidget() override;
+
+    /// Digits behind the decimal point, 0 and above.
+    [[nodiscard]] int decimals() const;
+    /// Rounds range and value to so many digits; a negative number reads as 0. The slider does not
+    /// get finer than 18 digits.
+    void setDecimals(int decimals);
+
+    /// The lower end of the range, 0 at first.
+    [[nodiscard]] double minimumValue() const;
+    /// Raises value and upper end where they would be below.
+    void setMinimumValue(double minimum);
+
+    /// The upper end of the range, 100 at first.
+    [[nodiscard]] double maximumValue() const;
+    /// Lowers value and lower end where they would be above.
+    void setMaximumValue(double maximum);
+
+    /// The number in the box that is shown.
+    [[nodiscard]] double value() const;
+
+    /// What one press of an arrow adds or takes, 0.1 at first; the slider's own step stays.
+    [[nodiscard]] double singleStep() const;
+    /// A negative step changes nothing.
+    void setSingleStep(double step);
+
+    /// Shown behind the number, as a unit.
+    void setSpinBoxSuffix(const QString &suffix);
+
+    /// Shown in place of the number at the minimum; an empty text shows the number.
+    void setSpecialValueText(const QString &text);
+
+    /// The width in pixels of the box that is shown.
+    int spinBoxWidth();
+    /// The least width of both boxes, in pixels.
+    void setSpinBoxMinimumWidth(int width);
+    /// The greatest width of both boxes, in pixels.
+    void setSpinBoxMaximumWidth(int width);
+    /// What stands on the boxes' buttons, or whether there are any.
+    void setSpinBoxButtonSymbol(QAbstractSpinBox::ButtonSymbols symbols);
+
+    /// The name before the boxes, empty at first.
+    QString dataName();
+    /// Sets the name, which also is the accessible name of boxes and slider.
+    void setDataName(const QString &name);
+    /// The least width of the name, in pixels, for aligning several of these widgets.
+    void setLabelMinimumWidth(int width);
+    /// Shows or hides the name; shown at first.
+    void setLabelVisible(bool visible);
+
+    /// Names the lower end of the slider, in a row below it that is there while one of its two ends
+    /// has a name.
+    void setMinLabelName(const QString &name);
+    /// Names the upper end of the slider, in the same row.
+    void setMaxLabelName(const QString &name);
+
+    /// Puts the box to the right of the slider.
+    void hideLeftSpinBox();
+    /// Puts the box to the left of the slider.
+    void hideRightSpinBox();
+
+    /// Swallows the wheel over boxes and slider.
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+signals:
+    /// The value has changed or is about to settle. One edit emits more than once: first with the
+    /// value as the slider can hold it, then with the value as entered. Read it as "look again".
+    /// Setting the same value again emits nothing.
+    void valueChanged(double value);
+
+public slots:
+    /// Sets the number, clamped to the range. Emits valueChanged() when it changes by it.
+    void setValue(double value);
+
+    /// Brings the slider to the boxes' value and emits valueChanged().
+    void currentSpinBoxValueChanged(double value);
+
+    /// Brings the boxes to the slider's value and emits valueChanged().
+    void currentSliderValueChanged(int steps);
+
+private:
+    [[nodiscard]] QDoubleSpinBox *usedBox() const;
+    void setEndLabelName(QLabel *label, const QLabel *otherLabel, const QString &name);
+    void updateSliderProperties();
+
+    std::unique_ptr<Ui::DoubleSpinBoxWithSliderWidget> ui;
+};

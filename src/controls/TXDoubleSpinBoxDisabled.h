@@ -1,0 +1,23 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+#include <QDoubleSpinBox>
+
+/// A QDoubleSpinBox that looks like a plain value, without frame and buttons, while it is disabled.
+///
+/// Frame, buttons and read-only state are the class's own: what is set from outside lasts until it
+/// is next enabled or disabled.
+class TXGUICOMMON_EXPORT TXDoubleSpinBoxDisabled : public QDoubleSpinBox
+{
+    Q_OBJECT
+
+public:
+    /// Looks disabled at once below a disabled parent.
+    explicit TXDoubleSpinBoxDisabled(QWidget *parent = nullptr);
+
+protected:
+    /// Adjusts the look before the base class treats a change of the enabled state. Null is
+    /// ignored.
+    void changeEvent(QEvent *event) override;
+};
