@@ -194,9 +194,9 @@ void build(const Node &node, State *state)
         build<Bytes>(child, &children);
     }
     if (!children.isEmpty()) {
-        entry.insert(kChildren, std::move(children));
+        entry.insert(kChildren, children);
     }
-    state->insert(node.name, std::move(entry));
+    state->insert(node.name, entry);
 }
 
 /// Finds all that the dictionary holds for the nodes.

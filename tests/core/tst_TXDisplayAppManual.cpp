@@ -10,7 +10,6 @@
 #include <QUrl>
 
 #include <memory>
-#include <optional>
 
 namespace {
 

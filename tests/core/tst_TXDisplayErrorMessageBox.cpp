@@ -13,6 +13,10 @@
 #include <QTextLayout>
 #include <QTranslator>
 
+#include <algorithm>
+#include <limits>
+#include <memory>
+
 namespace {
 
 constexpr int kMany = 100000;

@@ -2,7 +2,6 @@
 
 #include "TestBase.h"
 
-#include <QDataStream>
 #include <QDateTimeEdit>
 #include <QDialog>
 #include <QDockWidget>
@@ -21,6 +20,8 @@
 #include <QTreeView>
 #include <QTreeWidget>
 
+#include <algorithm>
+#include <functional>
 #include <memory>
 
 namespace {
@@ -988,20 +989,17 @@ void TestTXWidgetUtilities::siblingMayBeDeletedWhileRestoring()
     QWidget parent;
     auto *deleter = new Deleter(&parent);
     deleter->setObjectName(QStringLiteral("deleter"));
-    deleter->victim = named<QWidget>("victim", &parent);
+    auto *victim = named<QWidget>("victim", &parent);
     auto *last = named<QWidget>("last", &parent);
     last->resize(50, 60);
-    State state = saved(&parent);
-    // Only now, as showing resizes too.
-    QPointer<QWidget> victim = deleter->victim;
-    deleter->victim = nullptr;
     parent.show();
+    const State state = saved(&parent);
     deleter->resize(10, 10);
     last->resize(10, 10);
     deleter->victim = victim;
     restore(&parent, state);
 
-    QVERIFY(!victim);
+    QVERIFY(!deleter->victim);
     QCOMPARE(last->size(), QSize(50, 60));
 }
 
