@@ -124,11 +124,13 @@ void restoreHeader(QWidget *widget, const State &entry)
     }
 }
 
-/// Whether the child has not gone meanwhile. Looks where it was, which nearly always answers.
-bool isStillChild(const QWidget *widget, const QObject *child, qsizetype place)
+/// The place of the child among those of the widget, or -1 when it has gone meanwhile. Looks first
+/// where it is expected, which nearly always answers.
+qsizetype placeOf(const QObject *child, const QWidget *widget, qsizetype expected)
 {
     const QObjectList &children = widget->children();
-    return (place < children.size() && children.at(place) == child) || children.contains(child);
+    const bool isThere = expected < children.size() && children.at(expected) == child;
+    return isThere ? expected : children.indexOf(child);
 }
 
 void restoreChildren(QWidget *widget, const State &entry)
@@ -141,9 +143,14 @@ void restoreChildren(QWidget *widget, const State &entry)
     // Restoring resizes widgets, and whoever listens may delete others.
     const QPointer<QWidget> guard(widget);
     const QObjectList children = widget->children();
-    for (qsizetype place = 0; guard && place < children.size(); ++place) {
-        QObject *child = children.at(place);
-        if (isStillChild(widget, child, place) && child->isWidgetType()) {
+    qsizetype next = 0;
+    for (QObject *child : children) {
+        const qsizetype place = guard ? placeOf(child, widget, next) : -1;
+        if (place < 0) {
+            continue;
+        }
+        next = place + 1;
+        if (child->isWidgetType()) {
             TXWidgetUtilities::restoreWidgetStateInHash(static_cast<QWidget *>(child), state);
         }
     }
