@@ -58,8 +58,6 @@ bool looksEditable(const QAbstractSpinBox &box)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Maker)
-
 class TestDisabledSpinBoxes : public TestBase
 {
     Q_OBJECT
