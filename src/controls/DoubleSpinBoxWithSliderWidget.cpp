@@ -1,12 +1,11 @@
 #include "DoubleSpinBoxWithSliderWidget.h"
 
+#include "WholeNumber.h"
 #include "ui_DoubleSpinBoxWithSliderWidget.h"
 
 #include <QEvent>
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace {
 
@@ -24,16 +23,10 @@ double scaleFor(int decimals)
     return double(scale);
 }
 
-/// Truncated towards zero. More steps than an int holds become as many as it holds, and what is no
-/// number becomes 0, where a plain conversion would be undefined.
+/// More steps than an int holds become as many as it holds; what is no number becomes 0.
 int toSteps(double value, double scale)
 {
-    if (std::isnan(value)) {
-        return 0;
-    }
-    constexpr double kLeast = std::numeric_limits<int>::min();
-    constexpr double kMost = std::numeric_limits<int>::max();
-    return int(std::clamp(value * scale, kLeast, kMost));
+    return WholeNumber::truncated(value * scale);
 }
 
 } // namespace

@@ -1,0 +1,3 @@
+#include "ICompletionDelegate.h"
+
+ICompletionDelegate::~ICompletionDelegate() = default;

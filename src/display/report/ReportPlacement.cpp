@@ -1,0 +1,89 @@
+#include "ReportPlacement.h"
+
+#include "WholeNumber.h"
+
+#include <QPixmap>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double kPointsPerInch = 72.0;
+
+/// An A0 sheet at 200 dots per inch has 62 million.
+constexpr qint64 kMaximumPixels = 100'000'000;
+
+} // namespace
+
+QPointF ReportPlacement::placeOfText(const QSizeF &textSize, const QRectF &rect,
+                                     TXHorizontalAlignment horizontal, TXVerticalAlignment vertical,
+                                     const QSizeF &margins)
+{
+    const int width = WholeNumber::truncated(rect.width());
+    const int height = WholeNumber::truncated(rect.height());
+    auto x = float(rect.x());
+    auto y = float(rect.y());
+    if (horizontal == TXAlignLeft) {
+        x = float(x + margins.width());
+    } else if (horizontal == TXAlignRight) {
+        x = float(x + (width - textSize.width() - margins.width()));
+    } else if (horizontal == TXAlignHorizontallyCentred) {
+        x = float(x + (width - textSize.width()) * 0.5);
+    }
+    if (vertical == TXAlignTop) {
+        y = float(y + margins.height());
+    } else if (vertical == TXAlignBottom) {
+        y = float(y + (height - textSize.height() - margins.height()));
+    } else if (vertical == TXAlignVerticallyCentred) {
+        y = float(y + (height - textSize.height()) * 0.5);
+    }
+    return {x, y};
+}
+
+ReportPlacement::PicturePlace ReportPlacement::placeOfPicture(const QSize &pixels,
+                                                              const QRectF &rect,
+                                                              TXHorizontalAlignment horizontal,
+                                                              TXVerticalAlignment vertical)
+{
+    const QSize room(WholeNumber::rounded(rect.width()), WholeNumber::rounded(rect.height()));
+    const float scale = fittingScale(pixels, room);
+    const QSize size(WholeNumber::truncated(scale * float(pixels.width())),
+                     WholeNumber::truncated(scale * float(pixels.height())));
+    const float spareWidth = float(room.width()) - float(size.width());
+    const float spareHeight = float(room.height()) - float(size.height());
+    auto x = float(rect.x());
+    auto y = float(rect.y());
+    if (horizontal == TXAlignRight) {
+        x += spareWidth;
+    } else if (horizontal == TXAlignHorizontallyCentred) {
+        x += spareWidth * 0.5F;
+    }
+    if (vertical == TXAlignBottom) {
+        y += spareHeight;
+    } else if (vertical == TXAlignVerticallyCentred) {
+        y += spareHeight * 0.5F;
+    }
+    return {{x, y}, size};
+}
+
+float ReportPlacement::fittingScale(const QSize &from, const QSize &to)
+{
+    return std::min(float(to.width()) / float(from.width()),
+                    float(to.height()) / float(from.height()));
+}
+
+QSize ReportPlacement::pixelsForPoints(const QSize &points, int dotsPerInch)
+{
+    const double pixelsPerPoint = dotsPerInch / kPointsPerInch;
+    return {WholeNumber::rounded(points.width() * pixelsPerPoint),
+            WholeNumber::rounded(points.height() * pixelsPerPoint)};
+}
+
+QPixmap ReportPlacement::resampled(const QPixmap &pixmap, const QSize &pixels)
+{
+    const QSize size = pixmap.size().scaled(pixels, Qt::KeepAspectRatio);
+    if (qint64(size.width()) * size.height() > kMaximumPixels) {
+        return pixmap;
+    }
+    return pixmap.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}

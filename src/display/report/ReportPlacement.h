@@ -1,0 +1,51 @@
+#pragma once
+
+#include "TXAlignment.h"
+#include "TXGUICommonExport.h"
+
+#include <QPointF>
+#include <QRectF>
+#include <QSize>
+#include <QSizeF>
+
+class QPixmap;
+
+/// Where texts and pictures go within their rectangle: the arithmetic of the report canvas, shared
+/// by the items of a scene and by what is painted to paper without them.
+///
+/// Corners are kept in single precision and sizes in whole units. All units are points.
+namespace ReportPlacement {
+
+/// The top-left corner of a text of the given size; see TXGraphicsScene::drawTextInRect().
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QPointF placeOfText(const QSizeF &textSize,
+                                                             const QRectF &rect,
+                                                             TXHorizontalAlignment horizontal,
+                                                             TXVerticalAlignment vertical,
+                                                             const QSizeF &margins);
+
+/// The place and size of a picture; see TXGraphicsScene::drawImageInRect().
+struct PicturePlace
+{
+    QPointF topLeft;
+    QSize size;
+};
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT PicturePlace
+placeOfPicture(const QSize &pixels, const QRectF &rect, TXHorizontalAlignment horizontal,
+               TXVerticalAlignment vertical);
+
+/// The factor by which a size grows or shrinks, its proportions kept, to just fit into another.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT float fittingScale(const QSize &from, const QSize &to);
+
+/// The resolution at which reports keep their pictures.
+constexpr int kPictureDotsPerInch = 200;
+
+/// The number of pixels that a size in points has at a resolution.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QSize pixelsForPoints(const QSize &points,
+                                                               int dotsPerInch);
+
+/// The pixmap resampled to fit into the pixels, its proportions kept. One that would become larger
+/// than any sheet of paper needs stays as it is, so that a senseless size cannot exhaust memory.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QPixmap resampled(const QPixmap &pixmap,
+                                                           const QSize &pixels);
+
+} // namespace ReportPlacement

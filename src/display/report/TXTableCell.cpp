@@ -1,0 +1,61 @@
+#include "TXTableCell.h"
+
+#include "TXGraphicsScene.h"
+#include "TextSizeCache.h"
+
+#include <QBrush>
+#include <QFont>
+#include <QPen>
+#include <QPixmap>
+
+namespace {
+
+constexpr double kPictureInset = 1.0;
+constexpr QSizeF kTextMargins(2.0, 2.0);
+
+} // namespace
+
+TXTableCell::TXTableCell(const QHash<QString, QVariant> &dictionary)
+    : element(dictionary.value("CellElement"))
+    , textColor(dictionary.value("CellTextColor", QColor(Qt::black)).value<QColor>())
+    , horizontalAlign(
+          dictionary.value("CellTextHorizontalAlign", quint32(TXAlignHorizontallyCentred)).toUInt())
+    , verticalAlign(
+          dictionary.value("CellTextVerticalAlign", quint32(TXAlignVerticallyCentred)).toUInt())
+    , bold(dictionary.value("CellTextBold", false).toBool())
+    , insideColor(dictionary.value("InsideCellColor", QColor(Qt::white)).value<QColor>())
+    , size(dictionary.value("CellSize", QSizeF(50.0, 50.0)).toSizeF())
+    , borderColor(dictionary.value("BorderCellColor", QColor(Qt::black)).value<QColor>())
+    , borderLineWidth(dictionary.value("BorderCellLineWidth", 0.5F).toReal())
+    , realColumn(dictionary.value("CellRealColumn", 0).toInt())
+    , nbMergedCell(dictionary.value("NbMergedCell", 1).toInt())
+{ }
+
+void TXTableCell::drawTableCell(TXGraphicsScene *scene, const QPointF &topLeft,
+                                const QFont &font) const
+{
+    const QRectF rect(topLeft, size);
+    QPen pen;
+    pen.setWidthF(borderLineWidth);
+    pen.setColor(borderColor);
+    pen.setStyle(Qt::SolidLine);
+    QBrush brush(insideColor, Qt::SolidPattern);
+    scene->drawRect(rect, pen, brush, false);
+
+    if (element.typeId() == QMetaType::QPixmap) {
+        const QRectF inner =
+            rect.adjusted(kPictureInset, kPictureInset, -kPictureInset, -kPictureInset);
+        scene->drawImageInRect(element.value<QPixmap>(), inner, TXAlignHorizontallyCentred,
+                               TXAlignVerticallyCentred);
+        return;
+    }
+    const QString text = element.toString();
+    if (text.isEmpty()) {
+        return;
+    }
+    brush.setColor(textColor);
+    scene->drawTextInRect(text, rect, TXHorizontalAlignment(horizontalAlign),
+                          TXVerticalAlignment(verticalAlign),
+                          TextSizeCache::fontWithWeight(font, bold ? QFont::Bold : QFont::Normal),
+                          brush, kTextMargins);
+}
