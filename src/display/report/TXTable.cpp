@@ -3,8 +3,13 @@
 #include "TXGraphicsScene.h"
 #include "WholeNumber.h"
 
+#include <QBrush>
+#include <QColor>
 #include <QFont>
 #include <QPen>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
 
 #include <algorithm>
 #include <numeric>
@@ -16,6 +21,9 @@ constexpr float kDefaultColumnWidth = 30.0F;
 constexpr float kFramePenWidth = 0.1F;
 constexpr float kHeaderBorderWidth = 0.35F;
 
+/// Widths are kept for so many columns; far more than any sheet can show, far less than memory has.
+constexpr int kMostColumnsWithWidth = 1'000'000;
+
 /// Rows above the table are counted too, but not by the thousand million.
 constexpr int kFarAboveTable = -1'000'000;
 
@@ -25,14 +33,20 @@ bool isList(const QVariant &element)
         || element.typeId() == QMetaType::QStringList;
 }
 
-bool hasText(const QVariant &element)
+bool isText(const QVariant &element)
 {
-    return element.typeId() == QMetaType::QString || !element.toString().isEmpty();
+    return element.typeId() == QMetaType::QString;
 }
 
+bool isPicture(const QVariant &element)
+{
+    return element.typeId() == QMetaType::QPixmap;
+}
+
+/// A list of one text has a text, and so is a single value and no list.
 bool isSingleValue(const QVariant &element)
 {
-    return hasText(element) || element.typeId() == QMetaType::QPixmap;
+    return isText(element) || isPicture(element) || !element.toString().isEmpty();
 }
 
 QPen framePen()
@@ -42,29 +56,51 @@ QPen framePen()
 
 QHash<QString, QVariant> inverted(QHash<QString, QVariant> settings)
 {
-    settings.insert("InsideCellColor", QColor(Qt::white));
-    settings.insert("CellTextColor", QColor(Qt::black));
+    settings.insert(QStringLiteral("InsideCellColor"), QColor(Qt::white));
+    settings.insert(QStringLiteral("CellTextColor"), QColor(Qt::black));
     return settings;
 }
 
-/// What a text needs of its column: it stands between two blanks on either side.
-float paddedTextWidth(const QString &text, const QFont &font)
+/// What an element needs of its column: a text stands between two blanks on either side, an empty
+/// one too; pictures and elements without a text need nothing.
+double paddedTextWidth(const QVariant &element, const QFont &font)
 {
-    return float(
-        TXGraphicsScene::getBoundingRectOfText(QStringLiteral("  %1  ").arg(text), font).width());
+    if (isPicture(element)) {
+        return 0.0;
+    }
+    const QString text = element.toString();
+    if (text.isEmpty() && !isText(element)) {
+        return 0.0;
+    }
+    const QString padded = QStringLiteral("  ") + text + QStringLiteral("  ");
+    return TXGraphicsScene::getBoundingRectOfText(padded, font).width();
+}
+
+/// The width of a cell when the cells in its column share the column's width.
+float evenShare(const QHash<int, float> &columnWidths, const TXTableCell &cell)
+{
+    const float width = columnWidths.value(cell.realColumn);
+    return cell.nbMergedCell == 0 ? width : width / float(cell.nbMergedCell);
+}
+
+bool hasEvenShares(const QList<TXTableCell> &cells, const QHash<int, float> &columnWidths)
+{
+    return std::all_of(cells.cbegin(), cells.cend(), [&](const TXTableCell &cell) {
+        return cell.size.width() == double(evenShare(columnWidths, cell));
+    });
 }
 
 } // namespace
 
 TXTable::TXTable(int nbColumns, bool hasShadow)
     : nbColumns(nbColumns)
-    , columnWidths(std::max(nbColumns, 0), kDefaultColumnWidth)
+    , columnWidths(std::clamp(nbColumns, 0, kMostColumnsWithWidth), kDefaultColumnWidth)
     , hasShadow(hasShadow)
 { }
 
 void TXTable::addCell(const QHash<QString, QVariant> &dictionary)
 {
-    const QVariant element = dictionary.value("CellElement");
+    const QVariant element = dictionary.value(QStringLiteral("CellElement"));
     if (isSingleValue(element)) {
         addSingleCell(dictionary);
     } else if (isList(element)) {
@@ -87,14 +123,14 @@ void TXTable::addSingleCell(const QHash<QString, QVariant> &dictionary)
 void TXTable::addCellGroup(const QHash<QString, QVariant> &dictionary,
                            const QList<QVariant> &elements)
 {
-    QSizeF size = dictionary.value("CellSize").toSizeF();
+    QSizeF size = dictionary.value(QStringLiteral("CellSize")).toSizeF();
     size.setWidth(size.width() / double(elements.size()));
     QHash<QString, QVariant> settings = dictionary;
-    settings.insert("CellSize", size);
-    settings.insert("CellRealColumn", currentColumn);
-    settings.insert("NbMergedCell", int(elements.size()));
+    settings.insert(QStringLiteral("CellSize"), size);
+    settings.insert(QStringLiteral("CellRealColumn"), currentColumn);
+    settings.insert(QStringLiteral("NbMergedCell"), int(elements.size()));
     for (const QVariant &element : elements) {
-        settings.insert("CellElement", element);
+        settings.insert(QStringLiteral("CellElement"), element);
         appendAtCursor(TXTableCell(settings));
     }
     ++currentColumn;
@@ -123,7 +159,7 @@ QList<QList<TXTableCell>> TXTable::getTableCellList() const
 
 void TXTable::setColumnWidth(float width, int column)
 {
-    if (column >= 0 && column < nbColumns) {
+    if (column >= 0 && column < columnWidths.size()) {
         columnWidths[column] = width;
     }
 }
@@ -149,16 +185,24 @@ void TXTable::mergeCells(int firstCell, int lastCell, int row)
 void TXTable::optimizeTableSize(const QFont &font)
 {
     const QHash<int, float> widths = optimalColumnWidths(font);
-    for (QList<TXTableCell> &cells : tableCells) {
-        for (TXTableCell &cell : cells) {
-            const float width = widths.value(cell.realColumn);
-            cell.size.setWidth(cell.nbMergedCell == 0 ? width : width / float(cell.nbMergedCell));
+    for (qsizetype row = 0; row < tableCells.size(); ++row) {
+        // A row that fits already stays shared with the copies of the table.
+        if (hasEvenShares(tableCells.at(row), widths)) {
+            continue;
+        }
+        for (TXTableCell &cell : tableCells[row]) {
+            cell.size.setWidth(evenShare(widths, cell));
         }
     }
+    takeOverColumnWidths(widths);
+}
+
+void TXTable::takeOverColumnWidths(const QHash<int, float> &widths)
+{
     if (tableCells.isEmpty()) {
         return;
     }
-    for (const TXTableCell &cell : std::as_const(tableCells.first())) {
+    for (const TXTableCell &cell : tableCells.constFirst()) {
         if (cell.realColumn >= 0 && cell.realColumn < columnWidths.size()) {
             columnWidths[cell.realColumn] = widths.value(cell.realColumn);
         }
@@ -176,9 +220,7 @@ QHash<int, float> TXTable::optimalColumnWidths(const QFont &font) const
                 textWidth = 0.0;
                 previousColumn = cell.realColumn;
             }
-            if (hasText(cell.element)) {
-                textWidth += paddedTextWidth(cell.element.toString(), font);
-            }
+            textWidth += paddedTextWidth(cell.element, font);
             float &width = widths[cell.realColumn];
             width = std::max({width, float(cell.size.width()), float(textWidth)});
         }
@@ -210,7 +252,7 @@ float TXTable::getRowHeight(int row) const
 
 float TXTable::columnWidthAtIndex(int column) const
 {
-    return column >= 0 && column < nbColumns ? columnWidths.at(column) : 0.0F;
+    return column >= 0 && column < columnWidths.size() ? columnWidths.at(column) : 0.0F;
 }
 
 int TXTable::getNbRowDrawableOnHeight(float height, int firstRow) const
@@ -266,29 +308,32 @@ void TXTable::drawTableWithCell(TXGraphicsScene *scene, const QPointF &topLeft,
 TXTable TXTable::copyPartOfTable(const TXTable &table, int firstRow, int lastRow)
 {
     TXTable part(table);
-    part.tableCells = table.tableCells.mid(firstRow, qsizetype(lastRow) - firstRow);
-    if (firstRow != 0) {
-        part.tableCells = table.tableCells.mid(0, table.nbHeaderRows) + part.tableCells;
+    const auto rows = table.tableCells.mid(firstRow, qsizetype(lastRow) - firstRow);
+    if (firstRow == 0) {
+        part.tableCells = rows;
+    } else {
+        part.tableCells = table.tableCells.mid(0, table.nbHeaderRows);
+        part.tableCells.append(rows);
     }
     return part;
 }
 
 QHash<QString, QVariant> TXTable::headerCellHashTemplate()
 {
-    return {{"CellTextColor", QColor(Qt::white)},
-            {"CellTextBold", true},
-            {"InsideCellColor", QColor(Qt::black)},
-            {"BorderCellColor", QColor(Qt::darkGray)},
-            {"BorderCellLineWidth", kHeaderBorderWidth}};
+    return {{QStringLiteral("CellTextColor"), QColor(Qt::white)},
+            {QStringLiteral("CellTextBold"), true},
+            {QStringLiteral("InsideCellColor"), QColor(Qt::black)},
+            {QStringLiteral("BorderCellColor"), QColor(Qt::darkGray)},
+            {QStringLiteral("BorderCellLineWidth"), kHeaderBorderWidth}};
 }
 
 QHash<QString, QVariant> TXTable::invisibleCellHashTemplate()
 {
-    return {{"CellElement", QString("")},
-            {"CellTextColor", QColor(Qt::transparent)},
-            {"InsideCellColor", QColor(Qt::transparent)},
-            {"BorderCellColor", QColor(Qt::transparent)},
-            {"BorderCellLineWidth", 0}};
+    return {{QStringLiteral("CellElement"), QString("")},
+            {QStringLiteral("CellTextColor"), QColor(Qt::transparent)},
+            {QStringLiteral("InsideCellColor"), QColor(Qt::transparent)},
+            {QStringLiteral("BorderCellColor"), QColor(Qt::transparent)},
+            {QStringLiteral("BorderCellLineWidth"), 0}};
 }
 
 void TXTable::initHeaderOfTableWithTitles(TXTable &table, const QList<QVariant> &titles,
@@ -297,8 +342,8 @@ void TXTable::initHeaderOfTableWithTitles(TXTable &table, const QList<QVariant> 
     QHash<QString, QVariant> settings = headerCellHashTemplate();
     const float height = rowHeight > 0.0F ? rowHeight : table.defaultRowHeight;
     for (int i = 0; i < titles.size(); ++i) {
-        settings.insert("CellSize", QSizeF(table.columnWidthAtIndex(i), height));
-        settings.insert("CellElement", titles.at(i));
+        settings.insert(QStringLiteral("CellSize"), QSizeF(table.columnWidthAtIndex(i), height));
+        settings.insert(QStringLiteral("CellElement"), titles.at(i));
         table.addCell(i == 0 && invertFirstTitle ? inverted(settings) : settings);
     }
 }
