@@ -12,6 +12,7 @@
 #include <QSizeF>
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <utility>
 
@@ -61,29 +62,89 @@ QHash<QString, QVariant> inverted(QHash<QString, QVariant> settings)
     return settings;
 }
 
-/// What an element needs of its column: a text stands between two blanks on either side, an empty
-/// one too; pictures and elements without a text need nothing.
-double paddedTextWidth(const QVariant &element, const QFont &font)
+/// Tells what elements need of their column: a text stands between two blanks on either side, an
+/// empty one too; pictures and elements without a text need nothing.
+class PaddedTextMeter
 {
-    if (isPicture(element)) {
-        return 0.0;
+public:
+    explicit PaddedTextMeter(const QFont &font)
+        : font(font)
+    { }
+
+    double width(const QVariant &element)
+    {
+        if (isText(element)) {
+            return paddedWidth(*static_cast<const QString *>(element.constData()));
+        }
+        const QString text = isPicture(element) ? QString() : element.toString();
+        return text.isEmpty() ? 0.0 : paddedWidth(text);
     }
-    const QString text = element.toString();
-    if (text.isEmpty() && !isText(element)) {
-        return 0.0;
+
+private:
+    double paddedWidth(const QString &text)
+    {
+        constexpr QLatin1String kPadding("  ");
+        // One piece of memory serves all texts; most of them are measured already.
+        padded.resize(0);
+        padded.append(kPadding).append(text).append(kPadding);
+        return TXGraphicsScene::getBoundingRectOfText(padded, font).width();
     }
-    const QString padded = QStringLiteral("  ") + text + QStringLiteral("  ");
-    return TXGraphicsScene::getBoundingRectOfText(padded, font).width();
+
+    const QFont &font;
+    QString padded;
+};
+
+/// A width for each column, 0 at first. Any number may name a column; the usual ones are found
+/// without a search.
+class ColumnWidths
+{
+public:
+    float &operator[](int column) { return isNear(column) ? near[size_t(column)] : far[column]; }
+
+    float operator[](int column) const
+    {
+        return isNear(column) ? near[size_t(column)] : far.value(column);
+    }
+
+private:
+    static constexpr int kNearColumns = 64;
+
+    static bool isNear(int column) { return column >= 0 && column < kNearColumns; }
+
+    std::array<float, kNearColumns> near = {};
+    QHash<int, float> far;
+};
+
+/// The width of the widest cell or text in each column. The texts that a row has in one column
+/// count together.
+ColumnWidths widestColumns(const QList<QList<TXTableCell>> &rows, const QFont &font)
+{
+    ColumnWidths widths;
+    PaddedTextMeter meter(font);
+    for (const QList<TXTableCell> &cells : rows) {
+        double textWidth = 0.0;
+        int previousColumn = -1;
+        for (const TXTableCell &cell : cells) {
+            if (cell.realColumn != previousColumn) {
+                textWidth = 0.0;
+                previousColumn = cell.realColumn;
+            }
+            textWidth += meter.width(cell.element);
+            float &width = widths[cell.realColumn];
+            width = std::max({width, float(cell.size.width()), float(textWidth)});
+        }
+    }
+    return widths;
 }
 
 /// The width of a cell when the cells in its column share the column's width.
-float evenShare(const QHash<int, float> &columnWidths, const TXTableCell &cell)
+float evenShare(const ColumnWidths &columnWidths, const TXTableCell &cell)
 {
-    const float width = columnWidths.value(cell.realColumn);
+    const float width = columnWidths[cell.realColumn];
     return cell.nbMergedCell == 0 ? width : width / float(cell.nbMergedCell);
 }
 
-bool hasEvenShares(const QList<TXTableCell> &cells, const QHash<int, float> &columnWidths)
+bool hasEvenShares(const QList<TXTableCell> &cells, const ColumnWidths &columnWidths)
 {
     return std::all_of(cells.cbegin(), cells.cend(), [&](const TXTableCell &cell) {
         return cell.size.width() == double(evenShare(columnWidths, cell));
@@ -184,7 +245,10 @@ void TXTable::mergeCells(int firstCell, int lastCell, int row)
 
 void TXTable::optimizeTableSize(const QFont &font)
 {
-    const QHash<int, float> widths = optimalColumnWidths(font);
+    if (tableCells.isEmpty()) {
+        return;
+    }
+    const ColumnWidths widths = widestColumns(tableCells, font);
     for (qsizetype row = 0; row < tableCells.size(); ++row) {
         // A row that fits already stays shared with the copies of the table.
         if (hasEvenShares(tableCells.at(row), widths)) {
@@ -194,38 +258,9 @@ void TXTable::optimizeTableSize(const QFont &font)
             cell.size.setWidth(evenShare(widths, cell));
         }
     }
-    takeOverColumnWidths(widths);
-}
-
-void TXTable::takeOverColumnWidths(const QHash<int, float> &widths)
-{
-    if (tableCells.isEmpty()) {
-        return;
-    }
     for (const TXTableCell &cell : tableCells.constFirst()) {
-        if (cell.realColumn >= 0 && cell.realColumn < columnWidths.size()) {
-            columnWidths[cell.realColumn] = widths.value(cell.realColumn);
-        }
+        setColumnWidth(widths[cell.realColumn], cell.realColumn);
     }
-}
-
-QHash<int, float> TXTable::optimalColumnWidths(const QFont &font) const
-{
-    QHash<int, float> widths;
-    for (const QList<TXTableCell> &cells : tableCells) {
-        double textWidth = 0.0;
-        int previousColumn = -1;
-        for (const TXTableCell &cell : cells) {
-            if (cell.realColumn != previousColumn) {
-                textWidth = 0.0;
-                previousColumn = cell.realColumn;
-            }
-            textWidth += paddedTextWidth(cell.element, font);
-            float &width = widths[cell.realColumn];
-            width = std::max({width, float(cell.size.width()), float(textWidth)});
-        }
-    }
-    return widths;
 }
 
 float TXTable::tableWidth() const

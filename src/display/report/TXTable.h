@@ -144,8 +144,6 @@ private:
     void addCellGroup(const QHash<QString, QVariant> &dictionary, const QList<QVariant> &elements);
     void appendAtCursor(const TXTableCell &cell);
     [[nodiscard]] QRectF frameRect(const QPointF &topLeft, float margin) const;
-    [[nodiscard]] QHash<int, float> optimalColumnWidths(const QFont &font) const;
-    void takeOverColumnWidths(const QHash<int, float> &widths);
 
     int currentRow = 0;
     int currentColumn = 0;
