@@ -37,6 +37,17 @@ inline TXTableCell cell(const QVariant &element, const QSizeF &size = {50.0, 20.
     return result;
 }
 
+/// A table that was given these elements one after another.
+inline TXTable filledWith(int nbColumns, const QList<QVariant> &elements,
+                          const QSizeF &size = {90.0, 20.0})
+{
+    TXTable table(nbColumns, false);
+    for (const QVariant &element : elements) {
+        table.addCell(settings(element, size));
+    }
+    return table;
+}
+
 /// A row of one cell of this height.
 inline Row rowOfHeight(double height, const QVariant &element = QString())
 {

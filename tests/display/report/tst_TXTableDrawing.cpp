@@ -1,6 +1,7 @@
 #include "PixelProbe.h"
 #include "TXGraphicsScene.h"
 #include "TXScalablePixmapItem.h"
+#include "TXTable.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
 

@@ -1,6 +1,7 @@
 #include "TXTable.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
+#include "TextSizeCache.h"
 
 using TableTest::cellAt;
 using TableTest::font;
@@ -12,12 +13,13 @@ namespace {
 
 constexpr int kColumns = 8;
 constexpr int kRows = 125'000;
+constexpr int kTexts = 4001;
 constexpr float kPageHeight = 700.0F;
 
 /// Texts that recur, but not in the same column.
 QString textAt(int number)
 {
-    return QString::number(number % 4001);
+    return QString::number(number % kTexts);
 }
 
 } // namespace
@@ -121,10 +123,13 @@ void TestTXTableLarge::pagesHoldEachRowOnceAndShareIt()
 
 void TestTXTableLarge::optimizingFitsAllRows()
 {
+    TextSizeCache::forget();
+
     table.optimizeTableSize(font());
 
+    QCOMPARE(TextSizeCache::textCount(), kTexts);
     float widest = 0.0F;
-    for (int number = 0; number < 4001; ++number) {
+    for (int number = 0; number < kTexts; ++number) {
         widest = qMax(widest, float(TableTest::paddedWidth(QString::number(number), font())));
     }
     const Rows rows = table.getTableCellList();

@@ -1,3 +1,4 @@
+#include "TXTable.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
 

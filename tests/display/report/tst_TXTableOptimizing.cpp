@@ -1,4 +1,5 @@
 #include "TXGraphicsScene.h"
+#include "TXTable.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
 
