@@ -99,20 +99,23 @@ private:
 class ColumnWidths
 {
 public:
-    float &operator[](int column) { return isNear(column) ? near[size_t(column)] : far[column]; }
+    float &operator[](int column)
+    {
+        return isUsual(column) ? usual[size_t(column)] : others[column];
+    }
 
     float operator[](int column) const
     {
-        return isNear(column) ? near[size_t(column)] : far.value(column);
+        return isUsual(column) ? usual[size_t(column)] : others.value(column);
     }
 
 private:
-    static constexpr int kNearColumns = 64;
+    static constexpr int kUsualColumns = 64;
 
-    static bool isNear(int column) { return column >= 0 && column < kNearColumns; }
+    static bool isUsual(int column) { return column >= 0 && column < kUsualColumns; }
 
-    std::array<float, kNearColumns> near = {};
-    QHash<int, float> far;
+    std::array<float, kUsualColumns> usual = {};
+    QHash<int, float> others;
 };
 
 /// The width of the widest cell or text in each column. The texts that a row has in one column
