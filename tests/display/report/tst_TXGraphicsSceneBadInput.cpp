@@ -130,11 +130,9 @@ void TestTXGraphicsSceneBadInput::whatIsInfiniteOrNoNumberAddsNoItem()
 void TestTXGraphicsSceneBadInput::unusualLineWidthsSpoilNothing_data()
 {
     QTest::addColumn<double>("width");
-    for (const double number : kNumbers) {
-        // Qt warns of a negative width and keeps the earlier one.
-        if (!(number < 0)) {
-            QTest::addRow("%g", number) << number;
-        }
+    // Qt itself refuses what is negative or larger.
+    for (const double width : {0.0, 1e-320, 32'000.0, double(NAN)}) {
+        QTest::addRow("%g", width) << width;
     }
 }
 

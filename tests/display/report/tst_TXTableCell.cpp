@@ -10,6 +10,8 @@
 #include <QGraphicsSimpleTextItem>
 #include <QPen>
 
+#include <cmath>
+
 using SceneTestHelpers::exactly;
 using SceneTestHelpers::font;
 using SceneTestHelpers::itemAt;
@@ -61,6 +63,8 @@ private slots:
     void copyHoldsTheSame();
     void emptyCellIsItsRectangle();
     void rectangleHasBorderAndFill();
+    void bordersThatQtRefusesAreOneWide_data();
+    void bordersThatQtRefusesAreOneWide();
     void elementsWithTextAreDrawn_data();
     void elementsWithTextAreDrawn();
     void elementsWithoutTextAreNot_data();
@@ -177,8 +181,6 @@ void TestTXTableCell::valuesThatCannotBeConvertedFallToNothing()
 
 void TestTXTableCell::textThatIsNoColourIsNone()
 {
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Unknown color name"));
-
     const TXTableCell cell({{"InsideCellColor", QStringLiteral("no colour")}});
 
     QVERIFY(!cell.insideColor.isValid());
@@ -239,6 +241,25 @@ void TestTXTableCell::rectangleHasBorderAndFill()
     QCOMPARE(item->pen().style(), Qt::SolidLine);
     QCOMPARE(exactly(item->pen().widthF()), exactly(double(0.35F)));
     QCOMPARE(item->brush(), QBrush(Qt::yellow, Qt::SolidPattern));
+}
+
+void TestTXTableCell::bordersThatQtRefusesAreOneWide_data()
+{
+    QTest::addColumn<double>("width");
+    QTest::addRow("negative") << -1.0;
+    QTest::addRow("huge") << 1e7;
+    QTest::addRow("infinite") << double(INFINITY);
+}
+
+void TestTXTableCell::bordersThatQtRefusesAreOneWide()
+{
+    QFETCH(double, width);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("QPen::setWidthF: .* out of range"));
+    TXGraphicsScene scene;
+
+    draw(scene, {{"BorderCellLineWidth", width}});
+
+    QCOMPARE(onlyItem<QGraphicsRectItem>(scene)->pen().widthF(), 1.0);
 }
 
 void TestTXTableCell::elementsWithTextAreDrawn_data()
@@ -372,7 +393,7 @@ void TestTXTableCell::pictureStandsOffTheBorder()
     const auto *item = itemAt<TXScalablePixmapItem>(scene, 1);
     QVERIFY(item);
     QCOMPARE(item->sceneBoundingRect(), QRectF(11, 41, 40, 20));
-    QCOMPARE(item->pixmap().size(), QSize(111, 56));
+    QCOMPARE(item->pixmap().size(), QSize(111, 55));
 }
 
 void TestTXTableCell::pictureIsCentredWhateverTheAlignment()
