@@ -5,6 +5,7 @@
 #include <QPixmap>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -38,6 +39,12 @@ QPointF ReportPlacement::placeOfText(const QSizeF &textSize, const QRectF &rect,
         y = float(y + (height - textSize.height()) * 0.5);
     }
     return {x, y};
+}
+
+bool ReportPlacement::isDrawable(const QRectF &rect, double lineWidth)
+{
+    return std::isfinite(rect.x()) && std::isfinite(rect.y()) && std::isfinite(rect.right())
+        && std::isfinite(rect.bottom()) && std::isfinite(lineWidth);
 }
 
 ReportPlacement::PicturePlace ReportPlacement::placeOfPicture(const QSize &pixels,
@@ -82,7 +89,7 @@ QSize ReportPlacement::pixelsForPoints(const QSize &points, int dotsPerInch)
 QPixmap ReportPlacement::resampled(const QPixmap &pixmap, const QSize &pixels)
 {
     const QSize size = pixmap.size().scaled(pixels, Qt::KeepAspectRatio);
-    if (qint64(size.width()) * size.height() > kMaximumPixels) {
+    if (pixmap.isNull() || qint64(size.width()) * size.height() > kMaximumPixels) {
         return pixmap;
     }
     return pixmap.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
