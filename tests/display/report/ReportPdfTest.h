@@ -3,6 +3,7 @@
 #include "PdfFile.h"
 #include "TXError.h"
 #include "TXReportDocument.h"
+#include "TXTable.h"
 #include "TestBase.h"
 
 #include <QFont>
@@ -63,7 +64,9 @@ protected:
     /// Where a word stands that is on the page once; a null rectangle where it is not.
     [[nodiscard]] static QRectF boxOf(const QList<PdfFile::Word> &words, const QString &text)
     {
-        const auto isIt = [&](const PdfFile::Word &word) { return word.text == text; };
+        const auto isIt = [&](const PdfFile::Word &word) {
+            return word.text == text;
+        };
         if (std::count_if(words.begin(), words.end(), isIt) != 1) {
             return {};
         }
@@ -87,6 +90,47 @@ protected:
             row = next;
         }
         return texts;
+    }
+
+    /// What poppler and a PDF's own fractions of glyph widths leave of the place of a word.
+    static constexpr double kTolerancePoints = 0.1;
+
+    [[nodiscard]] static bool isNear(const QPointF &found, const QPointF &expected,
+                                     double tolerance = kTolerancePoints)
+    {
+        const QPointF difference = found - expected;
+        return qAbs(difference.x()) < tolerance && qAbs(difference.y()) < tolerance;
+    }
+
+    /// For the message of a test that fails.
+    [[nodiscard]] static QString toText(const QPointF &found, const QPointF &expected)
+    {
+        return QStringLiteral("(%1, %2), not (%3, %4)")
+            .arg(found.x())
+            .arg(found.y())
+            .arg(expected.x())
+            .arg(expected.y());
+    }
+
+    /// A cell whose text stands at its top left corner.
+    [[nodiscard]] static QHash<QString, QVariant> leftTopCell(const QVariant &element,
+                                                              const QSizeF &size)
+    {
+        return {{QStringLiteral("CellElement"), element},
+                {QStringLiteral("CellSize"), size},
+                {QStringLiteral("CellTextHorizontalAlign"), TXAlignLeft},
+                {QStringLiteral("CellTextVerticalAlign"), TXAlignTop}};
+    }
+
+    /// Rows of two columns: "n<row>" and the text.
+    [[nodiscard]] static TXTable tableOf(const QStringList &texts)
+    {
+        TXTable table(2, false);
+        for (int row = 0; row < texts.size(); ++row) {
+            table.addCell(leftTopCell(QStringLiteral("n%1").arg(row), {40, 20}));
+            table.addCell(leftTopCell(texts[row], {300, 20}));
+        }
+        return table;
     }
 
 private:

@@ -76,7 +76,8 @@ void TestReportPdfPictures::pictureOfASceneHasItsResolution_data()
     QTest::newRow("as large as it is kept") << QSize(200, 200) << QSizeF(72, 72) << QSizeF(72, 72);
     QTest::newRow("made smaller") << QSize(1500, 1000) << QSizeF(180, 180) << QSizeF(180, 120);
     QTest::newRow("made larger") << QSize(10, 20) << QSizeF(144, 144) << QSizeF(72, 144);
-    QTest::newRow("as large as the page") << QSize(300, 420) << QSizeF(500, 700) << QSizeF(500, 700);
+    QTest::newRow("as large as the page")
+        << QSize(300, 420) << QSizeF(500, 700) << QSizeF(500, 700);
 }
 
 void TestReportPdfPictures::pictureOfASceneHasItsResolution()
@@ -219,11 +220,11 @@ void TestReportPdfPictures::pictureStandsInItsRectangle()
     for (const QPoint &place : {inside.topLeft(), inside.bottomRight()}) {
         QVERIFY2(page.isNear(place, Qt::darkRed, 2), qPrintable(page.at(place).name()));
     }
-    for (const QPoint &place : {outside.topLeft(), outside.bottomRight(),
-                                QPoint(outside.left(), expected.center().y()),
-                                QPoint(expected.center().x(), outside.top()),
-                                QPoint(outside.right(), expected.center().y()),
-                                QPoint(expected.center().x(), outside.bottom())}) {
+    for (const QPoint &place :
+         {outside.topLeft(), outside.bottomRight(), QPoint(outside.left(), expected.center().y()),
+          QPoint(expected.center().x(), outside.top()),
+          QPoint(outside.right(), expected.center().y()),
+          QPoint(expected.center().x(), outside.bottom())}) {
         QVERIFY2(page.isNear(place, Qt::white, 2), qPrintable(page.at(place).name()));
     }
 }
