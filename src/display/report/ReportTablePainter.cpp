@@ -46,6 +46,7 @@ public:
     void paintCells(const TXTable &table, const QPointF &topLeft);
 
 private:
+    [[nodiscard]] bool isDrawable(const QRectF &rect) const;
     void paintFrameWithEffect(const TXTable &table, const QPointF &topLeft);
     void paintCell(const TXTableCell &cell, const QRectF &rect);
     void paintPicture(const QPixmap &pixmap, const QRectF &rect);
@@ -57,6 +58,7 @@ private:
     ReportTablePainter *owner;
     QPainter *painter;
     QTransform transform;
+    bool isPaper;
     bool isPdf;
 
     QPen border;
@@ -76,6 +78,7 @@ private:
 ReportTablePainter::Run::Run(ReportTablePainter *owner, QPainter *painter)
     : owner(owner)
     , painter(painter)
+    , isPaper(ReportShadow::isForPaper(painter))
     , isPdf(painter->paintEngine()->type() == QPaintEngine::Pdf)
 {
     painter->save();
@@ -91,13 +94,19 @@ ReportTablePainter::Run::~Run()
     painter->restore();
 }
 
+/// Numbers that are none would break the file.
+bool ReportTablePainter::Run::isDrawable(const QRectF &rect) const
+{
+    return !isPaper || isFinite(rect);
+}
+
 void ReportTablePainter::Run::paintFrame(const TXTable &table, const QPointF &topLeft)
 {
     const QRectF frame = table.frameRect(topLeft, kFrameMargin);
-    if (!isFinite(frame)) {
+    if (!isDrawable(frame)) {
         return;
     }
-    if (table.hasShadow && !ReportShadow::isForPaper(painter)) {
+    if (table.hasShadow && !isPaper) {
         paintFrameWithEffect(table, topLeft);
         return;
     }
@@ -142,7 +151,7 @@ void ReportTablePainter::Run::paintCells(const TXTable &table, const QPointF &to
 void ReportTablePainter::Run::paintCell(const TXTableCell &cell, const QRectF &rect)
 {
     const bool isSeen = cell.borderColor.alpha() != 0 || cell.insideColor.alpha() != 0;
-    if (isSeen && isFinite(rect)) {
+    if (isSeen && isDrawable(rect)) {
         setBorderPen(cell.borderColor, cell.borderLineWidth);
         setInsideBrush(cell.insideColor);
         painter->drawRect(rect);
