@@ -97,7 +97,8 @@ public:
     void setHeaderFont(const QFont &font);
 
     /// Where the content stands, in points from the paper's top left corner: the paper without its
-    /// margins, header and footer, of no size where they leave nothing. The point (0, 0) of a scene comes to its top left corner.
+    /// margins, header and footer, of no size where they leave nothing. The point (0, 0) of a scene
+    /// comes to its top left corner.
     [[nodiscard]] QRectF contentRect() const;
 
     /// @}
