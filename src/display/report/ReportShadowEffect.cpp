@@ -1,5 +1,9 @@
 #include "ReportShadowEffect.h"
 
+#include "ReportShadow.h"
+
+#include <QPainter>
+
 namespace {
 constexpr double kBlurRadiusUnits = 40.0;
 }
@@ -11,4 +15,16 @@ ReportShadowEffect::ReportShadowEffect(QObject *parent)
     setOffset(0, 0);
     setBlurRadius(kBlurRadiusUnits);
     setEnabled(true);
+}
+
+void ReportShadowEffect::draw(QPainter *painter)
+{
+    if (!ReportShadow::isForPaper(painter)) {
+        QGraphicsDropShadowEffect::draw(painter);
+        return;
+    }
+    ReportShadow::paint(painter, sourceBoundingRect(Qt::DeviceCoordinates),
+                        {color(), blurRadius(), offset()},
+                        [this](QPainter *source) { drawSource(source); });
+    drawSource(painter);
 }

@@ -14,5 +14,11 @@ class TXGUICOMMON_PRIVATE_EXPORT ReportShadowEffect : public QGraphicsDropShadow
     Q_OBJECT
 
 public:
+    /// Grey, reaching 40 units to all sides, enabled. A parent owns the effect, as an item does.
     explicit ReportShadowEffect(QObject *parent = nullptr);
+
+protected:
+    /// Draws the shadow and then the item. On paper a unit of the shadow is a point, whatever
+    /// scale the item is drawn in, just as it is a pixel on the screen.
+    void draw(QPainter *painter) override;
 };

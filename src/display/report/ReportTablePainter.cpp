@@ -1,15 +1,276 @@
 #include "ReportTablePainter.h"
 
+#include "ReportPlacement.h"
+#include "ReportShadow.h"
+#include "ReportShadowEffect.h"
 #include "TXGraphicsScene.h"
 #include "TXTable.h"
+#include "TextSizeCache.h"
 
+#include <QBrush>
+#include <QFont>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPen>
+
+#include <cmath>
+
+namespace {
+
+constexpr float kFrameMargin = 5.0F;
+constexpr float kFramePenWidth = 0.1F;
+constexpr double kPictureInset = 1.0;
+constexpr QSizeF kTextMargins(2.0, 2.0);
+
+bool isFinite(const QPointF &point)
+{
+    return std::isfinite(point.x()) && std::isfinite(point.y());
+}
+
+bool isFinite(const QRectF &rect)
+{
+    return isFinite(rect.topLeft()) && std::isfinite(rect.width()) && std::isfinite(rect.height());
+}
+
+} // namespace
+
+/// The painting of one table. Pens and brushes are made and set only where they change from cell to
+/// cell, as each change costs time, and room in a PDF.
+class ReportTablePainter::Run
+{
+public:
+    Run(ReportTablePainter *owner, QPainter *painter);
+    ~Run();
+
+    void paintFrame(const TXTable &table, const QPointF &topLeft);
+    void paintCells(const TXTable &table, const QPointF &topLeft);
+
+private:
+    [[nodiscard]] bool isDrawable(const QRectF &rect) const;
+    void paintFrameWithEffect(const TXTable &table, const QPointF &topLeft);
+    void paintCell(const TXTableCell &cell, const QRectF &rect);
+    void paintPicture(const QPixmap &pixmap, const QRectF &rect);
+    void paintText(const TXTableCell &cell, const QString &text, const QRectF &rect);
+    void setBorderPen(const QColor &colour, double width);
+    void setTextPen(const QColor &colour);
+    void setInsideBrush(const QColor &colour);
+
+    ReportTablePainter *owner;
+    QPainter *painter;
+    QTransform transform;
+    bool isPaper;
+    bool isPdf;
+
+    QPen border;
+    QColor borderColour;
+    double borderWidth = 0.0;
+    bool isBorderMade = false;
+    bool isBorderSet = false;
+
+    /// Of the pen that is set, be it the border's or the text's: texts care for nothing else of it.
+    QColor penColour;
+    bool isPenSet = false;
+
+    QColor brushColour;
+    bool isBrushSet = false;
+};
+
+ReportTablePainter::Run::Run(ReportTablePainter *owner, QPainter *painter)
+    : owner(owner)
+    , painter(painter)
+    , isPaper(ReportShadow::isForPaper(painter))
+    , isPdf(painter->paintEngine()->type() == QPaintEngine::Pdf)
+{
+    painter->save();
+    if (isPdf) {
+        // Changes nothing there, but Qt would switch it on and off again for each text.
+        painter->setRenderHint(QPainter::Antialiasing);
+    }
+    transform = painter->worldTransform();
+}
+
+ReportTablePainter::Run::~Run()
+{
+    painter->restore();
+}
+
+/// Numbers that are none would break the file.
+bool ReportTablePainter::Run::isDrawable(const QRectF &rect) const
+{
+    return !isPaper || isFinite(rect);
+}
+
+void ReportTablePainter::Run::paintFrame(const TXTable &table, const QPointF &topLeft)
+{
+    const QRectF frame = table.frameRect(topLeft, kFrameMargin);
+    if (!isDrawable(frame)) {
+        return;
+    }
+    if (table.hasShadow && !isPaper) {
+        paintFrameWithEffect(table, topLeft);
+        return;
+    }
+    const auto drawFrame = [&frame](QPainter *target) {
+        target->setPen(QPen(Qt::black, kFramePenWidth));
+        target->setBrush(Qt::white);
+        target->drawRect(frame);
+    };
+    if (table.hasShadow) {
+        const double outside = double(kFramePenWidth) / 2;
+        const QRectF bounds = frame.adjusted(-outside, -outside, outside, outside);
+        const ReportShadowEffect effect;
+        ReportShadow::paint(painter, transform.mapRect(bounds),
+                            {effect.color(), effect.blurRadius(), effect.offset()}, drawFrame);
+    }
+    drawFrame(painter);
+}
+
+/// On pixels the shadow is Qt's own, which only items have.
+void ReportTablePainter::Run::paintFrameWithEffect(const TXTable &table, const QPointF &topLeft)
+{
+    const QPaintDevice *device = painter->device();
+    const QRectF pixels = QRectF(0, 0, device->width(), device->height()).adjusted(-1, -1, 1, 1);
+    const QRectF visible = painter->combinedTransform().inverted().mapRect(pixels);
+    TXGraphicsScene scene;
+    table.drawBorderTable(&scene, topLeft, kFrameMargin);
+    scene.render(painter, visible, visible);
+}
+
+void ReportTablePainter::Run::paintCells(const TXTable &table, const QPointF &topLeft)
+{
+    QPointF place = topLeft;
+    for (int row = 0; row < table.tableCells.size(); ++row) {
+        for (const TXTableCell &cell : table.tableCells.at(row)) {
+            paintCell(cell, QRectF(place, cell.size));
+            place.rx() += cell.size.width();
+        }
+        place = {topLeft.x(), place.y() + table.getRowHeight(row)};
+    }
+}
+
+void ReportTablePainter::Run::paintCell(const TXTableCell &cell, const QRectF &rect)
+{
+    const bool isSeen = cell.borderColor.alpha() != 0 || cell.insideColor.alpha() != 0;
+    if (isSeen && isDrawable(rect)) {
+        setBorderPen(cell.borderColor, cell.borderLineWidth);
+        setInsideBrush(cell.insideColor);
+        painter->drawRect(rect);
+    }
+    if (cell.element.typeId() == QMetaType::QPixmap) {
+        paintPicture(cell.element.value<QPixmap>(), rect);
+        return;
+    }
+    const QString text = cell.element.toString();
+    if (!text.isEmpty()) {
+        paintText(cell, text, rect);
+    }
+}
+
+void ReportTablePainter::Run::paintPicture(const QPixmap &pixmap, const QRectF &rect)
+{
+    if (pixmap.isNull()) {
+        return;
+    }
+    const QRectF inner =
+        rect.adjusted(kPictureInset, kPictureInset, -kPictureInset, -kPictureInset);
+    const auto [topLeft, size] = ReportPlacement::placeOfPicture(
+        pixmap.size(), inner, TXAlignHorizontallyCentred, TXAlignVerticallyCentred);
+    if (size.isEmpty() || !isFinite(topLeft)) {
+        return;
+    }
+    painter->save();
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter->setWorldTransform(QTransform::fromTranslate(topLeft.x(), topLeft.y()) * transform);
+    painter->drawPixmap(QRect(QPoint(), size), owner->pictures.resampled(pixmap, size));
+    painter->restore();
+}
+
+void ReportTablePainter::Run::paintText(const TXTableCell &cell, const QString &text,
+                                        const QRectF &rect)
+{
+    ReportTextLayouts &texts = cell.bold ? *owner->boldTexts : *owner->plainTexts;
+    const ReportTextLayouts::Text &ready = texts.text(text);
+    const QPointF place =
+        ReportPlacement::placeOfText(ready.size, rect, TXHorizontalAlignment(cell.horizontalAlign),
+                                     TXVerticalAlignment(cell.verticalAlign), kTextMargins);
+    if (!isFinite(place)) {
+        return;
+    }
+    setTextPen(cell.textColor);
+    if (isPdf) {
+        ready.layout.draw(painter, place);
+        return;
+    }
+    // Qt rounds the place of a text to 1/64, but not a transformation.
+    painter->setWorldTransform(QTransform::fromTranslate(place.x(), place.y()) * transform);
+    ready.layout.draw(painter, QPointF(0, 0));
+    painter->setWorldTransform(transform);
+}
+
+void ReportTablePainter::Run::setBorderPen(const QColor &colour, double width)
+{
+    if (!isBorderMade || colour != borderColour || width != borderWidth) {
+        border = QPen();
+        border.setWidthF(width);
+        border.setColor(colour);
+        borderColour = colour;
+        borderWidth = width;
+        isBorderMade = true;
+        isBorderSet = false;
+    }
+    if (!isBorderSet) {
+        painter->setPen(border);
+        penColour = colour;
+        isBorderSet = true;
+        isPenSet = true;
+    }
+}
+
+void ReportTablePainter::Run::setTextPen(const QColor &colour)
+{
+    if (!isPenSet || colour != penColour) {
+        painter->setPen(QPen(colour));
+        penColour = colour;
+        isPenSet = true;
+        isBorderSet = false;
+    }
+}
+
+void ReportTablePainter::Run::setInsideBrush(const QColor &colour)
+{
+    if (!isBrushSet || colour != brushColour) {
+        painter->setBrush(QBrush(colour, Qt::SolidPattern));
+        brushColour = colour;
+        isBrushSet = true;
+    }
+}
+
+ReportTablePainter::ReportTablePainter() = default;
+ReportTablePainter::~ReportTablePainter() = default;
+
+void ReportTablePainter::paintTable(QPainter *painter, const TXTable &table, const QPointF &topLeft,
+                                    const QFont &font)
+{
+    setFont(font);
+    Run run(this, painter);
+    run.paintFrame(table, topLeft);
+    run.paintCells(table, topLeft);
+}
+
+void ReportTablePainter::setFont(const QFont &font)
+{
+    if (plainTexts && tableFont == font) {
+        return;
+    }
+    tableFont = font;
+    plainTexts =
+        std::make_unique<ReportTextLayouts>(TextSizeCache::fontWithWeight(font, QFont::Normal));
+    boldTexts =
+        std::make_unique<ReportTextLayouts>(TextSizeCache::fontWithWeight(font, QFont::Bold));
+}
 
 void ReportTablePainter::paint(QPainter *painter, const TXTable &table, const QPointF &topLeft,
                                const QFont &font)
 {
-    TXGraphicsScene scene;
-    scene.drawTable(table, topLeft, font);
-    const QRectF extent = scene.itemsBoundingRect();
-    scene.render(painter, extent, extent);
+    ReportTablePainter().paintTable(painter, table, topLeft, font);
 }

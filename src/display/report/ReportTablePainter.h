@@ -1,22 +1,50 @@
 #pragma once
 
+#include "ReportPictures.h"
+#include "ReportTextLayouts.h"
 #include "TXGUICommonExport.h"
+
+#include <memory>
 
 class QFont;
 class QPainter;
 class QPointF;
 class TXTable;
 
-/// Paints a table straight to a painter, as TXGraphicsScene::drawTable() and a rendering of the
-/// scene would show it, without an item for each cell.
+/// Paints tables straight to a painter, as TXGraphicsScene::drawTable() and a rendering of the
+/// scene would show them, without an item for each cell.
 ///
-/// Costs the same for each cell; memory for nothing but remembered texts and pictures, which is
-/// bounded. Thread: any one at a time.
+/// Keep one painter for a whole report: it remembers texts laid out and pictures resampled, so that
+/// what comes again costs little, and equal pictures are one in a PDF. What it remembers is
+/// bounded; nothing else grows with the table. Costs the same for each cell.
+///
+/// Thread: any one at a time; the GUI thread where a table with a shadow is painted to pixels.
 class TXGUICOMMON_PRIVATE_EXPORT ReportTablePainter
 {
+    Q_DISABLE_COPY_MOVE(ReportTablePainter)
+
 public:
+    ReportTablePainter();
+    ~ReportTablePainter();
+
     /// Paints frame and cells, one unit of the painter being a point. `topLeft` is the corner of
-    /// the cells; the frame stands 5 points out. Leaves the painter's state as it was.
+    /// the cells; the frame stands 5 points out. In a PDF texts stand within 1/128 point of where
+    /// the scene has them, everywhere else exactly there. What has no place or size that is a
+    /// finite number is left out. Leaves the painter's state as it was.
+    void paintTable(QPainter *painter, const TXTable &table, const QPointF &topLeft,
+                    const QFont &font);
+
+    /// Paints one table with nothing remembered before or after; otherwise as paintTable().
     static void paint(QPainter *painter, const TXTable &table, const QPointF &topLeft,
                       const QFont &font);
+
+private:
+    class Run;
+
+    void setFont(const QFont &font);
+
+    std::unique_ptr<ReportTextLayouts> plainTexts;
+    std::unique_ptr<ReportTextLayouts> boldTexts;
+    QFont tableFont;
+    ReportPictures pictures;
 };

@@ -1,64 +1,204 @@
 #include "TXReportDocument.h"
 
+#include "PdfDocumentInfo.h"
+#include "ReportContent.h"
+#include "ReportPages.h"
+#include "ReportPdfWriting.h"
+#include "ReportPrinting.h"
+#include "ReportRun.h"
+#include "TXStringI18n.h"
+#include "TXTable.h"
+
 #include <QFont>
+#include <QPageSize>
+#include <QPainter>
+
+#include <utility>
+
+namespace {
+
+constexpr double kMarginPoints = 36.0;
+
+QPageLayout defaultLayout()
+{
+    return {QPageSize(QPageSize::A4), QPageLayout::Portrait,
+            QMarginsF(kMarginPoints, kMarginPoints, kMarginPoints, kMarginPoints),
+            QPageLayout::Point};
+}
+
+TXStringI18n words(const char *source)
+{
+    return {"TXReportDocument", source, nullptr, -1};
+}
+
+} // namespace
 
 class TXReportDocument::Private
-{ };
+{
+public:
+    [[nodiscard]] bool hasSomethingToShow(ReportRun &run);
+    [[nodiscard]] PdfDocumentInfo documentInfo() const;
 
-TXReportDocument::TXReportDocument() = default;
+    ReportPages pages;
+    QString author;
+    ReportRunState state;
+};
+
+bool TXReportDocument::Private::hasSomethingToShow(ReportRun &run)
+{
+    if (pages.count() == 0) {
+        run.fail(words(QT_TRANSLATE_NOOP("TXReportDocument", "The report has no pages.")));
+        return false;
+    }
+    if (pages.paper().content.isEmpty()) {
+        run.fail(words(QT_TRANSLATE_NOOP(
+            "TXReportDocument",
+            "The margins, the header and the footer leave no room on the paper.")));
+        return false;
+    }
+    return true;
+}
+
+PdfDocumentInfo TXReportDocument::Private::documentInfo() const
+{
+    PdfDocumentInfo info;
+    info.title = ReportTextLine::onOneLine(pages.frame().title);
+    info.author = ReportTextLine::onOneLine(author);
+    info.creator = QCoreApplication::applicationName();
+    info.creationTime = QDateTime::currentDateTimeUtc();
+    return info;
+}
+
+TXReportDocument::TXReportDocument()
+    : d(std::make_unique<Private>())
+{
+    d->pages.setLayout(defaultLayout());
+    ReportPageFrame &frame = d->pages.changeFrame();
+    frame.header.setText(QStringLiteral("{title}"), TXAlignLeft);
+    frame.footer.setText(tr("page {page} of {pages}"), TXAlignHorizontallyCentred);
+}
+
 TXReportDocument::~TXReportDocument() = default;
+
 QPageLayout TXReportDocument::pageLayout() const
 {
-    return {};
+    return d->pages.layout();
 }
-void TXReportDocument::setPageLayout(const QPageLayout &) { }
+
+void TXReportDocument::setPageLayout(const QPageLayout &layout)
+{
+    if (layout.isValid()) {
+        d->pages.setLayout(layout);
+    }
+}
+
 QString TXReportDocument::title() const
 {
-    return {};
+    return d->pages.frame().title;
 }
-void TXReportDocument::setTitle(const QString &) { }
+
+void TXReportDocument::setTitle(const QString &title)
+{
+    d->pages.changeFrame().title = title;
+}
+
 QString TXReportDocument::author() const
 {
-    return {};
+    return d->author;
 }
-void TXReportDocument::setAuthor(const QString &) { }
-QString TXReportDocument::headerText(TXHorizontalAlignment) const
+
+void TXReportDocument::setAuthor(const QString &author)
 {
-    return {};
+    d->author = author;
 }
-void TXReportDocument::setHeaderText(const QString &, TXHorizontalAlignment) { }
-QString TXReportDocument::footerText(TXHorizontalAlignment) const
+
+QString TXReportDocument::headerText(TXHorizontalAlignment place) const
 {
-    return {};
+    return d->pages.frame().header.text(place);
 }
-void TXReportDocument::setFooterText(const QString &, TXHorizontalAlignment) { }
+
+void TXReportDocument::setHeaderText(const QString &text, TXHorizontalAlignment place)
+{
+    d->pages.changeFrame().header.setText(text, place);
+}
+
+QString TXReportDocument::footerText(TXHorizontalAlignment place) const
+{
+    return d->pages.frame().footer.text(place);
+}
+
+void TXReportDocument::setFooterText(const QString &text, TXHorizontalAlignment place)
+{
+    d->pages.changeFrame().footer.setText(text, place);
+}
+
 QFont TXReportDocument::headerFont() const
 {
-    return {};
+    return d->pages.frame().font;
 }
-void TXReportDocument::setHeaderFont(const QFont &) { }
+
+void TXReportDocument::setHeaderFont(const QFont &font)
+{
+    d->pages.changeFrame().font = font;
+}
+
 QRectF TXReportDocument::contentRect() const
 {
-    return {};
+    return d->pages.paper().content;
 }
-void TXReportDocument::addPage(TXGraphicsScene *) { }
-void TXReportDocument::addPages(int, PageDrawing) { }
-void TXReportDocument::addTable(const TXTable &, const QFont &) { }
+
+void TXReportDocument::addPage(TXGraphicsScene *scene)
+{
+    if (scene != nullptr) {
+        d->pages.add(std::make_unique<ReportScenePage>(scene));
+    }
+}
+
+void TXReportDocument::addPages(int count, PageDrawing draw)
+{
+    if (count > 0 && draw) {
+        d->pages.add(std::make_unique<ReportDrawnPages>(count, std::move(draw)));
+    }
+}
+
+void TXReportDocument::addTable(const TXTable &table, const QFont &font)
+{
+    d->pages.add(std::make_unique<ReportTableContent>(table, font));
+}
+
 int TXReportDocument::pageCount() const
 {
-    return 0;
+    return d->pages.count();
 }
-void TXReportDocument::paintPage(int, QPainter *) const { }
-bool TXReportDocument::writePdf(const QString &, ICompletionDelegate *, TXError *)
+
+void TXReportDocument::paintPage(int page, QPainter *painter) const
 {
-    return false;
+    if (painter != nullptr && painter->isActive()) {
+        d->pages.paint(page, painter);
+    }
 }
-bool TXReportDocument::print(QPrinter *, ICompletionDelegate *, TXError *)
+
+bool TXReportDocument::writePdf(const QString &fileName, ICompletionDelegate *delegate,
+                                TXError *error)
 {
-    return false;
+    ReportRun run(&d->state, d->pages.frame().title, delegate, error);
+    return run.isGoingOn() && d->hasSomethingToShow(run)
+        && ReportPdfWriting::write(d->pages, d->documentInfo(), fileName, run);
 }
-void TXReportDocument::cancel() { }
+
+bool TXReportDocument::print(QPrinter *printer, ICompletionDelegate *delegate, TXError *error)
+{
+    ReportRun run(&d->state, d->pages.frame().title, delegate, error);
+    return run.isGoingOn() && d->hasSomethingToShow(run)
+        && ReportPrinting::print(d->pages, printer, run);
+}
+
+void TXReportDocument::cancel()
+{
+    d->state.cancel();
+}
+
 bool TXReportDocument::isCancelled() const
 {
-    return false;
+    return d->state.isCancelled();
 }

@@ -1,0 +1,129 @@
+#include "ReportContent.h"
+
+#include "ReportTablePainter.h"
+#include "TXGraphicsScene.h"
+#include "TXTableCell.h"
+
+#include <QGraphicsItem>
+#include <QPainter>
+
+#include <cmath>
+#include <utility>
+
+namespace {
+
+/// How far the frame of a table stands out from its cells, on each side.
+constexpr double kTableFramePoints = 5.0;
+
+/// Farther out, Qt writes numbers into a PDF that are none, and the page is lost.
+constexpr double kFarthestPoints = 1e8;
+
+bool isFarOut(const QGraphicsItem &item)
+{
+    const QRectF box = item.sceneBoundingRect();
+    const auto isNear = [](double place) {
+        return std::abs(place) <= kFarthestPoints; // false for what is not a number
+    };
+    return !(isNear(box.left()) && isNear(box.top()) && isNear(box.right())
+             && isNear(box.bottom()));
+}
+
+/// Hides what is too far out as long as it lives.
+class FarItemsHidden
+{
+    Q_DISABLE_COPY_MOVE(FarItemsHidden)
+
+public:
+    explicit FarItemsHidden(const QGraphicsScene &scene)
+    {
+        const QList<QGraphicsItem *> items = scene.items();
+        for (QGraphicsItem *item : items) {
+            if (item->isVisible() && isFarOut(*item)) {
+                item->setVisible(false);
+                hidden.append(item);
+            }
+        }
+    }
+    ~FarItemsHidden()
+    {
+        for (QGraphicsItem *item : std::as_const(hidden)) {
+            item->setVisible(true);
+        }
+    }
+
+private:
+    QList<QGraphicsItem *> hidden;
+};
+
+/// All of the sheet shows the scene, not only where the content belongs.
+void renderScene(TXGraphicsScene &scene, QPainter *painter, const ReportPaper &paper)
+{
+    const QRectF source = paper.sheet.translated(-paper.content.topLeft());
+    const FarItemsHidden hidden(scene);
+    scene.render(painter, paper.sheet, source, Qt::IgnoreAspectRatio);
+}
+
+} // namespace
+
+ReportContent::~ReportContent() = default;
+
+ReportScenePage::ReportScenePage(TXGraphicsScene *scene)
+    : scene(scene)
+{ }
+
+int ReportScenePage::pageCount(const ReportPaper & /*paper*/)
+{
+    return 1;
+}
+
+void ReportScenePage::paint(QPainter *painter, int /*page*/, const ReportPaper &paper)
+{
+    if (scene != nullptr) {
+        renderScene(*scene, painter, paper);
+    }
+}
+
+ReportDrawnPages::ReportDrawnPages(int count, Drawing draw)
+    : count(count)
+    , draw(std::move(draw))
+{ }
+
+int ReportDrawnPages::pageCount(const ReportPaper & /*paper*/)
+{
+    return count;
+}
+
+void ReportDrawnPages::paint(QPainter *painter, int page, const ReportPaper &paper)
+{
+    TXGraphicsScene scene;
+    // For one rendering a search tree would cost more than it saves.
+    scene.setItemIndexMethod(QGraphicsScene::NoIndex);
+    draw(&scene, page);
+    renderScene(scene, painter, paper);
+}
+
+ReportTableContent::ReportTableContent(const TXTable &table, const QFont &font)
+    : table(table)
+    , font(font)
+{ }
+
+const ReportTablePages &ReportTableContent::pagesOn(const ReportPaper &paper)
+{
+    const double height = paper.content.height() - 2 * kTableFramePoints;
+    if (!pages.has_value() || height != cutHeight) {
+        pages.emplace(table, float(height));
+        cutHeight = height;
+    }
+    return *pages;
+}
+
+int ReportTableContent::pageCount(const ReportPaper &paper)
+{
+    return pagesOn(paper).count();
+}
+
+void ReportTableContent::paint(QPainter *painter, int page, const ReportPaper &paper)
+{
+    const QPointF cells = paper.content.topLeft() + QPointF(kTableFramePoints, kTableFramePoints);
+    ReportTablePainter::paint(painter, pagesOn(paper).page(page), cells, font);
+}

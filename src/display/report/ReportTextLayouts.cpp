@@ -1,0 +1,54 @@
+#include "ReportTextLayouts.h"
+
+#include "TextSizeCache.h"
+
+#include <utility>
+
+namespace {
+
+/// In characters. A laid out text takes some hundred bytes and about 40 for each character.
+constexpr qsizetype kRememberedCharacters = 64 * 1024;
+constexpr qsizetype kCharactersForEachText = 16;
+
+std::unique_ptr<ReportTextLayouts::Text> laidOut(QString text, const QFont &font)
+{
+    auto made = std::make_unique<ReportTextLayouts::Text>();
+    made->size = TextSizeCache::textSize(text, font);
+    QTextLayout &layout = made->layout;
+    layout.setFont(font);
+    layout.setText(text.replace(QLatin1Char('\n'), QChar::LineSeparator));
+    layout.setCacheEnabled(true);
+    layout.beginLayout();
+    while (layout.createLine().isValid()) { }
+    layout.endLayout();
+    double y = 0.0;
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        QTextLine line = layout.lineAt(i);
+        line.setPosition(QPointF(0, y));
+        y += line.height();
+    }
+    return made;
+}
+
+} // namespace
+
+ReportTextLayouts::ReportTextLayouts(const QFont &font)
+    : textFont(font)
+    , remembered(kRememberedCharacters)
+{ }
+
+const ReportTextLayouts::Text &ReportTextLayouts::text(const QString &text)
+{
+    if (const Text *known = remembered.object(text)) {
+        return *known;
+    }
+    std::unique_ptr<Text> made = laidOut(text, textFont);
+    const qsizetype cost = text.size() + kCharactersForEachText;
+    if (cost > remembered.maxCost()) {
+        tooLong = std::move(made);
+        return *tooLong;
+    }
+    const Text &result = *made;
+    remembered.insert(text, made.release(), cost);
+    return result;
+}
