@@ -12,9 +12,8 @@
 /// What is appended is an update in the sense of the PDF format: a new information dictionary, the
 /// cross-reference that names it and a trailer that points back to the one before. Nothing that is
 /// written already changes.
-class TXGUICOMMON_PRIVATE_EXPORT PdfDocumentInfo
+struct TXGUICOMMON_PRIVATE_EXPORT PdfDocumentInfo
 {
-public:
     QString title;
     QString author;
     /// The program that made the document.

@@ -28,8 +28,9 @@ QRectF ReportPageFrame::contentRect(const QRectF &withinMargins) const
     QRectF content = withinMargins;
     content.adjust(0, header.isBlank(facts) ? 0 : lineRoom, 0,
                    footer.isBlank(facts) ? 0 : -lineRoom);
+    // In this order of arguments what is not a number becomes 0 too.
     return {content.topLeft(),
-            QSizeF(std::max(content.width(), 0.0), std::max(content.height(), 0.0))};
+            QSizeF(std::max(0.0, content.width()), std::max(0.0, content.height()))};
 }
 
 void ReportPageFrame::paint(QPainter *painter, const QRectF &withinMargins, int page,

@@ -1,5 +1,8 @@
 #include "ReportPdfFile.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
+
 #include <algorithm>
 
 ReportPdfFile::ReportPdfFile(const QString &fileName)
@@ -8,19 +11,43 @@ ReportPdfFile::ReportPdfFile(const QString &fileName)
     file.setDirectWriteFallback(false);
 }
 
+QString ReportPdfFile::refusal() const
+{
+    const QString name = file.fileName();
+    if (name.isEmpty() || name.contains(QChar::Null)) {
+        return QCoreApplication::translate("TXReportDocument", "This is not a file name.");
+    }
+    // With the rights to, QSaveFile would put a file in the place of a device.
+    const QFileInfo target(name);
+    if (target.exists() && !target.isFile() && !target.isDir()) {
+        return QCoreApplication::translate("TXReportDocument", "This is not a regular file.");
+    }
+    return {};
+}
+
 bool ReportPdfFile::open(OpenMode /*mode*/)
 {
+    const QString refused = refusal();
+    if (!refused.isEmpty()) {
+        fail(refused);
+        return false;
+    }
     return file.open(WriteOnly) && QIODevice::open(WriteOnly | Unbuffered);
 }
 
 bool ReportPdfFile::hasFailed() const
 {
-    return file.error() != QFileDevice::NoError;
+    return !failure.isEmpty() || file.error() != QFileDevice::NoError;
 }
 
 QString ReportPdfFile::reason() const
 {
-    return file.errorString();
+    return failure.isEmpty() ? file.errorString() : failure;
+}
+
+void ReportPdfFile::fail(const QString &reason)
+{
+    failure = reason;
 }
 
 bool ReportPdfFile::commit()

@@ -18,7 +18,8 @@ public:
 
     explicit ReportPdfFile(const QString &fileName);
 
-    /// Opens the file for writing, in whatever mode is asked for.
+    /// Opens the file for writing, in whatever mode is asked for. Fails where a file of this name
+    /// can't be replaced by a finished one, as with devices and pipes.
     bool open(OpenMode mode) override;
     [[nodiscard]] bool isSequential() const override { return true; }
 
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] bool hasFailed() const;
     /// Why, in the words of the system.
     [[nodiscard]] QString reason() const;
+    /// Gives the file up for a reason of the caller's.
+    void fail(const QString &reason);
 
     /// How many bytes are written.
     [[nodiscard]] qint64 writtenBytes() const { return written; }
@@ -40,7 +43,10 @@ protected:
     qint64 writeData(const char *data, qint64 length) override;
 
 private:
+    [[nodiscard]] QString refusal() const;
+
     QSaveFile file;
+    QString failure;
     QByteArray lastBytes;
     qint64 written = 0;
 };

@@ -5,36 +5,31 @@
 
 #include <algorithm>
 
-namespace {
-
-QPageRanges wantedRanges(const QPrinter &printer, int pageCount)
+ReportPrintRange::ReportPrintRange(const QPrinter &printer, int pageCount)
+    : isBackwards(printer.pageOrder() == QPrinter::LastPageFirst)
 {
-    QPageRanges ranges = printer.pageRanges();
-    if (ranges.isEmpty() && printer.fromPage() > 0) {
-        ranges.addRange(printer.fromPage(), std::max(printer.fromPage(), printer.toPage()));
+    const QList<QPageRanges::Range> ranges = printer.pageRanges().toRangeList();
+    for (const QPageRanges::Range &range : ranges) {
+        append(std::max(range.from, 1) - 1, std::min(range.to, pageCount) - 1);
     }
     if (ranges.isEmpty()) {
-        ranges.addRange(1, pageCount);
+        append(0, pageCount - 1);
     }
-    return ranges;
 }
 
-} // namespace
-
-QList<int> ReportPrintRange::pages(const QPrinter &printer, int pageCount)
+void ReportPrintRange::append(int firstPage, int lastPage)
 {
-    QList<int> pages;
-    if (pageCount < 1) {
-        return pages;
+    if (firstPage <= lastPage) {
+        firstPages.append(firstPage);
+        pagesBefore.append(total);
+        total += lastPage - firstPage + 1;
     }
-    const QList<QPageRanges::Range> ranges = wantedRanges(printer, pageCount).toRangeList();
-    for (const QPageRanges::Range &range : ranges) {
-        for (int page = std::max(range.from, 1); page <= std::min(range.to, pageCount); ++page) {
-            pages.append(page - 1);
-        }
-    }
-    if (printer.pageOrder() == QPrinter::LastPageFirst) {
-        std::reverse(pages.begin(), pages.end());
-    }
-    return pages;
+}
+
+int ReportPrintRange::page(int index) const
+{
+    const int place = isBackwards ? total - 1 - index : index;
+    const auto next = std::upper_bound(pagesBefore.begin(), pagesBefore.end(), place);
+    const qsizetype range = next - pagesBefore.begin() - 1;
+    return firstPages.at(range) + place - pagesBefore.at(range);
 }

@@ -59,9 +59,9 @@ void ReportRunState::finish(bool asCancelled)
 ReportRun::ReportRun(ReportRunState *state, const QString &title, ICompletionDelegate *delegate,
                      TXError *error)
     : state(state)
-    , delegate(delegate)
     , error(error)
     , isStarted(state->start())
+    , delegate(isStarted ? delegate : nullptr)
 {
     if (!title.isEmpty()) {
         path.append(title);
@@ -77,10 +77,10 @@ ReportRun::ReportRun(ReportRunState *state, const QString &title, ICompletionDel
 
 ReportRun::~ReportRun()
 {
+    tellProgress(kDonePercent);
     if (isStarted) {
         state->finish(!hasFailed && state->isCancelled());
     }
-    tellProgress(kDonePercent);
 }
 
 bool ReportRun::isGoingOn() const

@@ -40,8 +40,9 @@ class TXGUICOMMON_PRIVATE_EXPORT ReportRun
     Q_DISABLE_COPY_MOVE(ReportRun)
 
 public:
-    /// Starts a run unless one goes on; then it has failed already. A null delegate or error is not
-    /// told anything.
+    /// Starts a run unless one goes on; then it has failed already and only the error is told, as
+    /// the delegate may be the one that the other run is talking to. Delegate and error may be
+    /// null.
     ReportRun(ReportRunState *state, const QString &title, ICompletionDelegate *delegate,
               TXError *error);
     ~ReportRun();
@@ -66,8 +67,8 @@ private:
 
     ReportRunState *state;
     QStringList path;
-    ICompletionDelegate *delegate;
     TXError *error;
     bool isStarted;
+    ICompletionDelegate *delegate;
     bool hasFailed = false;
 };

@@ -8,6 +8,7 @@
 #include <QTextOption>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -27,8 +28,8 @@ using Widths = std::array<double, kAllPlaces.size()>;
 
 double centreWidth(const Widths &wanted, double room)
 {
-    const double wanderer = std::max(wanted[TXAlignLeft], wanted[TXAlignRight]);
-    const double leftOver = room - 2 * (wanderer > 0 ? wanderer + kLeastGapPoints : 0);
+    const double side = std::max(wanted[TXAlignLeft], wanted[TXAlignRight]);
+    const double leftOver = room - 2 * (side > 0 ? side + kLeastGapPoints : 0);
     return std::min(wanted[TXAlignHorizontallyCentred], std::max(leftOver, room / 3));
 }
 
@@ -95,6 +96,12 @@ void ReportTextLine::setText(const QString &text, TXHorizontalAlignment place)
     }
 }
 
+QString ReportTextLine::onOneLine(QString text)
+{
+    std::replace_if(text.begin(), text.end(), breaksLine, QLatin1Char(' '));
+    return text;
+}
+
 QString ReportTextLine::filledText(TXHorizontalAlignment place, const ReportPageFacts &facts) const
 {
     QString filled = text(place);
@@ -103,8 +110,7 @@ QString ReportTextLine::filledText(TXHorizontalAlignment place, const ReportPage
     // Last, since a title may hold braces itself.
     filled.replace(QLatin1String("{title}"), facts.title);
     filled.truncate(kMostCharacters);
-    std::replace_if(filled.begin(), filled.end(), breaksLine, QLatin1Char(' '));
-    return filled;
+    return onOneLine(std::move(filled));
 }
 
 bool ReportTextLine::isBlank(const ReportPageFacts &facts) const

@@ -33,6 +33,9 @@ public:
     /// Sets the text at a place; an alignment that is none of the three is ignored.
     void setText(const QString &text, TXHorizontalAlignment place);
 
+    /// The text with a blank for each line break and any other control character.
+    [[nodiscard]] static QString onOneLine(QString text);
+
     /// The text at a place with its placeholders filled, on one line.
     [[nodiscard]] QString filledText(TXHorizontalAlignment place,
                                      const ReportPageFacts &facts) const;

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ReportContent.h"
+#include "ReportPageFrame.h"
+#include "TXGUICommonExport.h"
+
+#include <QPageLayout>
+
+#include <memory>
+#include <vector>
+
+/// The pages of a report: what was added to it, in order, on its paper and within its header and
+/// footer.
+class TXGUICOMMON_PRIVATE_EXPORT ReportPages
+{
+public:
+    [[nodiscard]] const QPageLayout &layout() const { return pageLayout; }
+    /// Sets page size, orientation and margins.
+    void setLayout(const QPageLayout &layout);
+    /// Page size and orientation with the whole sheet to paint on: margins as printing systems know
+    /// them would move everything by a rounded number of dots.
+    [[nodiscard]] QPageLayout sheetLayout() const;
+
+    [[nodiscard]] const ReportPageFrame &frame() const { return pageFrame; }
+    /// The frame, to be changed.
+    [[nodiscard]] ReportPageFrame &changeFrame();
+
+    /// Sheet and content area.
+    [[nodiscard]] ReportPaper paper() const;
+
+    void add(std::unique_ptr<ReportContent> content);
+
+    /// The number of pages. Counts anew what was added, or all once the paper or the frame is
+    /// another.
+    [[nodiscard]] int count();
+
+    /// Paints a page, counted from 0, a unit of the painter being a point. Nothing happens outside
+    /// the pages. Leaves the painter's state as it was.
+    void paint(int page, QPainter *painter);
+
+private:
+    [[nodiscard]] QRectF withinMargins() const;
+    void forgetCounts();
+
+    QPageLayout pageLayout;
+    ReportPageFrame pageFrame;
+    std::vector<std::unique_ptr<ReportContent>> contents;
+    /// For each content that is counted already the number of its first page; one more entry, the
+    /// last, is the number of all pages so far.
+    std::vector<int> firstPages = {0};
+};

@@ -1,0 +1,89 @@
+#include "ReportPrinting.h"
+
+#include "ReportPages.h"
+#include "ReportPrintRange.h"
+#include "ReportRun.h"
+#include "TXStringI18n.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+#include <QPrinter>
+
+namespace {
+
+constexpr double kPointsPerInch = 72.0;
+
+constexpr const char *kOtherPaper = QT_TRANSLATE_NOOP(
+    "TXReportDocument", "The printer \"%1\" does not take the page size of the report.");
+constexpr const char *kDoesNotStart =
+    QT_TRANSLATE_NOOP("TXReportDocument", "The printer \"%1\" can't be started.");
+constexpr const char *kStops =
+    QT_TRANSLATE_NOOP("TXReportDocument", "The printer \"%1\" has stopped in the middle.");
+
+TXStringI18n words(const char *source)
+{
+    return {"TXReportDocument", source, nullptr, -1};
+}
+
+bool fail(ReportRun &run, const char *reason, const QPrinter &printer)
+{
+    // A printer that prints to a file may have no name.
+    const QString name = printer.printerName();
+    run.fail(words(reason).arg(name.isEmpty() ? printer.outputFileName() : name));
+    return false;
+}
+
+bool takesSheet(QPrinter *printer, const QPageLayout &sheet)
+{
+    printer->setPageLayout(sheet);
+    printer->setFullPage(true);
+    return printer->pageLayout().fullRectPoints() == sheet.fullRectPoints();
+}
+
+} // namespace
+
+bool ReportPrinting::print(ReportPages &pages, QPrinter *printer, ReportRun &run)
+{
+    if (printer == nullptr) {
+        run.fail(words(QT_TRANSLATE_NOOP("TXReportDocument", "There is no printer.")));
+        return false;
+    }
+    if (ReportPrintRange(*printer, pages.count()).count() == 0) {
+        run.fail(words(QT_TRANSLATE_NOOP(
+            "TXReportDocument", "The report has none of the pages that are to be printed.")));
+        return false;
+    }
+    if (!takesSheet(printer, pages.sheetLayout())) {
+        return fail(run, kOtherPaper, *printer);
+    }
+    printer->setDocName(pages.frame().title);
+    QPainter painter;
+    if (!painter.begin(printer)) {
+        return fail(run, kDoesNotStart, *printer);
+    }
+    return paintWanted(pages, printer, run, &painter);
+}
+
+bool ReportPrinting::paintWanted(ReportPages &pages, QPrinter *printer, ReportRun &run,
+                                 QPainter *painter)
+{
+    painter->scale(printer->logicalDpiX() / kPointsPerInch,
+                   printer->logicalDpiY() / kPointsPerInch);
+    const ReportPrintRange range(*printer, pages.count());
+    for (int i = 0; i < range.count(); ++i) {
+        if (!run.beginPage(i, range.count())) {
+            printer->abort();
+            return false;
+        }
+        if (i > 0 && !printer->newPage()) {
+            return fail(run, kStops, *printer);
+        }
+        pages.paint(range.page(i), painter);
+        run.endPage(i, range.count());
+    }
+    if (!run.close()) {
+        printer->abort();
+        return false;
+    }
+    return painter->end() || fail(run, kStops, *printer);
+}
