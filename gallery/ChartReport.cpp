@@ -16,13 +16,19 @@ constexpr double kSmallMarginPoints = 24;
 /// Below it, in points, a sheet is small.
 constexpr double kSmallSheetPoints = 450;
 
+constexpr int kHeaderPixels = 8;
+constexpr int kSmallHeaderPixels = 6;
+
+bool isSmall(QPageSize::PageSizeId paper)
+{
+    return QPageSize::sizePoints(paper).width() < kSmallSheetPoints;
+}
+
 QPageLayout layoutFor(const ChartReportOptions &options)
 {
-    const QPageSize size(options.paper);
-    const bool isSmall = size.size(QPageSize::Point).width() < kSmallSheetPoints;
-    const double margin = isSmall ? kSmallMarginPoints : kMarginPoints;
-    return {size, options.orientation, QMarginsF(margin, margin, margin, margin),
-            QPageLayout::Point};
+    const double margin = isSmall(options.paper) ? kSmallMarginPoints : kMarginPoints;
+    return {QPageSize(options.paper), options.orientation,
+            QMarginsF(margin, margin, margin, margin), QPageLayout::Point};
 }
 
 } // namespace
@@ -44,7 +50,8 @@ void ChartReport::setUpPaper(const ChartReportOptions &options)
     report.setPageLayout(layoutFor(options));
     report.setTitle(tr("Colour comparison of the 24-patch chart"));
     report.setAuthor(tr("TXGUICommon Gallery"));
-    report.setHeaderFont(ReportFonts::withPixels(8));
+    report.setHeaderFont(
+        ReportFonts::withPixels(isSmall(options.paper) ? kSmallHeaderPixels : kHeaderPixels));
     report.setHeaderText(QLocale().toString(QDate::currentDate(), QLocale::ShortFormat),
                          TXAlignRight);
     report.setFooterText(report.author(), TXAlignLeft);

@@ -26,10 +26,9 @@ constexpr double kLegendHeight = 40;
 constexpr double kNotesHeight = 50;
 constexpr double kGap = 20;
 constexpr double kRadius = 6;
-constexpr double kPadding = 12;
-/// Of the sheet, at most.
+constexpr double kPadding = 10;
 constexpr double kChartWidthShare = 0.56;
-constexpr double kChartHeightShare = 0.34;
+constexpr double kLandscapeChartWidthShare = 0.34;
 
 const QColor kInk(0x1c, 0x20, 0x26);
 const QColor kPaleInk(0x5e, 0x66, 0x70);
@@ -73,19 +72,41 @@ ChartReportCover::ChartReportCover(TXGraphicsScene *scene, const QSizeF &size,
           std::clamp(std::min(size.width() / kUsualWidthPoints, size.height() / kUsualHeightPoints),
                      kSmallestScale, 1.0))
 {
-    const double gap = kGap * scale;
-    titleRect = QRectF(0, 0, size.width(), kTitleHeight * scale);
-    const double proportions = double(kChartColumns) / kChartRows;
-    const double chartHeight =
-        std::min(size.width() * kChartWidthShare / proportions, size.height() * kChartHeightShare);
-    chartRect = below(titleRect, gap, chartHeight);
-    chartRect.setWidth(chartHeight * proportions);
-    legendRect = below(chartRect, gap / 2, kLegendHeight * scale);
-    statisticsRect = QRectF(QPointF(chartRect.right() + gap, chartRect.top()),
-                            QPointF(size.width(), chartRect.bottom()));
+    titleRect = QRectF(0, kGap * scale, size.width(), kTitleHeight * scale);
     notesRect = QRectF(0, size.height() - kNotesHeight * scale, size.width(), kNotesHeight * scale);
-    barsRect =
-        QRectF(QPointF(0, legendRect.bottom() + gap), QPointF(size.width(), notesRect.top() - gap));
+    const QRectF middle(QPointF(0, titleRect.bottom() + kGap * scale),
+                        QPointF(size.width(), notesRect.top() - kGap * scale));
+    if (size.width() > size.height()) {
+        planLandscape(middle);
+    } else {
+        planUpright(middle);
+    }
+}
+
+/// Chart and statistics side by side, the bars below.
+void ChartReportCover::planUpright(const QRectF &middle)
+{
+    const double gap = kGap * scale;
+    placeChart(middle.topLeft(), kChartWidthShare * middle.width());
+    statisticsRect = QRectF(QPointF(chartRect.right() + gap, chartRect.top()),
+                            QPointF(middle.right(), chartRect.bottom()));
+    barsRect = QRectF(QPointF(middle.left(), legendRect.bottom() + gap), middle.bottomRight());
+}
+
+/// Chart and statistics one below the other, the bars beside them.
+void ChartReportCover::planLandscape(const QRectF &middle)
+{
+    const double gap = kGap * scale;
+    placeChart(middle.topLeft(), kLandscapeChartWidthShare * middle.width());
+    statisticsRect = QRectF(QPointF(middle.left(), legendRect.bottom() + gap / 2),
+                            QPointF(chartRect.right(), middle.bottom()));
+    barsRect = QRectF(QPointF(chartRect.right() + 1.5 * gap, middle.top()), middle.bottomRight());
+}
+
+void ChartReportCover::placeChart(const QPointF &topLeft, double width)
+{
+    chartRect = QRectF(topLeft, QSizeF(width, width * kChartRows / kChartColumns));
+    legendRect = below(chartRect, kGap / 2 * scale, kLegendHeight * scale);
 }
 
 void ChartReportCover::draw(const QString &title)
@@ -196,7 +217,7 @@ void ChartReportCover::drawStatisticsRow(const QString &name, const QString &cie
         return isChosen ? QFont::Bold : QFont::Normal;
     };
     QRectF left = row;
-    left.setRight(row.left() + 0.68 * row.width());
+    left.setRight(row.left() + 0.58 * row.width());
     scene->drawLine(row.topLeft(), row.topRight(), QPen(kLine, 0.4), false);
     scene->drawTextInRect(name, row, TXAlignLeft, TXAlignVerticallyCentred, font(9), kPaleInk,
                           kNoMargins);
@@ -219,11 +240,16 @@ void ChartReportCover::drawBars()
     const double top = 1.12 * std::max(largest, std::min(options.tolerance, 2 * largest));
     drawScale(plot, top);
     const double width = plot.width() / kChartPatches;
+    const auto slot = [&](int bar) {
+        return QRectF(plot.left() + bar * width, plot.top(), width, plot.height());
+    };
     for (int i = 0; i < pairs.size(); ++i) {
-        drawBar(pairs.at(i), QRectF(plot.left() + i * width, plot.top(), width, plot.height()),
-                top);
+        drawBar(pairs.at(i), slot(i), top);
     }
     drawTolerance(plot, top);
+    for (int i = 0; i < pairs.size(); ++i) {
+        drawBarNumbers(pairs.at(i), slot(i), top);
+    }
 }
 
 void ChartReportCover::drawScale(const QRectF &plot, double top)
@@ -242,18 +268,29 @@ void ChartReportCover::drawScale(const QRectF &plot, double top)
 void ChartReportCover::drawBar(const PatchPair &pair, const QRectF &slot, double top)
 {
     const double value = pair.by(options.formula);
-    const bool isAbove = value > options.tolerance;
     const double inset = 0.16 * slot.width();
     const QRectF bar(QPointF(slot.left() + inset, slot.bottom() - value / top * slot.height()),
                      QPointF(slot.right() - inset, slot.bottom()));
     const QColor colour = chartPatches()[size_t(pair.newer)].newer.toScreen();
-    scene->drawRect(bar, isAbove ? QPen(kMark, 1) : QPen(kPaleInk, 0.4), colour, false);
+    scene->drawRect(bar, value > options.tolerance ? QPen(kMark, 1) : QPen(kPaleInk, 0.4), colour,
+                    false);
+}
 
+/// The difference above the bar, on white where a line passes, and the patch below it.
+void ChartReportCover::drawBarNumbers(const PatchPair &pair, const QRectF &slot, double top)
+{
+    const double value = pair.by(options.formula);
+    const bool isAbove = value > options.tolerance;
+    const QFont numberFont = font(6.5, isAbove ? QFont::Bold : QFont::Normal);
     const double lineHeight = 12 * scale;
-    const QRectF number(slot.left(), bar.top() - lineHeight, slot.width(), lineHeight);
-    scene->drawTextInRect(
-        decimal(value), number, TXAlignHorizontallyCentred, TXAlignVerticallyCentred,
-        font(6.5, isAbove ? QFont::Bold : QFont::Normal), isAbove ? kMark : kPaleInk, kNoMargins);
+    const double barTop = slot.bottom() - value / top * slot.height();
+    const QRectF number(slot.left(), barTop - lineHeight, slot.width(), lineHeight);
+    QRectF paper = TXGraphicsScene::getBoundingRectOfText(decimal(value), numberFont);
+    paper.moveCenter(number.center());
+    scene->drawRect(paper, Qt::NoPen, QColor(Qt::white), false);
+    scene->drawTextInRect(decimal(value), number, TXAlignHorizontallyCentred,
+                          TXAlignVerticallyCentred, numberFont, isAbove ? kMark : kPaleInk,
+                          kNoMargins);
     scene->drawTextInRect(QString::number(pair.newer + 1),
                           QRectF(slot.left(), slot.bottom() + 3, slot.width(), lineHeight),
                           TXAlignHorizontallyCentred, TXAlignVerticallyCentred, font(7), kInk,

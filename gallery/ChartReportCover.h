@@ -23,6 +23,9 @@ public:
     void draw(const QString &title);
 
 private:
+    void planUpright(const QRectF &middle);
+    void planLandscape(const QRectF &middle);
+    void placeChart(const QPointF &topLeft, double width);
     void drawTitle(const QString &title);
     void drawChart();
     void drawPatch(int patch, const QRectF &rect);
@@ -33,6 +36,7 @@ private:
     void drawBars();
     void drawScale(const QRectF &plot, double top);
     void drawBar(const PatchPair &pair, const QRectF &slot, double top);
+    void drawBarNumbers(const PatchPair &pair, const QRectF &slot, double top);
     void drawTolerance(const QRectF &plot, double top);
     void drawNotes();
 

@@ -72,6 +72,23 @@ QList<int> widthsFor(const QList<double> &shares, double total, const Columns &s
     return widths;
 }
 
+/// As high as lets all rows stand on one page, within what looks well.
+int rowHeightFor(int rows, double height, int fontPixels)
+{
+    constexpr double kLeastOfFont = 1.6;
+    const int fitting = int(std::ceil(height / rows)) - 1;
+    return fitting < kLeastOfFont * fontPixels ? 2 * fontPixels : std::min(fitting, 3 * fontPixels);
+}
+
+/// Number and name of a patch; the names stand below one another.
+QString numberedName(int patch)
+{
+    constexpr char16_t kFigureSpace = 0x2007;
+    return QStringLiteral("%1  %2")
+        .arg(patch + 1, 2, 10, QChar(kFigureSpace))
+        .arg(chartPatches()[size_t(patch)].translatedName());
+}
+
 /// The colour as a picture of the proportions of its cell, at the resolution of a report.
 QPixmap pictureOf(const LabColour &colour, const QSizeF &cellSize)
 {
@@ -166,11 +183,8 @@ ChartReportTables::ChartReportTables(const QSizeF &content, const ChartReportOpt
 TXTable ChartReportTables::patches() const
 {
     constexpr int kRows = 1 + kChartRows + kChartPatches;
-    const int pixels = cellFont.pixelSize();
-    // As high as lets all stand on one page, within what looks well.
-    const int fitting = int(std::ceil(content.height() / kRows)) - 1;
     Filler filler(widthsFor(kPatchShares, content.width(), kLabColumnsOfPatches),
-                  std::clamp(fitting, 2 * pixels, 3 * pixels));
+                  rowHeightFor(kRows, content.height(), cellFont.pixelSize()));
     filler.addHeader({tr("No."), tr("Patch"), tr("A"), tr("B"),
                       QStringList{tr("A L*"), tr("A a*"), tr("A b*")},
                       QStringList{tr("B L*"), tr("B a*"), tr("B b*")}, tr("ΔE*ab"), tr("ΔE00")});
@@ -226,16 +240,13 @@ void ChartReportTables::addPatchRow(Filler &filler, const PatchPair &pair) const
 
 void ChartReportTables::addPairRow(Filler &filler, const PatchPair &pair, int number) const
 {
-    const ChartPatch &first = chartPatches()[size_t(pair.older)];
-    const ChartPatch &second = chartPatches()[size_t(pair.newer)];
-    const LabColour &from = first.older;
-    const LabColour &to = second.newer;
-    const QString name = QStringLiteral("%1  %2");
+    const LabColour &from = chartPatches()[size_t(pair.older)].older;
+    const LabColour &to = chartPatches()[size_t(pair.newer)].newer;
     filler.add(QString::number(number), TXAlignRight);
-    filler.add(name.arg(pair.older + 1).arg(first.translatedName()), TXAlignLeft);
+    filler.add(numberedName(pair.older), TXAlignLeft);
     filler.addPicture(from);
     filler.addPicture(to);
-    filler.add(name.arg(pair.newer + 1).arg(second.translatedName()), TXAlignLeft);
+    filler.add(numberedName(pair.newer), TXAlignLeft);
     filler.addNumbers(decimals({to.lightness - from.lightness, to.a - from.a, to.b - from.b}));
     // Different patches are meant to differ: there is nothing to mark.
     addDifference(filler, pair, DifferenceFormula::Cie76, false);
