@@ -7,12 +7,12 @@
 #include "TXTableCell.h"
 
 #include <QFontMetricsF>
+#include <QPixmap>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 Q_DECLARE_METATYPE(DifferenceFormula)
-Q_DECLARE_METATYPE(QPageSize::PageSizeId)
-Q_DECLARE_METATYPE(QPageLayout::Orientation)
 
 namespace {
 
