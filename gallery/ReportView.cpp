@@ -131,7 +131,8 @@ void ReportView::paintSheet(QPainter *painter, int page, const QRect &exposed)
     painter->setPen(palette().color(QPalette::Dark));
     painter->setBrush(kPaper);
     painter->drawRect(rect.adjusted(-1, -1, 0, 0));
-    if (const QPixmap *picture = pictureOf(page)) {
+    // Not the widget's own ratio: it may be painted to something finer.
+    if (const QPixmap *picture = pictureOf(page, painter->deviceTransform().m11())) {
         painter->drawPixmap(rect.topLeft(), *picture);
         return;
     }
@@ -149,9 +150,8 @@ void ReportView::paintContent(QPainter *painter, int page) const
     document->paintPage(page, painter);
 }
 
-const QPixmap *ReportView::pictureOf(int page)
+const QPixmap *ReportView::pictureOf(int page, double ratio)
 {
-    const double ratio = viewport()->devicePixelRatioF();
     const QPixmap *kept = pictures.object(page);
     if (kept && kept->devicePixelRatio() == ratio) {
         return kept;

@@ -95,7 +95,7 @@ private:
     void tellPage();
     void paintSheet(QPainter *painter, int page, const QRect &exposed);
     void paintContent(QPainter *painter, int page) const;
-    [[nodiscard]] const QPixmap *pictureOf(int page);
+    [[nodiscard]] const QPixmap *pictureOf(int page, double ratio);
 
     std::shared_ptr<TXReportDocument> document;
     int pages = 0;

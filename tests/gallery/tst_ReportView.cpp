@@ -26,6 +26,7 @@ private slots:
     void fitPageShowsTheWholeSheet();
     void paperIsWhiteWithAnEdgeInDarkColours();
     void largePagesArePaintedAsSmallOnes();
+    void pagesAreSharpOnFineScreens();
     void anotherReportKeepsThePlace();
 
 protected:
@@ -222,6 +223,20 @@ void TestReportView::largePagesArePaintedAsSmallOnes()
         const QPoint seen = view->pageRect(0).topLeft() + (patch * pixels).toPoint();
         QCOMPARE(picture().pixelColor(seen).name(), QColor(115, 81, 67).name());
     }
+}
+
+/// A page kept at the common resolution would show each of its pixels as a square of four.
+void TestReportView::pagesAreSharpOnFineScreens()
+{
+    picture();
+    const QImage fine = PixelProbe(*view->viewport(), 2).image();
+    int mixedSquares = 0;
+    for (int y = 0; y + 1 < fine.height(); y += 2) {
+        for (int x = 0; x + 1 < fine.width(); x += 2) {
+            mixedSquares += fine.pixel(x, y) != fine.pixel(x + 1, y) ? 1 : 0;
+        }
+    }
+    QVERIFY2(mixedSquares > 500, qPrintable(QString::number(mixedSquares)));
 }
 
 void TestReportView::anotherReportKeepsThePlace()
