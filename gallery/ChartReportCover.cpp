@@ -149,8 +149,9 @@ void ChartReportCover::drawChart()
     const double width = inner.width() / kChartColumns;
     const double height = inner.height() / kChartRows;
     for (int i = 0; i < kChartPatches; ++i) {
-        const QPointF corner(inner.left() + width * (i % kChartColumns),
-                             inner.top() + height * (i / kChartColumns));
+        const int row = i / kChartColumns;
+        const int column = i % kChartColumns;
+        const QPointF corner(inner.left() + width * column, inner.top() + height * row);
         drawPatch(i, QRectF(corner, QSizeF(width - gap, height - gap)));
     }
 }

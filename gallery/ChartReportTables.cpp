@@ -158,7 +158,7 @@ public:
         table.mergeCells(0, int(cells) - 1, row);
     }
 
-    [[nodiscard]] QSizeF cellSize() const { return QSizeF(widths.at(column), rowHeight); }
+    [[nodiscard]] QSizeF cellSize() const { return {double(widths.at(column)), double(rowHeight)}; }
     [[nodiscard]] int columnCount() const { return int(widths.size()); }
     [[nodiscard]] int nextColumn() const { return column; }
     [[nodiscard]] const TXTable &result() const { return table; }

@@ -42,6 +42,7 @@ private slots:
     void cancelKeepsTheEarlierFile();
     void failureIsShown();
     void pageDestroyedWhileExportingEndsIt();
+    void panelDestroyedByItselfEndsIt();
     void windowClosedWhileExportingEndsIt();
     void languageMayChangeWhileExporting();
     void printDialogIsOffered();
@@ -313,6 +314,19 @@ void TestReportPage::pageDestroyedWhileExportingEndsIt()
     duringExport([this] { window.reset(); });
 
     QVERIFY(!window);
+    QVERIFY(QDir(folder->path()).isEmpty());
+}
+
+/// Never shown, it is never hidden either.
+void TestReportPage::panelDestroyedByItselfEndsIt()
+{
+    auto panel = std::make_unique<ReportOutputPanel>();
+    connect(panel->findChild<QProgressBar *>(), &QProgressBar::valueChanged, panel.get(),
+            [&panel] { QTimer::singleShot(0, panel.get(), [&panel] { panel.reset(); }); });
+
+    panel->writePdf(path());
+
+    QVERIFY(!panel);
     QVERIFY(QDir(folder->path()).isEmpty());
 }
 

@@ -85,10 +85,12 @@ void TestReportView::keysTurnThePages()
     QTest::keyClick(view.get(), Qt::Key_PageDown);
     QCOMPARE(view->currentPage(), 1);
     QCOMPARE(changed.size(), 1);
+    const int topOfSecond = view->verticalScrollBar()->value();
     QTest::keyClick(view.get(), Qt::Key_PageDown);
     QCOMPARE(view->currentPage(), 2);
     QTest::keyClick(view.get(), Qt::Key_PageUp);
     QCOMPARE(view->currentPage(), 1);
+    QCOMPARE(view->verticalScrollBar()->value(), topOfSecond);
     QTest::keyClick(view.get(), Qt::Key_End);
     QCOMPARE(view->currentPage(), view->pageCount() - 1);
     QTest::keyClick(view.get(), Qt::Key_Home);
