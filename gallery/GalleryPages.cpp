@@ -7,6 +7,7 @@
 #include "LogPage.h"
 #include "MailPage.h"
 #include "PagesPage.h"
+#include "ReportPage.h"
 
 #include <QCoreApplication>
 
@@ -35,6 +36,7 @@ const QList<GalleryPageEntry> &galleryPages()
         {"controls", QT_TRANSLATE_NOOP("GalleryPages", "Controls"), make<ControlsPage>},
         {"mail", QT_TRANSLATE_NOOP("GalleryPages", "Mail"), make<MailPage>},
         {"ftp", QT_TRANSLATE_NOOP("GalleryPages", "FTP"), make<FtpPage>},
+        {"report", QT_TRANSLATE_NOOP("GalleryPages", "Report"), make<ReportPage>},
     };
     return pages;
 }
