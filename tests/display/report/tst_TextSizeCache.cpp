@@ -5,7 +5,9 @@
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QVarLengthArray>
 
+#include <algorithm>
 #include <atomic>
 #include <thread>
 #include <vector>
@@ -41,7 +43,7 @@ QImage fineDevice()
     return image;
 }
 
-/// Two fonts, one of whose properties is set.
+/// A font with a property set.
 template<class Set>
 QFont with(Set set)
 {
@@ -206,9 +208,10 @@ void TestTextSizeCache::textIsRememberedOnce()
 
 void TestTextSizeCache::textInBorrowedMemoryIsCopied()
 {
-    QString memory = QStringLiteral("mmmm");
-    (void)TextSizeCache::textSize(QString::fromRawData(memory.constData(), 4), font(10));
-    memory.fill(QLatin1Char('i'));
+    QVarLengthArray<QChar> memory(4, QLatin1Char('m'));
+    (void)TextSizeCache::textSize(QString::fromRawData(memory.constData(), memory.size()),
+                                  font(10));
+    std::fill(memory.begin(), memory.end(), QLatin1Char('i'));
 
     QCOMPARE(TextSizeCache::textSize(QStringLiteral("mmmm"), font(10)),
              measured(QStringLiteral("mmmm"), font(10)));
