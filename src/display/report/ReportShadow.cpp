@@ -124,6 +124,8 @@ void ReportShadow::paint(QPainter *painter, const QRectF &bounds, const Look &lo
     const QRectF place(part.topLeft() + look.offset, QSizeF(size) / scale);
 
     painter->save();
+    // In a PDF a picture would be as transparent as the brush.
+    painter->setBrush(Qt::NoBrush);
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     painter->setWorldTransform(QTransform());
     painter->drawImage(toPoints.inverted().mapRect(place), shadow);

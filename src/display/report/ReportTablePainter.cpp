@@ -179,6 +179,8 @@ void ReportTablePainter::Run::paintPicture(const QPixmap &pixmap, const QRectF &
         return;
     }
     painter->save();
+    // In a PDF a picture would be as transparent as the brush.
+    painter->setBrush(Qt::NoBrush);
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter->setWorldTransform(QTransform::fromTranslate(topLeft.x(), topLeft.y()) * transform);
     painter->drawPixmap(QRect(QPoint(), size), owner->pictures.resampled(pixmap, size));
