@@ -341,13 +341,16 @@ double meanDifference(const QImage &one, const QImage &other)
     if (one.isNull() || one.size() != other.size()) {
         return 1000.0;
     }
+    if (one == other) {
+        return 0.0;
+    }
     double sum = 0.0;
     for (int y = 0; y < one.height(); ++y) {
         for (int x = 0; x < one.width(); ++x) {
-            const QColor first(one.pixel(x, y));
-            const QColor second(other.pixel(x, y));
-            sum += std::abs(first.red() - second.red()) + std::abs(first.green() - second.green())
-                + std::abs(first.blue() - second.blue());
+            const QRgb first = one.pixel(x, y);
+            const QRgb second = other.pixel(x, y);
+            sum += std::abs(qRed(first) - qRed(second)) + std::abs(qGreen(first) - qGreen(second))
+                + std::abs(qBlue(first) - qBlue(second));
         }
     }
     return sum / 3.0 / (double(one.width()) * one.height());
@@ -392,7 +395,7 @@ void tst_ReportTablePainter::paintsThePixelsOfTheRenderedScene()
 void tst_ReportTablePainter::paintsThePixelsOfTheRenderedSceneForRandomTables()
 {
     const QList<Look> looks = allLooks();
-    for (quint32 seed = 1; seed <= 400; ++seed) {
+    for (quint32 seed = 1; seed <= 200; ++seed) {
         const QString difference = differenceOf(randomTable(seed), looks.at(seed % looks.size()));
         QVERIFY2(difference.isEmpty(), qPrintable(QString::number(seed) + ": " + difference));
     }
@@ -408,7 +411,7 @@ void tst_ReportTablePainter::paintsThePdfOfTheRenderedScene()
 
 void tst_ReportTablePainter::paintsThePdfOfTheRenderedSceneForRandomTables()
 {
-    for (quint32 seed = 1; seed <= 40; ++seed) {
+    for (quint32 seed = 1; seed <= 20; ++seed) {
         const TXTable table = randomTable(seed);
         const double difference =
             meanDifference(imageOfPdf(paintDirectly, table), imageOfPdf(paintThroughScene, table));
