@@ -6,6 +6,7 @@
 
 #include <QBuffer>
 #include <QFont>
+#include <QGraphicsItem>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
@@ -17,6 +18,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <memory>
 
 using Settings = QHash<QString, QVariant>;
 using Rows = QList<QList<Settings>>;
@@ -82,10 +84,24 @@ void paintDirectly(QPainter *painter, const TXTable &table)
     ReportTablePainter::paint(painter, table, kTopLeft, reportFont());
 }
 
+/// Qt shows an edge of such a rectangle on pixels, after seconds, and breaks a PDF with it.
+void removeWhatIsNotFinite(TXGraphicsScene &scene)
+{
+    for (QGraphicsItem *item : scene.items()) {
+        const QRectF rect = item->boundingRect();
+        if (!std::isfinite(rect.width()) || !std::isfinite(rect.height())
+            || !std::isfinite(rect.x()) || !std::isfinite(rect.y())) {
+            const std::unique_ptr<QGraphicsItem> owned(item);
+            scene.removeItem(item);
+        }
+    }
+}
+
 void paintThroughScene(QPainter *painter, const TXTable &table)
 {
     TXGraphicsScene scene;
     scene.drawTable(table, kTopLeft, reportFont());
+    removeWhatIsNotFinite(scene);
     scene.render(painter, kPaper, kPaper);
 }
 
@@ -284,18 +300,13 @@ void addTables()
     QTest::newRow("negative sizes")
         << rowOfSizes({{-20.0, 15.0}, {30.0, -12.0}, {-25.0, -35.0}, {60.0, 20.0}});
     QTest::newRow("no sizes") << rowOfSizes({{0.0, 15.0}, {30.0, 0.0}, {0.0, 0.0}, {1.0, 1.0}});
-    QTest::newRow("huge") << rowOfSizes({{20.0, 20.0}, {1e6, 20.0}, {20.0, 1e6}});
-    QTest::newRow("shadow") << tableOf({{cell("one"), cell("two")}, {cell(3), cell(4.5)}}, true);
-}
-
-/// Only pixels can show them; a PDF would be broken.
-void addTablesWithNumbersThatAreNone()
-{
     QTest::newRow("width that is no number") << rowOfSizes({{20.0, 20.0}, {kNan, 20.0}});
     QTest::newRow("height that is no number") << rowOfSizes({{20.0, 20.0}, {20.0, kNan}});
     QTest::newRow("infinite width") << rowOfSizes({{20.0, 20.0}, {kInfinity, 20.0}});
     QTest::newRow("infinite height") << rowOfSizes({{20.0, 20.0}, {20.0, kInfinity}});
     QTest::newRow("frame that has no height") << rowOfSizes({{20.0, kNan}, {20.0, 20.0}});
+    QTest::newRow("huge") << rowOfSizes({{20.0, 20.0}, {1e6, 20.0}, {20.0, 1e6}});
+    QTest::newRow("shadow") << tableOf({{cell("one"), cell("two")}, {cell(3), cell(4.5)}}, true);
 }
 
 /// Texts may stand 1/128 point off, which moves some of them by a step of the renderer's.
@@ -363,11 +374,7 @@ class tst_ReportTablePainter : public TestBase
     Q_OBJECT
 
 private slots:
-    void paintsThePixelsOfTheRenderedScene_data()
-    {
-        addTables();
-        addTablesWithNumbersThatAreNone();
-    }
+    void paintsThePixelsOfTheRenderedScene_data() { addTables(); }
     void paintsThePixelsOfTheRenderedScene();
     void paintsThePixelsOfTheRenderedSceneForRandomTables();
     void paintsThePdfOfTheRenderedScene_data() { addTables(); }
