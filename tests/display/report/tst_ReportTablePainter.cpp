@@ -310,7 +310,7 @@ void addTables()
 }
 
 /// Texts may stand 1/128 point off, which moves some of them by a step of the renderer's.
-constexpr double kRounding = 0.1;
+constexpr double kRounding = 0.2;
 
 QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
