@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr qsizetype kRememberedBytes = 16 * 1024 * 1024;
+constexpr qsizetype kRememberedBytes = qsizetype(16) * 1024 * 1024;
 constexpr size_t kRememberedShadows = 64;
 
 /// Where a shadow ends: darker by less than this no eye sees.
@@ -166,7 +166,7 @@ QImage Opacities::coloured(const QColor &colour) const
     for (int y = 0; y < height; ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
         for (int x = 0; x < width; ++x) {
-            const int alpha = int(*cell++ * opacity + 0.5F);
+            const int alpha = qRound(*cell++ * opacity);
             line[x] = qRgba(colour.red(), colour.green(), colour.blue(), alpha);
         }
     }

@@ -7,7 +7,7 @@
 namespace {
 
 /// In characters; each takes about 50 bytes.
-constexpr qsizetype kRememberedCharacters = 12 * 1024;
+constexpr qsizetype kRememberedCharacters = qsizetype(12) * 1024;
 constexpr qsizetype kCharactersForEachText = 16;
 
 std::unique_ptr<ReportTextLayouts::Text> laidOut(QString text, const QFont &font)
