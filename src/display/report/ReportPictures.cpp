@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qsizetype kRememberedBytes = 64 * 1024 * 1024;
+constexpr qsizetype kRememberedBytes = qsizetype(64) * 1024 * 1024;
 
 qsizetype bytesOf(const QPixmap &pixmap)
 {

@@ -12,8 +12,9 @@ namespace ReportShadowPicture {
 /// The shadow that an opaque or transparent picture throws, as large as that: its silhouette in one
 /// colour, blurred until it ends `radius` pixels away. Leave as much room around the picture.
 ///
-/// Equal silhouettes get the same image again, down to its QImage::cacheKey(), as long as it is
-/// remembered: each thread keeps 16 MB of them. Linear in the number of pixels.
+/// Silhouettes that look equal get the same image again, down to its QImage::cacheKey(), as long
+/// as it is remembered: each thread keeps 64 of them, 16 MB at most. Linear in the number of
+/// pixels.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QImage shadowOf(const QImage &picture,
                                                          const QColor &colour, double radius);
 

@@ -29,8 +29,9 @@ public:
 
     /// Paints frame and cells, one unit of the painter being a point. `topLeft` is the corner of
     /// the cells; the frame stands 5 points out. In a PDF texts stand within 1/128 point of where
-    /// the scene has them, everywhere else exactly there. What has no place or size that is a
-    /// finite number is left out. Leaves the painter's state as it was.
+    /// the scene has them, everywhere else exactly there. Frames, cells and texts without a finite
+    /// place and size are left out, and shown are those that go a few points to the left or
+    /// upwards, which a scene drops. Leaves the painter's state as it was.
     void paintTable(QPainter *painter, const TXTable &table, const QPointF &topLeft,
                     const QFont &font);
 
