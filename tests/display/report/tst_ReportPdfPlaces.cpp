@@ -31,7 +31,9 @@ QList<int> greysAcross(PdfFile &pdf, const QPointF &from, const QPointF &step)
     constexpr int kSteps = 40;
     const QPoint corner = (from / kStepPoints).toPoint();
     const QPoint last = corner + (step * (kSteps - 1)).toPoint();
-    const QImage image = pdf.rendered(1, 72 / kStepPoints, QRect(corner, last).normalized());
+    const QRect way(QPoint(qMin(corner.x(), last.x()), qMin(corner.y(), last.y())),
+                    QPoint(qMax(corner.x(), last.x()), qMax(corner.y(), last.y())));
+    const QImage image = pdf.rendered(1, 72 / kStepPoints, way);
     QList<int> greys;
     for (int i = 0; i < kSteps && !image.isNull(); ++i) {
         const bool isBackwards = step.x() < 0 || step.y() < 0;
@@ -46,7 +48,8 @@ double blackBefore(PdfFile &pdf, const QPointF &place, const QPointF &step)
 {
     constexpr double kFarOffPoints = 1000.0;
     constexpr double kHalfWayPoints = 0.1;
-    const QPointF from = ((place - step * kHalfWayPoints) / kStepPoints).toPoint() * kStepPoints;
+    const QPoint start = ((place - step * kHalfWayPoints) / kStepPoints).toPoint();
+    const QPointF from = QPointF(start) * kStepPoints;
     const qsizetype black = firstBlack(greysAcross(pdf, from, step));
     if (black < 1) {
         return kFarOffPoints;
@@ -153,12 +156,12 @@ void TestReportPdfPlaces::contentStandsWithinTheMargins()
     QFETCH(QPageLayout, layout);
     QFETCH(QRectF, content);
     const QFont font = fontOf(10);
-    const QSizeF textSize = QFontMetricsF(font).size(0, QStringLiteral("last"));
-    const QPointF lastPlace(content.width() - textSize.width(),
-                            content.height() - textSize.height());
+    const QFontMetricsF metrics(font);
+    const QPointF lastPlace(content.width() - metrics.horizontalAdvance(QStringLiteral("lower")),
+                            content.height() - metrics.height());
     TXGraphicsScene scene;
-    scene.drawText(QStringLiteral("first"), {0, 0}, font, Qt::black);
-    scene.drawText(QStringLiteral("last"), lastPlace, font, Qt::black);
+    scene.drawText(QStringLiteral("upper"), {0, 0}, font, Qt::black);
+    scene.drawText(QStringLiteral("lower"), lastPlace, font, Qt::black);
     TXReportDocument report;
     report.setPageLayout(layout);
     removeHeaderAndFooter(report);
@@ -169,10 +172,11 @@ void TestReportPdfPlaces::contentStandsWithinTheMargins()
     QCOMPARE(pdf.errorText(), QString());
     QVERIFY(isNear(report.contentRect().topLeft(), content.topLeft()));
     QVERIFY(isNear(report.contentRect().bottomRight(), content.bottomRight()));
-    const QPointF first = boxOf(words, QStringLiteral("first")).topLeft();
-    QVERIFY2(isNear(first, content.topLeft()), qPrintable(toText(first, content.topLeft())));
-    const QPointF last = boxOf(words, QStringLiteral("last")).bottomRight();
-    QVERIFY2(isNear(last, content.bottomRight()), qPrintable(toText(last, content.bottomRight())));
+    const QPointF upper = boxOf(words, QStringLiteral("upper")).topLeft();
+    QVERIFY2(isNear(upper, content.topLeft()), qPrintable(toText(upper, content.topLeft())));
+    const QPointF lower = boxOf(words, QStringLiteral("lower")).bottomRight();
+    QVERIFY2(isNear(lower, content.bottomRight()),
+             qPrintable(toText(lower, content.bottomRight())));
 }
 
 void TestReportPdfPlaces::textsOfASceneStandWhereTheyWereDrawn()
