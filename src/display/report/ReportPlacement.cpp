@@ -82,7 +82,7 @@ QSize ReportPlacement::pixelsForPoints(const QSize &points, int dotsPerInch)
 QPixmap ReportPlacement::resampled(const QPixmap &pixmap, const QSize &pixels)
 {
     const QSize size = pixmap.size().scaled(pixels, Qt::KeepAspectRatio);
-    if (qint64(size.width()) * size.height() > kMaximumPixels) {
+    if (pixmap.isNull() || qint64(size.width()) * size.height() > kMaximumPixels) {
         return pixmap;
     }
     return pixmap.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);

@@ -43,8 +43,8 @@ void TXTableCell::drawTableCell(TXGraphicsScene *scene, const QPointF &topLeft,
     scene->drawRect(rect, pen, brush, false);
 
     if (element.typeId() == QMetaType::QPixmap) {
-        const QRectF inner =
-            rect.adjusted(kPictureInset, kPictureInset, -kPictureInset, -kPictureInset);
+        const QRectF inner(rect.x() + kPictureInset, rect.y() + kPictureInset,
+                           rect.width() - 2 * kPictureInset, rect.height() - 2 * kPictureInset);
         scene->drawImageInRect(element.value<QPixmap>(), inner, TXAlignHorizontallyCentred,
                                TXAlignVerticallyCentred);
         return;

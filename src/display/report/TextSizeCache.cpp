@@ -1,15 +1,207 @@
 #include "TextSizeCache.h"
 
+#include "FontChanges.h"
+
+#include <QCoreApplication>
 #include <QFontMetricsF>
+#include <QHash>
+#include <QRawFont>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+/// A copy that shares nothing with the font.
+///
+/// Fonts keep in their shared part what the thread that used them last found out about glyphs, and
+/// Qt guards it by no lock: a font that other threads may use must not be measured with.
+QFont separateCopy(const QFont &font)
+{
+    QFont copy = font;
+    copy.setUnderline(!font.underline());
+    copy.setUnderline(font.underline());
+    return copy;
+}
+
+/// The size on the font's device, by which equal fonts of different devices differ.
+double pixelSizeOnDevice(const QFont &font)
+{
+    const bool isSetInPixels = font.pixelSize() >= 0;
+    return isSetInPixels ? font.pixelSize() : QRawFont::fromFont(separateCopy(font)).pixelSize();
+}
+
+/// A font with the texts that were measured in it.
+struct MeasuredFont
+{
+    explicit MeasuredFont(const QFont &font)
+        : latest(font)
+        , metrics(separateCopy(font))
+        , pixelSize(pixelSizeOnDevice(font))
+    { }
+
+    [[nodiscard]] bool isLike(const QFont &font) const
+    {
+        return latest == font && pixelSize == pixelSizeOnDevice(font);
+    }
+
+    /// Held, so that a font which is a copy of it is certain to be unchanged.
+    QFont latest;
+    QFontMetricsF metrics;
+    double pixelSize;
+    QHash<QString, QSizeF> sizes;
+};
+
+struct WeightedFont
+{
+    [[nodiscard]] bool isOf(const QFont &font, QFont::Weight ofWeight) const
+    {
+        // Copies share all but the mask of what was set explicitly.
+        return weight == ofWeight && source.isCopyOf(font)
+            && source.resolveMask() == font.resolveMask();
+    }
+
+    QFont source;
+    QFont::Weight weight;
+    QFont weighted;
+};
+
+/// What a thread remembers.
+class Memory
+{
+public:
+    /// This thread's, emptied if fonts have changed since it was last asked for.
+    static Memory &current();
+
+    MeasuredFont &measuredFont(const QFont &font);
+    void remember(MeasuredFont &font, const QString &text, const QSizeF &size);
+    const QFont &weightedFont(const QFont &font, QFont::Weight weight);
+    void forget();
+
+    [[nodiscard]] qsizetype textCount() const { return texts; }
+    [[nodiscard]] qsizetype fontCount() const { return qsizetype(measuredFonts.size()); }
+
+private:
+    void forgetTexts();
+
+    std::vector<MeasuredFont> measuredFonts;
+    std::vector<WeightedFont> weightedFonts;
+    qsizetype texts = 0;
+    int fontChanges = -1;
+};
+
+Memory &Memory::current()
+{
+    thread_local Memory memory;
+    const int fontChanges = FontChanges::count();
+    if (memory.fontChanges != fontChanges) {
+        memory.fontChanges = fontChanges;
+        memory.forget();
+        // Fonts must not outlive the application that loaded them.
+        qRemovePostRoutine(TextSizeCache::forget);
+        qAddPostRoutine(TextSizeCache::forget);
+    }
+    return memory;
+}
+
+void Memory::forget()
+{
+    measuredFonts.clear();
+    weightedFonts.clear();
+    texts = 0;
+}
+
+void Memory::forgetTexts()
+{
+    for (MeasuredFont &font : measuredFonts) {
+        font.sizes.clear();
+    }
+    texts = 0;
+}
+
+MeasuredFont &Memory::measuredFont(const QFont &font)
+{
+    const auto end = measuredFonts.end();
+    auto found = std::find_if(measuredFonts.begin(), end, [&](const MeasuredFont &candidate) {
+        return candidate.latest.isCopyOf(font);
+    });
+    if (found != end) {
+        return *found;
+    }
+    found = std::find_if(measuredFonts.begin(), end,
+                         [&](const MeasuredFont &candidate) { return candidate.isLike(font); });
+    if (found != end) {
+        found->latest = font;
+        return *found;
+    }
+    if (measuredFonts.size() == TextSizeCache::kMaximumFonts) {
+        measuredFonts.clear();
+        texts = 0;
+    }
+    return measuredFonts.emplace_back(font);
+}
+
+void Memory::remember(MeasuredFont &font, const QString &text, const QSizeF &size)
+{
+    if (text.size() > TextSizeCache::kLongestText) {
+        return;
+    }
+    if (texts == TextSizeCache::kMaximumTexts) {
+        forgetTexts();
+    }
+    // A copy in full: the text may lie in memory that is not its own, or in far more than it needs.
+    font.sizes.insert(QString(text.constData(), text.size()), size);
+    ++texts;
+}
+
+const QFont &Memory::weightedFont(const QFont &font, QFont::Weight weight)
+{
+    const auto found =
+        std::find_if(weightedFonts.cbegin(), weightedFonts.cend(),
+                     [&](const WeightedFont &candidate) { return candidate.isOf(font, weight); });
+    if (found != weightedFonts.cend()) {
+        return found->weighted;
+    }
+    if (weightedFonts.size() == TextSizeCache::kMaximumFonts) {
+        weightedFonts.clear();
+    }
+    QFont weighted = font;
+    weighted.setWeight(weight);
+    weightedFonts.push_back({font, weight, weighted});
+    return weightedFonts.back().weighted;
+}
+
+} // namespace
 
 QSizeF TextSizeCache::textSize(const QString &text, const QFont &font)
 {
-    return QFontMetricsF(font).size(Qt::TextShowMnemonic, text);
+    Memory &memory = Memory::current();
+    MeasuredFont &measured = memory.measuredFont(font);
+    const auto found = measured.sizes.constFind(text);
+    if (found != measured.sizes.cend()) {
+        return *found;
+    }
+    const QSizeF size = measured.metrics.size(Qt::TextShowMnemonic, text);
+    memory.remember(measured, text, size);
+    return size;
 }
 
 QFont TextSizeCache::fontWithWeight(const QFont &font, QFont::Weight weight)
 {
-    QFont weighted = font;
-    weighted.setWeight(weight);
-    return weighted;
+    return Memory::current().weightedFont(font, weight);
+}
+
+qsizetype TextSizeCache::textCount()
+{
+    return Memory::current().textCount();
+}
+
+qsizetype TextSizeCache::fontCount()
+{
+    return Memory::current().fontCount();
+}
+
+void TextSizeCache::forget()
+{
+    Memory::current().forget();
 }
