@@ -7,6 +7,8 @@
 
 #include <QFile>
 #include <QFont>
+#include <QGraphicsDropShadowEffect>
+#include <QGraphicsItem>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
@@ -19,6 +21,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <memory>
 
 // What a report costs on its way to PDF, beside what else one would write for it: a loop that
 // paints each cell with the same lines, fills and texts and knows nothing of tables, and Qt's text
@@ -228,8 +231,123 @@ void tablePainter(benchmark::State &state)
     count(state, folder, rows);
 }
 
+void tableTextDocument(benchmark::State &state)
+{
+    const int rows = int(state.range(0));
+    const QList<QStringList> texts = reportTexts(rows);
+    const Folder folder;
+    for (auto step : state) {
+        QTextDocument document;
+        document.setDefaultFont(reportFont());
+        QTextCursor cursor(&document);
+        QTextTableFormat format;
+        format.setHeaderRowCount(1);
+        QTextTable *table = cursor.insertTable(rows + 1, kColumns, format);
+        for (int column = 0; column < kColumns; ++column) {
+            table->cellAt(0, column).firstCursorPosition().insertText(
+                titles().at(column).toString());
+            for (int row = 0; row < rows; ++row) {
+                table->cellAt(row + 1, column)
+                    .firstCursorPosition()
+                    .insertText(texts.at(row).at(column));
+            }
+        }
+        QPdfWriter writer(folder.file());
+        setUp(writer);
+        document.print(&writer);
+    }
+    count(state, folder, rows);
+}
+
+void pagesOurs(benchmark::State &state)
+{
+    const int rows = int(state.range(0));
+    const TXTable table = reportTable(rows);
+    const Folder folder;
+    for (auto step : state) {
+        TXReportDocument report;
+        const int onPage = rowsOnPage(report.contentRect().height());
+        const int pages = (rows + onPage - 1) / onPage;
+        report.addPages(pages, [&](TXGraphicsScene *scene, int page) {
+            const int first = 1 + page * onPage;
+            const int last = std::min(first + onPage, rows + 1);
+            scene->drawTable(TXTable::copyPartOfTable(table, first, last), QPointF(kFrame, kFrame),
+                             reportFont());
+        });
+        if (!report.writePdf(folder.file())) {
+            state.SkipWithError("the report was not written");
+            return;
+        }
+    }
+    count(state, folder, rows);
+}
+
+/// A page with several shadows: a framed table, a title box, a line, an ellipse.
+void drawShadowPage(TXGraphicsScene *scene, const TXTable &table)
+{
+    const QPen pen(Qt::black, 0.5);
+    const QRectF box(10, 10, 500, 60);
+    scene->drawRoundedRect(box, 8, 8, pen, QColor(230, 240, 255), true);
+    scene->drawTextInRect("Comparison of two charts", box, TXAlignHorizontallyCentred,
+                          TXAlignVerticallyCentred, reportFont(), Qt::black, QSizeF(2, 2));
+    scene->drawTable(table, QPointF(10, 90), reportFont());
+    scene->drawLine(QPointF(10, 700), QPointF(500, 700), QPen(Qt::darkBlue, 2), true);
+    scene->drawEllipse(QRectF(400, 600, 80, 80), pen, Qt::yellow, true);
+}
+
+void shadowPageOurs(benchmark::State &state)
+{
+    const TXTable table = reportTable(30, true);
+    const Folder folder;
+    for (auto step : state) {
+        TXReportDocument report;
+        TXGraphicsScene scene;
+        drawShadowPage(&scene, table);
+        report.addPage(&scene);
+        if (!report.writePdf(folder.file())) {
+            state.SkipWithError("the report was not written");
+            return;
+        }
+    }
+    state.counters["kB"] = double(folder.fileSize()) / 1000.0;
+}
+
+/// The same page with the effect that Qt brings.
+void shadowPageQtEffect(benchmark::State &state)
+{
+    const TXTable table = reportTable(30, true);
+    const Folder folder;
+    for (auto step : state) {
+        TXGraphicsScene scene;
+        drawShadowPage(&scene, table);
+        for (QGraphicsItem *item : scene.items()) {
+            if (const auto *ours =
+                    qobject_cast<const QGraphicsDropShadowEffect *>(item->graphicsEffect())) {
+                auto effect = std::make_unique<QGraphicsDropShadowEffect>();
+                effect->setColor(ours->color());
+                effect->setOffset(ours->offset());
+                effect->setBlurRadius(ours->blurRadius());
+                item->setGraphicsEffect(effect.release());
+            }
+        }
+        QPdfWriter writer(folder.file());
+        setUp(writer);
+        QPainter painter(&writer);
+        painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
+        const QRectF page(QPointF(0, 0), contentOf(pageLayout()).size());
+        scene.render(&painter, page, page);
+    }
+    state.counters["kB"] = double(folder.fileSize()) / 1000.0;
+}
+
 } // namespace
 
+BENCHMARK(tableOurs)
+    ->Name("table/ours")
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(tablePainter)
     ->Name("painter/ours")
     ->Arg(100)
@@ -237,8 +355,30 @@ BENCHMARK(tablePainter)
     ->Arg(10000)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(tableBareLoop)
-    ->Name("painter/bareLoop")
+    ->Name("table/bareLoop")
     ->Arg(100)
     ->Arg(1000)
     ->Arg(10000)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(tableTextDocument)
+    ->Name("table/textDocument")
+    ->Arg(100)
+    ->Arg(1000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(pagesOurs)
+    ->Name("pages/ours")
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(tableBareLoop)
+    ->Name("pages/bareLoop")
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(shadowPageOurs)->Name("shadowPage/ours")->Unit(benchmark::kMillisecond);
+BENCHMARK(shadowPageQtEffect)
+    ->Name("shadowPage/QGraphicsDropShadowEffect")
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1);
