@@ -137,7 +137,8 @@ void TestReportPdfPictures::patchesKeepTheirExactColours()
     for (int i = 0; i < kPatches; ++i) {
         colours.append(QColor::fromRgb(0xff000000U | random.generate()));
         scene.drawImageInRect(patch({50, 50}, colours.last()),
-                              QRectF(i % 6 * 80, i / 6 * 80, 72, 72), TXAlignLeft, TXAlignTop);
+                              QRectF(QPoint(i % 6 * 80, i / 6 * 80), QSizeF(72, 72)), TXAlignLeft,
+                              TXAlignTop);
     }
     TXReportDocument report;
     report.addPage(&scene);

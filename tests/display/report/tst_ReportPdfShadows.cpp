@@ -136,7 +136,9 @@ void TestReportPdfShadows::shadowFadesToAllSides()
                  {{frame.right() + 2, middle.y()}, {1, 0}},
                  {{middle.x(), frame.top() - 1}, {0, -1}},
                  {{middle.x(), frame.bottom() + 2}, {0, 1}}};
-    for (const auto &[edge, step] : sides) {
+    for (const auto &side : sides) {
+        const QPoint edge = side.edge;
+        const QPoint step = side.step;
         const auto greyAt = [&](int points) {
             return qGray(page.pixel(edge + step * points));
         };
