@@ -169,8 +169,8 @@ void TestReportPdfPlaces::textsOfASceneStandWhereTheyWereDrawn()
     QList<QPointF> places;
     for (int i = 0; i < kTexts; ++i) {
         // One in each field of 100 by 28 points, somewhere in it.
-        places.append(
-            {i % kColumns * 100 + random.bounded(60.0), i / kColumns * 28 + random.bounded(15.0)});
+        const QPointF field = QPoint(i % kColumns * 100, i / kColumns * 28);
+        places.append(field + QPointF(random.bounded(60.0), random.bounded(15.0)));
         scene.drawText(QStringLiteral("T%1").arg(i), places[i], fontOf(9), Qt::black);
     }
     TXReportDocument report;
