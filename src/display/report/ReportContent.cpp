@@ -4,8 +4,10 @@
 #include "TXGraphicsScene.h"
 #include "TXTableCell.h"
 
+#include <QGraphicsItem>
 #include <QPainter>
 
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -13,10 +15,51 @@ namespace {
 /// How far the frame of a table stands out from its cells, on each side.
 constexpr double kTableFramePoints = 5.0;
 
+/// Farther out, Qt writes numbers into a PDF that are none, and the page is lost.
+constexpr double kFarthestPoints = 1e8;
+
+bool isFarOut(const QGraphicsItem &item)
+{
+    const QRectF box = item.sceneBoundingRect();
+    const auto isNear = [](double place) {
+        return std::abs(place) <= kFarthestPoints; // false for what is not a number
+    };
+    return !(isNear(box.left()) && isNear(box.top()) && isNear(box.right())
+             && isNear(box.bottom()));
+}
+
+/// Hides what is too far out as long as it lives.
+class FarItemsHidden
+{
+    Q_DISABLE_COPY_MOVE(FarItemsHidden)
+
+public:
+    explicit FarItemsHidden(const QGraphicsScene &scene)
+    {
+        const QList<QGraphicsItem *> items = scene.items();
+        for (QGraphicsItem *item : items) {
+            if (item->isVisible() && isFarOut(*item)) {
+                item->setVisible(false);
+                hidden.append(item);
+            }
+        }
+    }
+    ~FarItemsHidden()
+    {
+        for (QGraphicsItem *item : std::as_const(hidden)) {
+            item->setVisible(true);
+        }
+    }
+
+private:
+    QList<QGraphicsItem *> hidden;
+};
+
 /// All of the sheet shows the scene, not only where the content belongs.
 void renderScene(TXGraphicsScene &scene, QPainter *painter, const ReportPaper &paper)
 {
     const QRectF source = paper.sheet.translated(-paper.content.topLeft());
+    const FarItemsHidden hidden(scene);
     scene.render(painter, paper.sheet, source, Qt::IgnoreAspectRatio);
 }
 

@@ -5,6 +5,10 @@
 
 #include <algorithm>
 
+namespace {
+constexpr qsizetype kBufferBytes = 64 * 1024;
+}
+
 ReportPdfFile::ReportPdfFile(const QString &fileName)
     : file(fileName)
 {
@@ -32,7 +36,7 @@ bool ReportPdfFile::open(OpenMode /*mode*/)
         fail(refused);
         return false;
     }
-    return file.open(WriteOnly) && QIODevice::open(WriteOnly | Unbuffered);
+    return file.open(WriteOnly | Unbuffered) && QIODevice::open(WriteOnly | Unbuffered);
 }
 
 bool ReportPdfFile::hasFailed() const
@@ -52,7 +56,24 @@ void ReportPdfFile::fail(const QString &reason)
 
 bool ReportPdfFile::commit()
 {
-    return !hasFailed() && file.commit();
+    return !hasFailed() && flushWaiting() && file.commit();
+}
+
+/// A buffer of our own: that of QSaveFile is emptied last when it commits, which then does not
+/// notice when the disk is full, and it forgets the reason when only a part could be written.
+bool ReportPdfFile::flushWaiting()
+{
+    qint64 done = 0;
+    while (done < waiting.size()) {
+        const qint64 more = file.write(waiting.constData() + done, waiting.size() - done);
+        if (more <= 0) {
+            fail(file.errorString());
+            return false;
+        }
+        done += more;
+    }
+    waiting.clear();
+    return true;
 }
 
 qint64 ReportPdfFile::readData(char * /*data*/, qint64 /*maximum*/)
@@ -62,7 +83,11 @@ qint64 ReportPdfFile::readData(char * /*data*/, qint64 /*maximum*/)
 
 qint64 ReportPdfFile::writeData(const char *data, qint64 length)
 {
-    if (hasFailed() || file.write(data, length) != length) {
+    if (hasFailed()) {
+        return -1;
+    }
+    waiting.append(data, length);
+    if (waiting.size() >= kBufferBytes && !flushWaiting()) {
         return -1;
     }
     written += length;

@@ -44,9 +44,11 @@ protected:
 
 private:
     [[nodiscard]] QString refusal() const;
+    [[nodiscard]] bool flushWaiting();
 
     QSaveFile file;
     QString failure;
+    QByteArray waiting;
     QByteArray lastBytes;
     qint64 written = 0;
 };

@@ -48,6 +48,9 @@ bool ReportPrinting::print(ReportPages &pages, QPrinter *printer, ReportRun &run
         run.fail(words(QT_TRANSLATE_NOOP("TXReportDocument", "There is no printer.")));
         return false;
     }
+    if (printer->paintingActive()) {
+        return fail(run, kDoesNotStart, *printer);
+    }
     if (ReportPrintRange(*printer, pages.count()).count() == 0) {
         run.fail(words(QT_TRANSLATE_NOOP(
             "TXReportDocument", "The report has none of the pages that are to be printed.")));

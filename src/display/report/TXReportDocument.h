@@ -63,12 +63,13 @@ public:
 
     /// Page size, orientation and margins.
     [[nodiscard]] QPageLayout pageLayout() const;
-    /// An invalid layout is ignored. Set it before pageCount() or contentRect() is of interest.
+    /// Sets them; an invalid layout is ignored. Margins count in every mode of the layout. Such as
+    /// leave no room for content are taken, and then the report can't be written.
     void setPageLayout(const QPageLayout &layout);
 
     /// The title: in the header where it is asked for, and in the PDF's data. Empty by default.
     [[nodiscard]] QString title() const;
-    /// Sets the title.
+    /// Sets the title. Line breaks and other control characters show as blanks.
     void setTitle(const QString &title);
 
     /// The author, in the PDF's data. Empty by default.
@@ -80,7 +81,9 @@ public:
     [[nodiscard]] QString headerText(TXHorizontalAlignment place) const;
     /// Sets the text at one of the three places of the header. In it "{page}" stands for the number
     /// of the page, from 1, "{pages}" for that of all pages and "{title}" for the title. An
-    /// alignment that is none of the three is ignored. A header without any text takes no room.
+    /// alignment that is none of the three is ignored. A header without any text takes no room;
+    /// otherwise it takes the height of its font and 4 points. Texts that are too long for one
+    /// line together are cut and end in dots.
     void setHeaderText(const QString &text, TXHorizontalAlignment place);
 
     /// The text at one of the three places of the footer.
@@ -94,7 +97,8 @@ public:
     void setHeaderFont(const QFont &font);
 
     /// Where the content stands, in points from the paper's top left corner: the paper without its
-    /// margins, header and footer. The point (0, 0) of a scene comes to its top left corner.
+    /// margins, header and footer, of no size where they leave nothing. The point (0, 0) of a scene
+    /// comes to its top left corner.
     [[nodiscard]] QRectF contentRect() const;
 
     /// @}
@@ -103,11 +107,12 @@ public:
 
     /// Adds a page that shows the scene. The scene stays the caller's; one that is destroyed before
     /// the report is written leaves an empty page. Null is ignored. Items outside the content area
-    /// are shown as far as there is paper.
+    /// are shown as far as there is paper, but not those that reach 100 million points away or are
+    /// at no number at all: they would spoil the page.
     void addPage(TXGraphicsScene *scene);
 
     /// Adds pages that are drawn one after the other when they are wanted, so that only one of them
-    /// is in memory. A count below 1 adds none.
+    /// is in memory. They are drawn anew each time. A count below 1 or an empty function adds none.
     void addPages(int count, PageDrawing draw);
 
     /// Adds a table, cut into as many pages as it takes. It is copied, which costs nothing. A table
@@ -130,25 +135,35 @@ public:
     /// Writes the report as PDF. The file appears, or replaces an earlier one, only when it is
     /// whole; when writing fails or is cancelled what stood there before stays.
     ///
-    /// Blocks until all is written. The delegate, unless null, is called on this thread: progress
-    /// from 0 to 100 after each page, 100 also in the end of a failure or a cancelling, and the
-    /// error, if there is one. Returns true when the file is there. Returns false with `error`
-    /// filled when it is not, and with `error` untouched after cancel(). A report without pages
-    /// fails.
+    /// Blocks until all is written. The delegate, unless null, is called on this thread, with the
+    /// title as path if there is one: a progress of 0, a message before and the progress after each
+    /// page, the error if there is one, and in the end, once, 100, also after a failure or a
+    /// cancelling. Returns true when the file is there. Returns false with `error` filled when it
+    /// is not, and with `error` untouched after cancel().
+    ///
+    /// A report without pages fails, one whose margins leave no room for content, and a name that
+    /// stands for a folder, a device or a pipe. A report that is being written already fails too;
+    /// of that only `error` is told, as the delegate may be in use.
     [[nodiscard]] bool writePdf(const QString &fileName, ICompletionDelegate *delegate = nullptr,
                                 TXError *error = nullptr);
 
-    /// Prints the report, or the range of its pages that the printer is set to, on the report's own
-    /// page size and orientation. Otherwise as writePdf(); the printer stays the caller's and its
-    /// page layout and document name are set.
+    /// Prints the report, or the range of its pages that the printer is set to, in the printer's
+    /// page order, on the report's own page size and orientation. The numbers on the pages stay
+    /// those of the report. The printer stays the caller's and its page layout and document name
+    /// are set. Otherwise as writePdf(), but what a printer has begun it keeps: cancelling aborts
+    /// it, and a file that it prints to is not kept from harm. Fails, too, with a null printer, one
+    /// that is painted on, one that does not take the page size and where the range holds none of
+    /// the report's pages.
     [[nodiscard]] bool print(QPrinter *printer, ICompletionDelegate *delegate = nullptr,
                              TXError *error = nullptr);
 
-    /// Lets a running writePdf() or print() end at the next page; may be called from the delegate's
-    /// functions. Does nothing when none runs.
+    /// Lets a running writePdf() or print() end at the next page, or after the last one before the
+    /// file is put to its place; may be called from the delegate's functions. Does nothing when
+    /// none runs.
     void cancel();
 
-    /// Whether the last writePdf() or print() was cancelled.
+    /// Whether the writePdf() or print() that runs, or else the last one, was cancelled. False
+    /// again once it turns out to have failed for another reason.
     [[nodiscard]] bool isCancelled() const;
 
     /// @}
