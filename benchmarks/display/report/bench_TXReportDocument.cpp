@@ -1,4 +1,5 @@
 #include "AllocationMeter.h"
+#include "ICompletionDelegate.h"
 #include "RatioReporter.h"
 #include "ReportTablePainter.h"
 #include "TXGraphicsScene.h"
@@ -9,6 +10,7 @@
 #include <QFont>
 #include <QGraphicsDropShadowEffect>
 #include <QGraphicsItem>
+#include <QImage>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
@@ -340,6 +342,65 @@ void shadowPageQtEffect(benchmark::State &state)
     state.counters["kB"] = double(folder.fileSize()) / 1000.0;
 }
 
+/// Looks at the heap after each page.
+class HeapWatcher : public ICompletionDelegate
+{
+public:
+    explicit HeapWatcher(const AllocationMeter &meter)
+        : meter(meter)
+    { }
+
+    void onProgressionUpdated(QList<QString> /*path*/, float /*progress*/) override
+    {
+        most = std::max(most, meter.bytes());
+    }
+    void onMessageUpdated(QList<QString> /*path*/, const TXStringI18n & /*message*/) override { }
+    void onLogAppended(QList<QString> /*path*/, const TXError & /*error*/) override { }
+    void onMetadataEdited(QList<QString> /*path*/, QString /*key*/, QVariant /*value*/) override { }
+
+    [[nodiscard]] qint64 peak() const { return most; }
+
+private:
+    const AllocationMeter &meter;
+    qint64 most = 0;
+};
+
+/// What writing takes on top of the table, all in one "row", as the peer has one page only.
+void memoryOurs(benchmark::State &state)
+{
+    const TXTable table = reportTable(10'000);
+    const Folder folder;
+    qint64 bytes = 0;
+    for (auto step : state) {
+        const AllocationMeter meter;
+        HeapWatcher watcher(meter);
+        TXReportDocument report;
+        report.addTable(table, reportFont());
+        if (!report.writePdf(folder.file(), &watcher)) {
+            state.SkipWithError("the report was not written");
+            return;
+        }
+        bytes = watcher.peak();
+    }
+    reportBytesPerRow(state, bytes, 1);
+}
+
+void memoryPageOfItems(benchmark::State &state)
+{
+    const TXTable table = reportTable(50);
+    qint64 bytes = 0;
+    for (auto step : state) {
+        const AllocationMeter meter;
+        TXGraphicsScene scene;
+        scene.drawTable(table, QPointF(kFrame, kFrame), reportFont());
+        QImage image(600, 800, QImage::Format_RGB32);
+        QPainter painter(&image);
+        scene.render(&painter);
+        bytes = meter.bytes() - image.sizeInBytes();
+    }
+    reportBytesPerRow(state, bytes, 1);
+}
+
 } // namespace
 
 BENCHMARK(tableOurs)
@@ -382,3 +443,6 @@ BENCHMARK(shadowPageQtEffect)
     ->Name("shadowPage/QGraphicsDropShadowEffect")
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1);
+
+BENCHMARK(memoryOurs)->Name("memory/ours")->Iterations(1);
+BENCHMARK(memoryPageOfItems)->Name("memory/one page of items")->Iterations(1);

@@ -5,6 +5,7 @@
 #include <QPixmap>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -38,6 +39,12 @@ QPointF ReportPlacement::placeOfText(const QSizeF &textSize, const QRectF &rect,
         y = float(y + (height - textSize.height()) * 0.5);
     }
     return {x, y};
+}
+
+bool ReportPlacement::isDrawable(const QRectF &rect, double lineWidth)
+{
+    return std::isfinite(rect.x()) && std::isfinite(rect.y()) && std::isfinite(rect.right())
+        && std::isfinite(rect.bottom()) && std::isfinite(lineWidth);
 }
 
 ReportPlacement::PicturePlace ReportPlacement::placeOfPicture(const QSize &pixels,

@@ -23,6 +23,11 @@ namespace ReportPlacement {
                                                              TXVerticalAlignment vertical,
                                                              const QSizeF &margins);
 
+/// True when a thing can stand there: neither the corners nor the width of its line are infinite or
+/// not numbers. One that is would make the extent of its whole scene so.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT bool isDrawable(const QRectF &rect,
+                                                         double lineWidth = 0.0);
+
 /// The place and size of a picture; see TXGraphicsScene::drawImageInRect().
 struct PicturePlace
 {

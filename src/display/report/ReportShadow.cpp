@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QTransform>
 
 #include <algorithm>
@@ -19,6 +20,10 @@ constexpr double kMarginPoints = 144.0;
 
 /// A shadow over more than an A1 sheet gets coarser instead of larger.
 constexpr double kMaximumPixels = 4'000'000.0;
+
+/// The picture that is painted on this thread of what throws a shadow, to be treated as paper: Qt
+/// cannot put an effect within an effect onto a device of another scale.
+thread_local const QPaintDevice *currentPicture = nullptr;
 
 bool isFinite(const QRectF &rect)
 {
@@ -57,11 +62,23 @@ QRectF visiblePart(const QPainter *painter, const QRectF &bounds, const ReportSh
     return shadow & paper.adjusted(-reach, -reach, reach, reach).translated(-look.offset);
 }
 
+/// Equal things get pictures of equal size, wherever they stand: some numbers come out larger by
+/// what rounding leaves over.
+int wholePixels(double length)
+{
+    constexpr double kLeftOver = 1e-6;
+    return std::max(int(std::ceil(length - kLeftOver)), 1);
+}
+
 QImage pictureOf(const QSize &size, const QTransform &transform, const QPainter *painter,
                  const std::function<void(QPainter *)> &draw)
 {
+    constexpr double kPointsPerMeter = kPointsPerInch / 0.0254;
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
+    image.setDotsPerMeterX(qRound(kPointsPerMeter));
+    image.setDotsPerMeterY(qRound(kPointsPerMeter));
+    const QScopedValueRollback<const QPaintDevice *> current(currentPicture, &image);
     QPainter imagePainter(&image);
     imagePainter.setRenderHints(painter->renderHints() | QPainter::Antialiasing
                                 | QPainter::SmoothPixmapTransform);
@@ -74,6 +91,9 @@ QImage pictureOf(const QSize &size, const QTransform &transform, const QPainter 
 
 bool ReportShadow::isForPaper(const QPainter *painter)
 {
+    if (painter->device() == currentPicture) {
+        return true;
+    }
     switch (painter->paintEngine()->type()) {
     case QPaintEngine::Pdf:
     case QPaintEngine::SVG:
@@ -96,7 +116,7 @@ void ReportShadow::paint(QPainter *painter, const QRectF &bounds, const Look &lo
     }
     const double pixels = part.width() * part.height();
     const double scale = std::min(1.0, std::sqrt(kMaximumPixels / pixels));
-    const QSize size(int(std::ceil(part.width() * scale)), int(std::ceil(part.height() * scale)));
+    const QSize size(wholePixels(part.width() * scale), wholePixels(part.height() * scale));
     const QTransform toPicture = toPoints * QTransform::fromTranslate(-part.x(), -part.y())
         * QTransform::fromScale(scale, scale);
     const QImage shadow = ReportShadowPicture::shadowOf(pictureOf(size, toPicture, painter, draw),
@@ -104,6 +124,8 @@ void ReportShadow::paint(QPainter *painter, const QRectF &bounds, const Look &lo
     const QRectF place(part.topLeft() + look.offset, QSizeF(size) / scale);
 
     painter->save();
+    // In a PDF a picture would be as transparent as the brush.
+    painter->setBrush(Qt::NoBrush);
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     painter->setWorldTransform(QTransform());
     painter->drawImage(toPoints.inverted().mapRect(place), shadow);

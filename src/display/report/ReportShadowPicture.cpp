@@ -1,18 +1,18 @@
 #include "ReportShadowPicture.h"
 
 #include <QByteArray>
-#include <QCache>
 #include <QColor>
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
+#include <cstdlib>
 #include <utility>
 #include <vector>
 
 namespace {
 
 constexpr qsizetype kRememberedBytes = 16 * 1024 * 1024;
+constexpr size_t kRememberedShadows = 64;
 
 /// Where a shadow ends: darker by less than this no eye sees.
 constexpr double kFaintest = 2.0 / 255.0;
@@ -20,6 +20,7 @@ constexpr double kFaintest = 2.0 / 255.0;
 /// The picture is half as fine as what throws the shadow; nothing in so soft a thing is finer.
 constexpr int kShrink = 2;
 
+/// What throws a shadow, with the shadow's own settings.
 struct Silhouette
 {
     QByteArray alpha;
@@ -27,16 +28,65 @@ struct Silhouette
     QRgb colour = 0;
     double radius = 0.0;
 
-    bool operator==(const Silhouette &other) const
-    {
-        return size == other.size && colour == other.colour && radius == other.radius
-            && alpha == other.alpha;
-    }
+    [[nodiscard]] bool isLike(const Silhouette &other) const;
 };
 
-size_t qHash(const Silhouette &silhouette, size_t seed = 0)
+/// Equal things differ by a little along their edges when they stand at different places.
+bool Silhouette::isLike(const Silhouette &other) const
 {
-    return qHashMulti(seed, silhouette.alpha, silhouette.colour, silhouette.radius);
+    constexpr int kTolerance = 6;
+    return size == other.size && colour == other.colour && radius == other.radius
+        && std::equal(alpha.cbegin(), alpha.cend(), other.alpha.cbegin(),
+                      [](char one, char another) {
+                          return std::abs(int(uchar(one)) - int(uchar(another))) <= kTolerance;
+                      });
+}
+
+/// The shadows that were made last.
+class Memory
+{
+public:
+    /// The shadow, or a null image. One that is found is kept longer.
+    [[nodiscard]] QImage find(const Silhouette &silhouette);
+    void add(Silhouette &&silhouette, const QImage &shadow);
+
+private:
+    struct Known
+    {
+        Silhouette silhouette;
+        QImage shadow;
+
+        [[nodiscard]] qsizetype bytes() const
+        {
+            return silhouette.alpha.size() + shadow.sizeInBytes();
+        }
+    };
+
+    /// The one asked for last is the last.
+    std::vector<Known> known;
+    qsizetype bytes = 0;
+};
+
+QImage Memory::find(const Silhouette &silhouette)
+{
+    const auto found = std::find_if(known.begin(), known.end(), [&](const Known &candidate) {
+        return candidate.silhouette.isLike(silhouette);
+    });
+    if (found == known.end()) {
+        return {};
+    }
+    std::rotate(found, found + 1, known.end());
+    return known.back().shadow;
+}
+
+void Memory::add(Silhouette &&silhouette, const QImage &shadow)
+{
+    known.push_back({std::move(silhouette), shadow});
+    bytes += known.back().bytes();
+    while (known.size() > kRememberedShadows || bytes > kRememberedBytes) {
+        bytes -= known.front().bytes();
+        known.erase(known.begin());
+    }
 }
 
 /// How opaque each cell of a grid is, from 0 to 255, row by row.
@@ -139,15 +189,14 @@ Silhouette silhouetteOf(const QImage &picture, const QColor &colour, double radi
 
 QImage ReportShadowPicture::shadowOf(const QImage &picture, const QColor &colour, double radius)
 {
-    thread_local QCache<Silhouette, QImage> remembered(kRememberedBytes);
+    thread_local Memory memory;
     Silhouette silhouette = silhouetteOf(picture, colour, radius);
-    if (const QImage *known = remembered.object(silhouette)) {
-        return *known;
+    QImage shadow = memory.find(silhouette);
+    if (shadow.isNull()) {
+        Opacities opacities(silhouette.alpha, silhouette.size);
+        opacities.blur(radius);
+        shadow = opacities.coloured(colour);
+        memory.add(std::move(silhouette), shadow);
     }
-    Opacities opacities(silhouette.alpha, silhouette.size);
-    opacities.blur(radius);
-    QImage shadow = opacities.coloured(colour);
-    const qsizetype bytes = silhouette.alpha.size() + shadow.sizeInBytes();
-    remembered.insert(std::move(silhouette), std::make_unique<QImage>(shadow).release(), bytes);
     return shadow;
 }

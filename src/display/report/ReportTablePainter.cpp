@@ -46,7 +46,6 @@ public:
     void paintCells(const TXTable &table, const QPointF &topLeft);
 
 private:
-    [[nodiscard]] bool isDrawable(const QRectF &rect) const;
     void paintFrameWithEffect(const TXTable &table, const QPointF &topLeft);
     void paintCell(const TXTableCell &cell, const QRectF &rect);
     void paintPicture(const QPixmap &pixmap, const QRectF &rect);
@@ -94,16 +93,11 @@ ReportTablePainter::Run::~Run()
     painter->restore();
 }
 
-/// Numbers that are none would break the file.
-bool ReportTablePainter::Run::isDrawable(const QRectF &rect) const
-{
-    return !isPaper || isFinite(rect);
-}
-
 void ReportTablePainter::Run::paintFrame(const TXTable &table, const QPointF &topLeft)
 {
     const QRectF frame = table.frameRect(topLeft, kFrameMargin);
-    if (!isDrawable(frame)) {
+    // Numbers that are none would break a PDF, and keep Qt busy for seconds on pixels.
+    if (!isFinite(frame)) {
         return;
     }
     if (table.hasShadow && !isPaper) {
@@ -151,7 +145,7 @@ void ReportTablePainter::Run::paintCells(const TXTable &table, const QPointF &to
 void ReportTablePainter::Run::paintCell(const TXTableCell &cell, const QRectF &rect)
 {
     const bool isSeen = cell.borderColor.alpha() != 0 || cell.insideColor.alpha() != 0;
-    if (isSeen && isDrawable(rect)) {
+    if (isSeen && isFinite(rect)) {
         setBorderPen(cell.borderColor, cell.borderLineWidth);
         setInsideBrush(cell.insideColor);
         painter->drawRect(rect);
@@ -179,6 +173,8 @@ void ReportTablePainter::Run::paintPicture(const QPixmap &pixmap, const QRectF &
         return;
     }
     painter->save();
+    // In a PDF a picture would be as transparent as the brush.
+    painter->setBrush(Qt::NoBrush);
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter->setWorldTransform(QTransform::fromTranslate(topLeft.x(), topLeft.y()) * transform);
     painter->drawPixmap(QRect(QPoint(), size), owner->pictures.resampled(pixmap, size));

@@ -6,8 +6,8 @@
 
 namespace {
 
-/// In characters. A laid out text takes some hundred bytes and about 40 for each character.
-constexpr qsizetype kRememberedCharacters = 64 * 1024;
+/// In characters; each takes about 50 bytes.
+constexpr qsizetype kRememberedCharacters = 12 * 1024;
 constexpr qsizetype kCharactersForEachText = 16;
 
 std::unique_ptr<ReportTextLayouts::Text> laidOut(QString text, const QFont &font)

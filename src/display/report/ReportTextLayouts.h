@@ -11,7 +11,8 @@
 #include <memory>
 
 /// Texts of one font that are laid out already, so that a text that comes again need not be shaped
-/// again. Remembers those used last, some MB at most. Thread: any one at a time.
+/// again. Remembers those used last, about 500 and less than a MB, as a page of items would take
+/// more. Thread: any one at a time.
 class TXGUICOMMON_PRIVATE_EXPORT ReportTextLayouts
 {
 public:

@@ -13,7 +13,14 @@
 #include <QGraphicsSimpleTextItem>
 
 namespace {
+
 constexpr float kTableFrameMargin = 5.0F;
+
+bool isDrawable(const QPointF &place)
+{
+    return ReportPlacement::isDrawable(QRectF(place, QSizeF(0, 0)));
+}
+
 } // namespace
 
 TXGraphicsScene::TXGraphicsScene(QObject *parent)
@@ -23,6 +30,9 @@ TXGraphicsScene::TXGraphicsScene(QObject *parent)
 void TXGraphicsScene::drawText(const QString &text, const QPointF &topLeft, const QFont &font,
                                const QBrush &brush)
 {
+    if (!isDrawable(topLeft)) {
+        return;
+    }
     auto *item = new QGraphicsSimpleTextItem;
     // In this order the item lays out its text once; the other way round it does so twice.
     item->setFont(font);
@@ -52,6 +62,9 @@ void TXGraphicsScene::drawImageInRect(QPixmap pixmap, QRectF rect, TXHorizontalA
     }
     const auto [topLeft, size] =
         ReportPlacement::placeOfPicture(pixmap.size(), rect, horizontal, vertical);
+    if (!isDrawable(topLeft)) {
+        return;
+    }
     pixmap = scaleToFitResolution(pixmap, size, ReportPlacement::kPictureDotsPerInch);
     auto *item = new TXScalablePixmapItem(pixmap, nullptr, QSizeF(size));
     addItem(item);
@@ -61,6 +74,9 @@ void TXGraphicsScene::drawImageInRect(QPixmap pixmap, QRectF rect, TXHorizontalA
 
 void TXGraphicsScene::drawLine(const QPointF &from, const QPointF &to, const QPen &pen, bool shadow)
 {
+    if (!ReportPlacement::isDrawable(QRectF(from, to), pen.widthF())) {
+        return;
+    }
     QGraphicsItem *item = addLine(QLineF(from, to), pen);
     if (shadow) {
         addShadowEffectInGraphicsItem(item);
@@ -70,6 +86,9 @@ void TXGraphicsScene::drawLine(const QPointF &from, const QPointF &to, const QPe
 void TXGraphicsScene::drawRect(const QRectF &rect, const QPen &pen, const QBrush &brush,
                                bool shadow)
 {
+    if (!ReportPlacement::isDrawable(rect, pen.widthF())) {
+        return;
+    }
     QGraphicsItem *item = addRect(rect, pen, brush);
     if (shadow) {
         addShadowEffectInGraphicsItem(item);
@@ -79,6 +98,9 @@ void TXGraphicsScene::drawRect(const QRectF &rect, const QPen &pen, const QBrush
 void TXGraphicsScene::drawRoundedRect(const QRectF &rect, double xRadius, double yRadius,
                                       const QPen &pen, const QBrush &brush, bool shadow)
 {
+    if (!ReportPlacement::isDrawable(rect, pen.widthF())) {
+        return;
+    }
     auto *item = new TXGraphicsRoundedRectItem;
     item->setRoundedRect(rect, xRadius, yRadius);
     item->setPen(pen);
@@ -92,6 +114,9 @@ void TXGraphicsScene::drawRoundedRect(const QRectF &rect, double xRadius, double
 void TXGraphicsScene::drawEllipse(const QRectF &rect, const QPen &pen, const QBrush &brush,
                                   bool shadow)
 {
+    if (!ReportPlacement::isDrawable(rect, pen.widthF())) {
+        return;
+    }
     QGraphicsItem *item = addEllipse(rect, pen, brush);
     if (shadow) {
         addShadowEffectInGraphicsItem(item);

@@ -21,9 +21,11 @@ class TXTable;
 /// QFont::setPointSize() depends on the screen's resolution.
 ///
 /// Sizes that are negative, infinite or not numbers are harmless: such a thing shows nothing or
-/// shows at a corner. Each call costs the same whatever stands in the scene already; measuring and
-/// scaling are remembered. Let a scene with many items be painted once, or the event loop turn,
-/// before it is destroyed: Qt is slow at removing items that it has never met.
+/// shows at a corner. A thing whose place, size or width of line is infinite or not a number adds
+/// no item, as the whole scene's extent would become so too. Each call costs the same whatever
+/// stands in the scene already; measuring and scaling are remembered. Let a scene with many items
+/// be painted once, or the event loop turn, before it is destroyed: Qt is slow at removing items
+/// that it has never met.
 ///
 /// Thread: the GUI thread, but for getBoundingRectOfText() and newSizeFromSize().
 class TXGUICOMMON_EXPORT TXGraphicsScene : public QGraphicsScene

@@ -2,6 +2,19 @@
 
 #include <QPainter>
 
+#include <cmath>
+
+namespace {
+
+bool isWithinInt(const QRectF &rect)
+{
+    constexpr double kFarthest = 1 << 30;
+    return std::abs(rect.left()) < kFarthest && std::abs(rect.top()) < kFarthest
+        && std::abs(rect.right()) < kFarthest && std::abs(rect.bottom()) < kFarthest;
+}
+
+} // namespace
+
 TXScalablePixmapItem::TXScalablePixmapItem(const QPixmap &pixmap, QGraphicsItem *parent,
                                            QSizeF size)
     : QGraphicsPixmapItem(pixmap, parent)
@@ -26,6 +39,11 @@ void TXScalablePixmapItem::paint(QPainter *painter, const QStyleOptionGraphicsIt
 {
     Q_UNUSED(option)
     Q_UNUSED(widget)
+    const QRectF bounds = boundingRect();
+    // Beyond the range of int the rounding would be undefined.
+    if (!isWithinInt(bounds)) {
+        return;
+    }
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter->drawPixmap(boundingRect().toRect(), pixmap());
+    painter->drawPixmap(bounds.toRect(), pixmap());
 }

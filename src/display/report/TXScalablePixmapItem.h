@@ -13,11 +13,13 @@
 class TXGUICOMMON_EXPORT TXScalablePixmapItem : public QGraphicsPixmapItem
 {
 public:
-    /// Shows the pixmap at the given size in units of the scene. A parent item owns the new one.
+    /// Shows the pixmap at the given size in units of the scene; without one, call setSize() before
+    /// the item is shown. A parent item owns the new one.
     explicit TXScalablePixmapItem(const QPixmap &pixmap, QGraphicsItem *parent = nullptr,
                                   QSizeF size = QSizeF());
 
-    /// Sets the size in units of the scene. An empty or negative size shows nothing.
+    /// Sets the size in units of the scene. An empty, infinite or not-a-number size shows nothing;
+    /// give none that is negative, as Qt takes the pixmap's own in its place.
     void setSize(QSizeF size);
 
     /// (0, 0) and the item's size.

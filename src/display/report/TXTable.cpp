@@ -3,10 +3,16 @@
 #include "TXGraphicsScene.h"
 #include "WholeNumber.h"
 
+#include <QBrush>
+#include <QColor>
 #include <QFont>
 #include <QPen>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <utility>
 
@@ -15,6 +21,9 @@ namespace {
 constexpr float kDefaultColumnWidth = 30.0F;
 constexpr float kFramePenWidth = 0.1F;
 constexpr float kHeaderBorderWidth = 0.35F;
+
+/// Widths are kept for so many columns; far more than any sheet can show, far less than memory has.
+constexpr int kMostColumnsWithWidth = 1'000'000;
 
 /// Rows above the table are counted too, but not by the thousand million.
 constexpr int kFarAboveTable = -1'000'000;
@@ -25,14 +34,20 @@ bool isList(const QVariant &element)
         || element.typeId() == QMetaType::QStringList;
 }
 
-bool hasText(const QVariant &element)
+bool isText(const QVariant &element)
 {
-    return element.typeId() == QMetaType::QString || !element.toString().isEmpty();
+    return element.typeId() == QMetaType::QString;
 }
 
+bool isPicture(const QVariant &element)
+{
+    return element.typeId() == QMetaType::QPixmap;
+}
+
+/// A list of one text has a text, and so is a single value and no list.
 bool isSingleValue(const QVariant &element)
 {
-    return hasText(element) || element.typeId() == QMetaType::QPixmap;
+    return isText(element) || isPicture(element) || !element.toString().isEmpty();
 }
 
 QPen framePen()
@@ -42,29 +57,114 @@ QPen framePen()
 
 QHash<QString, QVariant> inverted(QHash<QString, QVariant> settings)
 {
-    settings.insert("InsideCellColor", QColor(Qt::white));
-    settings.insert("CellTextColor", QColor(Qt::black));
+    settings.insert(QStringLiteral("InsideCellColor"), QColor(Qt::white));
+    settings.insert(QStringLiteral("CellTextColor"), QColor(Qt::black));
     return settings;
 }
 
-/// What a text needs of its column: it stands between two blanks on either side.
-float paddedTextWidth(const QString &text, const QFont &font)
+/// Tells what elements need of their column: a text stands between two blanks on either side, an
+/// empty one too; pictures and elements without a text need nothing.
+class PaddedTextMeter
 {
-    return float(
-        TXGraphicsScene::getBoundingRectOfText(QStringLiteral("  %1  ").arg(text), font).width());
+public:
+    explicit PaddedTextMeter(const QFont &font)
+        : font(font)
+    { }
+
+    double width(const QVariant &element)
+    {
+        if (isText(element)) {
+            return paddedWidth(*static_cast<const QString *>(element.constData()));
+        }
+        const QString text = isPicture(element) ? QString() : element.toString();
+        return text.isEmpty() ? 0.0 : paddedWidth(text);
+    }
+
+private:
+    double paddedWidth(const QString &text)
+    {
+        constexpr QLatin1String kPadding("  ");
+        // One piece of memory serves all texts; most of them are measured already.
+        padded.resize(0);
+        padded.append(kPadding).append(text).append(kPadding);
+        return TXGraphicsScene::getBoundingRectOfText(padded, font).width();
+    }
+
+    const QFont &font;
+    QString padded;
+};
+
+/// A width for each column, 0 at first. Any number may name a column; the usual ones are found
+/// without a search.
+class ColumnWidths
+{
+public:
+    float &operator[](int column)
+    {
+        return isUsual(column) ? usual[size_t(column)] : others[column];
+    }
+
+    float operator[](int column) const
+    {
+        return isUsual(column) ? usual[size_t(column)] : others.value(column);
+    }
+
+private:
+    static constexpr int kUsualColumns = 64;
+
+    static bool isUsual(int column) { return column >= 0 && column < kUsualColumns; }
+
+    std::array<float, kUsualColumns> usual = {};
+    QHash<int, float> others;
+};
+
+/// The width of the widest cell or text in each column. The texts that a row has in one column
+/// count together.
+ColumnWidths widestColumns(const QList<QList<TXTableCell>> &rows, const QFont &font)
+{
+    ColumnWidths widths;
+    PaddedTextMeter meter(font);
+    for (const QList<TXTableCell> &cells : rows) {
+        double textWidth = 0.0;
+        int previousColumn = -1;
+        for (const TXTableCell &cell : cells) {
+            if (cell.realColumn != previousColumn) {
+                textWidth = 0.0;
+                previousColumn = cell.realColumn;
+            }
+            textWidth += meter.width(cell.element);
+            float &width = widths[cell.realColumn];
+            width = std::max({width, float(cell.size.width()), float(textWidth)});
+        }
+    }
+    return widths;
+}
+
+/// The width of a cell when the cells in its column share the column's width.
+float evenShare(const ColumnWidths &columnWidths, const TXTableCell &cell)
+{
+    const float width = columnWidths[cell.realColumn];
+    return cell.nbMergedCell == 0 ? width : width / float(cell.nbMergedCell);
+}
+
+bool hasEvenShares(const QList<TXTableCell> &cells, const ColumnWidths &columnWidths)
+{
+    return std::all_of(cells.cbegin(), cells.cend(), [&](const TXTableCell &cell) {
+        return cell.size.width() == double(evenShare(columnWidths, cell));
+    });
 }
 
 } // namespace
 
 TXTable::TXTable(int nbColumns, bool hasShadow)
     : nbColumns(nbColumns)
-    , columnWidths(std::max(nbColumns, 0), kDefaultColumnWidth)
+    , columnWidths(std::clamp(nbColumns, 0, kMostColumnsWithWidth), kDefaultColumnWidth)
     , hasShadow(hasShadow)
 { }
 
 void TXTable::addCell(const QHash<QString, QVariant> &dictionary)
 {
-    const QVariant element = dictionary.value("CellElement");
+    const QVariant element = dictionary.value(QStringLiteral("CellElement"));
     if (isSingleValue(element)) {
         addSingleCell(dictionary);
     } else if (isList(element)) {
@@ -87,14 +187,14 @@ void TXTable::addSingleCell(const QHash<QString, QVariant> &dictionary)
 void TXTable::addCellGroup(const QHash<QString, QVariant> &dictionary,
                            const QList<QVariant> &elements)
 {
-    QSizeF size = dictionary.value("CellSize").toSizeF();
+    QSizeF size = dictionary.value(QStringLiteral("CellSize")).toSizeF();
     size.setWidth(size.width() / double(elements.size()));
     QHash<QString, QVariant> settings = dictionary;
-    settings.insert("CellSize", size);
-    settings.insert("CellRealColumn", currentColumn);
-    settings.insert("NbMergedCell", int(elements.size()));
+    settings.insert(QStringLiteral("CellSize"), size);
+    settings.insert(QStringLiteral("CellRealColumn"), currentColumn);
+    settings.insert(QStringLiteral("NbMergedCell"), int(elements.size()));
     for (const QVariant &element : elements) {
-        settings.insert("CellElement", element);
+        settings.insert(QStringLiteral("CellElement"), element);
         appendAtCursor(TXTableCell(settings));
     }
     ++currentColumn;
@@ -123,7 +223,7 @@ QList<QList<TXTableCell>> TXTable::getTableCellList() const
 
 void TXTable::setColumnWidth(float width, int column)
 {
-    if (column >= 0 && column < nbColumns) {
+    if (column >= 0 && column < columnWidths.size()) {
         columnWidths[column] = width;
     }
 }
@@ -148,42 +248,22 @@ void TXTable::mergeCells(int firstCell, int lastCell, int row)
 
 void TXTable::optimizeTableSize(const QFont &font)
 {
-    const QHash<int, float> widths = optimalColumnWidths(font);
-    for (QList<TXTableCell> &cells : tableCells) {
-        for (TXTableCell &cell : cells) {
-            const float width = widths.value(cell.realColumn);
-            cell.size.setWidth(cell.nbMergedCell == 0 ? width : width / float(cell.nbMergedCell));
-        }
-    }
     if (tableCells.isEmpty()) {
         return;
     }
-    for (const TXTableCell &cell : std::as_const(tableCells.first())) {
-        if (cell.realColumn >= 0 && cell.realColumn < columnWidths.size()) {
-            columnWidths[cell.realColumn] = widths.value(cell.realColumn);
+    const ColumnWidths widths = widestColumns(tableCells, font);
+    for (qsizetype row = 0; row < tableCells.size(); ++row) {
+        // A row that fits already stays shared with the copies of the table.
+        if (hasEvenShares(tableCells.at(row), widths)) {
+            continue;
+        }
+        for (TXTableCell &cell : tableCells[row]) {
+            cell.size.setWidth(evenShare(widths, cell));
         }
     }
-}
-
-QHash<int, float> TXTable::optimalColumnWidths(const QFont &font) const
-{
-    QHash<int, float> widths;
-    for (const QList<TXTableCell> &cells : tableCells) {
-        double textWidth = 0.0;
-        int previousColumn = -1;
-        for (const TXTableCell &cell : cells) {
-            if (cell.realColumn != previousColumn) {
-                textWidth = 0.0;
-                previousColumn = cell.realColumn;
-            }
-            if (hasText(cell.element)) {
-                textWidth += paddedTextWidth(cell.element.toString(), font);
-            }
-            float &width = widths[cell.realColumn];
-            width = std::max({width, float(cell.size.width()), float(textWidth)});
-        }
+    for (const TXTableCell &cell : tableCells.constFirst()) {
+        setColumnWidth(widths[cell.realColumn], cell.realColumn);
     }
-    return widths;
 }
 
 float TXTable::tableWidth() const
@@ -210,7 +290,7 @@ float TXTable::getRowHeight(int row) const
 
 float TXTable::columnWidthAtIndex(int column) const
 {
-    return column >= 0 && column < nbColumns ? columnWidths.at(column) : 0.0F;
+    return column >= 0 && column < columnWidths.size() ? columnWidths.at(column) : 0.0F;
 }
 
 int TXTable::getNbRowDrawableOnHeight(float height, int firstRow) const
@@ -266,29 +346,32 @@ void TXTable::drawTableWithCell(TXGraphicsScene *scene, const QPointF &topLeft,
 TXTable TXTable::copyPartOfTable(const TXTable &table, int firstRow, int lastRow)
 {
     TXTable part(table);
-    part.tableCells = table.tableCells.mid(firstRow, qsizetype(lastRow) - firstRow);
-    if (firstRow != 0) {
-        part.tableCells = table.tableCells.mid(0, table.nbHeaderRows) + part.tableCells;
+    const auto rows = table.tableCells.mid(firstRow, qsizetype(lastRow) - firstRow);
+    if (firstRow == 0) {
+        part.tableCells = rows;
+    } else {
+        part.tableCells = table.tableCells.mid(0, table.nbHeaderRows);
+        part.tableCells.append(rows);
     }
     return part;
 }
 
 QHash<QString, QVariant> TXTable::headerCellHashTemplate()
 {
-    return {{"CellTextColor", QColor(Qt::white)},
-            {"CellTextBold", true},
-            {"InsideCellColor", QColor(Qt::black)},
-            {"BorderCellColor", QColor(Qt::darkGray)},
-            {"BorderCellLineWidth", kHeaderBorderWidth}};
+    return {{QStringLiteral("CellTextColor"), QColor(Qt::white)},
+            {QStringLiteral("CellTextBold"), true},
+            {QStringLiteral("InsideCellColor"), QColor(Qt::black)},
+            {QStringLiteral("BorderCellColor"), QColor(Qt::darkGray)},
+            {QStringLiteral("BorderCellLineWidth"), kHeaderBorderWidth}};
 }
 
 QHash<QString, QVariant> TXTable::invisibleCellHashTemplate()
 {
-    return {{"CellElement", QString("")},
-            {"CellTextColor", QColor(Qt::transparent)},
-            {"InsideCellColor", QColor(Qt::transparent)},
-            {"BorderCellColor", QColor(Qt::transparent)},
-            {"BorderCellLineWidth", 0}};
+    return {{QStringLiteral("CellElement"), QString("")},
+            {QStringLiteral("CellTextColor"), QColor(Qt::transparent)},
+            {QStringLiteral("InsideCellColor"), QColor(Qt::transparent)},
+            {QStringLiteral("BorderCellColor"), QColor(Qt::transparent)},
+            {QStringLiteral("BorderCellLineWidth"), 0}};
 }
 
 void TXTable::initHeaderOfTableWithTitles(TXTable &table, const QList<QVariant> &titles,
@@ -297,8 +380,8 @@ void TXTable::initHeaderOfTableWithTitles(TXTable &table, const QList<QVariant> 
     QHash<QString, QVariant> settings = headerCellHashTemplate();
     const float height = rowHeight > 0.0F ? rowHeight : table.defaultRowHeight;
     for (int i = 0; i < titles.size(); ++i) {
-        settings.insert("CellSize", QSizeF(table.columnWidthAtIndex(i), height));
-        settings.insert("CellElement", titles.at(i));
+        settings.insert(QStringLiteral("CellSize"), QSizeF(table.columnWidthAtIndex(i), height));
+        settings.insert(QStringLiteral("CellElement"), titles.at(i));
         table.addCell(i == 0 && invertFirstTitle ? inverted(settings) : settings);
     }
 }

@@ -33,7 +33,8 @@ class TXGUICOMMON_EXPORT TXTable
 public:
     /// A table without rows whose columns are 30 points wide. Rows without cells count as 20 points
     /// high. With a shadow, the frame around the table throws one. Less than one column leaves the
-    /// table without any: each plain cell then stands in a row of its own.
+    /// table without any: each plain cell then stands in a row of its own. Beyond a million,
+    /// columns take cells but have no width of their own.
     TXTable(int nbColumns, bool hasShadow);
 
     /// \name Filling
@@ -46,9 +47,11 @@ public:
     /// A text (also an empty one), a picture or anything else with a text becomes one cell. A list
     /// becomes cells that share one column: each is the list's length times narrower than
     /// "CellSize", which a list needs. A list in the first column makes a row of each value, and
-    /// what follows then joins the first row that the cursor stands at. An empty list adds no cell
-    /// and moves the cursor. Without an element, or with one that is nothing of these, nothing
-    /// happens.
+    /// what follows then joins the first row that the cursor stands at. A list of one text that is
+    /// not empty is that text. An empty list adds no cell and moves the cursor; a list does not
+    /// mind whether the row is full. Without an element, or with one that is nothing of these,
+    /// nothing happens. Where setTableCellList() has left fewer rows than the cursor stands at, the
+    /// cell opens a row at the end.
     void addCell(const QHash<QString, QVariant> &dictionary);
 
     /// Replaces all cells. The cursor and the widths of the columns stay.
@@ -71,7 +74,9 @@ public:
     /// their single widths count and not their sum, they shrink when their texts are short. The
     /// columns that the first row reaches take the new widths over. Heights stay.
     ///
-    /// Linear in the number of cells; each distinct text is measured once for a font.
+    /// Linear in the number of cells; each distinct text is measured once for a font. Rows whose
+    /// widths fit already stay shared with copies of the table. A cell's width that is not a number
+    /// counts as none.
     void optimizeTableSize(const QFont &font);
 
     /// @}
@@ -88,7 +93,9 @@ public:
     /// The width of a column; 0 outside the table.
     [[nodiscard]] float columnWidthAtIndex(int column) const;
     /// How many rows fit on a page of this height that starts with `firstRow`, the repeated header
-    /// rows included. A row that ends exactly at the height does not fit any more.
+    /// rows included. A row that ends exactly at the height does not fit any more. Rows above the
+    /// table (`firstRow` below 0) count as rows without cells, the nearest million of them. Costs
+    /// the number of rows that fit.
     [[nodiscard]] int getNbRowDrawableOnHeight(float height, int firstRow) const;
     /// How many rows at the top each page repeats: 1.
     [[nodiscard]] int getNbHeaderRows() const;
@@ -97,12 +104,13 @@ public:
     /// \name Drawing
     /// @{
 
-    /// Draws the frame: a white rectangle with a thin black line that stands `margin` points out
-    /// from the table on every side, with the shadow if the table has one. `topLeft` is the
-    /// table's corner. The frame follows the columns' widths.
+    /// Draws on the scene, which must not be null, the frame: a white rectangle with a thin black
+    /// line that stands `margin` points out from the table on every side, with the shadow if the
+    /// table has one. `topLeft` is the table's corner. The frame follows the columns' widths.
     void drawBorderTable(TXGraphicsScene *scene, const QPointF &topLeft, float margin) const;
 
-    /// Draws the cells side by side by their own widths, row below row.
+    /// Draws the cells on the scene, which must not be null, from the corner of the table: side by
+    /// side by their own widths, row below row. A row is as high as its first cell.
     void drawTableWithCell(TXGraphicsScene *scene, const QPointF &topLeft, const QFont &font) const;
 
     /// @}
@@ -111,8 +119,8 @@ public:
 
     /// The table with the rows from `firstRow` up to, but without, `lastRow`. Where the first row
     /// is not 0 the header rows come before them again. The cells are shared with `table`, not
-    /// copied. Rows outside the table are left out; a `lastRow` before `firstRow` means all the
-    /// rest.
+    /// copied; the cost is that of the rows taken. Rows outside the table are left out; a `lastRow`
+    /// before a `firstRow` in the table means all the rest.
     [[nodiscard]] static TXTable copyPartOfTable(const TXTable &table, int firstRow, int lastRow);
 
     /// Settings for addCell() of a header cell: bold white text on black, dark grey border of 0.35.
@@ -136,7 +144,6 @@ private:
     void addCellGroup(const QHash<QString, QVariant> &dictionary, const QList<QVariant> &elements);
     void appendAtCursor(const TXTableCell &cell);
     [[nodiscard]] QRectF frameRect(const QPointF &topLeft, float margin) const;
-    [[nodiscard]] QHash<int, float> optimalColumnWidths(const QFont &font) const;
 
     int currentRow = 0;
     int currentColumn = 0;

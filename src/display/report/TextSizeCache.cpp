@@ -66,10 +66,17 @@ struct WeightedFont
     QFont weighted;
 };
 
+/// An application that is a global object ends after its thread's memory has gone.
+thread_local bool hasMemoryGone = false;
+
 /// What a thread remembers.
 class Memory
 {
 public:
+    Memory() = default;
+    ~Memory() { hasMemoryGone = true; }
+    Q_DISABLE_COPY_MOVE(Memory)
+
     /// This thread's, emptied if fonts have changed since it was last asked for.
     static Memory &current();
 
@@ -203,5 +210,7 @@ qsizetype TextSizeCache::fontCount()
 
 void TextSizeCache::forget()
 {
-    Memory::current().forget();
+    if (!hasMemoryGone) {
+        Memory::current().forget();
+    }
 }
