@@ -129,7 +129,8 @@ QList<QList<PdfFile::Word>> PdfFile::words()
     if (xhtml.isEmpty()) {
         return {};
     }
-    QXmlStreamReader reader(xhtml);
+    // Not from its start: poppler writes some titles there in a way that is no UTF-8.
+    QXmlStreamReader reader(xhtml.mid(xhtml.indexOf("<body>")).replace("</html>", ""));
     const QList<QList<Word>> pages = wordsOf(reader);
     if (reader.hasError()) {
         setError(QStringLiteral("pdftotext -bbox: ") + reader.errorString());

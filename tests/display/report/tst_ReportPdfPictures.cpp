@@ -41,7 +41,7 @@ bool isReportResolution(const QSize &dotsPerInch)
         && qAbs(dotsPerInch.height() - kReportDotsPerInch) <= 1;
 }
 
-QString toText(const PdfFile::Picture &picture)
+QString describe(const PdfFile::Picture &picture)
 {
     return QStringLiteral("%1 x %2 pixels, %3 x %4 dpi, %5")
         .arg(picture.pixels.width())
@@ -94,13 +94,13 @@ void TestReportPdfPictures::pictureOfASceneHasItsResolution()
 
     QCOMPARE(pdf.errorText(), QString());
     QCOMPARE(pictures.size(), 1);
-    QVERIFY2(isReportResolution(pictures[0].dotsPerInch), qPrintable(toText(pictures[0])));
+    QVERIFY2(isReportResolution(pictures[0].dotsPerInch), qPrintable(describe(pictures[0])));
     QCOMPARE(pictures[0].encoding, QStringLiteral("image"));
     const QSizeF size = pictures[0].size();
     QVERIFY2(qAbs(size.width() - points.width()) <= 0.5 + points.width() / kReportDotsPerInch,
-             qPrintable(toText(pictures[0])));
+             qPrintable(describe(pictures[0])));
     QVERIFY2(qAbs(size.height() - points.height()) <= 0.5 + points.height() / kReportDotsPerInch,
-             qPrintable(toText(pictures[0])));
+             qPrintable(describe(pictures[0])));
 }
 
 void TestReportPdfPictures::pictureOfATableHasItsResolution()
@@ -123,7 +123,7 @@ void TestReportPdfPictures::pictureOfATableHasItsResolution()
     QCOMPARE(pictures.size(), kRows + 1);
     for (const PdfFile::Picture &picture : pictures) {
         QCOMPARE(picture.pixels, QSize(300, 200));
-        QVERIFY2(isReportResolution(picture.dotsPerInch), qPrintable(toText(picture)));
+        QVERIFY2(isReportResolution(picture.dotsPerInch), qPrintable(describe(picture)));
         QCOMPARE(picture.encoding, QStringLiteral("image"));
     }
 }
@@ -137,7 +137,8 @@ void TestReportPdfPictures::patchesKeepTheirExactColours()
     for (int i = 0; i < kPatches; ++i) {
         colours.append(QColor::fromRgb(0xff000000U | random.generate()));
         scene.drawImageInRect(patch({50, 50}, colours.last()),
-                              QRectF(i % 6 * 80, i / 6 * 80, 72, 72), TXAlignLeft, TXAlignTop);
+                              QRectF(QPoint(i % 6 * 80, i / 6 * 80), QSizeF(72, 72)), TXAlignLeft,
+                              TXAlignTop);
     }
     TXReportDocument report;
     report.addPage(&scene);

@@ -4,67 +4,51 @@
 #include <QFontMetricsF>
 #include <QRandomGenerator>
 
-#include <algorithm>
-
 namespace {
 
 /// How far the frame of a table stands out from its cells, on each side.
 constexpr double kFramePoints = 5.0;
 /// How far a cell keeps its text off the side that it is aligned to.
 constexpr double kCellMarginPoints = 2.0;
-/// Edges are looked at on a grid of so many points, and may be off by a step and a half.
+/// Edges are looked at on a grid of so many points.
 constexpr double kStepPoints = 0.005;
-constexpr double kEdgePoints = 0.0075 + kStepPoints / 2;
+constexpr double kEdgePoints = 0.01;
 
-/// Where black begins, in steps, in a row of pixels that is white before; -1 where it does not.
-qsizetype firstBlack(const QList<int> &greys)
+bool isDark(const QImage &image, const QPoint &pixel)
 {
     constexpr int kMiddleGrey = 128;
-    const auto found =
-        std::find_if(greys.begin(), greys.end(), [](int grey) { return grey < kMiddleGrey; });
-    return found == greys.end() ? -1 : found - greys.begin();
+    return qGray(image.pixel(pixel)) < kMiddleGrey;
 }
 
-/// The greys on a short way across an edge, from a tenth of a point before to a tenth behind.
-QList<int> greysAcross(PdfFile &pdf, const QPointF &from, const QPointF &step)
+/// The x or the y of an edge, a tenth of a point at most from the place that is expected. The dark
+/// side is that of smaller numbers or of greater ones. Far off where there is no such edge.
+double edgeNear(PdfFile &pdf, const QPointF &place, const QPoint &axis, bool isDarkBefore)
 {
+    constexpr double kFarOffPoints = -1000.0;
     constexpr int kSteps = 40;
-    const QPoint corner = (from / kStepPoints).toPoint();
-    const QPoint last = corner + (step * (kSteps - 1)).toPoint();
-    const QImage image = pdf.rendered(1, 72 / kStepPoints, QRect(corner, last).normalized());
-    QList<int> greys;
-    for (int i = 0; i < kSteps && !image.isNull(); ++i) {
-        const bool isBackwards = step.x() < 0 || step.y() < 0;
-        const int pixel = isBackwards ? kSteps - 1 - i : i;
-        greys.append(qGray(image.pixel(step.x() != 0 ? pixel : 0, step.y() != 0 ? pixel : 0)));
+    const QPoint start = (place / kStepPoints).toPoint() - axis * (kSteps / 2);
+    const QImage strip =
+        pdf.rendered(1, 72 / kStepPoints, QRect(start, start + axis * (kSteps - 1)));
+    int steps = 0;
+    while (steps < kSteps && !strip.isNull() && isDark(strip, axis * steps) == isDarkBefore) {
+        ++steps;
     }
-    return greys;
-}
-
-/// How far before the place, against the step, black begins; far off where no edge is near.
-double blackBefore(PdfFile &pdf, const QPointF &place, const QPointF &step)
-{
-    constexpr double kFarOffPoints = 1000.0;
-    constexpr double kHalfWayPoints = 0.1;
-    const QPointF from = ((place - step * kHalfWayPoints) / kStepPoints).toPoint() * kStepPoints;
-    const qsizetype black = firstBlack(greysAcross(pdf, from, step));
-    if (black < 1) {
+    if (steps == 0 || steps == kSteps) {
         return kFarOffPoints;
     }
-    const double isBackwards = step.x() + step.y() < 0 ? 1.0 : 0.0;
-    const QPointF way = from - place;
-    const double before = way.x() * step.x() + way.y() * step.y();
-    return -(before + (double(black) - isBackwards) * kStepPoints);
+    return QPoint::dotProduct(start + axis * steps, axis) * kStepPoints;
 }
 
 /// The black rectangle on the first page that is expected at a place.
 QRectF blackAround(PdfFile &pdf, const QRectF &expected)
 {
+    const QPoint across(1, 0);
+    const QPoint down(0, 1);
     const QPointF middle = expected.center();
-    return expected.adjusted(-blackBefore(pdf, {expected.left(), middle.y()}, {1, 0}),
-                             -blackBefore(pdf, {middle.x(), expected.top()}, {0, 1}),
-                             blackBefore(pdf, {expected.right(), middle.y()}, {-1, 0}),
-                             blackBefore(pdf, {middle.x(), expected.bottom()}, {0, -1}));
+    return {QPointF(edgeNear(pdf, {expected.left(), middle.y()}, across, false),
+                    edgeNear(pdf, {middle.x(), expected.top()}, down, false)),
+            QPointF(edgeNear(pdf, {expected.right(), middle.y()}, across, true),
+                    edgeNear(pdf, {middle.x(), expected.bottom()}, down, true))};
 }
 
 } // namespace
@@ -153,12 +137,12 @@ void TestReportPdfPlaces::contentStandsWithinTheMargins()
     QFETCH(QPageLayout, layout);
     QFETCH(QRectF, content);
     const QFont font = fontOf(10);
-    const QSizeF textSize = QFontMetricsF(font).size(0, QStringLiteral("last"));
-    const QPointF lastPlace(content.width() - textSize.width(),
-                            content.height() - textSize.height());
+    const QFontMetricsF metrics(font);
+    const QPointF lastPlace(content.width() - metrics.horizontalAdvance(QStringLiteral("lower")),
+                            content.height() - metrics.height());
     TXGraphicsScene scene;
-    scene.drawText(QStringLiteral("first"), {0, 0}, font, Qt::black);
-    scene.drawText(QStringLiteral("last"), lastPlace, font, Qt::black);
+    scene.drawText(QStringLiteral("upper"), {0, 0}, font, Qt::black);
+    scene.drawText(QStringLiteral("lower"), lastPlace, font, Qt::black);
     TXReportDocument report;
     report.setPageLayout(layout);
     removeHeaderAndFooter(report);
@@ -169,10 +153,11 @@ void TestReportPdfPlaces::contentStandsWithinTheMargins()
     QCOMPARE(pdf.errorText(), QString());
     QVERIFY(isNear(report.contentRect().topLeft(), content.topLeft()));
     QVERIFY(isNear(report.contentRect().bottomRight(), content.bottomRight()));
-    const QPointF first = boxOf(words, QStringLiteral("first")).topLeft();
-    QVERIFY2(isNear(first, content.topLeft()), qPrintable(toText(first, content.topLeft())));
-    const QPointF last = boxOf(words, QStringLiteral("last")).bottomRight();
-    QVERIFY2(isNear(last, content.bottomRight()), qPrintable(toText(last, content.bottomRight())));
+    const QPointF upper = boxOf(words, QStringLiteral("upper")).topLeft();
+    QVERIFY2(isNear(upper, content.topLeft()), qPrintable(toText(upper, content.topLeft())));
+    const QPointF lower = boxOf(words, QStringLiteral("lower")).bottomRight();
+    QVERIFY2(isNear(lower, content.bottomRight()),
+             qPrintable(toText(lower, content.bottomRight())));
 }
 
 void TestReportPdfPlaces::textsOfASceneStandWhereTheyWereDrawn()
@@ -184,8 +169,8 @@ void TestReportPdfPlaces::textsOfASceneStandWhereTheyWereDrawn()
     QList<QPointF> places;
     for (int i = 0; i < kTexts; ++i) {
         // One in each field of 100 by 28 points, somewhere in it.
-        places.append(
-            {i % kColumns * 100 + random.bounded(60.0), i / kColumns * 28 + random.bounded(15.0)});
+        const QPointF field = QPoint(i % kColumns * 100, i / kColumns * 28);
+        places.append(field + QPointF(random.bounded(60.0), random.bounded(15.0)));
         scene.drawText(QStringLiteral("T%1").arg(i), places[i], fontOf(9), Qt::black);
     }
     TXReportDocument report;
