@@ -1,5 +1,6 @@
 #include "ReportContent.h"
 
+#include "ReportPlacement.h"
 #include "ReportTablePainter.h"
 #include "TXGraphicsScene.h"
 #include "TXTableCell.h"
@@ -7,28 +8,14 @@
 #include <QGraphicsItem>
 #include <QPainter>
 
-#include <cmath>
 #include <utility>
 
 namespace {
 
 /// How far the frame of a table stands out from its cells, on each side.
-constexpr double kTableFramePoints = 5.0;
+constexpr double kTableFramePoints = ReportPlacement::kTableFrameMargin;
 
-/// Farther out, Qt writes numbers into a PDF that are none, and the page is lost.
-constexpr double kFarthestPoints = 1e8;
-
-bool isFarOut(const QGraphicsItem &item)
-{
-    const QRectF box = item.sceneBoundingRect();
-    const auto isNear = [](double place) {
-        return std::abs(place) <= kFarthestPoints; // false for what is not a number
-    };
-    return !(isNear(box.left()) && isNear(box.top()) && isNear(box.right())
-             && isNear(box.bottom()));
-}
-
-/// Hides what is too far out as long as it lives.
+/// Hides what is too far out for a PDF as long as it lives.
 class FarItemsHidden
 {
     Q_DISABLE_COPY_MOVE(FarItemsHidden)
@@ -38,7 +25,7 @@ public:
     {
         const QList<QGraphicsItem *> items = scene.items();
         for (QGraphicsItem *item : items) {
-            if (item->isVisible() && isFarOut(*item)) {
+            if (item->isVisible() && !ReportPlacement::isWithinReach(item->sceneBoundingRect())) {
                 item->setVisible(false);
                 hidden.append(item);
             }
@@ -76,7 +63,8 @@ int ReportScenePage::pageCount(const ReportPaper & /*paper*/)
     return 1;
 }
 
-void ReportScenePage::paint(QPainter *painter, int /*page*/, const ReportPaper &paper)
+void ReportScenePage::paint(QPainter *painter, int /*page*/, const ReportPaper &paper,
+                            ReportTablePainter * /*tables*/)
 {
     if (scene != nullptr) {
         renderScene(*scene, painter, paper);
@@ -93,7 +81,8 @@ int ReportDrawnPages::pageCount(const ReportPaper & /*paper*/)
     return count;
 }
 
-void ReportDrawnPages::paint(QPainter *painter, int page, const ReportPaper &paper)
+void ReportDrawnPages::paint(QPainter *painter, int page, const ReportPaper &paper,
+                             ReportTablePainter * /*tables*/)
 {
     TXGraphicsScene scene;
     // For one rendering a search tree would cost more than it saves.
@@ -122,8 +111,9 @@ int ReportTableContent::pageCount(const ReportPaper &paper)
     return pagesOn(paper).count();
 }
 
-void ReportTableContent::paint(QPainter *painter, int page, const ReportPaper &paper)
+void ReportTableContent::paint(QPainter *painter, int page, const ReportPaper &paper,
+                               ReportTablePainter *tables)
 {
     const QPointF cells = paper.content.topLeft() + QPointF(kTableFramePoints, kTableFramePoints);
-    ReportTablePainter::paint(painter, pagesOn(paper).page(page), cells, font);
+    tables->paintTable(painter, pagesOn(paper).page(page), cells, font);
 }

@@ -11,6 +11,7 @@
 #include <optional>
 
 class QPainter;
+class ReportTablePainter;
 class TXGraphicsScene;
 
 /// The paper of a report's pages, in points.
@@ -31,9 +32,11 @@ public:
     /// The number of pages on such paper.
     [[nodiscard]] virtual int pageCount(const ReportPaper &paper) = 0;
 
-    /// Paints one of them, counted from 0, a unit of the painter being a point. May change the
-    /// painter's state.
-    virtual void paint(QPainter *painter, int page, const ReportPaper &paper) = 0;
+    /// Paints one of them, counted from 0, a unit of the painter being a point; tables through the
+    /// painter of tables, which remembers what the pages have in common. May change the painter's
+    /// state.
+    virtual void paint(QPainter *painter, int page, const ReportPaper &paper,
+                       ReportTablePainter *tables) = 0;
 };
 
 /// One page that shows a scene of the caller's.
@@ -43,7 +46,8 @@ public:
     explicit ReportScenePage(TXGraphicsScene *scene);
 
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
-    void paint(QPainter *painter, int page, const ReportPaper &paper) override;
+    void paint(QPainter *painter, int page, const ReportPaper &paper,
+               ReportTablePainter *tables) override;
 
 private:
     QPointer<TXGraphicsScene> scene;
@@ -58,7 +62,8 @@ public:
     ReportDrawnPages(int count, Drawing draw);
 
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
-    void paint(QPainter *painter, int page, const ReportPaper &paper) override;
+    void paint(QPainter *painter, int page, const ReportPaper &paper,
+               ReportTablePainter *tables) override;
 
 private:
     int count;
@@ -72,7 +77,8 @@ public:
     ReportTableContent(const TXTable &table, const QFont &font);
 
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
-    void paint(QPainter *painter, int page, const ReportPaper &paper) override;
+    void paint(QPainter *painter, int page, const ReportPaper &paper,
+               ReportTablePainter *tables) override;
 
 private:
     [[nodiscard]] const ReportTablePages &pagesOn(const ReportPaper &paper);

@@ -35,8 +35,9 @@ public:
     [[nodiscard]] int count();
 
     /// Paints a page, counted from 0, a unit of the painter being a point. Nothing happens outside
-    /// the pages. Leaves the painter's state as it was.
-    void paint(int page, QPainter *painter);
+    /// the pages. Leaves the painter's state as it was. Keep one painter of tables for all pages of
+    /// a writing: what they have in common is then prepared once.
+    void paint(int page, QPainter *painter, ReportTablePainter *tables);
 
 private:
     [[nodiscard]] QRectF withinMargins() const;

@@ -4,6 +4,7 @@
 #include "ReportPages.h"
 #include "ReportPdfFile.h"
 #include "ReportRun.h"
+#include "ReportTablePainter.h"
 #include "TXStringI18n.h"
 
 #include <QCoreApplication>
@@ -59,6 +60,7 @@ void ReportPdfWriting::paintAll(ReportPages &pages, const PdfDocumentInfo &info,
     writer.setCreator(info.creator);
     QPainter painter(&writer);
     painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
+    ReportTablePainter tables;
     const int count = pages.count();
     for (int page = 0; page < count && !file.hasFailed(); ++page) {
         if (!run.beginPage(page, count)) {
@@ -67,7 +69,7 @@ void ReportPdfWriting::paintAll(ReportPages &pages, const PdfDocumentInfo &info,
         if (page > 0) {
             writer.newPage();
         }
-        pages.paint(page, &painter);
+        pages.paint(page, &painter, &tables);
         run.endPage(page, count);
     }
 }

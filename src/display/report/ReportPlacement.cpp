@@ -14,7 +14,26 @@ constexpr double kPointsPerInch = 72.0;
 /// An A0 sheet at 200 dots per inch has 62 million.
 constexpr qint64 kMaximumPixels = 100'000'000;
 
+constexpr double kFarthestPoints = 1e8;
+
+constexpr double kPictureInset = 1.0;
+
 } // namespace
+
+QRectF ReportPlacement::pictureRectOfCell(const QRectF &cell)
+{
+    return {cell.x() + kPictureInset, cell.y() + kPictureInset, cell.width() - 2 * kPictureInset,
+            cell.height() - 2 * kPictureInset};
+}
+
+bool ReportPlacement::isWithinReach(const QRectF &rect)
+{
+    const auto isNear = [](double place) {
+        return std::abs(place) <= kFarthestPoints; // false for what is not a number
+    };
+    return isNear(rect.left()) && isNear(rect.top()) && isNear(rect.right())
+        && isNear(rect.bottom());
+}
 
 QPointF ReportPlacement::placeOfText(const QSizeF &textSize, const QRectF &rect,
                                      TXHorizontalAlignment horizontal, TXVerticalAlignment vertical,

@@ -23,10 +23,24 @@ namespace ReportPlacement {
                                                              TXVerticalAlignment vertical,
                                                              const QSizeF &margins);
 
+/// How far the frame of a table stands out from its cells, on each side.
+constexpr float kTableFrameMargin = 5.0F;
+
+/// How far the text of a cell keeps off the side that it is aligned to.
+constexpr QSizeF kCellTextMargins(2.0, 2.0);
+
+/// Where the picture of a cell may stand: 1 point off the cell's border.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QRectF pictureRectOfCell(const QRectF &cell);
+
 /// True when a thing can stand there: neither the corners nor the width of its line are infinite or
 /// not numbers. One that is would make the extent of its whole scene so.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT bool isDrawable(const QRectF &rect,
                                                          double lineWidth = 0.0);
+
+/// True when a thing stands so near that a PDF can name its place, which excludes what is no
+/// number. Farther out than some 35 km Qt writes numbers into the page that are none, and it is
+/// lost.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT bool isWithinReach(const QRectF &rect);
 
 /// The place and size of a picture; see TXGraphicsScene::drawImageInRect().
 struct PicturePlace

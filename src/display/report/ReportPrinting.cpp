@@ -3,6 +3,7 @@
 #include "ReportPages.h"
 #include "ReportPrintRange.h"
 #include "ReportRun.h"
+#include "ReportTablePainter.h"
 #include "TXStringI18n.h"
 
 #include <QCoreApplication>
@@ -73,6 +74,7 @@ bool ReportPrinting::paintWanted(ReportPages &pages, QPrinter *printer, ReportRu
     painter->scale(printer->logicalDpiX() / kPointsPerInch,
                    printer->logicalDpiY() / kPointsPerInch);
     const ReportPrintRange range(*printer, pages.count());
+    ReportTablePainter tables;
     for (int i = 0; i < range.count(); ++i) {
         if (!run.beginPage(i, range.count())) {
             printer->abort();
@@ -81,7 +83,7 @@ bool ReportPrinting::paintWanted(ReportPages &pages, QPrinter *printer, ReportRu
         if (i > 0 && !printer->newPage()) {
             return fail(run, kStops, *printer);
         }
-        pages.paint(range.page(i), painter);
+        pages.paint(range.page(i), painter, &tables);
         run.endPage(i, range.count());
     }
     if (!run.close()) {

@@ -13,23 +13,14 @@
 #include <QPainter>
 #include <QPen>
 
-#include <cmath>
-
 namespace {
 
-constexpr float kFrameMargin = 5.0F;
-constexpr float kFramePenWidth = 0.1F;
-constexpr double kPictureInset = 1.0;
-constexpr QSizeF kTextMargins(2.0, 2.0);
+using ReportPlacement::isWithinReach;
+using ReportPlacement::kTableFrameMargin;
 
-bool isFinite(const QPointF &point)
+bool isWithinReach(const QPointF &place)
 {
-    return std::isfinite(point.x()) && std::isfinite(point.y());
-}
-
-bool isFinite(const QRectF &rect)
-{
-    return isFinite(rect.topLeft()) && std::isfinite(rect.width()) && std::isfinite(rect.height());
+    return isWithinReach(QRectF(place, QSizeF()));
 }
 
 } // namespace
@@ -95,9 +86,8 @@ ReportTablePainter::Run::~Run()
 
 void ReportTablePainter::Run::paintFrame(const TXTable &table, const QPointF &topLeft)
 {
-    const QRectF frame = table.frameRect(topLeft, kFrameMargin);
-    // Numbers that are none would break a PDF, and keep Qt busy for seconds on pixels.
-    if (!isFinite(frame)) {
+    const QRectF frame = table.frameRect(topLeft, kTableFrameMargin);
+    if (!isWithinReach(frame)) {
         return;
     }
     if (table.hasShadow && !isPaper) {
@@ -105,12 +95,12 @@ void ReportTablePainter::Run::paintFrame(const TXTable &table, const QPointF &to
         return;
     }
     const auto drawFrame = [&frame](QPainter *target) {
-        target->setPen(QPen(Qt::black, kFramePenWidth));
+        target->setPen(TXTable::framePen());
         target->setBrush(Qt::white);
         target->drawRect(frame);
     };
     if (table.hasShadow) {
-        const double outside = double(kFramePenWidth) / 2;
+        const double outside = TXTable::framePen().widthF() / 2;
         const QRectF bounds = frame.adjusted(-outside, -outside, outside, outside);
         const ReportShadowEffect effect;
         ReportShadow::paint(painter, transform.mapRect(bounds),
@@ -126,7 +116,7 @@ void ReportTablePainter::Run::paintFrameWithEffect(const TXTable &table, const Q
     const QRectF pixels = QRectF(0, 0, device->width(), device->height()).adjusted(-1, -1, 1, 1);
     const QRectF visible = painter->combinedTransform().inverted().mapRect(pixels);
     TXGraphicsScene scene;
-    table.drawBorderTable(&scene, topLeft, kFrameMargin);
+    table.drawBorderTable(&scene, topLeft, kTableFrameMargin);
     scene.render(painter, visible, visible);
 }
 
@@ -145,7 +135,7 @@ void ReportTablePainter::Run::paintCells(const TXTable &table, const QPointF &to
 void ReportTablePainter::Run::paintCell(const TXTableCell &cell, const QRectF &rect)
 {
     const bool isSeen = cell.borderColor.alpha() != 0 || cell.insideColor.alpha() != 0;
-    if (isSeen && isFinite(rect)) {
+    if (isSeen && isWithinReach(rect)) {
         setBorderPen(cell.borderColor, cell.borderLineWidth);
         setInsideBrush(cell.insideColor);
         painter->drawRect(rect);
@@ -165,11 +155,10 @@ void ReportTablePainter::Run::paintPicture(const QPixmap &pixmap, const QRectF &
     if (pixmap.isNull()) {
         return;
     }
-    const QRectF inner =
-        rect.adjusted(kPictureInset, kPictureInset, -kPictureInset, -kPictureInset);
-    const auto [topLeft, size] = ReportPlacement::placeOfPicture(
-        pixmap.size(), inner, TXAlignHorizontallyCentred, TXAlignVerticallyCentred);
-    if (size.isEmpty() || !isFinite(topLeft)) {
+    const auto [topLeft, size] =
+        ReportPlacement::placeOfPicture(pixmap.size(), ReportPlacement::pictureRectOfCell(rect),
+                                        TXAlignHorizontallyCentred, TXAlignVerticallyCentred);
+    if (size.isEmpty() || !isWithinReach(QRectF(topLeft, size))) {
         return;
     }
     painter->save();
@@ -186,10 +175,10 @@ void ReportTablePainter::Run::paintText(const TXTableCell &cell, const QString &
 {
     ReportTextLayouts &texts = cell.bold ? *owner->boldTexts : *owner->plainTexts;
     const ReportTextLayouts::Text &ready = texts.text(text);
-    const QPointF place =
-        ReportPlacement::placeOfText(ready.size, rect, TXHorizontalAlignment(cell.horizontalAlign),
-                                     TXVerticalAlignment(cell.verticalAlign), kTextMargins);
-    if (!isFinite(place)) {
+    const QPointF place = ReportPlacement::placeOfText(
+        ready.size, rect, TXHorizontalAlignment(cell.horizontalAlign),
+        TXVerticalAlignment(cell.verticalAlign), ReportPlacement::kCellTextMargins);
+    if (!isWithinReach(place)) {
         return;
     }
     setTextPen(cell.textColor);

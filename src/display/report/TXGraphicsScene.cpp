@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr float kTableFrameMargin = 5.0F;
-
 bool isDrawable(const QPointF &place)
 {
     return ReportPlacement::isDrawable(QRectF(place, QSizeF(0, 0)));
@@ -125,7 +123,7 @@ void TXGraphicsScene::drawEllipse(const QRectF &rect, const QPen &pen, const QBr
 
 void TXGraphicsScene::drawTable(TXTable table, const QPointF &topLeft, const QFont &font)
 {
-    table.drawBorderTable(this, topLeft, kTableFrameMargin);
+    table.drawBorderTable(this, topLeft, ReportPlacement::kTableFrameMargin);
     table.drawTableWithCell(this, topLeft, font);
 }
 

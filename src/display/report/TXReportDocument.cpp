@@ -6,6 +6,7 @@
 #include "ReportPdfWriting.h"
 #include "ReportPrinting.h"
 #include "ReportRun.h"
+#include "ReportTablePainter.h"
 #include "TXStringI18n.h"
 #include "TXTable.h"
 
@@ -174,7 +175,8 @@ int TXReportDocument::pageCount() const
 void TXReportDocument::paintPage(int page, QPainter *painter) const
 {
     if (painter != nullptr && painter->isActive()) {
-        d->pages.paint(page, painter);
+        ReportTablePainter tables;
+        d->pages.paint(page, painter, &tables);
     }
 }
 

@@ -50,11 +50,6 @@ bool isSingleValue(const QVariant &element)
     return isText(element) || isPicture(element) || !element.toString().isEmpty();
 }
 
-QPen framePen()
-{
-    return QPen(Qt::black, kFramePenWidth, Qt::SolidLine);
-}
-
 QHash<QString, QVariant> inverted(QHash<QString, QVariant> settings)
 {
     settings.insert(QStringLiteral("InsideCellColor"), QColor(Qt::white));
@@ -322,6 +317,11 @@ void TXTable::drawBorderTable(TXGraphicsScene *scene, const QPointF &topLeft, fl
 {
     scene->drawRect(frameRect(topLeft, margin), framePen(), QBrush(Qt::white, Qt::SolidPattern),
                     hasShadow);
+}
+
+QPen TXTable::framePen()
+{
+    return QPen(Qt::black, kFramePenWidth, Qt::SolidLine);
 }
 
 QRectF TXTable::frameRect(const QPointF &topLeft, float margin) const

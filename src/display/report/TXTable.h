@@ -9,6 +9,7 @@
 #include <QVariant>
 
 class QFont;
+class QPen;
 class QPointF;
 class TXGraphicsScene;
 
@@ -143,6 +144,7 @@ private:
     void addSingleCell(const QHash<QString, QVariant> &dictionary);
     void addCellGroup(const QHash<QString, QVariant> &dictionary, const QList<QVariant> &elements);
     void appendAtCursor(const TXTableCell &cell);
+    [[nodiscard]] static QPen framePen();
     [[nodiscard]] QRectF frameRect(const QPointF &topLeft, float margin) const;
 
     int currentRow = 0;

@@ -1,5 +1,6 @@
 #include "TXTableCell.h"
 
+#include "ReportPlacement.h"
 #include "TXGraphicsScene.h"
 #include "TextSizeCache.h"
 
@@ -7,13 +8,6 @@
 #include <QFont>
 #include <QPen>
 #include <QPixmap>
-
-namespace {
-
-constexpr double kPictureInset = 1.0;
-constexpr QSizeF kTextMargins(2.0, 2.0);
-
-} // namespace
 
 TXTableCell::TXTableCell(const QHash<QString, QVariant> &dictionary)
     : element(dictionary.value("CellElement"))
@@ -43,10 +37,8 @@ void TXTableCell::drawTableCell(TXGraphicsScene *scene, const QPointF &topLeft,
     scene->drawRect(rect, pen, brush, false);
 
     if (element.typeId() == QMetaType::QPixmap) {
-        const QRectF inner(rect.x() + kPictureInset, rect.y() + kPictureInset,
-                           rect.width() - 2 * kPictureInset, rect.height() - 2 * kPictureInset);
-        scene->drawImageInRect(element.value<QPixmap>(), inner, TXAlignHorizontallyCentred,
-                               TXAlignVerticallyCentred);
+        scene->drawImageInRect(element.value<QPixmap>(), ReportPlacement::pictureRectOfCell(rect),
+                               TXAlignHorizontallyCentred, TXAlignVerticallyCentred);
         return;
     }
     const QString text = element.toString();
@@ -57,5 +49,5 @@ void TXTableCell::drawTableCell(TXGraphicsScene *scene, const QPointF &topLeft,
     scene->drawTextInRect(text, rect, TXHorizontalAlignment(horizontalAlign),
                           TXVerticalAlignment(verticalAlign),
                           TextSizeCache::fontWithWeight(font, bold ? QFont::Bold : QFont::Normal),
-                          brush, kTextMargins);
+                          brush, ReportPlacement::kCellTextMargins);
 }
