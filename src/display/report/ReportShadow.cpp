@@ -39,7 +39,8 @@ bool isRecording(const QPainter *painter)
 
 QTransform pointsFromDevice(const QPainter *painter)
 {
-    if (isRecording(painter)) {
+    // On the screen the shadow counts in pixels, as Qt's own does.
+    if (isRecording(painter) || !ReportShadow::isForPaper(painter)) {
         return {};
     }
     const QPaintDevice *device = painter->device();
