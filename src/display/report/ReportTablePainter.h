@@ -40,7 +40,7 @@ public:
                       const QFont &font);
 
 private:
-    class Run;
+    class Painting;
 
     void setFont(const QFont &font);
 
