@@ -42,12 +42,16 @@ constexpr QSizeF kCellTextMargins(2.0, 2.0);
 /// for a number, and the rest of the page is lost.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT bool isWithinReach(const QRectF &rect);
 
-/// The place and size of a picture; see TXGraphicsScene::drawImageInRect().
+/// Where a picture stands.
 struct PicturePlace
 {
+    /// Its corner, in single precision.
     QPointF topLeft;
+    /// Its size in whole points.
     QSize size;
 };
+
+/// The place and size of a picture; see TXGraphicsScene::drawImageInRect().
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT PicturePlace
 placeOfPicture(const QSize &pixels, const QRectF &rect, TXHorizontalAlignment horizontal,
                TXVerticalAlignment vertical);
