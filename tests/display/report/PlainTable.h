@@ -3,6 +3,15 @@
 #include "TXTableCell.h"
 #include "TableTestHelpers.h"
 
+#include <QFont>
+#include <QList>
+#include <QPixmap>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <algorithm>
 #include <map>
 #include <vector>
 

@@ -1,17 +1,22 @@
 #pragma once
 
 #include "ICompletionDelegate.h"
+#include "ReportTestFont.h"
 #include "TXError.h"
+#include "TXGraphicsScene.h"
 #include "TXStringI18n.h"
 #include "TXTable.h"
-#include "TXTableCell.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
-#include <QFont>
+#include <QIODevice>
 #include <QList>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
+#include <QTest>
+#include <QVariant>
 
 #include <functional>
 
@@ -46,12 +51,10 @@ public:
     QStringList errors;
 };
 
-/// 10 pixels, so that a text is 10 points high wherever the test runs.
-inline QFont tenPoints()
+/// Draws a page that tells its number among those of its addPages(), from 0.
+inline void drawMark(TXGraphicsScene *scene, int page)
 {
-    QFont font;
-    font.setPixelSize(10);
-    return font;
+    scene->drawText(QStringLiteral("drawn%1").arg(page), {0, 0}, reportTestFont(), Qt::black);
 }
 
 /// A table with a header row and rows of the given heights, the texts of which are "row 1" and so

@@ -6,10 +6,18 @@
 #include "TXTable.h"
 #include "TestBase.h"
 
-#include <QFont>
+#include <QHash>
+#include <QList>
+#include <QMarginsF>
 #include <QPageLayout>
 #include <QPageSize>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
+#include <QVariant>
 
 #include <algorithm>
 #include <memory>
@@ -35,14 +43,6 @@ protected:
             QTest::qFail(qPrintable(error.getCompletLocalizedDescription()), __FILE__, __LINE__);
         }
         return PdfFile(fileName());
-    }
-
-    /// A font of as many points.
-    [[nodiscard]] static QFont fontOf(int points)
-    {
-        QFont font(QStringLiteral("DejaVu Sans"));
-        font.setPixelSize(points);
-        return font;
     }
 
     /// A page of as many points.

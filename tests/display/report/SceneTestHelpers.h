@@ -2,21 +2,28 @@
 
 #include "PixelProbe.h"
 
-#include <QFont>
+#include <QColor>
 #include <QGraphicsItem>
 #include <QGraphicsScene>
+#include <QImage>
 #include <QPainter>
+#include <QPointF>
+#include <QRectF>
+#include <QSize>
+#include <QString>
+#include <QTest>
 
 /// What the tests of scenes and their items share.
 namespace SceneTestHelpers {
 
-/// The part of the scene from (0, 0) to the size, a unit being a device-independent pixel, on
-/// white.
-inline PixelProbe rendered(QGraphicsScene &scene, const QSize &size, qreal devicePixelRatio = 1.0)
+/// The part of the scene from (0, 0) to the size, a unit being a device-independent pixel, on a
+/// background that shows where nothing is painted.
+inline PixelProbe rendered(QGraphicsScene &scene, const QSize &size, qreal devicePixelRatio = 1.0,
+                           const QColor &background = Qt::white)
 {
     QImage image(size * devicePixelRatio, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(devicePixelRatio);
-    image.fill(Qt::white);
+    image.fill(background);
     QPainter painter(&image);
     const QRectF area(QPointF(0, 0), size);
     scene.render(&painter, area, area);
@@ -48,13 +55,6 @@ inline QString exactly(double number)
 inline QString exactly(const QPointF &place)
 {
     return exactly(place.x()) + QStringLiteral(", ") + exactly(place.y());
-}
-
-inline QFont font(int pixelSize)
-{
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(pixelSize);
-    return font;
 }
 
 /// Devices of ratio 1 and 2 in the column "ratio".

@@ -1,12 +1,23 @@
 #pragma once
 
+#include "SceneTestHelpers.h"
+#include "TXGraphicsScene.h"
 #include "TXTable.h"
+#include "TXTableCell.h"
 
+#include <QColor>
 #include <QDebug>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QGraphicsDropShadowEffect>
+#include <QGraphicsItem>
+#include <QHash>
+#include <QList>
 #include <QPixmap>
+#include <QSizeF>
+#include <QString>
 #include <QStringList>
+#include <QVariant>
 
 /// Shorthands for tests that fill report tables and look at what they hold.
 namespace TableTest {
@@ -14,13 +25,6 @@ namespace TableTest {
 using Settings = QHash<QString, QVariant>;
 using Row = QList<TXTableCell>;
 using Rows = QList<Row>;
-
-inline QFont font(int pixels = 10)
-{
-    QFont result(QStringLiteral("DejaVu Sans"));
-    result.setPixelSize(pixels);
-    return result;
-}
 
 /// What TXTable::addCell() takes, with as little in it as a report gives.
 inline Settings settings(const QVariant &element, const QSizeF &size = {50.0, 20.0})
@@ -91,16 +95,14 @@ inline QString describe(const QVariant &value)
 /// All that a cell holds, each number to its last digit.
 inline QString describe(const TXTableCell &cell)
 {
-    const auto exact = [](double number) {
-        return QString::number(number, 'g', 17);
-    };
+    using SceneTestHelpers::exactly;
     QStringList parts{describe(cell.element)};
     for (const QColor &colour : {cell.textColor, cell.insideColor, cell.borderColor}) {
         parts.append(colour.isValid() ? colour.name(QColor::HexArgb) : QStringLiteral("none"));
     }
     parts << QString::number(cell.horizontalAlign) << QString::number(cell.verticalAlign)
-          << (cell.bold ? "bold" : "normal") << exact(cell.size.width())
-          << exact(cell.size.height()) << exact(cell.borderLineWidth)
+          << (cell.bold ? "bold" : "normal") << exactly(cell.size.width())
+          << exactly(cell.size.height()) << exactly(cell.borderLineWidth)
           << QString::number(cell.realColumn) << QString::number(cell.nbMergedCell);
     return parts.join(u' ');
 }
@@ -147,6 +149,16 @@ inline QStringList firstTexts(const TXTable &table)
 inline TXTableCell cellAt(const TXTable &table, int row, int cell)
 {
     return table.getTableCellList().at(row).at(cell);
+}
+
+/// Whether the table's frame throws a shadow when it is drawn; no table tells so itself.
+inline bool hasShadow(const TXTable &table)
+{
+    TXGraphicsScene scene;
+    table.drawBorderTable(&scene, {0.0, 0.0}, 5.0F);
+    const auto *frame = SceneTestHelpers::onlyItem<QGraphicsItem>(scene);
+    return frame != nullptr
+        && qobject_cast<QGraphicsDropShadowEffect *>(frame->graphicsEffect()) != nullptr;
 }
 
 } // namespace TableTest

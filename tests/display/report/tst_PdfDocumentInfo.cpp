@@ -4,9 +4,13 @@
 #include "TestBase.h"
 
 #include <QBuffer>
+#include <QDate>
+#include <QDateTime>
+#include <QIODevice>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTemporaryDir>
+#include <QTime>
 
 class TestPdfDocumentInfo : public TestBase
 {

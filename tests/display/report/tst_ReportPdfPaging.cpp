@@ -1,7 +1,11 @@
+#include "PdfFile.h"
 #include "ReportPdfTest.h"
+#include "ReportTestFont.h"
 #include "TXGraphicsScene.h"
-#include "TXTableCell.h"
+#include "TXReportDocument.h"
+#include "TXTable.h"
 
+#include <QMarginsF>
 #include <QRandomGenerator>
 
 namespace {
@@ -194,7 +198,7 @@ void TestReportPdfPaging::eachPageTellsItsNumberAndTheTitle()
 {
     TXReportDocument report;
     report.setTitle(QStringLiteral("Chart comparison"));
-    report.addTable(numberedRows(QList<double>(150, 20.0)), fontOf(10));
+    report.addTable(numberedRows(QList<double>(150, 20.0)), reportTestFont(10));
     PdfFile pdf = written(report);
     const QStringList pages = pdf.pageTexts();
 
@@ -215,7 +219,7 @@ void TestReportPdfPaging::headerAndFooterStandAtTheirPlaces()
 {
     TXReportDocument report;
     report.setPageLayout(layoutOf({400, 500}, {30, 40, 50, 60}));
-    report.setHeaderFont(fontOf(8));
+    report.setHeaderFont(reportTestFont(8));
     report.setTitle(QStringLiteral("Topic"));
     report.setHeaderText(QStringLiteral("{title}"), TXAlignLeft);
     report.setHeaderText(QStringLiteral("middle"), TXAlignHorizontallyCentred);
@@ -223,7 +227,7 @@ void TestReportPdfPaging::headerAndFooterStandAtTheirPlaces()
     report.setFooterText(QStringLiteral("below{page}"), TXAlignLeft);
     report.setFooterText(QString(), TXAlignHorizontallyCentred);
     report.setFooterText(QStringLiteral("end"), TXAlignRight);
-    report.addTable(numberedRows(QList<double>(30, 20.0)), fontOf(10));
+    report.addTable(numberedRows(QList<double>(30, 20.0)), reportTestFont(10));
     PdfFile pdf = written(report);
     const QList<QList<PdfFile::Word>> pages = pdf.words();
 
@@ -255,7 +259,7 @@ void TestReportPdfPaging::headerAndFooterMayBeEmpty()
     TXReportDocument report;
     report.setTitle(QStringLiteral("hidden"));
     removeHeaderAndFooter(report);
-    report.addTable(numberedRows({20.0}), fontOf(10));
+    report.addTable(numberedRows({20.0}), reportTestFont(10));
 
     QCOMPARE(pagesOf(report), (QList<QStringList>{{QStringLiteral("r0")}}));
 }
@@ -270,7 +274,7 @@ void TestReportPdfPaging::tableHeaderIsRepeatedOnEachPage()
     }
     TXReportDocument report;
     removeHeaderAndFooter(report);
-    report.addTable(table, fontOf(8));
+    report.addTable(table, reportTestFont(8));
     const QList<QStringList> pages = pagesOf(report);
 
     QVERIFY(pages.size() > 2);
@@ -319,7 +323,7 @@ void TestReportPdfPaging::rowsAreCutAtTheLimit()
     TXReportDocument report;
     report.setPageLayout(layoutOf({200, height}, {20, 30, 20, 300}));
     removeHeaderAndFooter(report);
-    report.addTable(numberedRows(heights), fontOf(8));
+    report.addTable(numberedRows(heights), reportTestFont(8));
 
     QStringList found;
     const QList<QStringList> onPages = pagesOf(report);
@@ -335,7 +339,7 @@ void TestReportPdfPaging::rowHigherThanThePaperStillStandsAlone()
     TXReportDocument report;
     report.setPageLayout(layoutOf({200, 200}, {20, 20, 20, 20}));
     removeHeaderAndFooter(report);
-    report.addTable(numberedRows({20, 1000, 20, 100000, 20}), fontOf(8));
+    report.addTable(numberedRows({20, 1000, 20, 100000, 20}), reportTestFont(8));
 
     QStringList found;
     const QList<QStringList> onPages = pagesOf(report);
@@ -349,7 +353,7 @@ void TestReportPdfPaging::rowHigherThanThePaperStillStandsAlone()
 void TestReportPdfPaging::contentsFollowEachOtherInOrder()
 {
     const auto write = [](const QString &text, TXGraphicsScene *scene) {
-        scene->drawText(text, {10, 10}, fontOf(10), Qt::black);
+        scene->drawText(text, {10, 10}, reportTestFont(10), Qt::black);
     };
     TXGraphicsScene cover;
     write(QStringLiteral("cover"), &cover);
@@ -357,7 +361,7 @@ void TestReportPdfPaging::contentsFollowEachOtherInOrder()
     removeHeaderAndFooter(report);
     report.setPageLayout(layoutOf({200, 150}, {20, 20, 20, 20}));
     report.addPage(&cover);
-    report.addTable(numberedRows(QList<double>(6, 20.0)), fontOf(10));
+    report.addTable(numberedRows(QList<double>(6, 20.0)), reportTestFont(10));
     report.addPages(3, [&](TXGraphicsScene *scene, int page) {
         write(QStringLiteral("drawn%1").arg(page), scene);
     });
@@ -398,7 +402,7 @@ void TestReportPdfPaging::noRowOfRandomTablesIsLostOrDoubled()
     QList<QStringList> expected;
     for (int number = firstTable; number < firstTable + kTables; ++number) {
         const RandomTable random(number);
-        report.addTable(random.table(), fontOf(kFontPoints));
+        report.addTable(random.table(), reportTestFont(kFontPoints));
         expected.append(random.expectedTexts(limit));
     }
 

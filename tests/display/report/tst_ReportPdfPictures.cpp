@@ -1,8 +1,13 @@
+#include "PdfFile.h"
 #include "PixelProbe.h"
 #include "ReportPdfTest.h"
+#include "ReportTestFont.h"
 #include "TXGraphicsScene.h"
+#include "TXReportDocument.h"
 #include "TXTable.h"
 
+#include <QColor>
+#include <QImage>
 #include <QPixmap>
 #include <QRandomGenerator>
 
@@ -113,7 +118,7 @@ void TestReportPdfPictures::pictureOfATableHasItsResolution()
         table.addCell(cell(noise({450, 300}), {110, 74}));
     }
     TXReportDocument report;
-    report.addTable(table, fontOf(10));
+    report.addTable(table, reportTestFont(10));
     PdfFile pdf = written(report);
     const QList<PdfFile::Picture> pictures = pdf.pictures();
 
@@ -171,7 +176,7 @@ void TestReportPdfPictures::patchesOfATableKeepTheirExactColours()
         table.addCell(cell(patch({30, 30}, colours.last()), {38, 38}));
     }
     TXReportDocument report;
-    report.addTable(table, fontOf(10));
+    report.addTable(table, reportTestFont(10));
     PdfFile pdf = written(report);
     const QList<QImage> pictures = pdf.pixelsOfPictures(1);
 

@@ -1,7 +1,18 @@
+#include "PdfFile.h"
 #include "ReportPdfTest.h"
+#include "ReportTestFont.h"
 #include "TXGraphicsScene.h"
+#include "TXReportDocument.h"
+#include "TXTable.h"
 
+#include <QColor>
+#include <QFont>
 #include <QFontMetricsF>
+#include <QImage>
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPen>
 #include <QRandomGenerator>
 
 namespace {
@@ -100,7 +111,7 @@ void TestReportPdfPlaces::paperIsThatOfTheLayout()
     QFETCH(QSizeF, points);
     TXReportDocument report;
     report.setPageLayout(layout);
-    report.addTable(tableOf(QStringList(150, QStringLiteral("text"))), fontOf(10));
+    report.addTable(tableOf(QStringList(150, QStringLiteral("text"))), reportTestFont(10));
     PdfFile pdf = written(report);
     const QList<QSizeF> sizes = pdf.information().pageSizes;
 
@@ -136,7 +147,7 @@ void TestReportPdfPlaces::contentStandsWithinTheMargins()
 {
     QFETCH(QPageLayout, layout);
     QFETCH(QRectF, content);
-    const QFont font = fontOf(10);
+    const QFont font = reportTestFont(10);
     const QFontMetricsF metrics(font);
     const QPointF lastPlace(content.width() - metrics.horizontalAdvance(QStringLiteral("lower")),
                             content.height() - metrics.height());
@@ -171,7 +182,7 @@ void TestReportPdfPlaces::textsOfASceneStandWhereTheyWereDrawn()
         // One in each field of 100 by 28 points, somewhere in it.
         const QPointF field = QPoint(i % kColumns * 100, i / kColumns * 28);
         places.append(field + QPointF(random.bounded(60.0), random.bounded(15.0)));
-        scene.drawText(QStringLiteral("T%1").arg(i), places[i], fontOf(9), Qt::black);
+        scene.drawText(QStringLiteral("T%1").arg(i), places[i], reportTestFont(9), Qt::black);
     }
     TXReportDocument report;
     report.addPage(&scene);
@@ -193,7 +204,7 @@ void TestReportPdfPlaces::sizesOfTextsArePoints()
     TXGraphicsScene scene;
     double y = 0.0;
     for (const int size : sizes) {
-        scene.drawText(text, {20, y}, fontOf(size), Qt::black);
+        scene.drawText(text, {20, y}, reportTestFont(size), Qt::black);
         y += 1.5 * size;
     }
     TXReportDocument report;
@@ -205,7 +216,7 @@ void TestReportPdfPlaces::sizesOfTextsArePoints()
     QCOMPARE(pdf.errorText(), QString());
     QCOMPARE(words.size(), sizes.size());
     for (int i = 0; i < sizes.size(); ++i) {
-        const QSizeF expected = QFontMetricsF(fontOf(sizes[i])).size(0, text);
+        const QSizeF expected = QFontMetricsF(reportTestFont(sizes[i])).size(0, text);
         const QSizeF found = words[i].box.size();
         QVERIFY2(isNear({found.width(), found.height()}, {expected.width(), expected.height()}),
                  qPrintable(toText({found.width(), found.height()},
@@ -244,9 +255,9 @@ void TestReportPdfPlaces::textInARectangleStandsByItsAlignment()
     QFETCH(QPointF, margins);
     const QString text = QStringLiteral("aligned");
     const QRectF rect(37.25, 411.6, 150.9, 60.4);
-    const QSizeF textSize = QFontMetricsF(fontOf(11)).size(0, text);
+    const QSizeF textSize = QFontMetricsF(reportTestFont(11)).size(0, text);
     TXGraphicsScene scene;
-    scene.drawTextInRect(text, rect, horizontal, vertical, fontOf(11), Qt::black, {3, 7});
+    scene.drawTextInRect(text, rect, horizontal, vertical, reportTestFont(11), Qt::black, {3, 7});
     TXReportDocument report;
     removeHeaderAndFooter(report);
     report.addPage(&scene);
@@ -270,7 +281,7 @@ void TestReportPdfPlaces::textsOfATableStandInTheirCells()
         table.addCell(leftTopCell(QStringLiteral("c%1").arg(i), size));
     }
     TXReportDocument report;
-    report.addTable(table, fontOf(10));
+    report.addTable(table, reportTestFont(10));
     PdfFile pdf = written(report);
     const QList<QList<PdfFile::Word>> pages = pdf.words();
 
@@ -357,7 +368,7 @@ void TestReportPdfPlaces::cellsOfATableStandToAHundredthOfAPoint()
     }
     TXReportDocument report;
     removeHeaderAndFooter(report);
-    report.addTable(table, fontOf(10));
+    report.addTable(table, reportTestFont(10));
     PdfFile pdf = written(report);
 
     const QRectF expected(

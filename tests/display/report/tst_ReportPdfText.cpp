@@ -1,6 +1,16 @@
+#include "PdfFile.h"
 #include "ReportPdfTest.h"
+#include "ReportTestFont.h"
 #include "TXGraphicsScene.h"
+#include "TXReportDocument.h"
+#include "TXTable.h"
 
+#include <QFont>
+#include <QImage>
+#include <QMap>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPen>
 #include <QPrinter>
 
 #include <algorithm>
@@ -100,7 +110,7 @@ void TestReportPdfText::titleAndAuthorComeBack()
     removeHeaderAndFooter(report);
     report.setTitle(title);
     report.setAuthor(author);
-    report.addTable(tableOf({QStringLiteral("text")}), fontOf(10));
+    report.addTable(tableOf({QStringLiteral("text")}), reportTestFont(10));
     PdfFile pdf = written(report);
     const PdfFile::Information information = pdf.information();
 
@@ -114,7 +124,7 @@ void TestReportPdfText::everyTextOfATableIsFound()
 {
     const QStringList texts = textsToFind();
     TXReportDocument report;
-    report.addTable(tableOf(texts), fontOf(10));
+    report.addTable(tableOf(texts), reportTestFont(10));
     PdfFile pdf = written(report);
     const QList<PdfFile::Word> words = pdf.words().value(0);
 
@@ -129,8 +139,9 @@ void TestReportPdfText::everyTextOfASceneIsFound()
     const QStringList texts = textsToFind();
     TXGraphicsScene scene;
     for (int row = 0; row < texts.size(); ++row) {
-        scene.drawText(QStringLiteral("n%1").arg(row), {0, row * 20.0}, fontOf(10), Qt::black);
-        scene.drawText(texts[row], {40, row * 20.0}, fontOf(10), Qt::black);
+        scene.drawText(QStringLiteral("n%1").arg(row), {0, row * 20.0}, reportTestFont(10),
+                       Qt::black);
+        scene.drawText(texts[row], {40, row * 20.0}, reportTestFont(10), Qt::black);
     }
     TXReportDocument report;
     report.addPage(&scene);
@@ -148,7 +159,7 @@ void TestReportPdfText::joinedLettersAreFoundAsTheirLigature()
     // Qt names one character for each glyph. Viewers take a ligature for its letters when they
     // search.
     TXReportDocument report;
-    report.addTable(tableOf({QStringLiteral("first office affluent")}), fontOf(10));
+    report.addTable(tableOf({QStringLiteral("first office affluent")}), reportTestFont(10));
     PdfFile pdf = written(report);
     const QString text = textOfRow(pdf.words().value(0), 0);
 
@@ -164,7 +175,7 @@ void TestReportPdfText::wordsFromTheRightAreFoundInTheirOwnOrder()
     const QString hebrew = QStringLiteral("שלום");
     TXReportDocument report;
     removeHeaderAndFooter(report);
-    report.addTable(tableOf({hebrew, QStringLiteral("after")}), fontOf(10));
+    report.addTable(tableOf({hebrew, QStringLiteral("after")}), reportTestFont(10));
     PdfFile pdf = written(report);
     const QString text = pdf.pageTexts().value(0);
     QString fromTheLeft = textOfRow(pdf.words().value(0), 0);
@@ -183,7 +194,7 @@ void TestReportPdfText::charactersBeyondThePlanesFirstLeaveTheirNeighboursBe()
     TXReportDocument report;
     removeHeaderAndFooter(report);
     report.addTable(tableOf({QStringLiteral("before 𝔄 after"), QStringLiteral("next")}),
-                    fontOf(10));
+                    reportTestFont(10));
     PdfFile pdf = written(report);
     const QList<PdfFile::Word> words = pdf.words().value(0);
     const QImage page = pdf.rendered(1, 72);
@@ -207,7 +218,7 @@ void TestReportPdfText::charactersBeyondThePlanesFirstLeaveTheirNeighboursBe()
 
 void TestReportPdfText::fontsAreEmbedded()
 {
-    QFont bold = fontOf(12);
+    QFont bold = reportTestFont(12);
     bold.setBold(true);
     TXGraphicsScene scene;
     scene.drawText(QStringLiteral("bold"), {10, 10}, bold, Qt::black);
@@ -230,14 +241,14 @@ void TestReportPdfText::fontsAreEmbedded()
 void TestReportPdfText::textsAndLinesAreNoPictures()
 {
     TXGraphicsScene scene;
-    scene.drawText(QStringLiteral("text"), {10, 10}, fontOf(10), Qt::black);
+    scene.drawText(QStringLiteral("text"), {10, 10}, reportTestFont(10), Qt::black);
     scene.drawLine({0, 0}, {100, 100}, QPen(Qt::blue, 0.5), false);
     scene.drawEllipse({50, 50, 100, 60}, QPen(Qt::red, 1), Qt::yellow, false);
     scene.drawRoundedRect({50, 150, 100, 60}, 8, 8, QPen(Qt::red, 1), Qt::green, false);
-    scene.drawTable(tableOf(textsToFind()), {20, 250}, fontOf(10));
+    scene.drawTable(tableOf(textsToFind()), {20, 250}, reportTestFont(10));
     TXReportDocument report;
     report.addPage(&scene);
-    report.addTable(tableOf(textsToFind()), fontOf(10));
+    report.addTable(tableOf(textsToFind()), reportTestFont(10));
     PdfFile pdf = written(report);
 
     QCOMPARE(pdf.pictures().size(), 0);
@@ -248,13 +259,13 @@ void TestReportPdfText::textsAndLinesAreNoPictures()
 void TestReportPdfText::printedReportIsTheWrittenOne()
 {
     TXGraphicsScene scene;
-    scene.drawText(QStringLiteral("cover"), {123.4, 234.5}, fontOf(17), Qt::black);
+    scene.drawText(QStringLiteral("cover"), {123.4, 234.5}, reportTestFont(17), Qt::black);
     TXReportDocument report;
     report.setTitle(QStringLiteral("Printed"));
     report.setPageLayout(
         {QPageSize(QPageSize::A5), QPageLayout::Landscape, {30, 40, 30, 40}, QPageLayout::Point});
     report.addPage(&scene);
-    report.addTable(tableOf(textsToFind() + textsToFind()), fontOf(10));
+    report.addTable(tableOf(textsToFind() + textsToFind()), reportTestFont(10));
     PdfFile pdf = written(report);
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);

@@ -3,7 +3,10 @@
 #include "SceneTestHelpers.h"
 #include "TestBase.h"
 
+#include <QPixmap>
+
 #include <cmath>
+#include <limits>
 
 using SceneTestHelpers::exactly;
 

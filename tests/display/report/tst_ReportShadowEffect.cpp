@@ -2,20 +2,28 @@
 
 #include "PdfFile.h"
 #include "PixelProbe.h"
+#include "ReportTestFont.h"
 #include "TXGraphicsScene.h"
-#include "TXTable.h"
 #include "TestBase.h"
 
 #include <QBuffer>
+#include <QColor>
+#include <QDebug>
 #include <QFile>
-#include <QFont>
+#include <QGraphicsDropShadowEffect>
 #include <QGraphicsItem>
+#include <QIODevice>
 #include <QImage>
+#include <QMarginsF>
+#include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPen>
 #include <QPicture>
 #include <QTemporaryDir>
+#include <QTransform>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -26,13 +34,6 @@ constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 const QRectF kPaper(0, 0, 360, 252);
 constexpr double kPointsPerInch = 72.0;
-
-QFont textFont()
-{
-    QFont font("DejaVu Sans");
-    font.setPixelSize(24);
-    return font;
-}
 
 void drawScene(TXGraphicsScene &scene, const QString &what)
 {
@@ -51,7 +52,7 @@ void drawScene(TXGraphicsScene &scene, const QString &what)
     } else if (what == "level line") {
         scene.drawLine(QPointF(60, 100), QPointF(280, 100), QPen(Qt::blue, 6.0), true);
     } else if (what == "text") {
-        scene.drawText("Shadowed words", QPointF(70, 90), textFont(), Qt::black);
+        scene.drawText("Shadowed words", QPointF(70, 90), reportTestFont(24), Qt::black);
         scene.addShadowEffectInGraphicsItem(scene.items().first());
     } else if (what == "transformed") {
         scene.drawRect(QRectF(0, 0, 40, 30), QPen(Qt::black, 0.5), Qt::green, true);
@@ -149,6 +150,36 @@ Difference differenceOf(const QImage &one, const QImage &other)
     return {double(sum) / pixels, double(clear) / pixels};
 }
 
+/// How much of the difference that the lack of the shadow would make may be left: edges are
+/// smoothed in another way by poppler than by Qt, and the shadow's picture is half as fine as
+/// the screen. Found are shares from 0.15 (level line) to 0.28 (text).
+constexpr double kMeanShareOfShadow = 0.4;
+
+/// The share of pixels along edges that are smoothed in another way. Found are 0.011 at most, where
+/// two outlines cross in a group. Shadows are too faint to count here: without one it is 0.001
+/// (text) to 0.065.
+constexpr double kClearShareOfEdges = 0.015;
+
+/// As the first for a strong, red and shifted shadow, in grey levels: found are 0.55, 12.7 without
+/// a shadow, and 12.4 with the one that the effect has before its settings are changed.
+constexpr double kMeanOfStrongShadow = 1.5;
+
+/// In grey levels, for a shadow's picture that falls on other pixels of the paper's own grid. Found
+/// are 0.11; a shadow on one of the papers alone makes some 2.
+constexpr double kMeanOfPictureGrid = 0.2;
+
+/// The paper with all that stands on the scene but the shadows, which the scene has no more after.
+QImage paperWithoutShadows(TXGraphicsScene &scene)
+{
+    for (QGraphicsItem *item : scene.items()) {
+        item->setGraphicsEffect(nullptr);
+    }
+    const QTemporaryDir folder;
+    const QString fileName = folder.filePath("plain.pdf");
+    writePdf({&scene}, fileName);
+    return pixelsOfPdf(fileName);
+}
+
 void addKinds()
 {
     QTest::addColumn<QString>("what");
@@ -157,6 +188,30 @@ void addKinds()
           "transformed", "group", "nested", "translucent", "over the edge"}) {
         QTest::newRow(what) << what;
     }
+}
+
+/// Writes down what the painter is set to when it comes to this item. The scene itself puts back
+/// what it changes when all is painted, and so cannot show what an effect leaves behind.
+class PainterWitness : public QGraphicsItem
+{
+public:
+    QRectF boundingRect() const override { return kPaper; }
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem * /*option*/,
+               QWidget * /*widget*/) override
+    {
+        QDebug(&seen) << painter->worldTransform() << painter->renderHints() << painter->pen()
+                      << painter->brush() << painter->opacity() << painter->hasClipping()
+                      << int(painter->compositionMode());
+    }
+
+    QString seen;
+};
+
+PainterWitness *addWitness(QGraphicsScene &scene)
+{
+    auto witness = std::make_unique<PainterWitness>();
+    scene.addItem(witness.get());
+    return witness.release();
 }
 
 void replaceByQtsEffect(QGraphicsItem *item)
@@ -190,7 +245,7 @@ private slots:
     void shadowOfAHugeItemIsSeenBesideIt_data();
     void shadowOfAHugeItemIsSeenBesideIt();
     void recordingKeepsTheItemAsItIs();
-    void leavesThePaintersState();
+    void whatFollowsFindsThePainterAsItWas();
 };
 
 void TestReportShadowEffect::onPixelsItIsQtsDropShadow()
@@ -223,8 +278,13 @@ void TestReportShadowEffect::onPaperItLooksAsOnTheScreen()
     const QImage screen = onPixels(scene);
     QCOMPARE(paper.size(), screen.size());
     const Difference difference = differenceOf(paper, screen);
-    QVERIFY2(difference.mean < 0.8, qPrintable(QString::number(difference.mean)));
-    QVERIFY2(difference.clearShare < 0.015, qPrintable(QString::number(difference.clearShare)));
+    const Difference withoutShadow = differenceOf(paperWithoutShadows(scene), screen);
+    QVERIFY2(difference.mean < kMeanShareOfShadow * withoutShadow.mean,
+             qPrintable(QStringLiteral("%1, without a shadow %2")
+                            .arg(difference.mean)
+                            .arg(withoutShadow.mean)));
+    QVERIFY2(difference.clearShare < kClearShareOfEdges,
+             qPrintable(QString::number(difference.clearShare)));
 }
 
 void TestReportShadowEffect::onPaperOnlyTheShadowIsAPicture()
@@ -256,7 +316,7 @@ void TestReportShadowEffect::doesNotDependOnTheResolutionOfThePaper()
     writePdf({&scene}, folder.filePath("fine.pdf"), 1200);
     const Difference difference = differenceOf(pixelsOfPdf(folder.filePath("coarse.pdf")),
                                                pixelsOfPdf(folder.filePath("fine.pdf")));
-    QVERIFY2(difference.mean < 0.2, qPrintable(QString::number(difference.mean)));
+    QVERIFY2(difference.mean < kMeanOfPictureGrid, qPrintable(QString::number(difference.mean)));
     const qint64 coarse = QFile(folder.filePath("coarse.pdf")).size();
     const qint64 fine = QFile(folder.filePath("fine.pdf")).size();
     QVERIFY2(fine < coarse + 1000, qPrintable(QString::number(fine - coarse)));
@@ -308,7 +368,7 @@ void TestReportShadowEffect::followsTheEffectsSettings()
     const QString fileName = folder.filePath("shadow.pdf");
     writePdf({&scene}, fileName);
     const Difference difference = differenceOf(pixelsOfPdf(fileName), onPixels(scene));
-    QVERIFY2(difference.mean < 1.5, qPrintable(QString::number(difference.mean)));
+    QVERIFY2(difference.mean < kMeanOfStrongShadow, qPrintable(QString::number(difference.mean)));
     effect->setEnabled(false);
     writePdf({&scene}, fileName);
     PdfFile pdf(fileName);
@@ -397,21 +457,23 @@ void TestReportShadowEffect::recordingKeepsTheItemAsItIs()
     QCOMPARE(pdf.pictures().size(), 2);
 }
 
-void TestReportShadowEffect::leavesThePaintersState()
+void TestReportShadowEffect::whatFollowsFindsThePainterAsItWas()
 {
     TXGraphicsScene scene;
+    const PainterWitness *before = addWitness(scene);
     drawScene(scene, "rectangle");
+    const PainterWitness *after = addWitness(scene);
     QBuffer buffer;
     QVERIFY(buffer.open(QIODevice::WriteOnly));
     QPdfWriter writer(&buffer);
     setUpPaper(writer, 300);
     QPainter painter(&writer);
     painter.scale(2.0, 3.0);
-    const QTransform transform = painter.transform();
-    const QPainter::RenderHints hints = painter.renderHints();
+
     render(scene, &painter);
-    QCOMPARE(painter.transform(), transform);
-    QCOMPARE(painter.renderHints(), hints);
+
+    QVERIFY(!before->seen.isEmpty());
+    QCOMPARE(after->seen, before->seen);
 }
 
 int main(int argc, char **argv)

@@ -1,11 +1,18 @@
 #include "TXGraphicsRoundedRectItem.h"
 
+#include "PixelProbe.h"
 #include "SceneTestHelpers.h"
 #include "TestBase.h"
 
+#include <QColor>
+#include <QCoreApplication>
+#include <QGraphicsRectItem>
+#include <QGraphicsScene>
 #include <QPen>
+#include <QSignalSpy>
 
 #include <cmath>
+#include <memory>
 
 using SceneTestHelpers::rendered;
 

@@ -1,18 +1,26 @@
 #include "TXGraphicsScene.h"
 
+#include "PixelProbe.h"
 #include "SceneTestHelpers.h"
 #include "TXGraphicsRoundedRectItem.h"
-#include "TXTable.h"
 #include "TestBase.h"
 
+#include <QBrush>
+#include <QColor>
+#include <QGraphicsBlurEffect>
 #include <QGraphicsColorizeEffect>
 #include <QGraphicsDropShadowEffect>
 #include <QGraphicsEllipseItem>
+#include <QGraphicsItem>
 #include <QGraphicsLineItem>
 #include <QGraphicsRectItem>
 #include <QGraphicsSimpleTextItem>
+#include <QLineF>
+#include <QPen>
 
 #include <cmath>
+#include <limits>
+#include <memory>
 
 using SceneTestHelpers::itemAt;
 using SceneTestHelpers::onlyItem;
@@ -54,7 +62,6 @@ private slots:
     void newSizeFitsWithProportionsKept_data();
     void newSizeFitsWithProportionsKept();
     void newSizeNeedsNoScale();
-    void tableIsDrawnWithinItsFrame();
     void parentOwnsTheScene();
 };
 
@@ -282,23 +289,6 @@ void TestTXGraphicsScene::newSizeFitsWithProportionsKept()
 void TestTXGraphicsScene::newSizeNeedsNoScale()
 {
     QCOMPARE(TXGraphicsScene::newSizeFromSize({400, 200}, {100, 100}, nullptr), QSize(100, 50));
-}
-
-void TestTXGraphicsScene::tableIsDrawnWithinItsFrame()
-{
-    TXTable table(1, true);
-    table.addCell({{"CellElement", QStringLiteral("a")}, {"CellSize", QSizeF(30, 20)}});
-    TXGraphicsScene scene;
-
-    scene.drawTable(table, QPointF(10, 10), SceneTestHelpers::font(10));
-
-    QCOMPARE(scene.items().size(), 3);
-    const auto *frame = itemAt<QGraphicsRectItem>(scene, 0);
-    QVERIFY(frame);
-    QCOMPARE(frame->rect(), QRectF(5, 5, 40, 30));
-    QVERIFY(qobject_cast<QGraphicsDropShadowEffect *>(frame->graphicsEffect()));
-    QCOMPARE(itemAt<QGraphicsRectItem>(scene, 1)->rect(), QRectF(10, 10, 30, 20));
-    QVERIFY(itemAt<QGraphicsSimpleTextItem>(scene, 2));
 }
 
 void TestTXGraphicsScene::parentOwnsTheScene()

@@ -1,8 +1,17 @@
 #include "TXGraphicsScene.h"
 
+#include "PixelProbe.h"
 #include "SceneTestHelpers.h"
 #include "TXScalablePixmapItem.h"
 #include "TestBase.h"
+
+#include <QColor>
+#include <QGraphicsItem>
+#include <QPixmap>
+#include <QSet>
+#include <QTransform>
+
+#include <cmath>
 
 using SceneTestHelpers::exactly;
 using SceneTestHelpers::onlyItem;
@@ -42,10 +51,10 @@ private slots:
     void nullPixmapDrawsNothing();
     void placeIsNarrowedAndSizeRounded();
     void pixmapsOwnRatioDoesNotCount();
-    void givenPixmapStaysAsItIs();
     void resamplingKeepsProportions_data();
     void resamplingKeepsProportions();
     void resamplesOnce();
+    void resampledPicturesAreKeptAsLongAsTheScene();
     void resamplesAnewForAnotherSizePictureOrScene();
     void resolutionsOfOnePixelSizeAreOne();
     void picturesDrawnTwiceShareTheirPixels();
@@ -171,18 +180,6 @@ void TestTXGraphicsScenePicture::pixmapsOwnRatioDoesNotCount()
     QCOMPARE(rendered(scene, kArea).at({98, 76}), QColor(Qt::white));
 }
 
-void TestTXGraphicsScenePicture::givenPixmapStaysAsItIs()
-{
-    TXGraphicsScene scene;
-    const QPixmap pixmap = filled({400, 200}, Qt::red);
-    const qint64 key = pixmap.cacheKey();
-
-    drawInRect(scene, pixmap, QRectF(0, 0, 100, 100));
-
-    QCOMPARE(pixmap.cacheKey(), key);
-    QCOMPARE(pixmap.size(), QSize(400, 200));
-}
-
 void TestTXGraphicsScenePicture::resamplingKeepsProportions_data()
 {
     QTest::addColumn<QSize>("points");
@@ -219,6 +216,23 @@ void TestTXGraphicsScenePicture::resamplesOnce()
 
     QCOMPARE(second.cacheKey(), first.cacheKey());
     QVERIFY(first.cacheKey() != pixmap.cacheKey());
+}
+
+void TestTXGraphicsScenePicture::resampledPicturesAreKeptAsLongAsTheScene()
+{
+    // 3000 pictures of 111 by 55 pixels, in 70 megabytes.
+    constexpr int kOthers = 3000;
+    TXGraphicsScene scene;
+    const QPixmap pixmap = filled({40, 20}, Qt::red);
+    const qint64 first = scene.scaleToFitResolution(pixmap, {40, 20}, 200).cacheKey();
+    drawInRect(scene, pixmap, QRectF(0, 0, 40, 20));
+
+    scene.clear();
+    for (int i = 0; i < kOthers; ++i) {
+        (void)scene.scaleToFitResolution(filled({4, 2}, Qt::blue), {40, 20}, 200);
+    }
+
+    QCOMPARE(scene.scaleToFitResolution(pixmap, {40, 20}, 200).cacheKey(), first);
 }
 
 void TestTXGraphicsScenePicture::resamplesAnewForAnotherSizePictureOrScene()

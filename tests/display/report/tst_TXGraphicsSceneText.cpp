@@ -1,10 +1,16 @@
 #include "TXGraphicsScene.h"
 
+#include "PixelProbe.h"
+#include "ReportTestFont.h"
 #include "SceneTestHelpers.h"
 #include "TestBase.h"
 
+#include <QBrush>
+#include <QColor>
+#include <QFont>
 #include <QFontMetricsF>
 #include <QGraphicsSimpleTextItem>
+#include <QPen>
 
 using SceneTestHelpers::exactly;
 using SceneTestHelpers::onlyItem;
@@ -17,15 +23,14 @@ const QString kText = QStringLiteral("Patch 7");
 
 QSizeF measured(const QString &text)
 {
-    return QFontMetricsF(SceneTestHelpers::font(10)).size(Qt::TextShowMnemonic, text);
+    return QFontMetricsF(reportTestFont(10)).size(Qt::TextShowMnemonic, text);
 }
 
 void drawInRect(TXGraphicsScene &scene, const QString &text, const QRectF &rect, quint32 horizontal,
                 quint32 vertical, const QSizeF &margins = QSizeF(2.0, 3.0))
 {
     scene.drawTextInRect(text, rect, TXHorizontalAlignment(horizontal),
-                         TXVerticalAlignment(vertical), SceneTestHelpers::font(10), Qt::red,
-                         margins);
+                         TXVerticalAlignment(vertical), reportTestFont(10), Qt::red, margins);
 }
 
 /// The smallest rectangle around all that is not white.
@@ -70,7 +75,7 @@ private slots:
 void TestTXGraphicsSceneText::textIsAPlainItemAtItsPlace()
 {
     TXGraphicsScene scene;
-    const QFont font = SceneTestHelpers::font(10);
+    const QFont font = reportTestFont(10);
     const QBrush brush(Qt::blue, Qt::Dense3Pattern);
 
     scene.drawText(kText, QPointF(12.34567890123, -5.5), font, brush);
@@ -100,8 +105,7 @@ void TestTXGraphicsSceneText::boundingRectIsThatOfTheMetrics()
     QFETCH(QString, text);
 
     for (int round = 0; round < 2; ++round) {
-        const QRectF rect =
-            TXGraphicsScene::getBoundingRectOfText(text, SceneTestHelpers::font(10));
+        const QRectF rect = TXGraphicsScene::getBoundingRectOfText(text, reportTestFont(10));
         QCOMPARE(exactly(rect.topLeft()), exactly(QPointF(0, 0)));
         QCOMPARE(exactly(rect.bottomRight()),
                  exactly(QPointF(measured(text).width(), measured(text).height())));
@@ -238,7 +242,7 @@ void TestTXGraphicsSceneText::drawnTextHasColourAndFont()
     QFETCH(qreal, ratio);
     TXGraphicsScene scene;
     // Full block, as high as the line and more.
-    scene.drawText(QStringLiteral("\u2588\u2588"), QPointF(10, 10), SceneTestHelpers::font(20),
+    scene.drawText(QStringLiteral("\u2588\u2588"), QPointF(10, 10), reportTestFont(20),
                    QColor(0, 128, 255));
 
     const PixelProbe probe = rendered(scene, kArea, ratio);

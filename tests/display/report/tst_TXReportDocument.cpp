@@ -1,17 +1,29 @@
 #include "PdfFile.h"
 #include "ReportDocumentHelpers.h"
+#include "ReportTestFont.h"
 #include "TXGraphicsScene.h"
 #include "TXReportDocument.h"
+#include "TXTable.h"
 #include "TestBase.h"
 
+#include <QBrush>
+#include <QColor>
+#include <QFile>
+#include <QFont>
+#include <QFontMetricsF>
 #include <QImage>
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPageSize>
 #include <QPainter>
+#include <QPen>
+#include <QPointer>
 #include <QTemporaryDir>
+#include <QTransform>
 
 #include <cmath>
+#include <limits>
 #include <memory>
-#include <semaphore>
-#include <thread>
 
 class TestTXReportDocument : public TestBase
 {
@@ -35,14 +47,7 @@ private slots:
     void paintedPageLeavesThePainterAsItWas();
     void nothingIsPaintedOutsideThePages();
     void nothingIsPaintedOutsideThePaper();
-    void progressGoesTo100Once();
-    void aLaterChangeDoesNotDisturbTheWriting();
-    void cancelEndsAtTheNextPage();
-    void cancelWithoutAWritingDoesNothing();
-    void cancelAfterTheLastPageStillCounts();
-    void reportThatIsBeingWrittenIsRefused();
-    void writingOnAWorkerIsCancelledFromHere();
-    void manyPagesAreFoundAtOnce();
+    void eachPageIsFoundAmongMany();
 
 private:
     QTemporaryDir folder;
@@ -53,11 +58,6 @@ private:
 namespace {
 
 constexpr TXHorizontalAlignment kNoPlace = TXHorizontalAlignment(3);
-
-void drawMark(TXGraphicsScene *scene, int page)
-{
-    scene->drawText(QStringLiteral("drawn%1").arg(page), {0, 0}, tenPoints(), Qt::black);
-}
 
 QStringList firstWords(const QString &fileName)
 {
@@ -196,10 +196,10 @@ void TestTXReportDocument::titleAndAuthorAreInThePdf()
 void TestTXReportDocument::pagesComeInTheOrderOfAdding()
 {
     TXGraphicsScene scene;
-    scene.drawText("scene", {0, 0}, tenPoints(), Qt::black);
+    scene.drawText("scene", {0, 0}, reportTestFont(), Qt::black);
     TXReportDocument report;
     report.addPages(2, drawMark);
-    report.addTable(tableOfRows(40), tenPoints());
+    report.addTable(tableOfRows(40), reportTestFont());
     report.addPage(&scene);
     report.addPages(1, drawMark);
     report.addPage(&scene);
@@ -218,12 +218,12 @@ void TestTXReportDocument::badContentAddsNothing()
     report.addPages(0, drawMark);
     report.addPages(-1, drawMark);
     report.addPages(3, TXReportDocument::PageDrawing());
-    report.addTable(TXTable(3, true), tenPoints());
+    report.addTable(TXTable(3, true), reportTestFont());
     QCOMPARE(report.pageCount(), 0);
 
     // None of it stands in the way of what comes before and behind.
     report.addPages(1, drawMark);
-    report.addTable(TXTable(0, true), tenPoints());
+    report.addTable(TXTable(0, true), reportTestFont());
     report.addPages(1, drawMark);
     QCOMPARE(report.pageCount(), 2);
     QVERIFY(report.writePdf(fileName));
@@ -233,9 +233,9 @@ void TestTXReportDocument::badContentAddsNothing()
 void TestTXReportDocument::pagesAreCountedAnewAfterAChange()
 {
     TXReportDocument report;
-    report.addTable(tableOfRows(40), tenPoints());
+    report.addTable(tableOfRows(40), reportTestFont());
     QCOMPARE(report.pageCount(), 2);
-    report.addTable(tableOfRows(1), tenPoints());
+    report.addTable(tableOfRows(1), reportTestFont());
     QCOMPARE(report.pageCount(), 3);
 
     report.setPageLayout(
@@ -305,7 +305,7 @@ void TestTXReportDocument::sceneDestroyedBeforeLeavesAnEmptyPage()
 void TestTXReportDocument::tableStandsWithItsFrameInTheCorner()
 {
     TXReportDocument report;
-    report.addTable(tableOfRows(1), tenPoints());
+    report.addTable(tableOfRows(1), reportTestFont());
     constexpr int kScale = 10;
     const QImage page = paintedPage(report, 0, kScale);
 
@@ -346,7 +346,7 @@ void TestTXReportDocument::paintedPageLeavesThePainterAsItWas()
 {
     TXReportDocument report;
     report.setTitle("T");
-    report.addTable(tableOfRows(1), tenPoints());
+    report.addTable(tableOfRows(1), reportTestFont());
     QImage image(100, 100, QImage::Format_RGB32);
     QPainter painter(&image);
     painter.setPen(Qt::red);
@@ -383,7 +383,7 @@ void TestTXReportDocument::nothingIsPaintedOutsideThePaper()
     TXReportDocument report;
     report.setPageLayout(QPageLayout(QPageSize(QSizeF(100, 100), QPageSize::Point),
                                      QPageLayout::Portrait, QMarginsF(10, 10, 10, 10)));
-    report.addTable(tableOfRows(1), tenPoints());
+    report.addTable(tableOfRows(1), reportTestFont());
     QImage image(200, 100, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -399,147 +399,7 @@ void TestTXReportDocument::nothingIsPaintedOutsideThePaper()
     QCOMPARE(beside, white);
 }
 
-void TestTXReportDocument::progressGoesTo100Once()
-{
-    TXReportDocument report;
-    report.setTitle("Colours");
-    report.addPages(4, drawMark);
-    RecordingDelegate delegate;
-
-    QVERIFY(report.writePdf(fileName, &delegate));
-
-    QCOMPARE(delegate.percents, QList<float>({0, 25, 50, 75, 100}));
-    QCOMPARE(delegate.paths, QList<QList<QString>>(5, {"Colours"}));
-    QCOMPARE(delegate.messages,
-             QStringList({"Page 1 of 4", "Page 2 of 4", "Page 3 of 4", "Page 4 of 4"}));
-    QCOMPARE(delegate.errors, QStringList());
-}
-
-void TestTXReportDocument::aLaterChangeDoesNotDisturbTheWriting()
-{
-    TXReportDocument report;
-    report.addTable(tableOfRows(100), tenPoints());
-    QCOMPARE(report.pageCount(), 3);
-    RecordingDelegate delegate;
-    delegate.whenProgressing = [&](float) {
-        report.addPages(1, drawMark);
-        report.setPageLayout(QPageLayout(QPageSize(QPageSize::A0), QPageLayout::Portrait,
-                                         QMarginsF(36, 36, 36, 36)));
-    };
-
-    QVERIFY(report.writePdf(fileName, &delegate));
-
-    PdfFile file(fileName);
-    QCOMPARE(file.information().pageSizes.size(), delegate.messages.size());
-}
-
-void TestTXReportDocument::cancelEndsAtTheNextPage()
-{
-    TXReportDocument report;
-    report.addPages(10, drawMark);
-    fill(fileName, "earlier");
-    RecordingDelegate delegate;
-    delegate.whenProgressing = [&](float percent) {
-        if (percent >= 30) {
-            report.cancel();
-        }
-    };
-    TXError error;
-
-    QVERIFY(!report.writePdf(fileName, &delegate, &error));
-
-    QVERIFY(report.isCancelled());
-    QVERIFY(!error.isValid());
-    QCOMPARE(delegate.percents, QList<float>({0, 10, 20, 30, 100}));
-    QCOMPARE(delegate.messages.size(), 3);
-    QCOMPARE(delegate.errors, QStringList());
-    QCOMPARE(contentsOf(fileName), QByteArray("earlier"));
-    QCOMPARE(entriesOf(folder.path()), QStringList("report.pdf"));
-
-    delegate.whenProgressing = nullptr;
-    QVERIFY(report.writePdf(fileName, &delegate));
-    QVERIFY(!report.isCancelled());
-}
-
-void TestTXReportDocument::cancelWithoutAWritingDoesNothing()
-{
-    TXReportDocument report;
-    report.addPages(1, drawMark);
-
-    report.cancel();
-
-    QVERIFY(!report.isCancelled());
-    QVERIFY(report.writePdf(fileName));
-    report.cancel();
-    QVERIFY(!report.isCancelled());
-}
-
-void TestTXReportDocument::cancelAfterTheLastPageStillCounts()
-{
-    TXReportDocument report;
-    report.addPages(1, [&](TXGraphicsScene *, int) { report.cancel(); });
-    report.setAuthor("A");
-
-    QVERIFY(!report.writePdf(fileName));
-
-    QVERIFY(report.isCancelled());
-    QCOMPARE(entriesOf(folder.path()), QStringList());
-}
-
-void TestTXReportDocument::reportThatIsBeingWrittenIsRefused()
-{
-    TXReportDocument report;
-    report.addPages(2, drawMark);
-    RecordingDelegate delegate;
-    TXError error;
-    delegate.whenProgressing = [&](float) {
-        error = TXError();
-        QVERIFY(!report.writePdf(folder.filePath("other.pdf"), &delegate, &error));
-        QCOMPARE(error.getLocalizedDescription(),
-                 QString("The report is being written or printed already."));
-    };
-
-    QVERIFY(report.writePdf(fileName, &delegate));
-
-    QVERIFY(error.isValid());
-    QCOMPARE(delegate.percents, QList<float>({0, 50, 100}));
-    QCOMPARE(entriesOf(folder.path()), QStringList("report.pdf"));
-}
-
-void TestTXReportDocument::writingOnAWorkerIsCancelledFromHere()
-{
-    TXReportDocument report;
-    report.addTable(tableOfRows(5000), tenPoints());
-    std::binary_semaphore hasBegun(0);
-    std::binary_semaphore isCancelled(0);
-    RecordingDelegate delegate;
-    delegate.whenProgressing = [&](float percent) {
-        if (percent == 0) {
-            hasBegun.release();
-        } else if (delegate.percents.size() == 2) {
-            isCancelled.acquire();
-        }
-    };
-    bool isWritten = true;
-    std::thread worker([&] { isWritten = report.writePdf(fileName, &delegate); });
-    hasBegun.acquire();
-    report.cancel();
-    isCancelled.release();
-    worker.join();
-
-    QVERIFY(!isWritten);
-    QVERIFY(report.isCancelled());
-    QVERIFY(delegate.percents.size() <= 3);
-    QCOMPARE(entriesOf(folder.path()), QStringList());
-
-    delegate.whenProgressing = nullptr;
-    std::thread second([&] { isWritten = report.writePdf(fileName, &delegate); });
-    second.join();
-    QVERIFY(isWritten);
-    QCOMPARE(PdfFile(fileName).information().pageSizes.size(), report.pageCount());
-}
-
-void TestTXReportDocument::manyPagesAreFoundAtOnce()
+void TestTXReportDocument::eachPageIsFoundAmongMany()
 {
     TXReportDocument report;
     constexpr int kContents = 20'000;

@@ -1,13 +1,26 @@
 #include "PdfFile.h"
 #include "ReportDocumentHelpers.h"
+#include "ReportTestFont.h"
+#include "TXError.h"
 #include "TXGraphicsScene.h"
 #include "TXReportDocument.h"
+#include "TXTable.h"
 #include "TestBase.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPen>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 #include <cmath>
 #include <csignal>
+#include <limits>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -58,7 +71,7 @@ private:
 
 void drawText(TXGraphicsScene *scene, int page)
 {
-    scene->drawText(QStringLiteral("page %1").arg(page), {0, 0}, tenPoints(), Qt::black);
+    scene->drawText(QStringLiteral("page %1").arg(page), {0, 0}, reportTestFont(), Qt::black);
 }
 
 QString descriptionOf(const QString &fileName, const QString &reason)
@@ -139,7 +152,7 @@ void TestTXReportDocumentErrors::fullDiskLeavesTheEarlierFile()
     const QString fileName = folder.filePath("report.pdf");
     TXReportDocument report;
     report.setAuthor("A");
-    report.addTable(tableOfRows(3000), tenPoints());
+    report.addTable(tableOfRows(3000), reportTestFont());
     QVERIFY(report.writePdf(fileName));
     const int wholeSize = int(QFileInfo(fileName).size());
     QVERIFY(wholeSize > 50'000);
@@ -169,7 +182,7 @@ void TestTXReportDocumentErrors::reportWithoutPagesFails()
 {
     const QTemporaryDir folder;
     TXReportDocument report;
-    report.addTable(TXTable(2, false), tenPoints());
+    report.addTable(TXTable(2, false), reportTestFont());
     RecordingDelegate delegate;
     TXError error;
 
@@ -209,7 +222,7 @@ void TestTXReportDocumentErrors::paperWithoutRoomFails()
     TXReportDocument report;
     report.setPageLayout(layout);
     report.setTitle("T");
-    report.addTable(tableOfRows(10), tenPoints());
+    report.addTable(tableOfRows(10), reportTestFont());
     TXError error;
 
     QCOMPARE(report.pageLayout(), layout);
@@ -277,17 +290,17 @@ void TestTXReportDocumentErrors::oddContentIsWritten()
     TXReportDocument report;
     report.setTitle(QString(QChar(0xd800)) + QChar(0) + QString(100'000, 'T'));
     report.setAuthor(QString(100'000, 'A'));
-    report.addTable(tableOfRows({std::nan(""), -5, 1e6, 0, 20}), tenPoints());
+    report.addTable(tableOfRows({std::nan(""), -5, 1e6, 0, 20}), reportTestFont());
     TXTable withoutColumns(0, true);
     withoutColumns.addCell({{"CellElement", "alone"}});
-    report.addTable(withoutColumns, tenPoints());
+    report.addTable(withoutColumns, reportTestFont());
     report.addPages(1, [](TXGraphicsScene *scene, int) {
         scene->drawRect({-1e9, -1e9, 2e9, 2e9}, QPen(Qt::red, -1), Qt::NoBrush, true);
         scene->drawRect({0, 0, std::nan(""), 5}, QPen(), Qt::NoBrush, false);
         constexpr double kInfinite = std::numeric_limits<double>::infinity();
         scene->drawRect({-kInfinite, 0, kInfinite, 5}, QPen(), Qt::NoBrush, false);
         scene->drawLine({0, 0}, {1e300, -1e300}, QPen(), false);
-        scene->drawText("far", {1e300, 10}, tenPoints(), Qt::black);
+        scene->drawText("far", {1e300, 10}, reportTestFont(), Qt::black);
         drawText(scene, 7);
     });
 

@@ -1,9 +1,19 @@
 #include "TXScalablePixmapItem.h"
 
+#include "PixelProbe.h"
 #include "SceneTestHelpers.h"
 #include "TestBase.h"
 
+#include <QColor>
+#include <QGraphicsItem>
+#include <QGraphicsPixmapItem>
+#include <QGraphicsScene>
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+
 #include <cmath>
+#include <memory>
 
 using SceneTestHelpers::rendered;
 
@@ -55,6 +65,8 @@ private slots:
     void pixmapCanBeReplaced();
     void sizesWithoutExtentShowNothing_data();
     void sizesWithoutExtentShowNothing();
+    void negativeLengthsGiveWayToThePixmapsOwn_data();
+    void negativeLengthsGiveWayToThePixmapsOwn();
     void nullPixmapShowsNothing();
 };
 
@@ -191,6 +203,33 @@ void TestTXScalablePixmapItem::sizesWithoutExtentShowNothing()
     painter.end();
 
     QCOMPARE(PixelProbe(image).countColours(QRect(QPoint(0, 0), kArea)), 1);
+}
+
+void TestTXScalablePixmapItem::negativeLengthsGiveWayToThePixmapsOwn_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<QSize>("seen");
+    QTest::addRow("default") << QSizeF() << QSize(20, 16);
+    QTest::addRow("both") << QSizeF(-30, -40) << QSize(20, 16);
+    QTest::addRow("width") << QSizeF(-30, 10) << QSize(20, 10);
+    QTest::addRow("height") << QSizeF(8, -30) << QSize(8, 16);
+}
+
+void TestTXScalablePixmapItem::negativeLengthsGiveWayToThePixmapsOwn()
+{
+    QFETCH(QSizeF, size);
+    QFETCH(QSize, seen);
+    QGraphicsScene scene;
+    addItem(scene, twoColours({20, 16}), size)->setPos(30, 40);
+
+    const PixelProbe probe = rendered(scene, kArea);
+
+    const QRect place(QPoint(30, 40), seen);
+    QCOMPARE(probe.at(place.topLeft()), QColor(Qt::red));
+    QCOMPARE(probe.at(place.bottomRight()), QColor(Qt::blue));
+    QCOMPARE(probe.at(place.topLeft() - QPoint(1, 1)), QColor(Qt::white));
+    QCOMPARE(probe.at(place.topRight() + QPoint(1, 0)), QColor(Qt::white));
+    QCOMPARE(probe.at(place.bottomLeft() + QPoint(0, 1)), QColor(Qt::white));
 }
 
 void TestTXScalablePixmapItem::nullPixmapShowsNothing()

@@ -4,11 +4,11 @@
 #include "TestBase.h"
 
 #include <limits>
-#include <utility>
 
 using TableTest::cell;
 using TableTest::cellAt;
 using TableTest::describe;
+using TableTest::hasShadow;
 using TableTest::rowOfHeight;
 using TableTest::settings;
 using TableTest::tableOf;
@@ -45,6 +45,7 @@ private slots:
     void heightsAreAddedInSinglePrecision();
     void thereIsOneHeaderRow();
     void copiesAreValues();
+    void copiesThrowAShadowAsTheirOriginalDoes();
     void copiesShareTheirRowsUntilOneChanges();
     void aTableMayBeAssignedToItself();
     void replacingTheCellsLeavesWidthsAlone();
@@ -235,6 +236,22 @@ void TestTXTable::copiesAreValues()
     QCOMPARE(table.columnWidthAtIndex(0), 30.0F);
     QCOMPARE(copy.columnWidthAtIndex(0), 99.0F);
     QCOMPARE(assigned.tableWidth(), 60.0F);
+}
+
+void TestTXTable::copiesThrowAShadowAsTheirOriginalDoes()
+{
+    const TXTable shadowed(2, true);
+    const TXTable flat(2, false);
+    TXTable nowFlat(9, true);
+    TXTable nowShadowed(9, false);
+
+    nowFlat = flat;
+    nowShadowed = shadowed;
+
+    QVERIFY(hasShadow(TXTable(shadowed)));
+    QVERIFY(!hasShadow(TXTable(flat)));
+    QVERIFY(!hasShadow(nowFlat));
+    QVERIFY(hasShadow(nowShadowed));
 }
 
 void TestTXTable::copiesShareTheirRowsUntilOneChanges()

@@ -1,14 +1,15 @@
 #include "PlainTable.h"
+#include "ReportTestFont.h"
 #include "TXTable.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
 
+#include <QPixmap>
 #include <QRandomGenerator>
 
 #include <array>
 
 using TableTest::describe;
-using TableTest::font;
 using TableTest::Row;
 using TableTest::Rows;
 using TableTest::Settings;
@@ -104,8 +105,8 @@ void change(Pair &pair, RandomInput &random)
 {
     const int kind = random.number(0, 39);
     if (kind == 0) {
-        pair.table.optimizeTableSize(font());
-        pair.plain.optimize(font());
+        pair.table.optimizeTableSize(reportTestFont());
+        pair.plain.optimize(reportTestFont());
     } else if (kind <= 3) {
         const int first = random.number(-1, 3);
         const int last = random.number(-1, 6);

@@ -1,25 +1,14 @@
 #include "TXTableCell.h"
 
 #include "SceneTestHelpers.h"
+#include "TableTestHelpers.h"
 #include "TestBase.h"
 
+#include <QColor>
+
 using SceneTestHelpers::exactly;
-
-namespace {
-
-using Settings = QHash<QString, QVariant>;
-
-/// The cell's settings in words, for comparing two cells as a whole.
-QString described(const TXTableCell &cell)
-{
-    QString text;
-    QDebug(&text) << cell.element << cell.textColor << cell.horizontalAlign << cell.verticalAlign
-                  << cell.bold << cell.insideColor << cell.size << cell.borderColor
-                  << cell.borderLineWidth << cell.realColumn << cell.nbMergedCell;
-    return text;
-}
-
-} // namespace
+using TableTest::describe;
+using TableTest::Settings;
 
 class TestTXTableCell : public TestBase
 {
@@ -99,9 +88,9 @@ void TestTXTableCell::valuesOfOtherTypesAreConverted()
     QCOMPARE(cell.verticalAlign, 4294967295U);
     QVERIFY(cell.bold);
     QCOMPARE(cell.insideColor, QColor(0, 255, 0, 128));
-    QCOMPARE(cell.borderColor, QVariant(QByteArray("blue")).value<QColor>());
+    QCOMPARE(cell.borderColor, QColor(Qt::blue));
     QCOMPARE(cell.borderLineWidth, 0.25);
-    QCOMPARE(cell.realColumn, QVariant(2.6).toInt());
+    QCOMPARE(cell.realColumn, 3);
     QCOMPARE(cell.nbMergedCell, 3);
 }
 
@@ -150,7 +139,18 @@ void TestTXTableCell::singlePrecisionBorderIsKept()
 
 void TestTXTableCell::copyHoldsTheSame()
 {
-    const TXTableCell cell({{"CellElement", QStringLiteral("a")}, {"CellRealColumn", 3}});
+    // Nothing is at its default.
+    const TXTableCell cell({{"CellElement", QStringLiteral("a")},
+                            {"CellSize", QSizeF(30.25, 0.1)},
+                            {"CellTextColor", QColor(1, 2, 3)},
+                            {"CellTextHorizontalAlign", 0U},
+                            {"CellTextVerticalAlign", 1U},
+                            {"CellTextBold", true},
+                            {"InsideCellColor", QColor(4, 5, 6)},
+                            {"BorderCellColor", QColor(7, 8, 9, 10)},
+                            {"BorderCellLineWidth", 0.35F},
+                            {"CellRealColumn", 3},
+                            {"NbMergedCell", 4}});
     TXTableCell assigned(Settings{});
     const TXTableCell &self = assigned;
 
@@ -158,8 +158,8 @@ void TestTXTableCell::copyHoldsTheSame()
     assigned = cell;
     assigned = self;
 
-    QCOMPARE(described(copy), described(cell));
-    QCOMPARE(described(assigned), described(cell));
+    QCOMPARE(describe(copy), describe(cell));
+    QCOMPARE(describe(assigned), describe(cell));
 }
 
 int main(int argc, char **argv)

@@ -1,43 +1,42 @@
 #include "TXTableCell.h"
 
+#include "PixelProbe.h"
+#include "ReportTestFont.h"
 #include "SceneTestHelpers.h"
 #include "TXGraphicsScene.h"
 #include "TXScalablePixmapItem.h"
+#include "TableTestHelpers.h"
 #include "TestBase.h"
 
+#include <QBrush>
+#include <QColor>
+#include <QDate>
+#include <QFont>
 #include <QFontMetricsF>
 #include <QGraphicsRectItem>
 #include <QGraphicsSimpleTextItem>
+#include <QImage>
 #include <QPen>
+#include <QPixmap>
+#include <QRegularExpression>
 
 #include <cmath>
 
 using SceneTestHelpers::exactly;
-using SceneTestHelpers::font;
 using SceneTestHelpers::itemAt;
 using SceneTestHelpers::onlyItem;
 using SceneTestHelpers::rendered;
+using TableTest::describe;
+using TableTest::Settings;
 
 namespace {
-
-using Settings = QHash<QString, QVariant>;
 
 const QPointF kTopLeft(10, 20);
 const QSize kArea(80, 80);
 
-/// The cell's settings in words, for comparing two cells as a whole.
-QString described(const TXTableCell &cell)
-{
-    QString text;
-    QDebug(&text) << cell.element << cell.textColor << cell.horizontalAlign << cell.verticalAlign
-                  << cell.bold << cell.insideColor << cell.size << cell.borderColor
-                  << cell.borderLineWidth << cell.realColumn << cell.nbMergedCell;
-    return text;
-}
-
 void draw(TXGraphicsScene &scene, const Settings &settings)
 {
-    TXTableCell(settings).drawTableCell(&scene, kTopLeft, font(10));
+    TXTableCell(settings).drawTableCell(&scene, kTopLeft, reportTestFont(10));
 }
 
 QPixmap redPicture()
@@ -186,7 +185,8 @@ void TestTXTableCellDrawing::textIsAlignedInTheWholeCell_data()
     QTest::addColumn<quint32>("vertical");
     QTest::addColumn<QPointF>("place");
 
-    const QSizeF size = QFontMetricsF(font(10)).size(Qt::TextShowMnemonic, QStringLiteral("abc"));
+    const QSizeF size =
+        QFontMetricsF(reportTestFont(10)).size(Qt::TextShowMnemonic, QStringLiteral("abc"));
     const auto place = [](double x, double y) {
         return QPointF(float(x), float(y));
     };
@@ -232,7 +232,7 @@ void TestTXTableCellDrawing::weightIsThatOfTheCell()
     QFETCH(int, given);
     QFETCH(bool, bold);
     QFETCH(int, weight);
-    QFont source = font(10);
+    QFont source = reportTestFont(10);
     source.setItalic(true);
     source.setWeight(QFont::Weight(given));
     QFont expected = source;
@@ -329,13 +329,13 @@ void TestTXTableCellDrawing::cellIsSeen()
 
 void TestTXTableCellDrawing::drawingLeavesTheCellAsItIs()
 {
-    const TXTableCell cell({{"CellElement", QStringLiteral("a")}, {"CellTextBold", true}});
-    const QString before = described(cell);
+    TXTableCell cell({{"CellElement", QStringLiteral("a")}, {"CellTextBold", true}});
+    const QString before = describe(cell);
     TXGraphicsScene scene;
 
-    cell.drawTableCell(&scene, kTopLeft, font(10));
+    cell.drawTableCell(&scene, kTopLeft, reportTestFont(10));
 
-    QCOMPARE(described(cell), before);
+    QCOMPARE(describe(cell), before);
 }
 
 int main(int argc, char **argv)

@@ -1,6 +1,11 @@
 #include "TXTable.h"
+#include "TXTableCell.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
+
+#include <QColor>
+#include <QDate>
+#include <QUrl>
 
 #include <limits>
 

@@ -1,10 +1,11 @@
+#include "ReportTestFont.h"
 #include "TXTable.h"
+#include "TXTableCell.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
 #include "TextSizeCache.h"
 
 using TableTest::cellAt;
-using TableTest::font;
 using TableTest::Row;
 using TableTest::Rows;
 using TableTest::settings;
@@ -125,12 +126,13 @@ void TestTXTableLarge::optimizingFitsAllRows()
 {
     TextSizeCache::forget();
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(TextSizeCache::textCount(), kTexts);
     float widest = 0.0F;
     for (int number = 0; number < kTexts; ++number) {
-        widest = qMax(widest, float(TableTest::paddedWidth(QString::number(number), font())));
+        widest =
+            qMax(widest, float(TableTest::paddedWidth(QString::number(number), reportTestFont())));
     }
     const Rows rows = table.getTableCellList();
     for (const Row &row : rows) {
@@ -143,10 +145,10 @@ void TestTXTableLarge::optimizingFitsAllRows()
 
 void TestTXTableLarge::optimizingAgainTouchesNothing()
 {
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
     const Rows before = table.getTableCellList();
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(table.getTableCellList().constData(), before.constData());
 }

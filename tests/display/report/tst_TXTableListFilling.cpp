@@ -1,6 +1,9 @@
 #include "TXTable.h"
+#include "TXTableCell.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
+
+#include <QPixmap>
 
 using TableTest::cell;
 using TableTest::cellAt;
@@ -27,7 +30,6 @@ private slots:
     void aListJoinsAFullRow();
     void aListWithoutASizeHasNegativeSizes();
     void theListsOwnMarksReplaceTheDictionarys();
-    void theCallersDictionaryStaysAsItWas();
     void valuesOfAListAreTakenAsTheyAre();
     void fewerRowsThanTheCursorStandsAtLoseNoGroup();
 };
@@ -150,17 +152,6 @@ void TestTXTableListFilling::theListsOwnMarksReplaceTheDictionarys()
     QCOMPARE(second.realColumn, 1);
     QCOMPARE(second.nbMergedCell, 2);
     QVERIFY(second.bold);
-}
-
-void TestTXTableListFilling::theCallersDictionaryStaysAsItWas()
-{
-    const Settings dictionary = settings(QStringList{"x", "y"}, {10.0, 20.0});
-    Settings given = dictionary;
-    TXTable table(2, false);
-
-    table.addCell(given);
-
-    QCOMPARE(given, dictionary);
 }
 
 void TestTXTableListFilling::valuesOfAListAreTakenAsTheyAre()

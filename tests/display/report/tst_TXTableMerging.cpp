@@ -1,6 +1,9 @@
 #include "TXTable.h"
+#include "TXTableCell.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
+
+#include <QColor>
 
 #include <limits>
 

@@ -1,14 +1,22 @@
+#include "ReportTestFont.h"
 #include "TXGraphicsScene.h"
 #include "TXTable.h"
+#include "TXTableCell.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
 
+#include <QColor>
+#include <QDate>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPixmap>
+
+#include <algorithm>
 #include <limits>
 
 using TableTest::cell;
 using TableTest::cellAt;
 using TableTest::describe;
-using TableTest::font;
 using TableTest::paddedWidth;
 using TableTest::Row;
 using TableTest::Rows;
@@ -23,14 +31,14 @@ constexpr double kInfinite = std::numeric_limits<double>::infinity();
 const QString kLongText = QStringLiteral("a text that is wider than its cell");
 
 /// The width that a lone cell has when its column fits it.
-double optimizedWidth(const TXTableCell &only, const QFont &font = TableTest::font())
+double optimizedWidth(const TXTableCell &only, const QFont &font = reportTestFont())
 {
     TXTable table = tableOf({{only}});
     table.optimizeTableSize(font);
     return cellAt(table, 0, 0).size.width();
 }
 
-double neededWidth(const QString &text, const QFont &font = TableTest::font())
+double neededWidth(const QString &text, const QFont &font = reportTestFont())
 {
     return double(float(paddedWidth(text, font)));
 }
@@ -77,7 +85,7 @@ void TestTXTableOptimizing::withoutRowsNothingHappens()
 {
     TXTable table(3, false);
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QVERIFY(table.getTableCellList().isEmpty());
     QCOMPARE(table.tableWidth(), 90.0F);
@@ -91,7 +99,7 @@ void TestTXTableOptimizing::aWideTextWidensItsCellAndColumn()
     const double needed = neededWidth(kLongText);
     QVERIFY(needed > 30.0);
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(cellAt(table, 0, 0).size, QSizeF(needed, 20.0));
     QCOMPARE(table.columnWidthAtIndex(0), float(needed));
@@ -105,9 +113,10 @@ void TestTXTableOptimizing::aTextStandsBetweenTwoBlanksOnEitherSide()
 
     QCOMPARE(found,
              double(float(
-                 TXGraphicsScene::getBoundingRectOfText("  " + kLongText + "  ", font()).width())));
-    const double bare = QFontMetricsF(font()).horizontalAdvance(kLongText);
-    const double blank = QFontMetricsF(font()).horizontalAdvance(u' ');
+                 TXGraphicsScene::getBoundingRectOfText("  " + kLongText + "  ", reportTestFont())
+                     .width())));
+    const double bare = QFontMetricsF(reportTestFont()).horizontalAdvance(kLongText);
+    const double blank = QFontMetricsF(reportTestFont()).horizontalAdvance(u' ');
     QVERIFY(qAbs(found - bare - 4 * blank) < 0.1);
 }
 
@@ -121,7 +130,7 @@ void TestTXTableOptimizing::theColumnsOldWidthDoesNotCount()
     TXTable table = tableOf({{cell("i", {25.0, 20.0})}});
     table.setColumnWidth(500.0F, 0);
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(cellAt(table, 0, 0).size.width(), 25.0);
     QCOMPARE(table.columnWidthAtIndex(0), 25.0F);
@@ -186,13 +195,13 @@ void TestTXTableOptimizing::theGivenFontIsTakenWhateverTheCellsWeight()
 {
     TXTableCell bold = cell(kLongText, {0.0, 20.0});
     bold.bold = true;
-    QFont heavy = font();
+    QFont heavy = reportTestFont();
     heavy.setWeight(QFont::Bold);
     QVERIFY(neededWidth(kLongText, heavy) > neededWidth(kLongText));
 
     QCOMPARE(optimizedWidth(bold), neededWidth(kLongText));
     QCOMPARE(optimizedWidth(bold, heavy), neededWidth(kLongText, heavy));
-    QCOMPARE(optimizedWidth(bold, font(20)), neededWidth(kLongText, font(20)));
+    QCOMPARE(optimizedWidth(bold, reportTestFont(20)), neededWidth(kLongText, reportTestFont(20)));
 }
 
 void TestTXTableOptimizing::eachColumnIsAsWideAsItsWidestRow()
@@ -201,7 +210,7 @@ void TestTXTableOptimizing::eachColumnIsAsWideAsItsWidestRow()
                              {cell(kLongText, {10.0, 20.0}, 0), cell("b", {5.0, 20.0}, 1)},
                              {cell("a", {3.0, 20.0}, 0)}});
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     for (int row = 0; row < 3; ++row) {
         QCOMPARE(cellAt(table, row, 0).size.width(), neededWidth(kLongText));
@@ -215,9 +224,10 @@ void TestTXTableOptimizing::eachColumnIsAsWideAsItsWidestRow()
 void TestTXTableOptimizing::textsInOneColumnOfARowAddUp()
 {
     TXTable table = tableOf({{cell("abc", {1.0, 20.0}, 1, 2), cell("de", {1.0, 20.0}, 1, 2)}});
-    const float sum = float(paddedWidth("abc", font()) + paddedWidth("de", font()));
+    const float sum =
+        float(paddedWidth("abc", reportTestFont()) + paddedWidth("de", reportTestFont()));
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(table.columnWidthAtIndex(1), sum);
     QCOMPARE(cellAt(table, 0, 0).size.width(), double(sum / 2.0F));
@@ -229,20 +239,21 @@ void TestTXTableOptimizing::theSumStartsAnewWhereTheColumnChanges()
     TXTable table = tableOf({{cell("abc", {0.0, 20.0}, 1), cell("abcdefgh", {0.0, 20.0}, 0),
                               cell("de", {0.0, 20.0}, 1), cell("f", {0.0, 20.0}, 1)},
                              {cell("gh", {0.0, 20.0}, 1)}});
-    const double afterTheChange = paddedWidth("de", font()) + paddedWidth("f", font());
-    const double widest = std::max(afterTheChange, paddedWidth("abc", font()));
+    const double afterTheChange =
+        paddedWidth("de", reportTestFont()) + paddedWidth("f", reportTestFont());
+    const double widest = std::max(afterTheChange, paddedWidth("abc", reportTestFont()));
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(table.columnWidthAtIndex(1), float(widest));
-    QCOMPARE(table.columnWidthAtIndex(0), float(paddedWidth("abcdefgh", font())));
+    QCOMPARE(table.columnWidthAtIndex(0), float(paddedWidth("abcdefgh", reportTestFont())));
 }
 
 void TestTXTableOptimizing::widthsInOneColumnDoNotAddUp()
 {
     TXTable table = tableOf({{cell("", {40.0, 20.0}, 0, 2), cell("", {60.0, 20.0}, 0, 2)}});
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(table.columnWidthAtIndex(0), 60.0F);
     QCOMPARE(cellAt(table, 0, 0).size.width(), 30.0);
@@ -251,7 +262,7 @@ void TestTXTableOptimizing::widthsInOneColumnDoNotAddUp()
 
 void TestTXTableOptimizing::shortListsShrink()
 {
-    const QFont tiny = font(2);
+    const QFont tiny = reportTestFont(2);
     TXTable table(2, false);
     table.addCell(settings("", {90.0, 20.0}));
     table.addCell(settings(QStringList{"x", "y", "z"}, {90.0, 20.0}));
@@ -270,10 +281,10 @@ void TestTXTableOptimizing::theSumKeepsWhatThePictureInterrupts()
     TXTable table = tableOf({{cell("abc", {0.0, 20.0}, 0), cell(QPixmap(9, 9), {0.0, 20.0}, 0),
                               cell("de", {0.0, 20.0}, 0)}});
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(table.columnWidthAtIndex(0),
-             float(paddedWidth("abc", font()) + paddedWidth("de", font())));
+             float(paddedWidth("abc", reportTestFont()) + paddedWidth("de", reportTestFont())));
 }
 
 void TestTXTableOptimizing::theColumnsWidthIsSharedByTheMarkedNumberOfCells_data()
@@ -304,7 +315,7 @@ void TestTXTableOptimizing::onlyTheFirstRowWidensTheTable()
     TXTable table = tableOf(
         {{cell("a", {40.0, 20.0}, 0)}, {cell("a", {50.0, 20.0}, 0), cell("b", {60.0, 20.0}, 1)}});
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(table.columnWidthAtIndex(0), 50.0F);
     QCOMPARE(table.columnWidthAtIndex(1), 30.0F);
@@ -325,7 +336,7 @@ void TestTXTableOptimizing::columnsBeyondTheTableChangeCellsOnly()
     QFETCH(int, realColumn);
     TXTable table = tableOf({{cell(kLongText, {0.0, 20.0}, realColumn)}});
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     QCOMPARE(cellAt(table, 0, 0).size.width(), neededWidth(kLongText));
     QCOMPARE(table.tableWidth(), 90.0F);
@@ -339,7 +350,7 @@ void TestTXTableOptimizing::heightsAndAllElseStay()
     special.borderLineWidth = 3.5;
     TXTable table = tableOf({{special}});
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     special.size.setWidth(neededWidth("12"));
     QCOMPARE(describe(table.getTableCellList()), describe(Rows{{special}}));
@@ -371,7 +382,7 @@ void TestTXTableOptimizing::rowsWithoutCellsAreSteppedOver()
 {
     TXTable table = tableOf({{}, {cell("a", {50.0, 20.0})}, {}});
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     // The first row reaches no column, so the table's widths stay.
     QCOMPARE(table.tableWidth(), 90.0F);
@@ -382,10 +393,10 @@ void TestTXTableOptimizing::rowsWithoutCellsAreSteppedOver()
 void TestTXTableOptimizing::rowsThatFitAlreadyStayShared()
 {
     TXTable table = tableOf({{cell("a", {50.0, 20.0})}, {cell(kLongText, {60.0, 20.0})}});
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
     const Rows before = table.getTableCellList();
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     const Rows after = table.getTableCellList();
     QCOMPARE(after.constData(), before.constData());
@@ -397,7 +408,7 @@ void TestTXTableOptimizing::oneRowThatDoesNotFitIsCopiedAlone()
         {cell("a", {50.0, 20.0})}, {cell("b", {40.0, 20.0})}, {cell("c", {50.0, 20.0})}};
     TXTable table = tableOf(before);
 
-    table.optimizeTableSize(font());
+    table.optimizeTableSize(reportTestFont());
 
     const Rows after = table.getTableCellList();
     QCOMPARE(after.at(0).constData(), before.at(0).constData());

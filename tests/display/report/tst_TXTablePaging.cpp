@@ -1,3 +1,4 @@
+#include "ReportTestFont.h"
 #include "TXTable.h"
 #include "TableTestHelpers.h"
 #include "TestBase.h"
@@ -7,6 +8,7 @@
 using TableTest::cell;
 using TableTest::describe;
 using TableTest::firstTexts;
+using TableTest::hasShadow;
 using TableTest::numberedRows;
 using TableTest::rowOfHeight;
 using TableTest::Rows;
@@ -285,6 +287,9 @@ void TestTXTablePaging::aPieceKeepsAllElse()
     QCOMPARE(part.tableWidth(), 104.5F);
     QCOMPARE(part.columnWidthAtIndex(2), 44.5F);
     QCOMPARE(part.getNbHeaderRows(), 1);
+    QVERIFY(hasShadow(part));
+    QVERIFY(hasShadow(TXTable::copyPartOfTable(table, 1, 3)));
+    QVERIFY(!hasShadow(TXTable::copyPartOfTable(numberedRows(5), 1, 3)));
 }
 
 void TestTXTablePaging::changingAPieceLeavesTheTable()
@@ -294,7 +299,7 @@ void TestTXTablePaging::changingAPieceLeavesTheTable()
 
     TXTable part = TXTable::copyPartOfTable(table, 1, 4);
     part.setColumnWidth(1.0F, 0);
-    part.optimizeTableSize(TableTest::font(90));
+    part.optimizeTableSize(reportTestFont(90));
     part.addCell(settings("new"));
 
     QCOMPARE(describe(table.getTableCellList()), before);

@@ -1,18 +1,20 @@
 #include "TextSizeCache.h"
 
+#include "ReportTestFont.h"
 #include "SceneTestHelpers.h"
 #include "TestBase.h"
 
+#include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QImage>
+#include <QSemaphore>
 #include <QVarLengthArray>
 
 #include <algorithm>
 #include <atomic>
 #include <thread>
 #include <vector>
-
-using SceneTestHelpers::font;
 
 namespace {
 
@@ -47,7 +49,7 @@ QImage fineDevice()
 template<class Set>
 QFont with(Set set)
 {
-    QFont changed = font(11);
+    QFont changed = reportTestFont(11);
     set(changed);
     return changed;
 }
@@ -115,7 +117,7 @@ void TestTextSizeCache::sizesAreThoseOfTheMetrics_data()
     QTest::addColumn<QFont>("font");
 
     QTest::addRow("application's") << QFont();
-    QTest::addRow("10 pixels") << font(10);
+    QTest::addRow("10 pixels") << reportTestFont(10);
     QTest::addRow("10.5 points") << fontInPoints(10.5);
     QTest::addRow("bold") << with([](QFont &font) { font.setBold(true); });
     QTest::addRow("italic") << with([](QFont &font) { font.setItalic(true); });
@@ -165,10 +167,10 @@ void TestTextSizeCache::fontsOfDifferentDevicesDiffer()
 void TestTextSizeCache::fontsSetInPixelsAreOneOnAllDevices()
 {
     const QImage device = fineDevice();
-    const QFont onDevice(font(10), &device);
+    const QFont onDevice(reportTestFont(10), &device);
     const QString text = QStringLiteral("Patch 1");
 
-    QCOMPARE(TextSizeCache::textSize(text, font(10)), measured(text, font(10)));
+    QCOMPARE(TextSizeCache::textSize(text, reportTestFont(10)), measured(text, reportTestFont(10)));
     QCOMPARE(exactly(TextSizeCache::textSize(text, onDevice)), exactly(measured(text, onDevice)));
     QCOMPARE(TextSizeCache::fontCount(), 1);
 }
@@ -176,20 +178,20 @@ void TestTextSizeCache::fontsSetInPixelsAreOneOnAllDevices()
 void TestTextSizeCache::changedFontIsMeasuredAnew()
 {
     const QString text = QStringLiteral("Patch 1");
-    QFont changing = font(10);
+    QFont changing = reportTestFont(10);
 
-    QCOMPARE(TextSizeCache::textSize(text, changing), measured(text, font(10)));
+    QCOMPARE(TextSizeCache::textSize(text, changing), measured(text, reportTestFont(10)));
     changing.setPixelSize(20);
-    QCOMPARE(TextSizeCache::textSize(text, changing), measured(text, font(20)));
+    QCOMPARE(TextSizeCache::textSize(text, changing), measured(text, reportTestFont(20)));
     changing.setPixelSize(10);
-    QCOMPARE(TextSizeCache::textSize(text, changing), measured(text, font(10)));
-    QVERIFY(measured(text, font(10)) != measured(text, font(20)));
+    QCOMPARE(TextSizeCache::textSize(text, changing), measured(text, reportTestFont(10)));
+    QVERIFY(measured(text, reportTestFont(10)) != measured(text, reportTestFont(20)));
 }
 
 void TestTextSizeCache::equalFontsCountOnce()
 {
     for (int i = 0; i < 3; ++i) {
-        (void)TextSizeCache::textSize(QStringLiteral("a"), font(10));
+        (void)TextSizeCache::textSize(QStringLiteral("a"), reportTestFont(10));
         (void)TextSizeCache::textSize(QStringLiteral("a"), fontInPoints(10));
     }
 
@@ -199,9 +201,9 @@ void TestTextSizeCache::equalFontsCountOnce()
 
 void TestTextSizeCache::textIsRememberedOnce()
 {
-    (void)TextSizeCache::textSize(QStringLiteral("a"), font(10));
-    (void)TextSizeCache::textSize(QString(QLatin1Char('a')), font(10));
-    (void)TextSizeCache::textSize(QStringLiteral("b"), font(10));
+    (void)TextSizeCache::textSize(QStringLiteral("a"), reportTestFont(10));
+    (void)TextSizeCache::textSize(QString(QLatin1Char('a')), reportTestFont(10));
+    (void)TextSizeCache::textSize(QStringLiteral("b"), reportTestFont(10));
 
     QCOMPARE(TextSizeCache::textCount(), 2);
 }
@@ -210,14 +212,14 @@ void TestTextSizeCache::textInBorrowedMemoryIsCopied()
 {
     QVarLengthArray<QChar> memory(4, QLatin1Char('m'));
     (void)TextSizeCache::textSize(QString::fromRawData(memory.constData(), memory.size()),
-                                  font(10));
+                                  reportTestFont(10));
     std::fill(memory.begin(), memory.end(), QLatin1Char('i'));
 
-    QCOMPARE(TextSizeCache::textSize(QStringLiteral("mmmm"), font(10)),
-             measured(QStringLiteral("mmmm"), font(10)));
+    QCOMPARE(TextSizeCache::textSize(QStringLiteral("mmmm"), reportTestFont(10)),
+             measured(QStringLiteral("mmmm"), reportTestFont(10)));
     QCOMPARE(TextSizeCache::textCount(), 1);
-    QCOMPARE(TextSizeCache::textSize(QStringLiteral("iiii"), font(10)),
-             measured(QStringLiteral("iiii"), font(10)));
+    QCOMPARE(TextSizeCache::textSize(QStringLiteral("iiii"), reportTestFont(10)),
+             measured(QStringLiteral("iiii"), reportTestFont(10)));
     QCOMPARE(TextSizeCache::textCount(), 2);
 }
 
@@ -226,15 +228,17 @@ void TestTextSizeCache::longTextsAreNotRemembered()
     const QString longest(TextSizeCache::kLongestText, QLatin1Char('x'));
     const QString longer = longest + QLatin1Char('x');
 
-    QCOMPARE(TextSizeCache::textSize(longer, font(10)), measured(longer, font(10)));
+    QCOMPARE(TextSizeCache::textSize(longer, reportTestFont(10)),
+             measured(longer, reportTestFont(10)));
     QCOMPARE(TextSizeCache::textCount(), 0);
-    QCOMPARE(TextSizeCache::textSize(longest, font(10)), measured(longest, font(10)));
+    QCOMPARE(TextSizeCache::textSize(longest, reportTestFont(10)),
+             measured(longest, reportTestFont(10)));
     QCOMPARE(TextSizeCache::textCount(), 1);
 }
 
 void TestTextSizeCache::numberOfTextsIsBounded()
 {
-    const QFont regular = font(10);
+    const QFont regular = reportTestFont(10);
     for (int i = 0; i < TextSizeCache::kMaximumTexts; ++i) {
         (void)TextSizeCache::textSize(QString::number(i), regular);
     }
@@ -250,7 +254,8 @@ void TestTextSizeCache::numberOfFontsIsBounded()
 {
     const QString text = QStringLiteral("Patch 1");
     for (int i = 1; i <= 3 * TextSizeCache::kMaximumFonts; ++i) {
-        QCOMPARE(TextSizeCache::textSize(text, font(i)), measured(text, font(i)));
+        QCOMPARE(TextSizeCache::textSize(text, reportTestFont(i)),
+                 measured(text, reportTestFont(i)));
         QVERIFY(TextSizeCache::fontCount() <= TextSizeCache::kMaximumFonts);
         QCOMPARE(TextSizeCache::textCount(), TextSizeCache::fontCount());
     }
@@ -259,7 +264,7 @@ void TestTextSizeCache::numberOfFontsIsBounded()
 
 void TestTextSizeCache::forgettingLeavesNothing()
 {
-    (void)TextSizeCache::textSize(QStringLiteral("a"), font(10));
+    (void)TextSizeCache::textSize(QStringLiteral("a"), reportTestFont(10));
 
     TextSizeCache::forget();
 
@@ -269,7 +274,7 @@ void TestTextSizeCache::forgettingLeavesNothing()
 
 void TestTextSizeCache::changeOfTheApplicationsFontsForgetsAll()
 {
-    const QFont source = font(10);
+    const QFont source = reportTestFont(10);
     const QFont bold = TextSizeCache::fontWithWeight(source, QFont::Bold);
     (void)TextSizeCache::textSize(QStringLiteral("a"), source);
 
@@ -284,7 +289,7 @@ void TestTextSizeCache::threadsMeasureOneFontTogether()
 {
     constexpr int kThreads = 4;
     constexpr int kRounds = 20;
-    const QFont shared = font(10);
+    const QFont shared = reportTestFont(10);
     QList<QSizeF> expected;
     for (const QString &text : kTexts) {
         expected.append(measured(text, shared));
@@ -318,7 +323,7 @@ void TestTextSizeCache::otherThreadsForgetWhenFontsChange()
     QSemaphore filled;
     QSemaphore changed;
     std::thread thread([&] {
-        (void)TextSizeCache::textSize(QStringLiteral("a"), font(10));
+        (void)TextSizeCache::textSize(QStringLiteral("a"), reportTestFont(10));
         before = TextSizeCache::textCount();
         filled.release();
         changed.acquire();
@@ -347,7 +352,7 @@ void TestTextSizeCache::weightIsSet()
 {
     QFETCH(int, from);
     QFETCH(int, to);
-    QFont source = font(10);
+    QFont source = reportTestFont(10);
     source.setWeight(QFont::Weight(from));
     QFont expected = source;
     expected.setWeight(QFont::Weight(to));
@@ -362,7 +367,7 @@ void TestTextSizeCache::weightIsSet()
 
 void TestTextSizeCache::sameFontGivesTheSameWeightedCopy()
 {
-    const QFont source = font(10);
+    const QFont source = reportTestFont(10);
     const QFont copy = source;
 
     const QFont bold = TextSizeCache::fontWithWeight(source, QFont::Bold);
@@ -375,7 +380,7 @@ void TestTextSizeCache::sameFontGivesTheSameWeightedCopy()
 
 void TestTextSizeCache::weightedCopyKeepsTheMaskOfItsSource()
 {
-    const QFont source = font(10);
+    const QFont source = reportTestFont(10);
     QFont withoutMask = source;
     withoutMask.setResolveMask(0);
     QVERIFY(withoutMask.isCopyOf(source));
@@ -389,7 +394,7 @@ void TestTextSizeCache::weightedCopyKeepsTheMaskOfItsSource()
 void TestTextSizeCache::manyWeightedFontsAreRight()
 {
     for (int i = 1; i <= 3 * TextSizeCache::kMaximumFonts; ++i) {
-        const QFont weighted = TextSizeCache::fontWithWeight(font(i), QFont::Bold);
+        const QFont weighted = TextSizeCache::fontWithWeight(reportTestFont(i), QFont::Bold);
         QCOMPARE(weighted.pixelSize(), i);
         QCOMPARE(weighted.weight(), QFont::Bold);
     }
