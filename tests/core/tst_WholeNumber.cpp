@@ -38,8 +38,10 @@ void TestWholeNumber::numbersBecomeWhole_data()
     QTest::addRow("negative, nearly the next") << -2.999 << -2 << -3;
     QTest::addRow("just below a half") << std::nextafter(0.5, 0.0) << 0 << 0;
     QTest::addRow("the largest") << double(kMost) << kMost << kMost;
+    QTest::addRow("a half below the largest") << kMost - 0.5 << kMost - 1 << kMost;
     QTest::addRow("above the largest") << kMost + 0.75 << kMost << kMost;
     QTest::addRow("the least") << double(kLeast) << kLeast << kLeast;
+    QTest::addRow("a half above the least") << kLeast + 0.5 << kLeast + 1 << kLeast;
     QTest::addRow("below the least") << kLeast - 0.75 << kLeast << kLeast;
     QTest::addRow("huge") << 1e300 << kMost << kMost;
     QTest::addRow("huge and negative") << -1e300 << kLeast << kLeast;
