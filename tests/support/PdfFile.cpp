@@ -183,7 +183,8 @@ QList<PdfFile::Picture> PdfFile::pictures()
                        fields[2],
                        {fields[3].toInt(), fields[4].toInt()},
                        {fields[12].toInt(), fields[13].toInt()},
-                       fields[8]});
+                       fields[8],
+                       fields[10].toInt()});
     }
     return result;
 }

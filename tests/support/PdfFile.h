@@ -61,6 +61,8 @@ public:
         QSize dotsPerInch;
         /// "image" for exact pixels, "jpeg" for such that were made smaller with losses.
         QString encoding;
+        /// The number under which the file holds the picture; equal where it is shown again.
+        int object = 0;
 
         /// The room that it takes on the paper, in points.
         [[nodiscard]] QSizeF size() const;

@@ -30,10 +30,11 @@ void FontChanges::watch(QObject *application)
         || qobject_cast<QGuiApplication *>(application) == nullptr) {
         return;
     }
-    // The first to ask may be any thread, but the signals are to be heard where they are emitted.
-    moveToThread(application->thread());
-    connect(application, SIGNAL(fontDatabaseChanged()), this, SLOT(countChange()));
-    connect(application, SIGNAL(destroyed()), this, SLOT(leaveApplication()));
+    // Heard where they are emitted: the watcher may stand on a thread without an event loop, that
+    // of whoever asked first, and counting is safe on all.
+    connect(application, SIGNAL(fontDatabaseChanged()), this, SLOT(countChange()),
+            Qt::DirectConnection);
+    connect(application, SIGNAL(destroyed()), this, SLOT(leaveApplication()), Qt::DirectConnection);
     watchedApplication.store(application, std::memory_order_release);
 }
 

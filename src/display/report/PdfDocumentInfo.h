@@ -14,7 +14,9 @@
 /// written already changes.
 struct TXGUICOMMON_PRIVATE_EXPORT PdfDocumentInfo
 {
+    /// What the document is called.
     QString title;
+    /// Who wrote it.
     QString author;
     /// The program that made the document.
     QString creator;

@@ -43,6 +43,7 @@ public:
 class TXGUICOMMON_PRIVATE_EXPORT ReportScenePage : public ReportContent
 {
 public:
+    /// The scene stays the caller's; without it the page is empty.
     explicit ReportScenePage(TXGraphicsScene *scene);
 
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
@@ -57,8 +58,10 @@ private:
 class TXGUICOMMON_PRIVATE_EXPORT ReportDrawnPages : public ReportContent
 {
 public:
+    /// Draws a page, counted from 0, on an empty scene.
     using Drawing = std::function<void(TXGraphicsScene *scene, int page)>;
 
+    /// So many pages, all by the one function.
     ReportDrawnPages(int count, Drawing draw);
 
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
@@ -74,6 +77,7 @@ private:
 class TXGUICOMMON_PRIVATE_EXPORT ReportTableContent : public ReportContent
 {
 public:
+    /// The font is that of the cells' texts.
     ReportTableContent(const TXTable &table, const QFont &font);
 
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;

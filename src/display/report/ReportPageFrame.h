@@ -13,6 +13,7 @@
 class TXGUICOMMON_PRIVATE_EXPORT ReportPageFrame
 {
 public:
+    /// Both lines are blank.
     ReportPageFrame();
 
     /// The three texts above the content.

@@ -14,6 +14,7 @@
 class TXGUICOMMON_PRIVATE_EXPORT ReportPages
 {
 public:
+    /// Page size, orientation and margins.
     [[nodiscard]] const QPageLayout &layout() const { return pageLayout; }
     /// Sets page size, orientation and margins.
     void setLayout(const QPageLayout &layout);
@@ -21,6 +22,7 @@ public:
     /// them would move everything by a rounded number of dots.
     [[nodiscard]] QPageLayout sheetLayout() const;
 
+    /// Header and footer.
     [[nodiscard]] const ReportPageFrame &frame() const { return pageFrame; }
     /// The frame, to be changed.
     [[nodiscard]] ReportPageFrame &changeFrame();
@@ -28,6 +30,7 @@ public:
     /// Sheet and content area.
     [[nodiscard]] ReportPaper paper() const;
 
+    /// Adds what becomes further pages.
     void add(std::unique_ptr<ReportContent> content);
 
     /// The number of pages. Counts anew what was added, or all once the paper or the frame is

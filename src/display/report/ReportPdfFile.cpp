@@ -56,7 +56,7 @@ void ReportPdfFile::fail(const QString &reason)
 
 bool ReportPdfFile::commit()
 {
-    return !hasFailed() && flushWaiting() && file.commit();
+    return !hasFailed() && flushWaiting() && file.commit() && !hasFailed();
 }
 
 /// A buffer of our own: that of QSaveFile is emptied last when it commits, which then does not
@@ -72,7 +72,7 @@ bool ReportPdfFile::flushWaiting()
         }
         done += more;
     }
-    waiting.clear();
+    waiting.resize(0);
     return true;
 }
 

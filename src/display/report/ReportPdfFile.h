@@ -16,11 +16,13 @@ public:
     /// How many of the last bytes are there to read at least, once so many are written.
     static constexpr qsizetype kTailBytes = 1024;
 
+    /// Nothing is opened yet.
     explicit ReportPdfFile(const QString &fileName);
 
     /// Opens the file for writing, in whatever mode is asked for. Fails where a file of this name
     /// can't be replaced by a finished one, as with devices and pipes.
     bool open(OpenMode mode) override;
+    /// True: a PDF is written from its start to its end.
     [[nodiscard]] bool isSequential() const override { return true; }
 
     /// Whether anything could not be written. All that comes after is thrown away.

@@ -3,6 +3,7 @@
 #include "PdfDocumentInfo.h"
 #include "ReportPages.h"
 #include "ReportPdfFile.h"
+#include "ReportPlacement.h"
 #include "ReportRun.h"
 #include "ReportTablePainter.h"
 #include "TXStringI18n.h"
@@ -14,8 +15,6 @@
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
-
 /// Fine enough for what has to become a picture, an item with an effect, and no finer: such
 /// pictures grow with its square. Lines and texts do not depend on it.
 constexpr int kDotsPerInch = 300;
@@ -23,10 +22,8 @@ constexpr int kDotsPerInch = 300;
 /// The reason is filled in first, as a file may be called "%1".
 TXStringI18n failure(const QString &fileName, const QString &reason)
 {
-    return TXStringI18n("TXReportDocument",
-                        QT_TRANSLATE_NOOP("TXReportDocument",
-                                          "The report could not be written to \"%2\": %1"),
-                        nullptr, -1)
+    return reportText(QT_TRANSLATE_NOOP("TXReportDocument",
+                                        "The report could not be written to \"%2\": %1"))
         .arg(reason)
         .arg(QDir::toNativeSeparators(fileName));
 }
@@ -41,13 +38,14 @@ bool ReportPdfWriting::write(ReportPages &pages, const PdfDocumentInfo &info,
         paintAll(pages, info, file, run);
         appendInfo(info, file, run);
     }
-    if (!file.hasFailed() && run.close() && file.commit()) {
-        return true;
+    if (!file.hasFailed() && !run.close()) {
+        return false;
     }
-    if (file.hasFailed()) {
+    if (!file.commit()) {
         run.fail(failure(fileName, file.reason()));
+        return false;
     }
-    return false;
+    return true;
 }
 
 void ReportPdfWriting::paintAll(ReportPages &pages, const PdfDocumentInfo &info,
@@ -59,7 +57,8 @@ void ReportPdfWriting::paintAll(ReportPages &pages, const PdfDocumentInfo &info,
     writer.setTitle(info.title);
     writer.setCreator(info.creator);
     QPainter painter(&writer);
-    painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
+    painter.scale(kDotsPerInch / ReportPlacement::kPointsPerInch,
+                  kDotsPerInch / ReportPlacement::kPointsPerInch);
     ReportTablePainter tables;
     const int count = pages.count();
     for (int page = 0; page < count && !file.hasFailed(); ++page) {
@@ -81,8 +80,8 @@ void ReportPdfWriting::appendInfo(const PdfDocumentInfo &info, ReportPdfFile &fi
     }
     const QByteArray update = info.update(file.tail(), file.writtenBytes());
     if (update.isEmpty()) {
-        file.fail(QCoreApplication::translate("TXReportDocument",
-                                              "The author could not be added to the PDF."));
+        file.fail(QCoreApplication::translate(
+            "TXReportDocument", "The document's data could not be added to the PDF."));
     } else {
         file.write(update);
     }

@@ -14,6 +14,7 @@
 class TXGUICOMMON_PRIVATE_EXPORT ReportPictures
 {
 public:
+    /// Nothing is remembered yet.
     ReportPictures();
 
     /// The pixmap at the resolution of reports for its size on paper in points, as

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
-
 /// An A0 sheet at 200 dots per inch has 62 million.
 constexpr qint64 kMaximumPixels = 100'000'000;
 
@@ -107,6 +105,9 @@ QSize ReportPlacement::pixelsForPoints(const QSize &points, int dotsPerInch)
 
 QPixmap ReportPlacement::resampled(const QPixmap &pixmap, const QSize &pixels)
 {
+    if (pixels.isEmpty()) {
+        return {};
+    }
     const QSize size = pixmap.size().scaled(pixels, Qt::KeepAspectRatio);
     if (pixmap.isNull() || qint64(size.width()) * size.height() > kMaximumPixels) {
         return pixmap;

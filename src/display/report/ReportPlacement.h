@@ -37,23 +37,30 @@ constexpr QSizeF kCellTextMargins(2.0, 2.0);
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT bool isDrawable(const QRectF &rect,
                                                          double lineWidth = 0.0);
 
-/// True when a thing stands so near that a PDF can name its place, which excludes what is no
-/// number. Farther out than some 35 km Qt writes numbers into the page that are none, and it is
-/// lost.
+/// True when a thing stands so near that a PDF can name its place. For places more than some 35 km
+/// away, infinite ones and those that are not numbers Qt writes into the page what no reader takes
+/// for a number, and the rest of the page is lost.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT bool isWithinReach(const QRectF &rect);
 
-/// The place and size of a picture; see TXGraphicsScene::drawImageInRect().
+/// Where a picture stands.
 struct PicturePlace
 {
+    /// Its corner, in single precision.
     QPointF topLeft;
+    /// Its size in whole points.
     QSize size;
 };
+
+/// The place and size of a picture; see TXGraphicsScene::drawImageInRect().
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT PicturePlace
 placeOfPicture(const QSize &pixels, const QRectF &rect, TXHorizontalAlignment horizontal,
                TXVerticalAlignment vertical);
 
 /// The factor by which a size grows or shrinks, its proportions kept, to just fit into another.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT float fittingScale(const QSize &from, const QSize &to);
+
+/// What a point is.
+constexpr double kPointsPerInch = 72.0;
 
 /// The resolution at which reports keep their pictures.
 constexpr int kPictureDotsPerInch = 200;

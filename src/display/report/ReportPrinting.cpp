@@ -1,6 +1,7 @@
 #include "ReportPrinting.h"
 
 #include "ReportPages.h"
+#include "ReportPlacement.h"
 #include "ReportPrintRange.h"
 #include "ReportRun.h"
 #include "ReportTablePainter.h"
@@ -12,8 +13,6 @@
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
-
 constexpr const char *kOtherPaper = QT_TRANSLATE_NOOP(
     "TXReportDocument", "The printer \"%1\" does not take the page size of the report.");
 constexpr const char *kDoesNotStart =
@@ -21,16 +20,11 @@ constexpr const char *kDoesNotStart =
 constexpr const char *kStops =
     QT_TRANSLATE_NOOP("TXReportDocument", "The printer \"%1\" has stopped in the middle.");
 
-TXStringI18n words(const char *source)
-{
-    return {"TXReportDocument", source, nullptr, -1};
-}
-
 bool fail(ReportRun &run, const char *reason, const QPrinter &printer)
 {
     // A printer that prints to a file may have no name.
     const QString name = printer.printerName();
-    run.fail(words(reason).arg(name.isEmpty() ? printer.outputFileName() : name));
+    run.fail(reportText(reason).arg(name.isEmpty() ? printer.outputFileName() : name));
     return false;
 }
 
@@ -46,34 +40,34 @@ bool takesSheet(QPrinter *printer, const QPageLayout &sheet)
 bool ReportPrinting::print(ReportPages &pages, QPrinter *printer, ReportRun &run)
 {
     if (printer == nullptr) {
-        run.fail(words(QT_TRANSLATE_NOOP("TXReportDocument", "There is no printer.")));
+        run.fail(reportText(QT_TRANSLATE_NOOP("TXReportDocument", "There is no printer.")));
         return false;
     }
     if (printer->paintingActive()) {
         return fail(run, kDoesNotStart, *printer);
     }
-    if (ReportPrintRange(*printer, pages.count()).count() == 0) {
-        run.fail(words(QT_TRANSLATE_NOOP(
+    const ReportPrintRange range(*printer, pages.count());
+    if (range.count() == 0) {
+        run.fail(reportText(QT_TRANSLATE_NOOP(
             "TXReportDocument", "The report has none of the pages that are to be printed.")));
         return false;
     }
     if (!takesSheet(printer, pages.sheetLayout())) {
         return fail(run, kOtherPaper, *printer);
     }
-    printer->setDocName(pages.frame().title);
+    printer->setDocName(ReportTextLine::onOneLine(pages.frame().title));
     QPainter painter;
     if (!painter.begin(printer)) {
         return fail(run, kDoesNotStart, *printer);
     }
-    return paintWanted(pages, printer, run, &painter);
+    return paintWanted(pages, range, printer, run, &painter);
 }
 
-bool ReportPrinting::paintWanted(ReportPages &pages, QPrinter *printer, ReportRun &run,
-                                 QPainter *painter)
+bool ReportPrinting::paintWanted(ReportPages &pages, const ReportPrintRange &range,
+                                 QPrinter *printer, ReportRun &run, QPainter *painter)
 {
-    painter->scale(printer->logicalDpiX() / kPointsPerInch,
-                   printer->logicalDpiY() / kPointsPerInch);
-    const ReportPrintRange range(*printer, pages.count());
+    painter->scale(printer->logicalDpiX() / ReportPlacement::kPointsPerInch,
+                   printer->logicalDpiY() / ReportPlacement::kPointsPerInch);
     ReportTablePainter tables;
     for (int i = 0; i < range.count(); ++i) {
         if (!run.beginPage(i, range.count())) {

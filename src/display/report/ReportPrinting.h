@@ -5,6 +5,7 @@
 class QPainter;
 class QPrinter;
 class ReportPages;
+class ReportPrintRange;
 class ReportRun;
 
 /// Prints a report.
@@ -16,6 +17,6 @@ public:
     [[nodiscard]] static bool print(ReportPages &pages, QPrinter *printer, ReportRun &run);
 
 private:
-    [[nodiscard]] static bool paintWanted(ReportPages &pages, QPrinter *printer, ReportRun &run,
-                                          QPainter *painter);
+    [[nodiscard]] static bool paintWanted(ReportPages &pages, const ReportPrintRange &range,
+                                          QPrinter *printer, ReportRun &run, QPainter *painter);
 };

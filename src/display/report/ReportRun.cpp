@@ -16,13 +16,17 @@ constexpr float kNearlyDonePercent = 99.99F;
 
 TXStringI18n pageMessage(int page, int pageCount)
 {
-    return TXStringI18n("TXReportDocument", QT_TRANSLATE_NOOP("TXReportDocument", "Page %1 of %2"),
-                        nullptr, -1)
+    return reportText(QT_TRANSLATE_NOOP("TXReportDocument", "Page %1 of %2"))
         .arg(QString::number(page + 1))
         .arg(QString::number(pageCount));
 }
 
 } // namespace
+
+TXStringI18n reportText(const char *source)
+{
+    return {"TXReportDocument", source, nullptr, -1};
+}
 
 bool ReportRunState::start()
 {
@@ -68,10 +72,8 @@ ReportRun::ReportRun(ReportRunState *state, const QString &title, ICompletionDel
     }
     tellProgress(0.0F);
     if (!isStarted) {
-        fail(TXStringI18n("TXReportDocument",
-                          QT_TRANSLATE_NOOP("TXReportDocument",
-                                            "The report is being written or printed already."),
-                          nullptr, -1));
+        fail(reportText(QT_TRANSLATE_NOOP("TXReportDocument",
+                                          "The report is being written or printed already.")));
     }
 }
 

@@ -10,6 +10,10 @@ class ICompletionDelegate;
 class TXError;
 class TXStringI18n;
 
+/// A text of reports for the user, translated when it is shown. Mark the source with
+/// QT_TRANSLATE_NOOP("TXReportDocument", ...).
+[[nodiscard]] TXStringI18n reportText(const char *source);
+
 /// Whether a report is on its way to paper, and whether somebody wants that to end. Any thread.
 class TXGUICOMMON_PRIVATE_EXPORT ReportRunState
 {

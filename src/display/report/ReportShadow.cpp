@@ -1,5 +1,6 @@
 #include "ReportShadow.h"
 
+#include "ReportPlacement.h"
 #include "ReportShadowPicture.h"
 
 #include <QImage>
@@ -13,23 +14,18 @@
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
-
 /// Devices tell the size of what is within their margins, and painters draw outside too.
 constexpr double kMarginPoints = 144.0;
 
 /// A shadow over more than an A1 sheet gets coarser instead of larger.
 constexpr double kMaximumPixels = 4'000'000.0;
 
+/// A thin shadow may have few pixels and be far too long a picture all the same.
+constexpr double kMaximumSide = 16'000.0;
+
 /// The picture that is painted on this thread of what throws a shadow, to be treated as paper: Qt
 /// cannot put an effect within an effect onto a device of another scale.
 thread_local const QPaintDevice *currentPicture = nullptr;
-
-bool isFinite(const QRectF &rect)
-{
-    return std::isfinite(rect.x()) && std::isfinite(rect.y()) && std::isfinite(rect.width())
-        && std::isfinite(rect.height());
-}
 
 /// A recording has no paper; its unit becomes a point where it is played.
 bool isRecording(const QPainter *painter)
@@ -39,12 +35,14 @@ bool isRecording(const QPainter *painter)
 
 QTransform pointsFromDevice(const QPainter *painter)
 {
-    if (isRecording(painter)) {
+    // On the screen the shadow counts in pixels, as Qt's own does.
+    if (isRecording(painter) || !ReportShadow::isForPaper(painter)) {
         return {};
     }
     const QPaintDevice *device = painter->device();
-    return QTransform::fromScale(kPointsPerInch / std::max(device->logicalDpiX(), 1),
-                                 kPointsPerInch / std::max(device->logicalDpiY(), 1));
+    return QTransform::fromScale(
+        ReportPlacement::kPointsPerInch / std::max(device->logicalDpiX(), 1),
+        ReportPlacement::kPointsPerInch / std::max(device->logicalDpiY(), 1));
 }
 
 /// The part of the shadow that can be seen, in points.
@@ -62,18 +60,25 @@ QRectF visiblePart(const QPainter *painter, const QRectF &bounds, const ReportSh
     return shadow & paper.adjusted(-reach, -reach, reach, reach).translated(-look.offset);
 }
 
-/// Equal things get pictures of equal size, wherever they stand: some numbers come out larger by
-/// what rounding leaves over.
-int wholePixels(double length)
+/// An even number of pixels, since the shadow has half as many. Equal things get pictures of equal
+/// size, wherever they stand: some numbers come out larger by what rounding leaves over.
+int evenPixels(double length)
 {
     constexpr double kLeftOver = 1e-6;
-    return std::max(int(std::ceil(length - kLeftOver)), 1);
+    return std::max(2 * int(std::ceil((length - kLeftOver) / 2)), 2);
+}
+
+double scaleOfPicture(const QSizeF &points)
+{
+    const double longest = std::max(points.width(), points.height());
+    return std::min({1.0, std::sqrt(kMaximumPixels / (points.width() * points.height())),
+                     kMaximumSide / longest});
 }
 
 QImage pictureOf(const QSize &size, const QTransform &transform, const QPainter *painter,
                  const std::function<void(QPainter *)> &draw)
 {
-    constexpr double kPointsPerMeter = kPointsPerInch / 0.0254;
+    constexpr double kPointsPerMeter = ReportPlacement::kPointsPerInch / 0.0254;
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     image.setDotsPerMeterX(qRound(kPointsPerMeter));
@@ -111,12 +116,12 @@ void ReportShadow::paint(QPainter *painter, const QRectF &bounds, const Look &lo
 {
     const QTransform toPoints = pointsFromDevice(painter);
     const QRectF part = visiblePart(painter, toPoints.mapRect(bounds), look);
-    if (!isFinite(bounds) || !isFinite(part) || part.isEmpty()) {
+    if (!ReportPlacement::isDrawable(bounds) || !ReportPlacement::isWithinReach(part)
+        || part.isEmpty()) {
         return;
     }
-    const double pixels = part.width() * part.height();
-    const double scale = std::min(1.0, std::sqrt(kMaximumPixels / pixels));
-    const QSize size(wholePixels(part.width() * scale), wholePixels(part.height() * scale));
+    const double scale = scaleOfPicture(part.size());
+    const QSize size(evenPixels(part.width() * scale), evenPixels(part.height() * scale));
     const QTransform toPicture = toPoints * QTransform::fromTranslate(-part.x(), -part.y())
         * QTransform::fromScale(scale, scale);
     const QImage shadow = ReportShadowPicture::shadowOf(pictureOf(size, toPicture, painter, draw),

@@ -5,8 +5,19 @@
 #include <QPainter>
 
 namespace {
+
 constexpr double kBlurRadiusUnits = 40.0;
+
+/// Qt blurs a picture of the whole item, seen or not; one that is larger than any screen takes
+/// seconds and more memory than there is.
+constexpr double kLargestPixels = 32e6;
+
+bool isTooLargeForQt(const QRectF &pixels)
+{
+    return !(pixels.width() * pixels.height() <= kLargestPixels);
 }
+
+} // namespace
 
 ReportShadowEffect::ReportShadowEffect(QObject *parent)
     : QGraphicsDropShadowEffect(parent)
@@ -19,7 +30,8 @@ ReportShadowEffect::ReportShadowEffect(QObject *parent)
 
 void ReportShadowEffect::draw(QPainter *painter)
 {
-    if (!ReportShadow::isForPaper(painter)) {
+    const QRectF bounds = boundingRectFor(sourceBoundingRect(Qt::DeviceCoordinates));
+    if (!ReportShadow::isForPaper(painter) && !isTooLargeForQt(bounds)) {
         QGraphicsDropShadowEffect::draw(painter);
         return;
     }

@@ -18,7 +18,8 @@ public:
     explicit ReportShadowEffect(QObject *parent = nullptr);
 
 protected:
-    /// Draws the shadow and then the item. On paper a unit of the shadow is a point, whatever
-    /// scale the item is drawn in, just as it is a pixel on the screen.
+    /// Draws the shadow and then the item. An item larger than any screen is drawn as on paper. On
+    /// paper a unit of the shadow is a point, whatever scale the item is drawn in, just as it is a
+    /// pixel on the screen.
     void draw(QPainter *painter) override;
 };

@@ -27,11 +27,11 @@ bool isWithinReach(const QPointF &place)
 
 /// The painting of one table. Pens and brushes are made and set only where they change from cell to
 /// cell, as each change costs time, and room in a PDF.
-class ReportTablePainter::Run
+class ReportTablePainter::Painting
 {
 public:
-    Run(ReportTablePainter *owner, QPainter *painter);
-    ~Run();
+    Painting(ReportTablePainter *owner, QPainter *painter);
+    ~Painting();
 
     void paintFrame(const TXTable &table, const QPointF &topLeft);
     void paintCells(const TXTable &table, const QPointF &topLeft);
@@ -65,7 +65,7 @@ private:
     bool isBrushSet = false;
 };
 
-ReportTablePainter::Run::Run(ReportTablePainter *owner, QPainter *painter)
+ReportTablePainter::Painting::Painting(ReportTablePainter *owner, QPainter *painter)
     : owner(owner)
     , painter(painter)
     , isPaper(ReportShadow::isForPaper(painter))
@@ -79,12 +79,12 @@ ReportTablePainter::Run::Run(ReportTablePainter *owner, QPainter *painter)
     transform = painter->worldTransform();
 }
 
-ReportTablePainter::Run::~Run()
+ReportTablePainter::Painting::~Painting()
 {
     painter->restore();
 }
 
-void ReportTablePainter::Run::paintFrame(const TXTable &table, const QPointF &topLeft)
+void ReportTablePainter::Painting::paintFrame(const TXTable &table, const QPointF &topLeft)
 {
     const QRectF frame = table.frameRect(topLeft, kTableFrameMargin);
     if (!isWithinReach(frame)) {
@@ -110,7 +110,8 @@ void ReportTablePainter::Run::paintFrame(const TXTable &table, const QPointF &to
 }
 
 /// On pixels the shadow is Qt's own, which only items have.
-void ReportTablePainter::Run::paintFrameWithEffect(const TXTable &table, const QPointF &topLeft)
+void ReportTablePainter::Painting::paintFrameWithEffect(const TXTable &table,
+                                                        const QPointF &topLeft)
 {
     const QPaintDevice *device = painter->device();
     const QRectF pixels = QRectF(0, 0, device->width(), device->height()).adjusted(-1, -1, 1, 1);
@@ -120,7 +121,7 @@ void ReportTablePainter::Run::paintFrameWithEffect(const TXTable &table, const Q
     scene.render(painter, visible, visible);
 }
 
-void ReportTablePainter::Run::paintCells(const TXTable &table, const QPointF &topLeft)
+void ReportTablePainter::Painting::paintCells(const TXTable &table, const QPointF &topLeft)
 {
     QPointF place = topLeft;
     for (int row = 0; row < table.tableCells.size(); ++row) {
@@ -132,10 +133,10 @@ void ReportTablePainter::Run::paintCells(const TXTable &table, const QPointF &to
     }
 }
 
-void ReportTablePainter::Run::paintCell(const TXTableCell &cell, const QRectF &rect)
+void ReportTablePainter::Painting::paintCell(const TXTableCell &cell, const QRectF &rect)
 {
     const bool isSeen = cell.borderColor.alpha() != 0 || cell.insideColor.alpha() != 0;
-    if (isSeen && isWithinReach(rect)) {
+    if (isSeen && isWithinReach(rect) && ReportPlacement::isDrawable(rect, cell.borderLineWidth)) {
         setBorderPen(cell.borderColor, cell.borderLineWidth);
         setInsideBrush(cell.insideColor);
         painter->drawRect(rect);
@@ -150,7 +151,7 @@ void ReportTablePainter::Run::paintCell(const TXTableCell &cell, const QRectF &r
     }
 }
 
-void ReportTablePainter::Run::paintPicture(const QPixmap &pixmap, const QRectF &rect)
+void ReportTablePainter::Painting::paintPicture(const QPixmap &pixmap, const QRectF &rect)
 {
     if (pixmap.isNull()) {
         return;
@@ -170,8 +171,8 @@ void ReportTablePainter::Run::paintPicture(const QPixmap &pixmap, const QRectF &
     painter->restore();
 }
 
-void ReportTablePainter::Run::paintText(const TXTableCell &cell, const QString &text,
-                                        const QRectF &rect)
+void ReportTablePainter::Painting::paintText(const TXTableCell &cell, const QString &text,
+                                             const QRectF &rect)
 {
     ReportTextLayouts &texts = cell.bold ? *owner->boldTexts : *owner->plainTexts;
     const ReportTextLayouts::Text &ready = texts.text(text);
@@ -192,7 +193,7 @@ void ReportTablePainter::Run::paintText(const TXTableCell &cell, const QString &
     painter->setWorldTransform(transform);
 }
 
-void ReportTablePainter::Run::setBorderPen(const QColor &colour, double width)
+void ReportTablePainter::Painting::setBorderPen(const QColor &colour, double width)
 {
     if (!isBorderMade || colour != borderColour || width != borderWidth) {
         border = QPen();
@@ -211,7 +212,7 @@ void ReportTablePainter::Run::setBorderPen(const QColor &colour, double width)
     }
 }
 
-void ReportTablePainter::Run::setTextPen(const QColor &colour)
+void ReportTablePainter::Painting::setTextPen(const QColor &colour)
 {
     if (!isPenSet || colour != penColour) {
         painter->setPen(QPen(colour));
@@ -221,7 +222,7 @@ void ReportTablePainter::Run::setTextPen(const QColor &colour)
     }
 }
 
-void ReportTablePainter::Run::setInsideBrush(const QColor &colour)
+void ReportTablePainter::Painting::setInsideBrush(const QColor &colour)
 {
     if (!isBrushSet || colour != brushColour) {
         painter->setBrush(QBrush(colour, Qt::SolidPattern));
@@ -237,9 +238,9 @@ void ReportTablePainter::paintTable(QPainter *painter, const TXTable &table, con
                                     const QFont &font)
 {
     setFont(font);
-    Run run(this, painter);
-    run.paintFrame(table, topLeft);
-    run.paintCells(table, topLeft);
+    Painting painting(this, painter);
+    painting.paintFrame(table, topLeft);
+    painting.paintCells(table, topLeft);
 }
 
 void ReportTablePainter::setFont(const QFont &font)

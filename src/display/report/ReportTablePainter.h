@@ -24,14 +24,15 @@ class TXGUICOMMON_PRIVATE_EXPORT ReportTablePainter
     Q_DISABLE_COPY_MOVE(ReportTablePainter)
 
 public:
+    /// Nothing is remembered yet.
     ReportTablePainter();
     ~ReportTablePainter();
 
     /// Paints frame and cells, one unit of the painter being a point. `topLeft` is the corner of
     /// the cells; the frame stands 5 points out. In a PDF texts stand within 1/128 point of where
     /// the scene has them, everywhere else exactly there. Frames, cells and texts without a finite
-    /// place and size are left out, and shown are those that go a few points to the left or
-    /// upwards, which a scene drops. Leaves the painter's state as it was.
+    /// place and size are left out. Rectangles of a size just below 0 are shown, though Qt does not
+    /// show such items of a scene. Leaves the painter's state as it was.
     void paintTable(QPainter *painter, const TXTable &table, const QPointF &topLeft,
                     const QFont &font);
 
@@ -40,7 +41,7 @@ public:
                       const QFont &font);
 
 private:
-    class Run;
+    class Painting;
 
     void setFont(const QFont &font);
 

@@ -25,6 +25,7 @@ public:
         QTextLayout layout;
     };
 
+    /// Nothing is laid out yet.
     explicit ReportTextLayouts(const QFont &font);
 
     /// The font of all texts.

@@ -104,11 +104,11 @@ QString ReportTextLine::onOneLine(QString text)
 
 QString ReportTextLine::filledText(TXHorizontalAlignment place, const ReportPageFacts &facts) const
 {
-    QString filled = text(place);
+    QString filled = text(place).left(kMostCharacters);
     filled.replace(QLatin1String("{page}"), QString::number(facts.page));
     filled.replace(QLatin1String("{pages}"), QString::number(facts.pages));
     // Last, since a title may hold braces itself.
-    filled.replace(QLatin1String("{title}"), facts.title);
+    filled.replace(QLatin1String("{title}"), facts.title.left(kMostCharacters));
     filled.truncate(kMostCharacters);
     return onOneLine(std::move(filled));
 }

@@ -8,9 +8,11 @@
 #include "TextSizeCache.h"
 #include "WholeNumber.h"
 
+#include <QCoreApplication>
 #include <QFont>
 #include <QGraphicsColorizeEffect>
 #include <QGraphicsSimpleTextItem>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -24,6 +26,13 @@ bool isDrawable(const QPointF &place)
 TXGraphicsScene::TXGraphicsScene(QObject *parent)
     : QGraphicsScene(parent)
 { }
+
+/// Qt removes an item that it has not met yet by a search through all such: let it meet them first.
+TXGraphicsScene::~TXGraphicsScene()
+{
+    const QSignalBlocker nobodyHears(this);
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+}
 
 void TXGraphicsScene::drawText(const QString &text, const QPointF &topLeft, const QFont &font,
                                const QBrush &brush)

@@ -23,9 +23,8 @@ class TXTable;
 /// Sizes that are negative, infinite or not numbers are harmless: such a thing shows nothing or
 /// shows at a corner. A thing whose place, size or width of line is infinite or not a number adds
 /// no item, as the whole scene's extent would become so too. Each call costs the same whatever
-/// stands in the scene already; measuring and scaling are remembered. Let a scene with many items
-/// be painted once, or the event loop turn, before it is destroyed: Qt is slow at removing items
-/// that it has never met.
+/// stands in the scene already, and so does destroying the scene for each item; measuring and
+/// scaling are remembered.
 ///
 /// Thread: the GUI thread, but for getBoundingRectOfText() and newSizeFromSize().
 class TXGUICOMMON_EXPORT TXGraphicsScene : public QGraphicsScene
@@ -35,6 +34,7 @@ class TXGUICOMMON_EXPORT TXGraphicsScene : public QGraphicsScene
 public:
     /// An empty scene. A parent owns it.
     explicit TXGraphicsScene(QObject *parent = nullptr);
+    ~TXGraphicsScene() override;
 
     /// Draws the text with its top-left corner at the place. Line breaks in it count, nothing is
     /// wrapped.
@@ -88,7 +88,7 @@ public:
     void addShadowEffectInGraphicsItem(QGraphicsItem *item);
 
     /// Shows the item in shades of the colour. Null does nothing. The item owns the effect, which
-    /// replaces an earlier one.
+    /// replaces an earlier one. On paper such an item is a picture, also where it is a text.
     void addColorEffectInGraphicsItem(QGraphicsItem *item, const QColor &color);
 
 private:

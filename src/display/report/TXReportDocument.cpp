@@ -27,17 +27,12 @@ QPageLayout defaultLayout()
             QPageLayout::Point};
 }
 
-TXStringI18n words(const char *source)
-{
-    return {"TXReportDocument", source, nullptr, -1};
-}
-
 } // namespace
 
 class TXReportDocument::Private
 {
 public:
-    [[nodiscard]] bool hasSomethingToShow(ReportRun &run);
+    [[nodiscard]] bool checkForContent(ReportRun &run);
     [[nodiscard]] PdfDocumentInfo documentInfo() const;
 
     ReportPages pages;
@@ -45,14 +40,14 @@ public:
     ReportRunState state;
 };
 
-bool TXReportDocument::Private::hasSomethingToShow(ReportRun &run)
+bool TXReportDocument::Private::checkForContent(ReportRun &run)
 {
     if (pages.count() == 0) {
-        run.fail(words(QT_TRANSLATE_NOOP("TXReportDocument", "The report has no pages.")));
+        run.fail(reportText(QT_TRANSLATE_NOOP("TXReportDocument", "The report has no pages.")));
         return false;
     }
     if (pages.paper().content.isEmpty()) {
-        run.fail(words(QT_TRANSLATE_NOOP(
+        run.fail(reportText(QT_TRANSLATE_NOOP(
             "TXReportDocument",
             "The margins, the header and the footer leave no room on the paper.")));
         return false;
@@ -184,14 +179,14 @@ bool TXReportDocument::writePdf(const QString &fileName, ICompletionDelegate *de
                                 TXError *error)
 {
     ReportRun run(&d->state, d->pages.frame().title, delegate, error);
-    return run.isGoingOn() && d->hasSomethingToShow(run)
+    return run.isGoingOn() && d->checkForContent(run)
         && ReportPdfWriting::write(d->pages, d->documentInfo(), fileName, run);
 }
 
 bool TXReportDocument::print(QPrinter *printer, ICompletionDelegate *delegate, TXError *error)
 {
     ReportRun run(&d->state, d->pages.frame().title, delegate, error);
-    return run.isGoingOn() && d->hasSomethingToShow(run)
+    return run.isGoingOn() && d->checkForContent(run)
         && ReportPrinting::print(d->pages, printer, run);
 }
 

@@ -23,20 +23,23 @@ class TXTable;
 ///
 /// One unit of a scene or a table is one point on paper, whatever the resolution. Text stays text,
 /// with its fonts embedded; pictures keep their 200 dots per inch and their exact colours; shadows
-/// are pictures of their own below what throws them.
+/// are pictures of their own below what throws them. Letters that a font joins, as many do "fi",
+/// are one character for those who copy the text; a letter spacing keeps them apart.
 ///
 /// Pages come in the order in which they are added. A table is cut into pages by its own rules: as
 /// many rows as TXTable::getNbRowDrawableOnHeight() counts, at least one, with the header rows
 /// repeated. It starts on a new page, at the top left corner of the content, its frame just
-/// within. Nothing is scaled to fit: what is wider than the paper is cut off at the paper's edge.
+/// within. Nothing is scaled to fit: what is larger than the paper is cut off at the paper's edge,
+/// also the rows below header rows that take up all of a page.
 ///
 /// ```
 /// TXReportDocument report;
 /// report.setTitle(tr("Chart comparison"));
 /// report.addPage(&coverScene);
 /// report.addTable(differences, font);
-/// if (!report.writePdf(fileName, nullptr, &error))
+/// if (!report.writePdf(fileName, nullptr, &error)) {
 ///     TXDisplayErrorMessageBox(...);
+/// }
 /// ```
 ///
 /// Memory: a table is painted row by row, without items, so that a page costs what it holds; pages
@@ -63,8 +66,8 @@ public:
 
     /// Page size, orientation and margins.
     [[nodiscard]] QPageLayout pageLayout() const;
-    /// Sets them; an invalid layout is ignored. Margins count in every mode of the layout. Such as
-    /// leave no room for content are taken, and then the report can't be written.
+    /// Sets them; an invalid layout is ignored. Margins count in every mode of the layout. Those
+    /// that leave no room for content are accepted, but the report can't be written then.
     void setPageLayout(const QPageLayout &layout);
 
     /// The title: in the header where it is asked for, and in the PDF's data. Empty by default.
@@ -74,7 +77,7 @@ public:
 
     /// The author, in the PDF's data. Empty by default.
     [[nodiscard]] QString author() const;
-    /// Sets the author.
+    /// Sets the author. Line breaks and other control characters become blanks.
     void setAuthor(const QString &author);
 
     /// The text at one of the three places of the header.

@@ -46,13 +46,13 @@ public:
     /// arrives.
     ///
     /// A text (also an empty one), a picture or anything else with a text becomes one cell. A list
-    /// becomes cells that share one column: each is the list's length times narrower than
-    /// "CellSize", which a list needs. A list in the first column makes a row of each value, and
-    /// what follows then joins the first row that the cursor stands at. A list of one text that is
-    /// not empty is that text. An empty list adds no cell and moves the cursor; a list does not
-    /// mind whether the row is full. Without an element, or with one that is nothing of these,
-    /// nothing happens. Where setTableCellList() has left fewer rows than the cursor stands at, the
-    /// cell opens a row at the end.
+    /// becomes cells that share one column: the width of "CellSize", which a list needs, is shared
+    /// out evenly among them. A list in the first column makes a row of each value, and what
+    /// follows then joins the first row that the cursor stands at. A list of one text that is not
+    /// empty is that text. An empty list adds no cell and moves the cursor; a list does not mind
+    /// whether the row is full. Without an element, or with one that is nothing of these, nothing
+    /// happens. Where setTableCellList() has left fewer rows than the cursor stands at, the cell
+    /// opens a row at the end.
     void addCell(const QHash<QString, QVariant> &dictionary);
 
     /// Replaces all cells. The cursor and the widths of the columns stay.
@@ -95,7 +95,7 @@ public:
     [[nodiscard]] float columnWidthAtIndex(int column) const;
     /// How many rows fit on a page of this height that starts with `firstRow`, the repeated header
     /// rows included. A row that ends exactly at the height does not fit any more. Rows above the
-    /// table (`firstRow` below 0) count as rows without cells, the nearest million of them. Costs
+    /// table (`firstRow` below 0) count as rows without cells, but no more than a million. Costs
     /// the number of rows that fit.
     [[nodiscard]] int getNbRowDrawableOnHeight(float height, int firstRow) const;
     /// How many rows at the top each page repeats: 1.

@@ -37,7 +37,7 @@ public:
 
     /// A report needs one or two fonts.
     static constexpr int kMaximumFonts = 16;
-    /// Enough for the distinct texts of a report of 10,000 rows, measured twice; about 10 MB.
+    /// Enough for the distinct texts of a report of 10,000 rows, measured twice.
     static constexpr int kMaximumTexts = 100'000;
     /// In UTF-16 units. Longer texts are measured each time: they are rare, and rarely alike.
     static constexpr int kLongestText = 128;

@@ -8,7 +8,7 @@
 #include <QPdfWriter>
 #include <QTemporaryDir>
 
-class tst_PdfDocumentInfo : public TestBase
+class TestPdfDocumentInfo : public TestBase
 {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ QByteArray pdfOfQt()
 
 } // namespace
 
-void tst_PdfDocumentInfo::updateIsNeededWhereQtDoesNotDo_data()
+void TestPdfDocumentInfo::updateIsNeededWhereQtDoesNotDo_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("author");
@@ -60,7 +60,7 @@ void tst_PdfDocumentInfo::updateIsNeededWhereQtDoesNotDo_data()
     QTest::newRow("high byte of a line end") << QString(QChar(0x0d15)) << "" << true;
 }
 
-void tst_PdfDocumentInfo::updateIsNeededWhereQtDoesNotDo()
+void TestPdfDocumentInfo::updateIsNeededWhereQtDoesNotDo()
 {
     QFETCH(QString, title);
     QFETCH(QString, author);
@@ -72,7 +72,7 @@ void tst_PdfDocumentInfo::updateIsNeededWhereQtDoesNotDo()
     QCOMPARE(info.needsUpdate(), isNeeded);
 }
 
-void tst_PdfDocumentInfo::readersFindTheTexts_data()
+void TestPdfDocumentInfo::readersFindTheTexts_data()
 {
     QTest::addColumn<QString>("text");
 
@@ -84,7 +84,7 @@ void tst_PdfDocumentInfo::readersFindTheTexts_data()
     QTest::newRow("long") << QString(20'000, 'x');
 }
 
-void tst_PdfDocumentInfo::readersFindTheTexts()
+void TestPdfDocumentInfo::readersFindTheTexts()
 {
     QFETCH(QString, text);
     const QTemporaryDir folder;
@@ -104,7 +104,7 @@ void tst_PdfDocumentInfo::readersFindTheTexts()
     QCOMPARE(file.pageTexts().value(0).trimmed(), QString("Hello"));
 }
 
-void tst_PdfDocumentInfo::whatIsWrittenStays()
+void TestPdfDocumentInfo::whatIsWrittenStays()
 {
     PdfDocumentInfo info;
     info.author = "A";
@@ -123,7 +123,7 @@ void tst_PdfDocumentInfo::whatIsWrittenStays()
     QVERIFY(update.endsWith("%%EOF\n"));
 }
 
-void tst_PdfDocumentInfo::unknownEndsAreRefused_data()
+void TestPdfDocumentInfo::unknownEndsAreRefused_data()
 {
     QTest::addColumn<QByteArray>("tail");
     QTest::addColumn<qint64>("size");
@@ -148,7 +148,7 @@ void tst_PdfDocumentInfo::unknownEndsAreRefused_data()
     QTest::newRow("larger than places can tell") << kTrailer << qint64(9'999'999'999);
 }
 
-void tst_PdfDocumentInfo::unknownEndsAreRefused()
+void TestPdfDocumentInfo::unknownEndsAreRefused()
 {
     QFETCH(QByteArray, tail);
     QFETCH(qint64, size);
@@ -161,7 +161,7 @@ void tst_PdfDocumentInfo::unknownEndsAreRefused()
 
 int main(int argc, char **argv)
 {
-    return runTest<tst_PdfDocumentInfo>(argc, argv);
+    return runTest<TestPdfDocumentInfo>(argc, argv);
 }
 
 #include "tst_PdfDocumentInfo.moc"

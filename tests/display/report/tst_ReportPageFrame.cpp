@@ -7,7 +7,7 @@
 
 #include <cmath>
 
-class tst_ReportPageFrame : public TestBase
+class TestReportPageFrame : public TestBase
 {
     Q_OBJECT
 
@@ -63,7 +63,7 @@ QImage painted(const ReportPageFrame &frame)
 
 } // namespace
 
-void tst_ReportPageFrame::linesTakeRoomOnlyWithTextOnThem_data()
+void TestReportPageFrame::linesTakeRoomOnlyWithTextOnThem_data()
 {
     QTest::addColumn<QString>("header");
     QTest::addColumn<QString>("footer");
@@ -94,7 +94,7 @@ void tst_ReportPageFrame::linesTakeRoomOnlyWithTextOnThem_data()
                             << "" << false << false;
 }
 
-void tst_ReportPageFrame::linesTakeRoomOnlyWithTextOnThem()
+void TestReportPageFrame::linesTakeRoomOnlyWithTextOnThem()
 {
     QFETCH(QString, header);
     QFETCH(QString, footer);
@@ -112,7 +112,7 @@ void tst_ReportPageFrame::linesTakeRoomOnlyWithTextOnThem()
              kArea.adjusted(0, isHeaderThere ? room : 0, 0, isFooterThere ? -room : 0));
 }
 
-void tst_ReportPageFrame::contentIsNeverNegative_data()
+void TestReportPageFrame::contentIsNeverNegative_data()
 {
     QTest::addColumn<QRectF>("area");
 
@@ -121,7 +121,7 @@ void tst_ReportPageFrame::contentIsNeverNegative_data()
     QTest::newRow("not a number") << QRectF(std::nan(""), 0, std::nan(""), std::nan(""));
 }
 
-void tst_ReportPageFrame::contentIsNeverNegative()
+void TestReportPageFrame::contentIsNeverNegative()
 {
     QFETCH(QRectF, area);
     ReportPageFrame frame;
@@ -131,7 +131,7 @@ void tst_ReportPageFrame::contentIsNeverNegative()
     QCOMPARE(frame.contentRect(area).size(), QSizeF(0, 0));
 }
 
-void tst_ReportPageFrame::placeholdersAreFilled_data()
+void TestReportPageFrame::placeholdersAreFilled_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("title");
@@ -156,7 +156,7 @@ void tst_ReportPageFrame::placeholdersAreFilled_data()
                                     << "שלום 日本 😀";
 }
 
-void tst_ReportPageFrame::placeholdersAreFilled()
+void TestReportPageFrame::placeholdersAreFilled()
 {
     QFETCH(QString, text);
     QFETCH(QString, title);
@@ -168,7 +168,7 @@ void tst_ReportPageFrame::placeholdersAreFilled()
     QCOMPARE(line.filledText(TXAlignLeft, {5, 9, title}), QString());
 }
 
-void tst_ReportPageFrame::placesOutsideTheThreeAreIgnored()
+void TestReportPageFrame::placesOutsideTheThreeAreIgnored()
 {
     ReportTextLine line;
     line.setText("a", kNoPlace);
@@ -177,7 +177,7 @@ void tst_ReportPageFrame::placesOutsideTheThreeAreIgnored()
     QVERIFY(line.isBlank({}));
 }
 
-void tst_ReportPageFrame::headerStandsAtTheTopAndFooterAtTheBottom()
+void TestReportPageFrame::headerStandsAtTheTopAndFooterAtTheBottom()
 {
     ReportPageFrame frame;
     frame.header.setText("XXXX", TXAlignLeft);
@@ -196,7 +196,7 @@ void tst_ReportPageFrame::headerStandsAtTheTopAndFooterAtTheBottom()
     QCOMPARE(runsOfInk(image.copy(0, 230, 400, 30)).size(), 0);
 }
 
-void tst_ReportPageFrame::longTextsDoNotOverlap_data()
+void TestReportPageFrame::longTextsDoNotOverlap_data()
 {
     QTest::addColumn<int>("left");
     QTest::addColumn<int>("centre");
@@ -211,7 +211,7 @@ void tst_ReportPageFrame::longTextsDoNotOverlap_data()
     }
 }
 
-void tst_ReportPageFrame::longTextsDoNotOverlap()
+void TestReportPageFrame::longTextsDoNotOverlap()
 {
     QFETCH(int, left);
     QFETCH(int, centre);
@@ -230,7 +230,7 @@ void tst_ReportPageFrame::longTextsDoNotOverlap()
     }
 }
 
-void tst_ReportPageFrame::shortTextsAreWhole()
+void TestReportPageFrame::shortTextsAreWhole()
 {
     ReportPageFrame shown;
     shown.header.setText("{title} left", TXAlignLeft);
@@ -245,7 +245,7 @@ void tst_ReportPageFrame::shortTextsAreWhole()
     QVERIFY(painted(shown) != painted(wanted));
 }
 
-void tst_ReportPageFrame::hugeTextsTakeNoLonger()
+void TestReportPageFrame::hugeTextsTakeNoLonger()
 {
     ReportPageFrame frame;
     frame.header.setText(QString(10'000'000, 'H'), TXAlignLeft);
@@ -257,7 +257,7 @@ void tst_ReportPageFrame::hugeTextsTakeNoLonger()
 
 int main(int argc, char **argv)
 {
-    return runTest<tst_ReportPageFrame>(argc, argv);
+    return runTest<TestReportPageFrame>(argc, argv);
 }
 
 #include "tst_ReportPageFrame.moc"

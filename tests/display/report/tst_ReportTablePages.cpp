@@ -7,7 +7,7 @@
 #include <cmath>
 #include <limits>
 
-class tst_ReportTablePages : public TestBase
+class TestReportTablePages : public TestBase
 {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ QStringList textsOf(const TXTable &table)
 
 } // namespace
 
-void tst_ReportTablePages::pagesHoldWhatFits_data()
+void TestReportTablePages::pagesHoldWhatFits_data()
 {
     QTest::addColumn<QList<double>>("heights");
     QTest::addColumn<float>("height");
@@ -69,7 +69,7 @@ void tst_ReportTablePages::pagesHoldWhatFits_data()
     QTest::newRow("no room at all") << QList<double>{20, 20} << 0.0F << QList<int>{0, 1, 2};
 }
 
-void tst_ReportTablePages::pagesHoldWhatFits()
+void TestReportTablePages::pagesHoldWhatFits()
 {
     QFETCH(QList<double>, heights);
     QFETCH(float, height);
@@ -81,7 +81,7 @@ void tst_ReportTablePages::pagesHoldWhatFits()
     QCOMPARE(pages.firstRow(pages.count()), int(heights.size()) + 1);
 }
 
-void tst_ReportTablePages::headerIsRepeatedOnEachPageButTheFirst()
+void TestReportTablePages::headerIsRepeatedOnEachPageButTheFirst()
 {
     const ReportTablePages pages(tableOfRows({1, 2, 3, 4}, 50), 57);
 
@@ -90,7 +90,7 @@ void tst_ReportTablePages::headerIsRepeatedOnEachPageButTheFirst()
     QCOMPARE(textsOf(pages.page(1)), QStringList({"50", "4"}));
 }
 
-void tst_ReportTablePages::randomTablesLoseNoRow()
+void TestReportTablePages::randomTablesLoseNoRow()
 {
     QRandomGenerator random(20);
     for (int round = 0; round < 1000; ++round) {
@@ -114,7 +114,7 @@ void tst_ReportTablePages::randomTablesLoseNoRow()
     }
 }
 
-void tst_ReportTablePages::anyHeightOfPagesEnds_data()
+void TestReportTablePages::anyHeightOfPagesEnds_data()
 {
     QTest::addColumn<float>("height");
     QTest::addColumn<int>("pages");
@@ -126,7 +126,7 @@ void tst_ReportTablePages::anyHeightOfPagesEnds_data()
     QTest::newRow("largest") << std::numeric_limits<float>::max() << 1;
 }
 
-void tst_ReportTablePages::anyHeightOfPagesEnds()
+void TestReportTablePages::anyHeightOfPagesEnds()
 {
     QFETCH(float, height);
     QFETCH(int, pages);
@@ -134,7 +134,7 @@ void tst_ReportTablePages::anyHeightOfPagesEnds()
     QCOMPARE(ReportTablePages(tableOfRows(10), height).count(), pages);
 }
 
-void tst_ReportTablePages::anyHeightOfRowsEnds_data()
+void TestReportTablePages::anyHeightOfRowsEnds_data()
 {
     QTest::addColumn<double>("rowHeight");
     QTest::addColumn<QList<int>>("firstRows");
@@ -148,7 +148,7 @@ void tst_ReportTablePages::anyHeightOfRowsEnds_data()
     QTest::newRow("zero") << 0.0 << QList<int>{0, 6};
 }
 
-void tst_ReportTablePages::anyHeightOfRowsEnds()
+void TestReportTablePages::anyHeightOfRowsEnds()
 {
     QFETCH(double, rowHeight);
     QFETCH(QList<int>, firstRows);
@@ -158,7 +158,7 @@ void tst_ReportTablePages::anyHeightOfRowsEnds()
     QCOMPARE(firstRowsOf(ReportTablePages(tableOfRows(heights), 101.0F)), firstRows);
 }
 
-void tst_ReportTablePages::tableWithoutRowsHasNoPages()
+void TestReportTablePages::tableWithoutRowsHasNoPages()
 {
     const ReportTablePages pages(TXTable(3, true), 100.0F);
 
@@ -166,7 +166,7 @@ void tst_ReportTablePages::tableWithoutRowsHasNoPages()
     QCOMPARE(pages.firstRow(0), 0);
 }
 
-void tst_ReportTablePages::rowsWithoutCellsTakeTheirRoom()
+void TestReportTablePages::rowsWithoutCellsTakeTheirRoom()
 {
     TXTable table(1, false);
     table.setTableCellList(QList<QList<TXTableCell>>(10));
@@ -174,7 +174,7 @@ void tst_ReportTablePages::rowsWithoutCellsTakeTheirRoom()
     QCOMPARE(firstRowsOf(ReportTablePages(table, 101.0F)), QList<int>({0, 5, 9}));
 }
 
-void tst_ReportTablePages::aMillionCellsAreCutAtOnce()
+void TestReportTablePages::aMillionCellsAreCutAtOnce()
 {
     constexpr int kRows = 1'000'000;
     TXTable table(1, false);
@@ -189,7 +189,7 @@ void tst_ReportTablePages::aMillionCellsAreCutAtOnce()
 
 int main(int argc, char **argv)
 {
-    return runTest<tst_ReportTablePages>(argc, argv);
+    return runTest<TestReportTablePages>(argc, argv);
 }
 
 #include "tst_ReportTablePages.moc"

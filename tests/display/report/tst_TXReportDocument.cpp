@@ -13,7 +13,7 @@
 #include <semaphore>
 #include <thread>
 
-class tst_TXReportDocument : public TestBase
+class TestTXReportDocument : public TestBase
 {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ QImage paintedPage(const TXReportDocument &report, int page, double scale = 1.0)
 
 } // namespace
 
-void tst_TXReportDocument::defaults()
+void TestTXReportDocument::defaults()
 {
     const TXReportDocument report;
 
@@ -102,7 +102,7 @@ void tst_TXReportDocument::defaults()
     QVERIFY(!report.isCancelled());
 }
 
-void tst_TXReportDocument::invalidLayoutIsIgnored()
+void TestTXReportDocument::invalidLayoutIsIgnored()
 {
     TXReportDocument report;
     const QPageLayout before = report.pageLayout();
@@ -112,7 +112,7 @@ void tst_TXReportDocument::invalidLayoutIsIgnored()
     QCOMPARE(report.pageLayout(), before);
 }
 
-void tst_TXReportDocument::contentIsWhatMarginsHeaderAndFooterLeave()
+void TestTXReportDocument::contentIsWhatMarginsHeaderAndFooterLeave()
 {
     TXReportDocument report;
     report.setPageLayout(
@@ -136,7 +136,7 @@ void tst_TXReportDocument::contentIsWhatMarginsHeaderAndFooterLeave()
     QCOMPARE(report.contentRect(), QRectF(10, 20 + larger, 842 - 40, 595 - 60 - 2 * larger));
 }
 
-void tst_TXReportDocument::layoutReachesThePdf_data()
+void TestTXReportDocument::layoutReachesThePdf_data()
 {
     QTest::addColumn<QPageLayout>("layout");
     QTest::addColumn<QSizeF>("size");
@@ -155,7 +155,7 @@ void tst_TXReportDocument::layoutReachesThePdf_data()
                                        << QSizeF(123, 456);
 }
 
-void tst_TXReportDocument::layoutReachesThePdf()
+void TestTXReportDocument::layoutReachesThePdf()
 {
     QFETCH(QPageLayout, layout);
     QFETCH(QSizeF, size);
@@ -173,7 +173,7 @@ void tst_TXReportDocument::layoutReachesThePdf()
     QCOMPARE(file.errorText(), QString());
 }
 
-void tst_TXReportDocument::titleAndAuthorAreInThePdf()
+void TestTXReportDocument::titleAndAuthorAreInThePdf()
 {
     TXReportDocument report;
     report.setTitle(QString("Farben\n(český) \\"));
@@ -193,7 +193,7 @@ void tst_TXReportDocument::titleAndAuthorAreInThePdf()
     QCOMPARE(file.information().title, QString("Farben (český) \\"));
 }
 
-void tst_TXReportDocument::pagesComeInTheOrderOfAdding()
+void TestTXReportDocument::pagesComeInTheOrderOfAdding()
 {
     TXGraphicsScene scene;
     scene.drawText("scene", {0, 0}, tenPoints(), Qt::black);
@@ -211,7 +211,7 @@ void tst_TXReportDocument::pagesComeInTheOrderOfAdding()
              QStringList({"drawn0", "drawn1", "header", "header", "scene", "drawn0", "scene"}));
 }
 
-void tst_TXReportDocument::badContentAddsNothing()
+void TestTXReportDocument::badContentAddsNothing()
 {
     TXReportDocument report;
     report.addPage(nullptr);
@@ -230,7 +230,7 @@ void tst_TXReportDocument::badContentAddsNothing()
     QCOMPARE(firstWords(fileName), QStringList({"drawn0", "drawn0"}));
 }
 
-void tst_TXReportDocument::pagesAreCountedAnewAfterAChange()
+void TestTXReportDocument::pagesAreCountedAnewAfterAChange()
 {
     TXReportDocument report;
     report.addTable(tableOfRows(40), tenPoints());
@@ -256,7 +256,7 @@ void tst_TXReportDocument::pagesAreCountedAnewAfterAChange()
     QCOMPARE(report.pageCount(), 6);
 }
 
-void tst_TXReportDocument::countOfPagesDoesNotOverflow()
+void TestTXReportDocument::countOfPagesDoesNotOverflow()
 {
     TXReportDocument report;
     constexpr int kMost = std::numeric_limits<int>::max();
@@ -267,7 +267,7 @@ void tst_TXReportDocument::countOfPagesDoesNotOverflow()
     QVERIFY(paintedPage(report, kMost - 1) != paintedPage(report, kMost));
 }
 
-void tst_TXReportDocument::drawnPagesAreMadeOneAtATime()
+void TestTXReportDocument::drawnPagesAreMadeOneAtATime()
 {
     QList<int> drawn;
     QPointer<TXGraphicsScene> last;
@@ -288,7 +288,7 @@ void tst_TXReportDocument::drawnPagesAreMadeOneAtATime()
     QVERIFY(last.isNull());
 }
 
-void tst_TXReportDocument::sceneDestroyedBeforeLeavesAnEmptyPage()
+void TestTXReportDocument::sceneDestroyedBeforeLeavesAnEmptyPage()
 {
     auto scene = std::make_unique<TXGraphicsScene>();
     drawMark(scene.get(), 0);
@@ -302,7 +302,7 @@ void tst_TXReportDocument::sceneDestroyedBeforeLeavesAnEmptyPage()
     QCOMPARE(firstWords(fileName), QStringList({"page", "drawn0"}));
 }
 
-void tst_TXReportDocument::tableStandsWithItsFrameInTheCorner()
+void TestTXReportDocument::tableStandsWithItsFrameInTheCorner()
 {
     TXReportDocument report;
     report.addTable(tableOfRows(1), tenPoints());
@@ -323,7 +323,7 @@ void tst_TXReportDocument::tableStandsWithItsFrameInTheCorner()
     QVERIFY(!isWhite(50, 41.0));
 }
 
-void tst_TXReportDocument::paintedPageShowsTheSceneOnTheWholeSheet()
+void TestTXReportDocument::paintedPageShowsTheSceneOnTheWholeSheet()
 {
     TXGraphicsScene scene;
     scene.drawRect({0, 0, 10, 10}, Qt::NoPen, Qt::red, false);
@@ -342,7 +342,7 @@ void tst_TXReportDocument::paintedPageShowsTheSceneOnTheWholeSheet()
     QCOMPARE(page.pixelColor(594, 841), QColor(Qt::green));
 }
 
-void tst_TXReportDocument::paintedPageLeavesThePainterAsItWas()
+void TestTXReportDocument::paintedPageLeavesThePainterAsItWas()
 {
     TXReportDocument report;
     report.setTitle("T");
@@ -364,7 +364,7 @@ void tst_TXReportDocument::paintedPageLeavesThePainterAsItWas()
     QVERIFY(!painter.hasClipping());
 }
 
-void tst_TXReportDocument::nothingIsPaintedOutsideThePages()
+void TestTXReportDocument::nothingIsPaintedOutsideThePages()
 {
     TXReportDocument report;
     report.addPages(2, drawMark);
@@ -378,7 +378,7 @@ void tst_TXReportDocument::nothingIsPaintedOutsideThePages()
     report.paintPage(0, &inactive);
 }
 
-void tst_TXReportDocument::nothingIsPaintedOutsideThePaper()
+void TestTXReportDocument::nothingIsPaintedOutsideThePaper()
 {
     TXReportDocument report;
     report.setPageLayout(QPageLayout(QPageSize(QSizeF(100, 100), QPageSize::Point),
@@ -399,7 +399,7 @@ void tst_TXReportDocument::nothingIsPaintedOutsideThePaper()
     QCOMPARE(beside, white);
 }
 
-void tst_TXReportDocument::progressGoesTo100Once()
+void TestTXReportDocument::progressGoesTo100Once()
 {
     TXReportDocument report;
     report.setTitle("Colours");
@@ -415,7 +415,7 @@ void tst_TXReportDocument::progressGoesTo100Once()
     QCOMPARE(delegate.errors, QStringList());
 }
 
-void tst_TXReportDocument::aLaterChangeDoesNotDisturbTheWriting()
+void TestTXReportDocument::aLaterChangeDoesNotDisturbTheWriting()
 {
     TXReportDocument report;
     report.addTable(tableOfRows(100), tenPoints());
@@ -433,7 +433,7 @@ void tst_TXReportDocument::aLaterChangeDoesNotDisturbTheWriting()
     QCOMPARE(file.information().pageSizes.size(), delegate.messages.size());
 }
 
-void tst_TXReportDocument::cancelEndsAtTheNextPage()
+void TestTXReportDocument::cancelEndsAtTheNextPage()
 {
     TXReportDocument report;
     report.addPages(10, drawMark);
@@ -461,7 +461,7 @@ void tst_TXReportDocument::cancelEndsAtTheNextPage()
     QVERIFY(!report.isCancelled());
 }
 
-void tst_TXReportDocument::cancelWithoutAWritingDoesNothing()
+void TestTXReportDocument::cancelWithoutAWritingDoesNothing()
 {
     TXReportDocument report;
     report.addPages(1, drawMark);
@@ -474,7 +474,7 @@ void tst_TXReportDocument::cancelWithoutAWritingDoesNothing()
     QVERIFY(!report.isCancelled());
 }
 
-void tst_TXReportDocument::cancelAfterTheLastPageStillCounts()
+void TestTXReportDocument::cancelAfterTheLastPageStillCounts()
 {
     TXReportDocument report;
     report.addPages(1, [&](TXGraphicsScene *, int) { report.cancel(); });
@@ -486,7 +486,7 @@ void tst_TXReportDocument::cancelAfterTheLastPageStillCounts()
     QCOMPARE(entriesOf(folder.path()), QStringList());
 }
 
-void tst_TXReportDocument::reportThatIsBeingWrittenIsRefused()
+void TestTXReportDocument::reportThatIsBeingWrittenIsRefused()
 {
     TXReportDocument report;
     report.addPages(2, drawMark);
@@ -506,7 +506,7 @@ void tst_TXReportDocument::reportThatIsBeingWrittenIsRefused()
     QCOMPARE(entriesOf(folder.path()), QStringList("report.pdf"));
 }
 
-void tst_TXReportDocument::writingOnAWorkerIsCancelledFromHere()
+void TestTXReportDocument::writingOnAWorkerIsCancelledFromHere()
 {
     TXReportDocument report;
     report.addTable(tableOfRows(5000), tenPoints());
@@ -539,7 +539,7 @@ void tst_TXReportDocument::writingOnAWorkerIsCancelledFromHere()
     QCOMPARE(PdfFile(fileName).information().pageSizes.size(), report.pageCount());
 }
 
-void tst_TXReportDocument::manyPagesAreFoundAtOnce()
+void TestTXReportDocument::manyPagesAreFoundAtOnce()
 {
     TXReportDocument report;
     constexpr int kContents = 20'000;
@@ -560,7 +560,7 @@ void tst_TXReportDocument::manyPagesAreFoundAtOnce()
 
 int main(int argc, char **argv)
 {
-    return runTest<tst_TXReportDocument>(argc, argv);
+    return runTest<TestTXReportDocument>(argc, argv);
 }
 
 #include "tst_TXReportDocument.moc"

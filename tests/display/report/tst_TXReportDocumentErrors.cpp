@@ -11,7 +11,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-class tst_TXReportDocumentErrors : public TestBase
+class TestTXReportDocumentErrors : public TestBase
 {
     Q_OBJECT
 
@@ -69,7 +69,7 @@ QString descriptionOf(const QString &fileName, const QString &reason)
 
 } // namespace
 
-void tst_TXReportDocumentErrors::targetsThatCannotBeWritten_data()
+void TestTXReportDocumentErrors::targetsThatCannotBeWritten_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("reason");
@@ -91,7 +91,7 @@ void tst_TXReportDocumentErrors::targetsThatCannotBeWritten_data()
                                         << "No such file or directory";
 }
 
-void tst_TXReportDocumentErrors::targetsThatCannotBeWritten()
+void TestTXReportDocumentErrors::targetsThatCannotBeWritten()
 {
     QFETCH(QString, name);
     QFETCH(QString, reason);
@@ -121,7 +121,7 @@ void tst_TXReportDocumentErrors::targetsThatCannotBeWritten()
     QCOMPARE(contentsOf(folder.filePath("file")), QByteArray("here"));
 }
 
-void tst_TXReportDocumentErrors::fullDiskLeavesTheEarlierFile_data()
+void TestTXReportDocumentErrors::fullDiskLeavesTheEarlierFile_data()
 {
     QTest::addColumn<int>("roomBytes");
 
@@ -132,7 +132,7 @@ void tst_TXReportDocumentErrors::fullDiskLeavesTheEarlierFile_data()
     QTest::newRow("all but the end") << -10;
 }
 
-void tst_TXReportDocumentErrors::fullDiskLeavesTheEarlierFile()
+void TestTXReportDocumentErrors::fullDiskLeavesTheEarlierFile()
 {
     QFETCH(int, roomBytes);
     const QTemporaryDir folder;
@@ -165,7 +165,7 @@ void tst_TXReportDocumentErrors::fullDiskLeavesTheEarlierFile()
     QCOMPARE(int(QFileInfo(fileName).size()), wholeSize);
 }
 
-void tst_TXReportDocumentErrors::reportWithoutPagesFails()
+void TestTXReportDocumentErrors::reportWithoutPagesFails()
 {
     const QTemporaryDir folder;
     TXReportDocument report;
@@ -181,7 +181,7 @@ void tst_TXReportDocumentErrors::reportWithoutPagesFails()
     QCOMPARE(entriesOf(folder.path()), QStringList());
 }
 
-void tst_TXReportDocumentErrors::paperWithoutRoomFails_data()
+void TestTXReportDocumentErrors::paperWithoutRoomFails_data()
 {
     QTest::addColumn<QPageSize>("size");
     QTest::addColumn<QMarginsF>("margins");
@@ -197,7 +197,7 @@ void tst_TXReportDocumentErrors::paperWithoutRoomFails_data()
         << QPageSize(QSizeF(0.2, 0.2), QPageSize::Point) << QMarginsF();
 }
 
-void tst_TXReportDocumentErrors::paperWithoutRoomFails()
+void TestTXReportDocumentErrors::paperWithoutRoomFails()
 {
     QFETCH(QPageSize, size);
     QFETCH(QMarginsF, margins);
@@ -220,7 +220,7 @@ void tst_TXReportDocumentErrors::paperWithoutRoomFails()
     QCOMPARE(entriesOf(folder.path()), QStringList());
 }
 
-void tst_TXReportDocumentErrors::failureIsToldInTheLanguageOfItsReader()
+void TestTXReportDocumentErrors::failureIsToldInTheLanguageOfItsReader()
 {
     class Translator : public QTranslator
     {
@@ -247,7 +247,7 @@ void tst_TXReportDocumentErrors::failureIsToldInTheLanguageOfItsReader()
     QCoreApplication::removeTranslator(&translator);
 }
 
-void tst_TXReportDocumentErrors::successLeavesTheErrorAlone()
+void TestTXReportDocumentErrors::successLeavesTheErrorAlone()
 {
     const QTemporaryDir folder;
     TXReportDocument report;
@@ -261,7 +261,7 @@ void tst_TXReportDocumentErrors::successLeavesTheErrorAlone()
     QCOMPARE(error.getLocalizedDescription(), QString());
 }
 
-void tst_TXReportDocumentErrors::delegateAndErrorMayBeNull()
+void TestTXReportDocumentErrors::delegateAndErrorMayBeNull()
 {
     TXReportDocument report;
 
@@ -271,7 +271,7 @@ void tst_TXReportDocumentErrors::delegateAndErrorMayBeNull()
     QVERIFY(!report.isCancelled());
 }
 
-void tst_TXReportDocumentErrors::oddContentIsWritten()
+void TestTXReportDocumentErrors::oddContentIsWritten()
 {
     const QTemporaryDir folder;
     TXReportDocument report;
@@ -303,7 +303,7 @@ void tst_TXReportDocumentErrors::oddContentIsWritten()
 
 int main(int argc, char **argv)
 {
-    return runTest<tst_TXReportDocumentErrors>(argc, argv);
+    return runTest<TestTXReportDocumentErrors>(argc, argv);
 }
 
 #include "tst_TXReportDocumentErrors.moc"

@@ -14,7 +14,7 @@
 
 #include <cmath>
 
-class tst_TXReportDocumentPrinting : public TestBase
+class TestTXReportDocumentPrinting : public TestBase
 {
     Q_OBJECT
 
@@ -140,7 +140,7 @@ QList<int> pagesOf(const ReportPrintRange &range)
 
 } // namespace
 
-void tst_TXReportDocumentPrinting::allPagesArePrintedOnTheReportsPaper()
+void TestTXReportDocumentPrinting::allPagesArePrintedOnTheReportsPaper()
 {
     TXReportDocument report;
     report.setTitle("Colours");
@@ -162,7 +162,7 @@ void tst_TXReportDocumentPrinting::allPagesArePrintedOnTheReportsPaper()
     QCOMPARE(file.errorText(), QString());
 }
 
-void tst_TXReportDocumentPrinting::resolutionOfThePrinterDoesNotMatter_data()
+void TestTXReportDocumentPrinting::resolutionOfThePrinterDoesNotMatter_data()
 {
     QTest::addColumn<int>("dotsPerInch");
 
@@ -171,7 +171,7 @@ void tst_TXReportDocumentPrinting::resolutionOfThePrinterDoesNotMatter_data()
     }
 }
 
-void tst_TXReportDocumentPrinting::resolutionOfThePrinterDoesNotMatter()
+void TestTXReportDocumentPrinting::resolutionOfThePrinterDoesNotMatter()
 {
     QFETCH(int, dotsPerInch);
     TXReportDocument report;
@@ -192,7 +192,7 @@ void tst_TXReportDocumentPrinting::resolutionOfThePrinterDoesNotMatter()
     QVERIFY(std::abs(words.value(0).box.top() - (36 + 234.5)) < 0.01);
 }
 
-void tst_TXReportDocumentPrinting::rangesArePrinted_data()
+void TestTXReportDocumentPrinting::rangesArePrinted_data()
 {
     QTest::addColumn<QString>("ranges");
     QTest::addColumn<QPrinter::PageOrder>("order");
@@ -209,7 +209,7 @@ void tst_TXReportDocumentPrinting::rangesArePrinted_data()
     QTest::newRow("beyond") << "7-100" << forward << QList<int>{};
 }
 
-void tst_TXReportDocumentPrinting::rangesArePrinted()
+void TestTXReportDocumentPrinting::rangesArePrinted()
 {
     QFETCH(QString, ranges);
     QFETCH(QPrinter::PageOrder, order);
@@ -222,7 +222,7 @@ void tst_TXReportDocumentPrinting::rangesArePrinted()
     QCOMPARE(pagesOf(ReportPrintRange(printer, 6)), pages);
 }
 
-void tst_TXReportDocumentPrinting::numbersStayThoseOfTheReport()
+void TestTXReportDocumentPrinting::numbersStayThoseOfTheReport()
 {
     TXReportDocument report;
     report.addPages(5, drawMark);
@@ -241,7 +241,7 @@ void tst_TXReportDocumentPrinting::numbersStayThoseOfTheReport()
     QCOMPARE(delegate.messages, QStringList({"Page 1 of 2", "Page 2 of 2"}));
 }
 
-void tst_TXReportDocumentPrinting::rangeOutsideTheReportFails()
+void TestTXReportDocumentPrinting::rangeOutsideTheReportFails()
 {
     TXReportDocument report;
     report.addPages(2, drawMark);
@@ -258,7 +258,7 @@ void tst_TXReportDocumentPrinting::rangeOutsideTheReportFails()
     QVERIFY(!QFile::exists(fileName));
 }
 
-void tst_TXReportDocumentPrinting::hugeRangesCostNothing()
+void TestTXReportDocumentPrinting::hugeRangesCostNothing()
 {
     constexpr int kMost = std::numeric_limits<int>::max();
     QPrinter printer;
@@ -271,7 +271,7 @@ void tst_TXReportDocumentPrinting::hugeRangesCostNothing()
     QCOMPARE(range.page(range.count() - 1), kMost - 1);
 }
 
-void tst_TXReportDocumentPrinting::cancelAbortsThePrinter()
+void TestTXReportDocumentPrinting::cancelAbortsThePrinter()
 {
     TXReportDocument report;
     report.addPages(10, drawMark);
@@ -293,7 +293,7 @@ void tst_TXReportDocumentPrinting::cancelAbortsThePrinter()
     QCOMPARE(delegate.errors, QStringList());
 }
 
-void tst_TXReportDocumentPrinting::missingPrinterFails()
+void TestTXReportDocumentPrinting::missingPrinterFails()
 {
     TXReportDocument report;
     report.addPages(1, drawMark);
@@ -304,7 +304,7 @@ void tst_TXReportDocumentPrinting::missingPrinterFails()
     QCOMPARE(error.getLocalizedDescription(), QString("There is no printer."));
 }
 
-void tst_TXReportDocumentPrinting::reportWithoutPagesFails()
+void TestTXReportDocumentPrinting::reportWithoutPagesFails()
 {
     PoorPrinter printer;
     TXReportDocument report;
@@ -315,7 +315,7 @@ void tst_TXReportDocumentPrinting::reportWithoutPagesFails()
     QCOMPARE(error.getLocalizedDescription(), QString("The report has no pages."));
 }
 
-void tst_TXReportDocumentPrinting::printerThatPaintsAlreadyFails()
+void TestTXReportDocumentPrinting::printerThatPaintsAlreadyFails()
 {
     PoorPrinter printer;
     const QPainter painter(&printer);
@@ -328,7 +328,7 @@ void tst_TXReportDocumentPrinting::printerThatPaintsAlreadyFails()
     QCOMPARE(error.getLocalizedDescription(), QString("The printer \"Poor\" can't be started."));
 }
 
-void tst_TXReportDocumentPrinting::printerThatDoesNotStartFails()
+void TestTXReportDocumentPrinting::printerThatDoesNotStartFails()
 {
     PoorPrinter printer;
     printer.paintEngine.starts = false;
@@ -342,7 +342,7 @@ void tst_TXReportDocumentPrinting::printerThatDoesNotStartFails()
     QCOMPARE(error.getLocalizedDescription(), QString("The printer \"Poor\" can't be started."));
 }
 
-void tst_TXReportDocumentPrinting::failingPrinterIsTold_data()
+void TestTXReportDocumentPrinting::failingPrinterIsTold_data()
 {
     QTest::addColumn<bool>("takesPaper");
     QTest::addColumn<int>("pages");
@@ -354,7 +354,7 @@ void tst_TXReportDocumentPrinting::failingPrinterIsTold_data()
     QTest::newRow("out of paper") << true << 2 << "The printer \"Poor\" has stopped in the middle.";
 }
 
-void tst_TXReportDocumentPrinting::failingPrinterIsTold()
+void TestTXReportDocumentPrinting::failingPrinterIsTold()
 {
     QFETCH(bool, takesPaper);
     QFETCH(int, pages);
@@ -378,7 +378,7 @@ void tst_TXReportDocumentPrinting::failingPrinterIsTold()
 
 int main(int argc, char **argv)
 {
-    return runTest<tst_TXReportDocumentPrinting>(argc, argv);
+    return runTest<TestTXReportDocumentPrinting>(argc, argv);
 }
 
 #include "tst_TXReportDocumentPrinting.moc"
