@@ -1,5 +1,6 @@
 #include "ReportContent.h"
 
+#include "ReportPageScene.h"
 #include "ReportPlacement.h"
 #include "ReportTablePainter.h"
 #include "TXGraphicsScene.h"
@@ -84,9 +85,7 @@ int ReportDrawnPages::pageCount(const ReportPaper & /*paper*/)
 void ReportDrawnPages::paint(QPainter *painter, int page, const ReportPaper &paper,
                              ReportTablePainter * /*tables*/)
 {
-    TXGraphicsScene scene;
-    // For one rendering a search tree would cost more than it saves.
-    scene.setItemIndexMethod(QGraphicsScene::NoIndex);
+    ReportPageScene scene;
     draw(&scene, page);
     renderScene(scene, painter, paper);
 }

@@ -10,19 +10,26 @@
 #include <QPixmap>
 
 TXTableCell::TXTableCell(const QHash<QString, QVariant> &dictionary)
-    : element(dictionary.value("CellElement"))
-    , textColor(dictionary.value("CellTextColor", QColor(Qt::black)).value<QColor>())
+    : element(dictionary.value(QStringLiteral("CellElement")))
+    , textColor(
+          dictionary.value(QStringLiteral("CellTextColor"), QColor(Qt::black)).value<QColor>())
     , horizontalAlign(
-          dictionary.value("CellTextHorizontalAlign", quint32(TXAlignHorizontallyCentred)).toUInt())
+          dictionary
+              .value(QStringLiteral("CellTextHorizontalAlign"), quint32(TXAlignHorizontallyCentred))
+              .toUInt())
     , verticalAlign(
-          dictionary.value("CellTextVerticalAlign", quint32(TXAlignVerticallyCentred)).toUInt())
-    , bold(dictionary.value("CellTextBold", false).toBool())
-    , insideColor(dictionary.value("InsideCellColor", QColor(Qt::white)).value<QColor>())
-    , size(dictionary.value("CellSize", QSizeF(50.0, 50.0)).toSizeF())
-    , borderColor(dictionary.value("BorderCellColor", QColor(Qt::black)).value<QColor>())
-    , borderLineWidth(dictionary.value("BorderCellLineWidth", 0.5F).toReal())
-    , realColumn(dictionary.value("CellRealColumn", 0).toInt())
-    , nbMergedCell(dictionary.value("NbMergedCell", 1).toInt())
+          dictionary
+              .value(QStringLiteral("CellTextVerticalAlign"), quint32(TXAlignVerticallyCentred))
+              .toUInt())
+    , bold(dictionary.value(QStringLiteral("CellTextBold"), false).toBool())
+    , insideColor(
+          dictionary.value(QStringLiteral("InsideCellColor"), QColor(Qt::white)).value<QColor>())
+    , size(dictionary.value(QStringLiteral("CellSize"), QSizeF(50.0, 50.0)).toSizeF())
+    , borderColor(
+          dictionary.value(QStringLiteral("BorderCellColor"), QColor(Qt::black)).value<QColor>())
+    , borderLineWidth(dictionary.value(QStringLiteral("BorderCellLineWidth"), 0.5F).toReal())
+    , realColumn(dictionary.value(QStringLiteral("CellRealColumn"), 0).toInt())
+    , nbMergedCell(dictionary.value(QStringLiteral("NbMergedCell"), 1).toInt())
 { }
 
 void TXTableCell::drawTableCell(TXGraphicsScene *scene, const QPointF &topLeft,

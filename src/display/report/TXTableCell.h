@@ -69,3 +69,5 @@ public:
     /// How many cells share that column in this row.
     int nbMergedCell;
 };
+
+Q_DECLARE_TYPEINFO(TXTableCell, Q_RELOCATABLE_TYPE);

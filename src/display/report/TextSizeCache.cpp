@@ -1,10 +1,10 @@
 #include "TextSizeCache.h"
 
 #include "FontChanges.h"
+#include "TextSizeTable.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
-#include <QHash>
 #include <QRawFont>
 
 #include <algorithm>
@@ -49,7 +49,7 @@ struct MeasuredFont
     QFont latest;
     QFontMetricsF metrics;
     double pixelSize;
-    QHash<QString, QSizeF> sizes;
+    TextSizeTable sizes;
 };
 
 struct WeightedFont
@@ -81,7 +81,7 @@ public:
     static Memory &current();
 
     MeasuredFont &measuredFont(const QFont &font);
-    void remember(MeasuredFont &font, const QString &text, const QSizeF &size);
+    void remember(MeasuredFont &font, const QString &text, size_t hash, const QSizeF &size);
     const QFont &weightedFont(const QFont &font, QFont::Weight weight);
     void forget();
 
@@ -148,7 +148,7 @@ MeasuredFont &Memory::measuredFont(const QFont &font)
     return measuredFonts.emplace_back(font);
 }
 
-void Memory::remember(MeasuredFont &font, const QString &text, const QSizeF &size)
+void Memory::remember(MeasuredFont &font, const QString &text, size_t hash, const QSizeF &size)
 {
     if (text.size() > TextSizeCache::kLongestText) {
         return;
@@ -156,8 +156,7 @@ void Memory::remember(MeasuredFont &font, const QString &text, const QSizeF &siz
     if (texts == TextSizeCache::kMaximumTexts) {
         forgetTexts();
     }
-    // A copy in full: the text may lie in memory that is not its own, or in far more than it needs.
-    font.sizes.insert(QString(text.constData(), text.size()), size);
+    font.sizes.add(text, hash, size);
     ++texts;
 }
 
@@ -184,12 +183,12 @@ QSizeF TextSizeCache::textSize(const QString &text, const QFont &font)
 {
     Memory &memory = Memory::current();
     MeasuredFont &measured = memory.measuredFont(font);
-    const auto found = measured.sizes.constFind(text);
-    if (found != measured.sizes.cend()) {
-        return *found;
+    const size_t hash = TextSizeTable::hash(text);
+    if (const QSizeF *known = measured.sizes.find(text, hash)) {
+        return *known;
     }
     const QSizeF size = measured.metrics.size(Qt::TextShowMnemonic, text);
-    memory.remember(measured, text, size);
+    memory.remember(measured, text, hash, size);
     return size;
 }
 

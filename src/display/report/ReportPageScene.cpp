@@ -1,0 +1,80 @@
+#include "ReportPageScene.h"
+
+#include "TXGraphicsRoundedRectItem.h"
+
+#include <QGraphicsEllipseItem>
+#include <QGraphicsLineItem>
+#include <QGraphicsRectItem>
+#include <QGraphicsSimpleTextItem>
+#include <QPainter>
+
+#include <algorithm>
+#include <typeinfo>
+
+namespace {
+
+/// A host's subclass of such a class may do to the painter what it likes.
+bool isOfKnownClass(const QGraphicsItem &item)
+{
+    const std::type_info &type = typeid(item);
+    return type == typeid(QGraphicsSimpleTextItem) || type == typeid(QGraphicsRectItem)
+        || type == typeid(QGraphicsLineItem) || type == typeid(QGraphicsEllipseItem)
+        || type == typeid(TXGraphicsRoundedRectItem);
+}
+
+bool isPlain(const QGraphicsItem &item)
+{
+    return isOfKnownClass(item) && item.graphicsEffect() == nullptr
+        && item.flags() == QGraphicsItem::GraphicsItemFlags() && item.opacity() >= 1.0
+        && item.cacheMode() == QGraphicsItem::NoCache;
+}
+
+bool isAlone(const QGraphicsItem *item)
+{
+    return item->parentItem() == nullptr && item->childItems().isEmpty();
+}
+
+void paintPlainItems(QPainter *painter, QGraphicsItem *const *begin, QGraphicsItem *const *end,
+                     const QStyleOptionGraphicsItem *options, QWidget *widget)
+{
+    painter->save();
+    const QTransform sceneToDevice = painter->worldTransform();
+    for (QGraphicsItem *const *item = begin; item != end; ++item, ++options) {
+        painter->setWorldTransform((*item)->sceneTransform() * sceneToDevice);
+        (*item)->paint(painter, options, widget);
+    }
+    painter->restore();
+}
+
+} // namespace
+
+ReportPageScene::ReportPageScene()
+{
+    // For one rendering a search tree would cost more than it saves.
+    setItemIndexMethod(NoIndex);
+}
+
+void ReportPageScene::drawItems(QPainter *painter, int numItems, QGraphicsItem *items[],
+                                const QStyleOptionGraphicsItem options[], QWidget *widget)
+{
+    QGraphicsItem **const end = items + numItems;
+    if (!std::all_of(items, end, isAlone)) {
+        QGraphicsScene::drawItems(painter, numItems, items, options, widget);
+        return;
+    }
+    // Makes the scene's acquaintance with the items; without it destroying them is slow.
+    QGraphicsScene::drawItems(painter, 0, items, options, widget);
+    QGraphicsItem **item = items;
+    while (item != end) {
+        QGraphicsItem **const special =
+            std::find_if_not(item, end, [](const QGraphicsItem *next) { return isPlain(*next); });
+        if (special != item) {
+            paintPlainItems(painter, item, special, options + (item - items), widget);
+        }
+        item = special;
+        if (item != end) {
+            QGraphicsScene::drawItems(painter, 1, item, options + (item - items), widget);
+            ++item;
+        }
+    }
+}
