@@ -1,8 +1,7 @@
 #include "ReportContent.h"
 
-#include "ReportPageScene.h"
 #include "ReportPlacement.h"
-#include "ReportTablePainter.h"
+#include "ReportSharedParts.h"
 #include "TXGraphicsScene.h"
 #include "TXTableCell.h"
 
@@ -27,20 +26,21 @@ public:
         const QList<QGraphicsItem *> items = scene.items();
         for (QGraphicsItem *item : items) {
             if (item->isVisible() && !ReportPlacement::isWithinReach(item->sceneBoundingRect())) {
+                hidden.append({item, item->isSelected()});
                 item->setVisible(false);
-                hidden.append(item);
             }
         }
     }
     ~FarItemsHidden()
     {
-        for (QGraphicsItem *item : std::as_const(hidden)) {
+        for (const auto &[item, wasSelected] : std::as_const(hidden)) {
             item->setVisible(true);
+            item->setSelected(wasSelected);
         }
     }
 
 private:
-    QList<QGraphicsItem *> hidden;
+    QList<std::pair<QGraphicsItem *, bool>> hidden;
 };
 
 /// All of the sheet shows the scene, not only where the content belongs.
@@ -65,7 +65,7 @@ int ReportScenePage::pageCount(const ReportPaper & /*paper*/)
 }
 
 void ReportScenePage::paint(QPainter *painter, int /*page*/, const ReportPaper &paper,
-                            ReportTablePainter * /*tables*/)
+                            ReportSharedParts * /*shared*/)
 {
     if (scene != nullptr) {
         renderScene(*scene, painter, paper);
@@ -83,9 +83,9 @@ int ReportDrawnPages::pageCount(const ReportPaper & /*paper*/)
 }
 
 void ReportDrawnPages::paint(QPainter *painter, int page, const ReportPaper &paper,
-                             ReportTablePainter * /*tables*/)
+                             ReportSharedParts *shared)
 {
-    ReportPageScene scene;
+    ReportPageScene scene(&shared->pictures);
     draw(&scene, page);
     renderScene(scene, painter, paper);
 }
@@ -111,8 +111,8 @@ int ReportTableContent::pageCount(const ReportPaper &paper)
 }
 
 void ReportTableContent::paint(QPainter *painter, int page, const ReportPaper &paper,
-                               ReportTablePainter *tables)
+                               ReportSharedParts *shared)
 {
     const QPointF cells = paper.content.topLeft() + QPointF(kTableFramePoints, kTableFramePoints);
-    tables->paintTable(painter, pagesOn(paper).page(page), cells, font);
+    shared->tables.paintTable(painter, pagesOn(paper).page(page), cells, font);
 }

@@ -11,7 +11,7 @@
 #include <optional>
 
 class QPainter;
-class ReportTablePainter;
+struct ReportSharedParts;
 class TXGraphicsScene;
 
 /// The paper of a report's pages, in points.
@@ -32,11 +32,10 @@ public:
     /// The number of pages on such paper.
     [[nodiscard]] virtual int pageCount(const ReportPaper &paper) = 0;
 
-    /// Paints one of them, counted from 0, a unit of the painter being a point; tables through the
-    /// painter of tables, which remembers what the pages have in common. May change the painter's
-    /// state.
+    /// Paints one of them, counted from 0, a unit of the painter being a point; with what it shares
+    /// with the pages before it. May change the painter's state.
     virtual void paint(QPainter *painter, int page, const ReportPaper &paper,
-                       ReportTablePainter *tables) = 0;
+                       ReportSharedParts *shared) = 0;
 };
 
 /// One page that shows a scene of the caller's.
@@ -48,7 +47,7 @@ public:
 
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
     void paint(QPainter *painter, int page, const ReportPaper &paper,
-               ReportTablePainter *tables) override;
+               ReportSharedParts *shared) override;
 
 private:
     QPointer<TXGraphicsScene> scene;
@@ -66,7 +65,7 @@ public:
 
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
     void paint(QPainter *painter, int page, const ReportPaper &paper,
-               ReportTablePainter *tables) override;
+               ReportSharedParts *shared) override;
 
 private:
     int count;
@@ -82,7 +81,7 @@ public:
 
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
     void paint(QPainter *painter, int page, const ReportPaper &paper,
-               ReportTablePainter *tables) override;
+               ReportSharedParts *shared) override;
 
 private:
     [[nodiscard]] const ReportTablePages &pagesOn(const ReportPaper &paper);

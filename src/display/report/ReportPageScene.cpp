@@ -13,6 +13,19 @@
 
 namespace {
 
+constexpr qint64 kMostKeptBytes = 64 * 1024 * 1024;
+
+qint64 bytesOf(const ReportPageScene::Pictures &pictures)
+{
+    qint64 bytes = 0;
+    for (const QHash<QString, QPixmap> &ofOne : pictures) {
+        for (const QPixmap &pixmap : ofOne) {
+            bytes += qint64(pixmap.width()) * pixmap.height() * pixmap.depth() / 8;
+        }
+    }
+    return bytes;
+}
+
 /// A host's subclass of such a class may do to the painter what it likes.
 bool isOfKnownClass(const QGraphicsItem &item)
 {
@@ -48,10 +61,19 @@ void paintPlainItems(QPainter *painter, QGraphicsItem *const *begin, QGraphicsIt
 
 } // namespace
 
-ReportPageScene::ReportPageScene()
+ReportPageScene::ReportPageScene(Pictures *pictures)
+    : pictures(pictures)
 {
+    scaledPixmaps.swap(*pictures);
     // For one rendering a search tree would cost more than it saves.
     setItemIndexMethod(NoIndex);
+}
+
+ReportPageScene::~ReportPageScene()
+{
+    if (bytesOf(scaledPixmaps) <= kMostKeptBytes) {
+        pictures->swap(scaledPixmaps);
+    }
 }
 
 void ReportPageScene::drawItems(QPainter *painter, int numItems, QGraphicsItem *items[],

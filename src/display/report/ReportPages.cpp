@@ -58,7 +58,7 @@ int ReportPages::count()
     return firstPages.back();
 }
 
-void ReportPages::paint(int page, QPainter *painter, ReportTablePainter *tables)
+void ReportPages::paint(int page, QPainter *painter, ReportSharedParts *shared)
 {
     const int pageCount = count();
     if (page < 0 || page >= pageCount) {
@@ -72,7 +72,7 @@ void ReportPages::paint(int page, QPainter *painter, ReportTablePainter *tables)
                             | QPainter::LosslessImageRendering);
     painter->setClipRect(sheet.sheet, Qt::IntersectClip);
     painter->save();
-    contents[index]->paint(painter, page - firstPages[index], sheet, tables);
+    contents[index]->paint(painter, page - firstPages[index], sheet, shared);
     painter->restore();
     pageFrame.paint(painter, withinMargins(), page, pageCount);
     painter->restore();

@@ -10,7 +10,7 @@
 #include <vector>
 
 /// The pages of a report: what was added to it, in order, on its paper and within its header and
-/// footer.
+/// footer. A copy stays as it is when the report changes.
 class TXGUICOMMON_PRIVATE_EXPORT ReportPages
 {
 public:
@@ -38,9 +38,9 @@ public:
     [[nodiscard]] int count();
 
     /// Paints a page, counted from 0, a unit of the painter being a point. Nothing happens outside
-    /// the pages. Leaves the painter's state as it was. Keep one painter of tables for all pages of
-    /// a writing: what they have in common is then prepared once.
-    void paint(int page, QPainter *painter, ReportTablePainter *tables);
+    /// the pages. Leaves the painter's state as it was. Keep the shared parts for all pages of a
+    /// writing.
+    void paint(int page, QPainter *painter, ReportSharedParts *shared);
 
 private:
     [[nodiscard]] QRectF withinMargins() const;
@@ -48,7 +48,8 @@ private:
 
     QPageLayout pageLayout;
     ReportPageFrame pageFrame;
-    std::vector<std::unique_ptr<ReportContent>> contents;
+    /// Shared by copies: a content does not change, but for what it remembers.
+    std::vector<std::shared_ptr<ReportContent>> contents;
     /// For each content that is counted already the number of its first page; one more entry, the
     /// last, is the number of all pages so far.
     std::vector<int> firstPages = {0};

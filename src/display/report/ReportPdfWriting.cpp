@@ -5,7 +5,7 @@
 #include "ReportPdfFile.h"
 #include "ReportPlacement.h"
 #include "ReportRun.h"
-#include "ReportTablePainter.h"
+#include "ReportSharedParts.h"
 #include "TXStringI18n.h"
 
 #include <QCoreApplication>
@@ -59,7 +59,7 @@ void ReportPdfWriting::paintAll(ReportPages &pages, const PdfDocumentInfo &info,
     QPainter painter(&writer);
     painter.scale(kDotsPerInch / ReportPlacement::kPointsPerInch,
                   kDotsPerInch / ReportPlacement::kPointsPerInch);
-    ReportTablePainter tables;
+    ReportSharedParts shared;
     const int count = pages.count();
     for (int page = 0; page < count && !file.hasFailed(); ++page) {
         if (!run.beginPage(page, count)) {
@@ -68,7 +68,7 @@ void ReportPdfWriting::paintAll(ReportPages &pages, const PdfDocumentInfo &info,
         if (page > 0) {
             writer.newPage();
         }
-        pages.paint(page, &painter, &tables);
+        pages.paint(page, &painter, &shared);
         run.endPage(page, count);
     }
 }

@@ -4,7 +4,7 @@
 #include "ReportPlacement.h"
 #include "ReportPrintRange.h"
 #include "ReportRun.h"
-#include "ReportTablePainter.h"
+#include "ReportSharedParts.h"
 #include "TXStringI18n.h"
 
 #include <QCoreApplication>
@@ -68,7 +68,7 @@ bool ReportPrinting::paintWanted(ReportPages &pages, const ReportPrintRange &ran
 {
     painter->scale(printer->logicalDpiX() / ReportPlacement::kPointsPerInch,
                    printer->logicalDpiY() / ReportPlacement::kPointsPerInch);
-    ReportTablePainter tables;
+    ReportSharedParts shared;
     for (int i = 0; i < range.count(); ++i) {
         if (!run.beginPage(i, range.count())) {
             printer->abort();
@@ -77,7 +77,7 @@ bool ReportPrinting::paintWanted(ReportPages &pages, const ReportPrintRange &ran
         if (i > 0 && !printer->newPage()) {
             return fail(run, kStops, *printer);
         }
-        pages.paint(range.page(i), painter, &tables);
+        pages.paint(range.page(i), painter, &shared);
         run.endPage(i, range.count());
     }
     if (!run.close()) {

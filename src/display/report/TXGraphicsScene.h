@@ -92,5 +92,7 @@ public:
     void addColorEffectInGraphicsItem(QGraphicsItem *item, const QColor &color);
 
 private:
+    friend class ReportPageScene;
+
     QHash<qint64, QHash<QString, QPixmap>> scaledPixmaps;
 };

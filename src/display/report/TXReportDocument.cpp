@@ -6,7 +6,7 @@
 #include "ReportPdfWriting.h"
 #include "ReportPrinting.h"
 #include "ReportRun.h"
-#include "ReportTablePainter.h"
+#include "ReportSharedParts.h"
 #include "TXStringI18n.h"
 #include "TXTable.h"
 
@@ -27,20 +27,8 @@ QPageLayout defaultLayout()
             QPageLayout::Point};
 }
 
-} // namespace
-
-class TXReportDocument::Private
-{
-public:
-    [[nodiscard]] bool checkForContent(ReportRun &run);
-    [[nodiscard]] PdfDocumentInfo documentInfo() const;
-
-    ReportPages pages;
-    QString author;
-    ReportRunState state;
-};
-
-bool TXReportDocument::Private::checkForContent(ReportRun &run)
+/// Fails the run where there is nothing to write.
+bool checkForContent(ReportPages &pages, ReportRun &run)
 {
     if (pages.count() == 0) {
         run.fail(reportText(QT_TRANSLATE_NOOP("TXReportDocument", "The report has no pages.")));
@@ -54,6 +42,18 @@ bool TXReportDocument::Private::checkForContent(ReportRun &run)
     }
     return true;
 }
+
+} // namespace
+
+class TXReportDocument::Private
+{
+public:
+    [[nodiscard]] PdfDocumentInfo documentInfo() const;
+
+    ReportPages pages;
+    QString author;
+    ReportRunState state;
+};
 
 PdfDocumentInfo TXReportDocument::Private::documentInfo() const
 {
@@ -170,24 +170,28 @@ int TXReportDocument::pageCount() const
 void TXReportDocument::paintPage(int page, QPainter *painter) const
 {
     if (painter != nullptr && painter->isActive()) {
-        ReportTablePainter tables;
-        d->pages.paint(page, painter, &tables);
+        ReportSharedParts shared;
+        d->pages.paint(page, painter, &shared);
     }
 }
 
 bool TXReportDocument::writePdf(const QString &fileName, ICompletionDelegate *delegate,
                                 TXError *error)
 {
-    ReportRun run(&d->state, d->pages.frame().title, delegate, error);
-    return run.isGoingOn() && d->checkForContent(run)
-        && ReportPdfWriting::write(d->pages, d->documentInfo(), fileName, run);
+    // The delegate may change the report; this writing does not change with it.
+    ReportPages pages = d->pages;
+    const PdfDocumentInfo info = d->documentInfo();
+    ReportRun run(&d->state, pages.frame().title, delegate, error);
+    return run.isGoingOn() && checkForContent(pages, run)
+        && ReportPdfWriting::write(pages, info, fileName, run);
 }
 
 bool TXReportDocument::print(QPrinter *printer, ICompletionDelegate *delegate, TXError *error)
 {
-    ReportRun run(&d->state, d->pages.frame().title, delegate, error);
-    return run.isGoingOn() && d->checkForContent(run)
-        && ReportPrinting::print(d->pages, printer, run);
+    ReportPages pages = d->pages;
+    ReportRun run(&d->state, pages.frame().title, delegate, error);
+    return run.isGoingOn() && checkForContent(pages, run)
+        && ReportPrinting::print(pages, printer, run);
 }
 
 void TXReportDocument::cancel()

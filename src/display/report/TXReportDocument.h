@@ -116,6 +116,7 @@ public:
 
     /// Adds pages that are drawn one after the other when they are wanted, so that only one of them
     /// is in memory. They are drawn anew each time. A count below 1 or an empty function adds none.
+    /// The scene finds its items in the order in which they were added, whatever is asked for.
     void addPages(int count, PageDrawing draw);
 
     /// Adds a table, cut into as many pages as it takes. It is copied, which costs nothing. A table
@@ -142,7 +143,8 @@ public:
     /// title as path if there is one: a progress of 0, a message before and the progress after each
     /// page, the error if there is one, and in the end, once, 100, also after a failure or a
     /// cancelling. Returns true when the file is there. Returns false with `error` filled when it
-    /// is not, and with `error` untouched after cancel().
+    /// is not, and with `error` untouched after cancel(). What the delegate changes in the report
+    /// shows in the next writing only.
     ///
     /// A report without pages fails, one whose margins leave no room for content, and a name that
     /// stands for a folder, a device or a pipe. A report that is being written already fails too;

@@ -219,7 +219,8 @@ QImage imageOf(TXGraphicsScene &scene, const Look &look)
 
 bool areAlike(const Draw &draw)
 {
-    ReportPageScene page;
+    ReportPageScene::Pictures pictures;
+    ReportPageScene page(&pictures);
     TXGraphicsScene plain;
     draw(&page);
     draw(&plain);
@@ -245,6 +246,8 @@ private slots:
     void looksLikeAnySceneInAPdf();
     void leavesThePaintersState();
     void rendersItemsAddedAfterARendering();
+    void laterPagesGoOnWithThePicturesOfEarlierOnes();
+    void tooManyPicturesAreNotHandedOn();
 };
 
 void TestReportPageScene::looksLikeAnyScene()
@@ -264,7 +267,8 @@ void TestReportPageScene::looksLikeAnySceneWhateverIsDrawn()
 void TestReportPageScene::looksLikeAnySceneInAPdf()
 {
     QFETCH(Draw, draw);
-    ReportPageScene page;
+    ReportPageScene::Pictures pictures;
+    ReportPageScene page(&pictures);
     TXGraphicsScene plain;
     draw(&page);
     draw(&plain);
@@ -278,7 +282,8 @@ void TestReportPageScene::looksLikeAnySceneInAPdf()
 
 void TestReportPageScene::leavesThePaintersState()
 {
-    ReportPageScene scene;
+    ReportPageScene::Pictures pictures;
+    ReportPageScene scene(&pictures);
     boxesWith([](QGraphicsRectItem *) {})(&scene);
     QImage image(100, 100, QImage::Format_RGB32);
     QPainter painter(&image);
@@ -300,6 +305,34 @@ void TestReportPageScene::rendersItemsAddedAfterARendering()
         addBox(scene, 40, Qt::yellow);
     };
     QVERIFY(areAlike(twice));
+}
+
+void TestReportPageScene::laterPagesGoOnWithThePicturesOfEarlierOnes()
+{
+    QPixmap logo(40, 40);
+    logo.fill(Qt::red);
+    ReportPageScene::Pictures pictures;
+    qint64 first = 0;
+    {
+        ReportPageScene page(&pictures);
+        first = page.scaleToFitResolution(logo, QSize(30, 30), 200).cacheKey();
+        QVERIFY(pictures.isEmpty());
+    }
+    ReportPageScene page(&pictures);
+    QCOMPARE(page.scaleToFitResolution(logo, QSize(30, 30), 200).cacheKey(), first);
+}
+
+void TestReportPageScene::tooManyPicturesAreNotHandedOn()
+{
+    QPixmap picture(4, 4);
+    picture.fill(Qt::red);
+    ReportPageScene::Pictures pictures;
+    {
+        ReportPageScene page(&pictures);
+        // 4,167 pixels each way with 4 bytes each: 69 MB.
+        QCOMPARE(page.scaleToFitResolution(picture, QSize(1500, 1500), 200).width(), 4167);
+    }
+    QVERIFY(pictures.isEmpty());
 }
 
 int main(int argc, char **argv)

@@ -251,6 +251,7 @@ void TestReportPlacement::resamplingKeepsProportions()
     QCOMPARE(ReportPlacement::resampled(landscape, {300, 300}).size(), QSize(300, 150));
     QVERIFY(ReportPlacement::resampled(landscape, {0, 139}).isNull());
     QVERIFY(ReportPlacement::resampled(landscape, {-278, -139}).isNull());
+    QVERIFY(ReportPlacement::resampled(landscape, {-30'000, -30'000}).isNull());
 }
 
 void TestReportPlacement::resamplingToASenselessSizeKeepsThePicture()

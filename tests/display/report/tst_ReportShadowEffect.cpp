@@ -380,6 +380,9 @@ void TestReportShadowEffect::senselessItemsCostNothing_data()
 {
     QTest::addColumn<QRectF>("rect");
     QTest::newRow("huge") << QRectF(-1e9, -1e9, 2e9, 2e9);
+    QTest::newRow("beyond all numbers") << QRectF(0, 0, 1e300, 20);
+    QTest::newRow("thin and long") << QRectF(0, 0, 9e7, 0.001);
+    QTest::newRow("thin and too long") << QRectF(0, 0, 1e12, 0.001);
     QTest::newRow("far away") << QRectF(1e9, 1e9, 10, 10);
     QTest::newRow("no number") << QRectF(kNan, 10, 20, 20);
     QTest::newRow("width no number") << QRectF(10, 10, kNan, 20);

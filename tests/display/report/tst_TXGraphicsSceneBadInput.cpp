@@ -88,6 +88,7 @@ private slots:
     void infiniteSizePlacesTextFarAway();
     void coloursThatAreNonePaintBlack();
     void manyItemsSpoilNothing();
+    void itemsThatWereNeverShownGoWithoutASearchForEach();
 };
 
 void TestTXGraphicsSceneBadInput::unusualNumbersSpoilNothing_data()
@@ -208,6 +209,23 @@ void TestTXGraphicsSceneBadInput::manyItemsSpoilNothing()
     QCOMPARE(scene.items().size(), kItems + 1);
     QCOMPARE(rendered(scene, kArea).at({50, 50}), QColor(Qt::green));
     QVERIFY(isFinite(scene.sceneRect()));
+}
+
+/// With a search for each this takes minutes, and the time limit of a test function ends it.
+void TestTXGraphicsSceneBadInput::itemsThatWereNeverShownGoWithoutASearchForEach()
+{
+    constexpr int kItems = 800'000;
+    int changes = 0;
+    {
+        TXGraphicsScene scene;
+        connect(&scene, &QGraphicsScene::changed, this, [&changes] { ++changes; });
+        for (int i = 0; i < kItems; ++i) {
+            scene.drawRect(QRectF(i % 1000, double(i) / 1000, 5, 5), Qt::NoPen, Qt::blue, false);
+        }
+        QCOMPARE(scene.items().size(), kItems);
+    }
+    // Nobody is called back by a scene that is going.
+    QCOMPARE(changes, 0);
 }
 
 int main(int argc, char **argv)

@@ -66,10 +66,7 @@ void TestTXReportDocumentWriting::aLaterChangeDoesNotDisturbTheWriting()
     QVERIFY(report.writePdf(fileName, &delegate));
 
     PdfFile file(fileName);
-    // Each page is read from the report when its turn comes, so that a change loses rows.
-    QEXPECT_FAIL("", "a report that is changed while it is written is not yet protected", Continue);
     QCOMPARE(file.information().pageSizes, QList<QSizeF>(3, QSizeF(595, 842)));
-    QEXPECT_FAIL("", "a report that is changed while it is written is not yet protected", Continue);
     QVERIFY(!file.pageTexts().join(u' ').contains("drawn0"));
     QCOMPARE(file.errorText(), QString());
     // The change itself has taken place, once for each time that progress was told.
