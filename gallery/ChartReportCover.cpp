@@ -1,6 +1,7 @@
 #include "ChartReportCover.h"
 
 #include "ChartPatches.h"
+#include "ChartReportStyle.h"
 #include "ReportFonts.h"
 
 #include "TXAlignment.h"
@@ -15,6 +16,9 @@
 #include <cmath>
 
 namespace {
+
+using ChartReportStyle::decimal;
+using ChartReportStyle::kMarkColour;
 
 /// The content of the sheet for which the sizes below are meant.
 constexpr double kUsualWidthPoints = 523;
@@ -34,14 +38,8 @@ const QColor kInk(0x1c, 0x20, 0x26);
 const QColor kPaleInk(0x5e, 0x66, 0x70);
 const QColor kLine(0xc8, 0xcc, 0xd2);
 const QColor kAccent(0x1f, 0x5f, 0xa8);
-const QColor kMark(0xc0, 0x10, 0x20);
 const QColor kChartFrame(0x18, 0x18, 0x1a);
 const QSizeF kNoMargins(0, 0);
-
-QString decimal(double value)
-{
-    return QLocale().toString(value, 'f', 2);
-}
 
 /// A round distance between the lines of a scale that reaches at least so far in a few steps.
 double stepFor(double reach)
@@ -134,7 +132,7 @@ void ChartReportCover::drawTitle(const QString &title)
     scene->drawTextInRect(title, titleRect, TXAlignLeft, TXAlignTop, font(22, QFont::Bold), kInk,
                           kNoMargins);
     const QString subtitle =
-        tr("Published averages of older charts against the reference of charts of today");
+        tr("Published averages of older charts against the current reference values");
     scene->drawTextInRect(subtitle, titleRect.adjusted(0, 32 * scale, 0, 0), TXAlignLeft,
                           TXAlignTop, font(11), kPaleInk, kNoMargins);
     scene->drawLine(titleRect.bottomLeft(), titleRect.bottomRight(), QPen(kAccent, 1.5), false);
@@ -273,8 +271,8 @@ void ChartReportCover::drawBar(const PatchPair &pair, const QRectF &slot, double
     const QRectF bar(QPointF(slot.left() + inset, slot.bottom() - value / top * slot.height()),
                      QPointF(slot.right() - inset, slot.bottom()));
     const QColor colour = chartPatches()[size_t(pair.newer)].newer.toScreen();
-    scene->drawRect(bar, value > options.tolerance ? QPen(kMark, 1) : QPen(kPaleInk, 0.4), colour,
-                    false);
+    scene->drawRect(bar, value > options.tolerance ? QPen(kMarkColour, 1) : QPen(kPaleInk, 0.4),
+                    colour, false);
 }
 
 /// The difference above the bar, on white where a line passes, and the patch below it.
@@ -290,7 +288,7 @@ void ChartReportCover::drawBarNumbers(const PatchPair &pair, const QRectF &slot,
     paper.moveCenter(number.center());
     scene->drawRect(paper, Qt::NoPen, QColor(Qt::white), false);
     scene->drawTextInRect(decimal(value), number, TXAlignHorizontallyCentred,
-                          TXAlignVerticallyCentred, numberFont, isAbove ? kMark : kPaleInk,
+                          TXAlignVerticallyCentred, numberFont, isAbove ? kMarkColour : kPaleInk,
                           kNoMargins);
     scene->drawTextInRect(QString::number(pair.newer + 1),
                           QRectF(slot.left(), slot.bottom() + 3, slot.width(), lineHeight),
@@ -304,7 +302,8 @@ void ChartReportCover::drawTolerance(const QRectF &plot, double top)
         return;
     }
     const double y = plot.bottom() - options.tolerance / top * plot.height();
-    scene->drawLine({plot.left(), y}, {plot.right(), y}, QPen(kMark, 0.8, Qt::DashLine), false);
+    scene->drawLine({plot.left(), y}, {plot.right(), y}, QPen(kMarkColour, 0.8, Qt::DashLine),
+                    false);
 }
 
 void ChartReportCover::drawNotes()

@@ -1,10 +1,10 @@
 #include "ChartReportTables.h"
 
 #include "ChartPatches.h"
+#include "ChartReportStyle.h"
 #include "ReportFonts.h"
 
 #include <QColor>
-#include <QLocale>
 #include <QPixmap>
 #include <QStringList>
 
@@ -13,6 +13,9 @@
 #include <numeric>
 
 namespace {
+
+using ChartReportStyle::decimal;
+using ChartReportStyle::kMarkColour;
 
 /// Between the paper's content and the cells: the frame of a table on either side.
 constexpr double kFramesPoints = 10;
@@ -35,14 +38,6 @@ constexpr int kStepsColumnOfPairs = 5;
 const QColor kBorderColour(0xb8, 0xb8, 0xb8);
 const QColor kGroupColour(0xe2, 0xe4, 0xe8);
 const QColor kStripeColour(0xf6, 0xf7, 0xf8);
-const QColor kMarkColour(0xc0, 0x10, 0x20);
-
-QString decimal(double value)
-{
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(value, 'f', 2);
-}
 
 QStringList decimals(const LabColour &colour)
 {
@@ -89,13 +84,15 @@ QString numberedName(int patch)
         .arg(chartPatches()[size_t(patch)].translatedName());
 }
 
-/// The colour as a picture of the proportions of its cell, at the resolution of a report.
-QPixmap pictureOf(const LabColour &colour, const QSizeF &cellSize)
+/// The colour as a picture that fills its cell: exactly of the proportions of the room within, or
+/// it would lose up to a point on one side. By a power of two finer than points, so that the factor
+/// by which it is fitted is exact too, and finer than a report keeps its pictures.
+QPixmap pictureOf(const LabColour &colour, const QSize &cellSize)
 {
-    constexpr double kDotsPerPoint = 200.0 / 72.0;
-    constexpr double kInsetPoints = 1;
-    const QSizeF inner = cellSize - QSizeF(2 * kInsetPoints, 2 * kInsetPoints);
-    QPixmap picture((inner * kDotsPerPoint).toSize().expandedTo(QSize(1, 1)));
+    constexpr int kPixelsPerPoint = 4;
+    constexpr int kInsetPoints = 1;
+    const QSize inner = cellSize - QSize(2 * kInsetPoints, 2 * kInsetPoints);
+    QPixmap picture((kPixelsPerPoint * inner).expandedTo(QSize(1, 1)));
     picture.fill(colour.toScreen());
     return picture;
 }
@@ -131,7 +128,7 @@ public:
     {
         Settings settings = further;
         settings.insert("CellElement", element);
-        settings.insert("CellSize", cellSize());
+        settings.insert("CellSize", QSizeF(cellSize()));
         settings.insert("CellTextHorizontalAlign", quint32(align));
         settings.insert("InsideCellColor", background);
         settings.insert("BorderCellColor", kBorderColour);
@@ -158,7 +155,7 @@ public:
         table.mergeCells(0, int(cells) - 1, row);
     }
 
-    [[nodiscard]] QSizeF cellSize() const { return {double(widths.at(column)), double(rowHeight)}; }
+    [[nodiscard]] QSize cellSize() const { return {widths.at(column), rowHeight}; }
     [[nodiscard]] int columnCount() const { return int(widths.size()); }
     [[nodiscard]] int nextColumn() const { return column; }
     [[nodiscard]] const TXTable &result() const { return table; }

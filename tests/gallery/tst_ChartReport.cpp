@@ -2,13 +2,13 @@
 #include "ChartReport.h"
 #include "ChartReportTables.h"
 #include "PageChecks.h"
+#include "PdfFile.h"
 #include "TestBase.h"
 
 #include "TXTableCell.h"
 
 #include <QFontMetricsF>
 #include <QPixmap>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -16,22 +16,41 @@ Q_DECLARE_METATYPE(DifferenceFormula)
 
 namespace {
 
-/// What a reader of the PDF finds, or a text that says why nothing.
-QString textOf(const QString &pdf, const QStringList &options = {})
+/// The two numbers behind a name that begins a line: by CIE76 and by CIEDE2000. Empty without such
+/// a line.
+QStringList numbersBehind(const QString &name, const QString &page)
 {
-    QProcess reader;
-    reader.start("pdftotext", options + QStringList{"-layout", pdf, "-"});
-    if (!reader.waitForFinished() || reader.exitCode() != 0) {
-        return "pdftotext failed: " + QString::fromUtf8(reader.readAllStandardError());
-    }
-    return QString::fromUtf8(reader.readAllStandardOutput());
+    const QRegularExpression line("^ *" + QRegularExpression::escape(name)
+                                      + " +(\\d+(?:\\.\\d+)?) +(\\d+(?:\\.\\d+)?) *$",
+                                  QRegularExpression::MultilineOption);
+    return line.match(page).capturedTexts().mid(1);
 }
 
-QStringList pagesOf(const QString &text)
+QString twoDecimals(double value)
 {
-    QStringList pages = text.split(QChar::FormFeed);
-    pages.removeLast();
-    return pages;
+    return QString::number(value, 'f', 2);
+}
+
+void addPapers()
+{
+    QTest::addColumn<QPageSize::PageSizeId>("paper");
+    QTest::addColumn<QPageLayout::Orientation>("orientation");
+    QTest::newRow("A4") << QPageSize::A4 << QPageLayout::Portrait;
+    QTest::newRow("A4 landscape") << QPageSize::A4 << QPageLayout::Landscape;
+    QTest::newRow("Letter") << QPageSize::Letter << QPageLayout::Portrait;
+    QTest::newRow("Letter landscape") << QPageSize::Letter << QPageLayout::Landscape;
+    QTest::newRow("A5") << QPageSize::A5 << QPageLayout::Portrait;
+    QTest::newRow("A5 landscape") << QPageSize::A5 << QPageLayout::Landscape;
+}
+
+ChartReportOptions onPaperOfTheRow()
+{
+    ChartReportOptions options;
+    options.paper = *static_cast<QPageSize::PageSizeId *>(
+        QTest::qData("paper", qMetaTypeId<QPageSize::PageSizeId>()));
+    options.orientation = *static_cast<QPageLayout::Orientation *>(
+        QTest::qData("orientation", qMetaTypeId<QPageLayout::Orientation>()));
+    return options;
 }
 
 /// The numbers that rows of a table begin with.
@@ -105,6 +124,8 @@ private slots:
     void tablesFillThePaper();
     void groupRowsAreOneCell();
     void patchesAreShownInTheirColours();
+    void patchesHaveTheResolutionOfAReport_data();
+    void patchesHaveTheResolutionOfAReport();
     void toleranceMarksWhatExceedsIt_data();
     void toleranceMarksWhatExceedsIt();
     void orderOfThePairsIsTheChosenOne();
@@ -116,10 +137,12 @@ protected:
 
 private:
     QString write(const ChartReportOptions &options);
+    QStringList read(const ChartReportOptions &options);
 
     QScopedPointer<QTemporaryDir> folder;
 };
 
+/// The name of the file, empty when it could not be written.
 QString TestChartReport::write(const ChartReportOptions &options)
 {
     const QString file = folder->filePath("report.pdf");
@@ -127,12 +150,21 @@ QString TestChartReport::write(const ChartReportOptions &options)
     return report.document().writePdf(file) ? file : QString();
 }
 
+/// The texts of the pages.
+QStringList TestChartReport::read(const ChartReportOptions &options)
+{
+    PdfFile file(write(options));
+    const QStringList pages = file.pageTexts();
+    if (!file.errorText().isEmpty()) {
+        QTest::qFail(qPrintable(file.errorText()), __FILE__, __LINE__);
+    }
+    return pages;
+}
+
 void TestChartReport::everyPatchAndEachPairIsRead()
 {
-    const QString file = write({});
-    QVERIFY(!file.isEmpty());
+    const QStringList pages = read({});
 
-    const QStringList pages = pagesOf(textOf(file));
     QVERIFY2(pages.size() > 5, qPrintable(pages.join('\n')));
     for (const ChartPatch &patch : chartPatches()) {
         QVERIFY2(pages.at(1).contains(patch.translatedName()), patch.name);
@@ -143,8 +175,9 @@ void TestChartReport::everyPatchAndEachPairIsRead()
 
 void TestChartReport::headerAndNumberStandOnEveryPage()
 {
-    const QStringList pages = pagesOf(textOf(write({})));
+    const QStringList pages = read({});
 
+    QVERIFY(!pages.isEmpty());
     for (int i = 0; i < pages.size(); ++i) {
         QVERIFY(pages.at(i).contains("Colour comparison of the 24-patch chart"));
         const QString number = QStringLiteral("Page %1 of %2").arg(i + 1).arg(pages.size());
@@ -155,35 +188,34 @@ void TestChartReport::headerAndNumberStandOnEveryPage()
 
 void TestChartReport::coverTellsTheStatistics()
 {
-    const QString cover = pagesOf(textOf(write({}))).value(0);
+    constexpr double kTolerance = 1.25;
+    ChartReportOptions options;
+    options.tolerance = kTolerance;
+    const QString cover = read(options).value(0);
 
-    const auto statistics = ChartComparison::statistics(ChartComparison::samePatches(),
-                                                        DifferenceFormula::Ciede2000, 1.0);
-    for (const double value : {statistics.mean, statistics.percentile95, statistics.largest}) {
-        QVERIFY2(cover.contains(QString::number(value, 'f', 2)), qPrintable(cover));
-    }
+    const auto pairs = ChartComparison::samePatches();
+    const auto cie76 = ChartComparison::statistics(pairs, DifferenceFormula::Cie76, kTolerance);
+    const auto ciede2000 =
+        ChartComparison::statistics(pairs, DifferenceFormula::Ciede2000, kTolerance);
+    QCOMPARE(numbersBehind("Mean", cover),
+             QStringList({twoDecimals(cie76.mean), twoDecimals(ciede2000.mean)}));
+    QCOMPARE(numbersBehind("95 %", cover),
+             QStringList({twoDecimals(cie76.percentile95), twoDecimals(ciede2000.percentile95)}));
+    QCOMPARE(numbersBehind("Maximum", cover),
+             QStringList({twoDecimals(cie76.largest), twoDecimals(ciede2000.largest)}));
+    QCOMPARE(numbersBehind("Above 1.25", cover),
+             QStringList({QString::number(cie76.aboveTolerance),
+                          QString::number(ciede2000.aboveTolerance)}));
 }
 
 void TestChartReport::tablesFillThePaper_data()
 {
-    QTest::addColumn<QPageSize::PageSizeId>("paper");
-    QTest::addColumn<QPageLayout::Orientation>("orientation");
-    QTest::newRow("A4") << QPageSize::A4 << QPageLayout::Portrait;
-    QTest::newRow("A4 landscape") << QPageSize::A4 << QPageLayout::Landscape;
-    QTest::newRow("Letter") << QPageSize::Letter << QPageLayout::Portrait;
-    QTest::newRow("Letter landscape") << QPageSize::Letter << QPageLayout::Landscape;
-    QTest::newRow("A5") << QPageSize::A5 << QPageLayout::Portrait;
-    QTest::newRow("A5 landscape") << QPageSize::A5 << QPageLayout::Landscape;
+    addPapers();
 }
 
 void TestChartReport::tablesFillThePaper()
 {
-    ChartReportOptions options;
-    QFETCH(QPageSize::PageSizeId, paper);
-    QFETCH(QPageLayout::Orientation, orientation);
-    options.paper = paper;
-    options.orientation = orientation;
-
+    const ChartReportOptions options = onPaperOfTheRow();
     ChartReport report(options);
     const QRectF content = report.document().contentRect();
     const ChartReportTables tables(content.size(), options);
@@ -221,6 +253,30 @@ void TestChartReport::patchesAreShownInTheirColours()
     const QColor newer = row.at(3).element.value<QPixmap>().toImage().pixelColor(3, 3);
     QCOMPARE(older.rgb(), patch.older.toScreen().rgb());
     QCOMPARE(newer.rgb(), patch.newer.toScreen().rgb());
+}
+
+void TestChartReport::patchesHaveTheResolutionOfAReport_data()
+{
+    addPapers();
+}
+
+/// Both ways: a picture of other proportions than its cell would lose a part of a point.
+void TestChartReport::patchesHaveTheResolutionOfAReport()
+{
+    PdfFile file(write(onPaperOfTheRow()));
+    int patches = 0;
+    for (const PdfFile::Picture &picture : file.pictures()) {
+        // The cover has none, but shadows.
+        if (picture.page > 1) {
+            ++patches;
+            const QSize dots = picture.dotsPerInch;
+            const QString text = QStringLiteral("%1 x %2").arg(dots.width()).arg(dots.height());
+            QVERIFY2(qAbs(dots.width() - 200) <= 5 && qAbs(dots.height() - 200) <= 5,
+                     qPrintable(text));
+        }
+    }
+    QCOMPARE(file.errorText(), QString());
+    QCOMPARE(patches, 2 * (24 + 276));
 }
 
 void TestChartReport::toleranceMarksWhatExceedsIt_data()
@@ -269,7 +325,7 @@ void TestChartReport::reportSpeaksTheLanguageOfTheMoment()
 {
     CapitalTranslator translator;
     QCoreApplication::installTranslator(&translator);
-    const QStringList pages = pagesOf(textOf(write({})));
+    const QStringList pages = read({});
     QCoreApplication::removeTranslator(&translator);
     QCoreApplication::processEvents();
 
