@@ -30,6 +30,12 @@ int kilobytesOf(const QSize &pixels)
     return int(1 + qint64(pixels.width()) * pixels.height() * kBytesOfPixel / 1024);
 }
 
+double withinLimits(double percent)
+{
+    return std::clamp(percent, double(ReportView::kSmallestZoomPercent),
+                      double(ReportView::kLargestZoomPercent));
+}
+
 } // namespace
 
 ReportView::ReportView(QWidget *parent)
@@ -37,7 +43,7 @@ ReportView::ReportView(QWidget *parent)
     , pictures(kPicturesKilobytes)
 {
     setFocusPolicy(Qt::StrongFocus);
-    // Both bars always: one that comes and goes would change the width that a sheet is fitted to.
+    // A bar that comes and goes would change the width that a sheet is fitted to.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     viewport()->setBackgroundRole(QPalette::Mid);
     viewport()->setAutoFillBackground(true);
@@ -70,7 +76,7 @@ void ReportView::setZoomMode(ZoomMode newMode)
 {
     if (newMode != mode) {
         mode = newMode;
-        refit();
+        fit();
         emit zoomChanged();
     }
 }
@@ -78,6 +84,16 @@ void ReportView::setZoomMode(ZoomMode newMode)
 void ReportView::setZoomPercent(double newPercent)
 {
     zoomAround(newPercent, viewport()->rect().center());
+}
+
+/// From below the smallest percentage, where a fitted sheet may be, a step out would go in.
+void ReportView::zoomBy(double factor, const QPointF &anchor)
+{
+    const double wanted = withinLimits(percent * factor);
+    const bool isThatWay = factor > 1 ? wanted > percent : factor < 1 && wanted < percent;
+    if (isThatWay) {
+        zoomAround(wanted, anchor);
+    }
 }
 
 QRect ReportView::pageRect(int page) const
@@ -101,12 +117,12 @@ void ReportView::goToPage(int page)
 
 void ReportView::zoomIn()
 {
-    setZoomPercent(percent * kZoomStep);
+    zoomBy(kZoomStep, viewport()->rect().center());
 }
 
 void ReportView::zoomOut()
 {
-    setZoomPercent(percent / kZoomStep);
+    zoomBy(1 / kZoomStep, viewport()->rect().center());
 }
 
 void ReportView::paintEvent(QPaintEvent *event)
@@ -240,7 +256,7 @@ void ReportView::wheelEvent(QWheelEvent *event)
     }
     constexpr double kNotch = 120;
     const double notches = event->angleDelta().y() / kNotch;
-    zoomAround(percent * std::pow(kZoomStep, notches), event->position());
+    zoomBy(std::pow(kZoomStep, notches), event->position());
     event->accept();
 }
 
@@ -298,8 +314,7 @@ double ReportView::fittingPercent() const
 
 void ReportView::zoomAround(double newPercent, const QPointF &anchor)
 {
-    const double wanted =
-        std::clamp(newPercent, double(kSmallestZoomPercent), double(kLargestZoomPercent));
+    const double wanted = withinLimits(newPercent);
     const bool isNews = mode != ZoomMode::Fixed || wanted != percent;
     mode = ZoomMode::Fixed;
     applyPercent(wanted, anchor);
@@ -342,11 +357,20 @@ void ReportView::updateScrollBars()
 
 void ReportView::refit()
 {
-    const double fitting = fittingPercent();
-    if (fitting != percent) {
-        applyPercent(fitting, QPointF(viewport()->width() / 2.0, 0));
+    if (fit()) {
         emit zoomChanged();
     }
+}
+
+/// Whether the percentage has become another.
+bool ReportView::fit()
+{
+    const double fitting = fittingPercent();
+    if (fitting == percent) {
+        return false;
+    }
+    applyPercent(fitting, QPointF(viewport()->width() / 2.0, 0));
+    return true;
 }
 
 void ReportView::tellPage()

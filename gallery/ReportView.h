@@ -46,11 +46,13 @@ public:
     /// several are seen as a whole. -1 without pages.
     [[nodiscard]] int currentPage() const;
 
+    /// FitWidth by default.
     [[nodiscard]] ZoomMode zoomMode() const { return mode; }
+    /// Fixed keeps the size that a fitted sheet has.
     void setZoomMode(ZoomMode newMode);
 
-    /// 100 is the real size on the screen, as far as the screen's resolution is told. Beyond the
-    /// limits where the sheet is fitted into a view that asks for it.
+    /// 100 is the real size on the screen, as far as the screen's resolution is told. A fitted
+    /// sheet, or one that is kept as it was fitted, may be beyond the limits.
     [[nodiscard]] double zoomPercent() const { return percent; }
     /// Brings the percentage within its limits and keeps it.
     void setZoomPercent(double newPercent);
@@ -62,13 +64,15 @@ public slots:
     /// Brings the top of a page, counted from 0, to the top of the view. A page that there is not
     /// gives the nearest one.
     void goToPage(int page);
+    /// Zoom by a step within the limits, and keep that. Nothing happens where a size beyond a limit
+    /// would have to change the other way.
     void zoomIn();
     void zoomOut();
 
 signals:
     /// Another page is read, or the number of pages is another.
     void pageChanged();
-    /// The percentage or the mode is another.
+    /// The percentage, the mode or both are others.
     void zoomChanged();
 
 protected:
@@ -88,10 +92,12 @@ private:
     [[nodiscard]] double fittingPercent() const;
     [[nodiscard]] bool turnPage(int key);
     [[nodiscard]] bool zoomByKey(int key);
+    void zoomBy(double factor, const QPointF &anchor);
     void zoomAround(double newPercent, const QPointF &anchor);
     void applyPercent(double newPercent, const QPointF &anchor);
     void updateScrollBars();
     void refit();
+    bool fit();
     void tellPage();
     void paintSheet(QPainter *painter, int page, const QRect &exposed);
     void paintContent(QPainter *painter, int page) const;

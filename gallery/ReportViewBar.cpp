@@ -141,7 +141,7 @@ void ReportViewBar::zoomChosen(int index)
         view->setZoomMode(ReportView::ZoomMode::FitPage);
         break;
     case kOtherIndex:
-        view->setZoomPercent(view->zoomPercent());
+        view->setZoomMode(ReportView::ZoomMode::Fixed);
         break;
     default:
         view->setZoomPercent(zoomBox->itemData(index).toInt());

@@ -20,6 +20,10 @@ private slots:
     void pageThatThereIsNotGivesTheNearest();
     void lastSmallPageCanBeRead();
     void keysZoomWithinTheLimits();
+    void stepsNeverGoTheOtherWay_data();
+    void stepsNeverGoTheOtherWay();
+    void fixedModeKeepsTheFittedSize();
+    void modeIsToldOnce();
     void wheelWithControlZoomsAtThePointer();
     void wheelAloneScrolls();
     void fitWidthFollowsTheView();
@@ -147,6 +151,63 @@ void TestReportView::keysZoomWithinTheLimits()
     QCOMPARE(view->zoomPercent(), 50.0);
     QTest::keyClick(view.get(), Qt::Key_0);
     QCOMPARE(view->zoomPercent(), 100.0);
+}
+
+void TestReportView::stepsNeverGoTheOtherWay_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isSmall");
+    QTest::newRow("sheet below the smallest size") << QSize(320, 300) << true;
+    QTest::newRow("sheet beyond the largest size") << QSize(4000, 500) << false;
+}
+
+void TestReportView::stepsNeverGoTheOtherWay()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, isSmall);
+    view->resize(size);
+    const double fitted = view->zoomPercent();
+    QVERIFY(isSmall ? fitted < 50 : fitted > 400);
+    QSignalSpy changed(view.get(), SIGNAL(zoomChanged()));
+
+    const int farther = isSmall ? -120 : 120;
+    QTest::keyClick(view.get(), isSmall ? Qt::Key_Minus : Qt::Key_Plus);
+    turnWheel(Qt::ControlModifier, {20, 20}, farther);
+    turnWheel(Qt::ControlModifier, {20, 20}, 0);
+    QCOMPARE(view->zoomPercent(), fitted);
+    QVERIFY(view->zoomMode() == ReportView::ZoomMode::FitWidth);
+    QCOMPARE(changed.size(), 0);
+
+    turnWheel(Qt::ControlModifier, {20, 20}, -farther);
+    QVERIFY(isSmall ? view->zoomPercent() > fitted : view->zoomPercent() < fitted);
+    QVERIFY(view->zoomMode() == ReportView::ZoomMode::Fixed);
+    QCOMPARE(changed.size(), 1);
+}
+
+void TestReportView::fixedModeKeepsTheFittedSize()
+{
+    view->resize(320, 300);
+    const double fitted = view->zoomPercent();
+    QVERIFY(fitted < ReportView::kSmallestZoomPercent);
+
+    view->setZoomMode(ReportView::ZoomMode::Fixed);
+    view->resize(600, 500);
+
+    QCOMPARE(view->zoomPercent(), fitted);
+}
+
+void TestReportView::modeIsToldOnce()
+{
+    QSignalSpy changed(view.get(), SIGNAL(zoomChanged()));
+
+    const double fitted = view->zoomPercent();
+    view->setZoomMode(ReportView::ZoomMode::FitPage);
+    QVERIFY(view->zoomPercent() != fitted);
+    QCOMPARE(changed.size(), 1);
+    view->setZoomMode(ReportView::ZoomMode::FitPage);
+    QCOMPARE(changed.size(), 1);
+    view->setZoomMode(ReportView::ZoomMode::Fixed);
+    QCOMPARE(changed.size(), 2);
 }
 
 void TestReportView::wheelWithControlZoomsAtThePointer()
