@@ -29,6 +29,15 @@ void setTexts(QComboBox *box, const QStringList &texts)
     }
 }
 
+QStringList paperNames()
+{
+    QStringList names;
+    for (const QPageSize::PageSizeId paper : kPapers) {
+        names.append(QPageSize::name(paper));
+    }
+    return names;
+}
+
 } // namespace
 
 ReportOptionsPanel::ReportOptionsPanel(QWidget *parent)
@@ -46,7 +55,7 @@ ReportOptionsPanel::ReportOptionsPanel(QWidget *parent)
 {
     const ChartReportOptions usual;
     for (const QPageSize::PageSizeId paper : kPapers) {
-        paperBox->addItem(QPageSize::name(paper), paper);
+        paperBox->addItem(QString(), paper);
     }
     formulaBox->setCurrentIndex(int(usual.formula));
     orderBox->setCurrentIndex(int(usual.order));
@@ -90,7 +99,8 @@ void ReportOptionsPanel::retranslate()
     orientationLabel->setText(tr("O&rientation:"));
     setTexts(formulaBox, {tr("CIE76"), tr("CIEDE2000")});
     setTexts(orderBox, {tr("By number"), tr("Largest first"), tr("Smallest first")});
-    setTexts(orientationBox, {tr("Upright"), tr("Landscape")});
+    setTexts(paperBox, paperNames());
+    setTexts(orientationBox, {tr("Portrait"), tr("Landscape")});
     formulaBox->setAccessibleName(tr("Formula"));
     toleranceBox->setAccessibleName(tr("Tolerance"));
     orderBox->setAccessibleName(tr("Order of the pairs"));

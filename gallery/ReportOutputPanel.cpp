@@ -12,7 +12,6 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProgressBar>
@@ -25,7 +24,7 @@ namespace {
 
 constexpr int kWholePercent = 100;
 /// The text below the buttons must not push the panel wider.
-constexpr int kOutcomeWidthPixels = 160;
+constexpr int kEndingWidthPixels = 160;
 
 QString suggestedFile()
 {
@@ -41,12 +40,13 @@ ReportOutputPanel::ReportOutputPanel(QWidget *parent)
     , printButton(new QPushButton(this))
     , progressBar(new QProgressBar(this))
     , cancelButton(new QPushButton(this))
-    , outcomeLabel(new QLabel(this))
+    , endingLabel(new QLabel(this))
     , openButton(new QPushButton(this))
 {
     progressBar->setRange(0, kWholePercent);
-    outcomeLabel->setWordWrap(true);
-    outcomeLabel->setMinimumWidth(kOutcomeWidthPixels);
+    endingLabel->setWordWrap(true);
+    endingLabel->setMinimumWidth(kEndingWidthPixels);
+    cancelButton->setEnabled(false);
     setUpLayout();
     retranslate();
     connect(exportButton, SIGNAL(clicked()), this, SLOT(exportPdf()));
@@ -62,27 +62,24 @@ ReportOutputPanel::~ReportOutputPanel()
 
 void ReportOutputPanel::writePdf(const QString &fileName)
 {
-    const QString file = QFileInfo(fileName).absoluteFilePath();
-    const auto write = [file](TXReportDocument &report, ICompletionDelegate *progress,
-                              TXError *error) {
-        return report.writePdf(file, progress, error);
-    };
-    writtenFile = file;
-    run(write, Outcome::Written);
-}
-
-/// Between start and end of the work the panel may be destroyed.
-void ReportOutputPanel::run(const Work &work, Outcome whenDone)
-{
     if (isBusy()) {
         return;
     }
+    const QString file = QFileInfo(fileName).absoluteFilePath();
+    writtenFile = file;
+    run(Target::File,
+        [file](TXReportDocument &report, ICompletionDelegate *progress, TXError *error) {
+            return report.writePdf(file, progress, error);
+        });
+}
+
+/// While the work goes on the panel may be destroyed.
+void ReportOutputPanel::run(Target newTarget, const Work &work)
+{
     const QPointer<ReportOutputPanel> self(this);
     const auto report = std::make_shared<ChartReport>(options);
-    running = report;
-    outcome = Outcome::None;
-    showState();
-    emit busyChanged(true);
+    target = newTarget;
+    begin(report);
 
     ReportProgress progress(progressBar);
     TXError error;
@@ -90,41 +87,82 @@ void ReportOutputPanel::run(const Work &work, Outcome whenDone)
     if (!self) {
         return;
     }
-    running.reset();
     writtenPages = report->document().pageCount();
-    const Outcome otherwise =
-        report->document().isCancelled() ? Outcome::Cancelled : Outcome::Failed;
-    outcome = isDone ? whenDone : otherwise;
-    showState();
-    emit busyChanged(false);
-    if (outcome == Outcome::Failed) {
+    const Ending otherwise = report->document().isCancelled() ? Ending::Cancelled : Ending::Failed;
+    end(isDone ? Ending::Done : otherwise);
+    if (ending == Ending::Failed) {
         TXDisplayErrorMessageBox(error, ErroMessageBoxCritical, this);
     }
 }
 
+/// Cancel takes the keyboard's focus from what is disabled. It is enabled before, so that the focus
+/// does not wander through the window.
+void ReportOutputPanel::begin(const std::shared_ptr<ChartReport> &report)
+{
+    focusGiver = window()->focusWidget();
+    running = report;
+    ending = Ending::None;
+    cancelButton->setEnabled(true);
+    showState();
+    emit busyChanged(true);
+    if (focusGiver && !focusGiver->isEnabled()) {
+        cancelButton->setFocus();
+    }
+}
+
+/// The other way round.
+void ReportOutputPanel::end(Ending newEnding)
+{
+    running.reset();
+    ending = newEnding;
+    showState();
+    emit busyChanged(false);
+    if (window()->focusWidget() == cancelButton) {
+        (focusGiver ? focusGiver.data() : exportButton)->setFocus();
+    }
+    cancelButton->setEnabled(false);
+}
+
 void ReportOutputPanel::exportPdf()
 {
-    const QPointer<ReportOutputPanel> self(this);
-    QFileDialog dialog(this, tr("Export PDF"), suggestedFile(), tr("PDF documents (*.pdf)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // With it the dialog asks before a file is replaced, also when the suffix was left out.
-    dialog.setDefaultSuffix(QStringLiteral("pdf"));
-    if (dialog.exec() == QDialog::Accepted && self) {
-        writePdf(dialog.selectedFiles().constFirst());
+    const QString file = askForFile();
+    if (!file.isEmpty()) {
+        writePdf(file);
     }
+}
+
+/// Empty when nothing is to be written, or when the panel, and the dialog with it, was destroyed.
+QString ReportOutputPanel::askForFile()
+{
+    const QPointer<QFileDialog> dialog(
+        new QFileDialog(this, tr("Export PDF"), suggestedFile(), tr("PDF documents (*.pdf)")));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    // With it the dialog asks before a file is replaced, also when the suffix was left out.
+    dialog->setDefaultSuffix(QStringLiteral("pdf"));
+    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
+    const QString file = isAccepted ? dialog->selectedFiles().constFirst() : QString();
+    delete dialog;
+    return file;
 }
 
 void ReportOutputPanel::print()
 {
     QPrinter printer(QPrinter::HighResolution);
-    const QPointer<ReportOutputPanel> self(this);
-    QPrintDialog dialog(&printer, this);
-    if (dialog.exec() != QDialog::Accepted || !self) {
-        return;
+    if (askForPrinter(&printer)) {
+        run(Target::Printer,
+            [&printer](TXReportDocument &report, ICompletionDelegate *progress, TXError *error) {
+                return report.print(&printer, progress, error);
+            });
     }
-    run([&printer](TXReportDocument &report, ICompletionDelegate *progress,
-                   TXError *error) { return report.print(&printer, progress, error); },
-        Outcome::Printed);
+}
+
+/// As askForFile().
+bool ReportOutputPanel::askForPrinter(QPrinter *printer)
+{
+    const QPointer<QPrintDialog> dialog(new QPrintDialog(printer, this));
+    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
+    delete dialog;
+    return isAccepted;
 }
 
 void ReportOutputPanel::cancel()
@@ -169,31 +207,54 @@ void ReportOutputPanel::hideEvent(QHideEvent *event)
 
 void ReportOutputPanel::showState()
 {
-    exportButton->setEnabled(!isBusy());
+    // In this order the focus of either goes straight to Cancel.
     printButton->setEnabled(!isBusy());
-    cancelButton->setEnabled(isBusy());
-    openButton->setEnabled(outcome == Outcome::Written);
-    if (outcome != Outcome::Written && outcome != Outcome::Printed) {
+    exportButton->setEnabled(!isBusy());
+    openButton->setEnabled(isFileWritten());
+    if (ending != Ending::Done) {
         progressBar->setValue(0);
     }
-    outcomeLabel->setText(outcomeText());
-    outcomeLabel->setToolTip(outcome == Outcome::Written ? QDir::toNativeSeparators(writtenFile)
-                                                         : QString());
+    endingLabel->setText(endingText());
+    endingLabel->setToolTip(isFileWritten() ? QDir::toNativeSeparators(writtenFile) : QString());
 }
 
-QString ReportOutputPanel::outcomeText() const
+bool ReportOutputPanel::isFileWritten() const
 {
-    switch (outcome) {
-    case Outcome::Written:
+    return target == Target::File && ending == Ending::Done;
+}
+
+QString ReportOutputPanel::endingText() const
+{
+    return target == Target::File ? fileText() : printText();
+}
+
+QString ReportOutputPanel::fileText() const
+{
+    switch (ending) {
+    case Ending::Done:
         return tr("%n page(s) in \"%1\"", nullptr, writtenPages)
             .arg(QFileInfo(writtenFile).fileName());
-    case Outcome::Printed:
-        return tr("Printed.");
-    case Outcome::Cancelled:
+    case Ending::Cancelled:
         return tr("Cancelled, nothing was written.");
-    case Outcome::Failed:
+    case Ending::Failed:
         return tr("Nothing was written.");
-    case Outcome::None:
+    case Ending::None:
+        break;
+    }
+    return {};
+}
+
+/// What a printer has begun it may keep.
+QString ReportOutputPanel::printText() const
+{
+    switch (ending) {
+    case Ending::Done:
+        return tr("Printed.");
+    case Ending::Cancelled:
+        return tr("Cancelled, some pages may be printed.");
+    case Ending::Failed:
+        return tr("Printing has failed.");
+    case Ending::None:
         break;
     }
     return {};
@@ -210,6 +271,6 @@ void ReportOutputPanel::setUpLayout()
     rows->addWidget(exportButton);
     rows->addWidget(printButton);
     rows->addLayout(workRow);
-    rows->addWidget(outcomeLabel);
+    rows->addWidget(endingLabel);
     rows->addWidget(openButton);
 }

@@ -3,12 +3,15 @@
 #include "ChartReportOptions.h"
 #include "GalleryPanel.h"
 
+#include <QPointer>
+
 #include <functional>
 #include <memory>
 
 class ChartReport;
 class ICompletionDelegate;
 class QLabel;
+class QPrinter;
 class QProgressBar;
 class QPushButton;
 class TXError;
@@ -33,7 +36,8 @@ public:
     [[nodiscard]] bool isBusy() const { return running != nullptr; }
 
     /// Writes the file, and comes back when it is done, has failed or was cancelled; a failure has
-    /// then been shown. Events are handled meanwhile. Does nothing while busy.
+    /// then been shown. Events are handled meanwhile. Does nothing while busy: what is told of the
+    /// running work stays.
     void writePdf(const QString &fileName);
 
 signals:
@@ -51,25 +55,37 @@ private slots:
     void openPdf();
 
 private:
-    /// What ended a work.
-    enum class Outcome { None, Written, Printed, Cancelled, Failed };
+    /// Where the last work was to bring the report.
+    enum class Target { File, Printer };
+    /// How the last work has ended, if it has.
+    enum class Ending { None, Done, Cancelled, Failed };
     using Work = std::function<bool(TXReportDocument &, ICompletionDelegate *, TXError *)>;
 
-    void run(const Work &work, Outcome whenDone);
+    [[nodiscard]] QString askForFile();
+    [[nodiscard]] bool askForPrinter(QPrinter *printer);
+    void run(Target newTarget, const Work &work);
+    void begin(const std::shared_ptr<ChartReport> &report);
+    void end(Ending newEnding);
     void setUpLayout();
     void showState();
-    [[nodiscard]] QString outcomeText() const;
+    [[nodiscard]] bool isFileWritten() const;
+    [[nodiscard]] QString endingText() const;
+    [[nodiscard]] QString fileText() const;
+    [[nodiscard]] QString printText() const;
 
     ChartReportOptions options;
     std::shared_ptr<ChartReport> running;
-    Outcome outcome = Outcome::None;
+    Target target = Target::File;
+    Ending ending = Ending::None;
     QString writtenFile;
     int writtenPages = 0;
+    /// Had the keyboard's focus before the work disabled it.
+    QPointer<QWidget> focusGiver;
 
     QPushButton *exportButton;
     QPushButton *printButton;
     QProgressBar *progressBar;
     QPushButton *cancelButton;
-    QLabel *outcomeLabel;
+    QLabel *endingLabel;
     QPushButton *openButton;
 };

@@ -3,6 +3,7 @@
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
 #include "PageChecks.h"
+#include "PdfFile.h"
 #include "ReportOutputPanel.h"
 #include "ReportPage.h"
 #include "ReportView.h"
@@ -12,7 +13,6 @@
 #include <QDesktopServices>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
-#include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -21,6 +21,52 @@
 #include <QUrl>
 
 #include <memory>
+
+namespace {
+
+void acceptExport(QDialog &dialog, const QString &file)
+{
+    auto *name = dialog.findChild<QLineEdit *>("fileNameEdit");
+    QVERIFY(name);
+    // Without its suffix, which the dialog adds.
+    name->setText(QString(file).remove(".pdf"));
+    DialogDriver::click(dialog, QDialogButtonBox::Save);
+}
+
+/// Takes the printer that writes a file, which the dialog offers beside those of the system.
+void acceptPrinting(QDialog &dialog, const QString &file)
+{
+    auto *printers = dialog.findChild<QComboBox *>("printers");
+    auto *name = dialog.findChild<QLineEdit *>("filename");
+    QVERIFY(printers && name);
+    printers->setCurrentText("Print to File (PDF)");
+    QVERIFY(name->isEnabled());
+    name->setText(file);
+    DialogDriver::click(buttonOf(dialog, "Print"));
+}
+
+/// The button of this text, or else the control of this name.
+QWidget *widgetOf(const QWidget &page, const QString &name)
+{
+    QWidget *button = buttonOf(page, name);
+    return button ? button : controlOf<QWidget>(page, name);
+}
+
+/// Only pages that the report does not have.
+void chooseMissingPages(QDialog &dialog)
+{
+    constexpr int kMissingPage = 900;
+    DialogDriver::click(buttonOf(dialog, "Options >>"));
+    DialogDriver::click(dialog.findChild<QRadioButton *>("printRange"));
+    for (const char *name : {"to", "from"}) {
+        auto *box = dialog.findChild<QSpinBox *>(name);
+        QVERIFY(box && box->isVisible() && box->isEnabled());
+        box->setValue(kMissingPage);
+        QCOMPARE(box->value(), kMissingPage);
+    }
+}
+
+} // namespace
 
 class TestReportPage : public TestBase
 {
@@ -35,6 +81,7 @@ private slots:
     void paperIsTheChosenOne();
     void pageNumberAndZoomFollowTheView();
     void pageNumberAndZoomSteerTheView();
+    void fittedSizeCanBeKept();
     void exportWritesAPdfThatIsOpened();
     void exportThatIsNotWantedWritesNothing();
     void controlsAreDisabledWhileExporting();
@@ -45,7 +92,18 @@ private slots:
     void panelDestroyedByItselfEndsIt();
     void windowClosedWhileExportingEndsIt();
     void languageMayChangeWhileExporting();
+    void windowDestroyedWithItsDialogOpenEndsIt_data();
+    void windowDestroyedWithItsDialogOpenEndsIt();
+    void windowDestroyedAfterItsDialogEndsIt_data();
+    void windowDestroyedAfterItsDialogEndsIt();
     void printDialogIsOffered();
+    void printerGetsTheReport();
+    void cancelledPrintIsTold();
+    void failedPrintIsTold();
+    void fileThatNothingOpensIsTold();
+    void keyboardStaysWhileWorking_data();
+    void keyboardStaysWhileWorking();
+    void keyboardComesToExportWhenNothingHadIt();
 
 public slots:
     void takeUrl(const QUrl &url) { openedUrl = url; }
@@ -55,7 +113,12 @@ protected:
     void finish() override;
 
 private:
-    void duringExport(const std::function<void()> &action);
+    using Action = std::function<void()>;
+
+    void during(const Action &work, const Action &action);
+    void duringExport(const Action &action);
+    void clickAndAccept(const QString &button);
+    void openPdf();
     [[nodiscard]] QString path() const { return folder->filePath("report.pdf"); }
     [[nodiscard]] ReportOutputPanel *output() const
     {
@@ -89,8 +152,8 @@ void TestReportPage::finish()
     QLocale::setDefault(QLocale::system());
 }
 
-/// Exports, and acts once in the middle of it, when events are handled.
-void TestReportPage::duringExport(const std::function<void()> &action)
+/// Works, and acts once in the middle of it, when events are handled.
+void TestReportPage::during(const Action &work, const Action &action)
 {
     QObject context;
     bool isDue = true;
@@ -101,8 +164,35 @@ void TestReportPage::duringExport(const std::function<void()> &action)
                     QTimer::singleShot(0, &context, action);
                 }
             });
-    output()->writePdf(path());
+    work();
     QVERIFY(!isDue);
+}
+
+void TestReportPage::duringExport(const Action &action)
+{
+    during([this] { output()->writePdf(path()); }, action);
+}
+
+/// Exports, or prints to a file, by the button and its dialog.
+void TestReportPage::clickAndAccept(const QString &button)
+{
+    DialogDriver driver;
+    driver.expect([this](QDialog &dialog) {
+        if (dialog.inherits("QPrintDialog")) {
+            acceptPrinting(dialog, path());
+        } else {
+            acceptExport(dialog, path());
+        }
+    });
+    DialogDriver::click(buttonOf(*window, button));
+}
+
+/// With openedUrl instead of a program.
+void TestReportPage::openPdf()
+{
+    QDesktopServices::setUrlHandler("file", this, "takeUrl");
+    DialogDriver::click(buttonOf(*window, "Open PDF"));
+    QDesktopServices::unsetUrlHandler("file");
 }
 
 void TestReportPage::pageFitsTheWindow()
@@ -134,6 +224,7 @@ void TestReportPage::textsFollowTheLanguage()
     QCOMPARE(smallTexts(*window->currentPage(), {}), QStringList());
     QCOMPARE(controlOf<QComboBox>(*window, "FORMULA")->itemText(1), "CIEDE2000");
     QCOMPARE(controlOf<QComboBox>(*window, "ZOOM")->itemText(0), "FIT WIDTH");
+    QCOMPARE(controlOf<QComboBox>(*window, "PAPER")->itemText(1), "LETTER / ANSI A");
     QVERIFY(controlOf<ReportView>(*window, "PAGES OF THE REPORT"));
 
     QCoreApplication::removeTranslator(&translator);
@@ -215,31 +306,39 @@ void TestReportPage::pageNumberAndZoomSteerTheView()
     QCOMPARE(view()->zoomPercent(), 320.0);
 }
 
+/// The line of a fitted size keeps it, also below the smallest size.
+void TestReportPage::fittedSizeCanBeKept()
+{
+    auto *zoom = controlOf<QComboBox>(*window, "Zoom");
+    view()->setZoomMode(ReportView::ZoomMode::FitPage);
+    view()->setMaximumHeight(200);
+    QTRY_VERIFY(view()->zoomPercent() < ReportView::kSmallestZoomPercent);
+    const double fitted = view()->zoomPercent();
+    QVERIFY(!controlOf<QAbstractButton>(*window, "Smaller")->isEnabled());
+    QCOMPARE(zoom->itemText(2), QStringLiteral("%1 %").arg(qRound(fitted)));
+
+    zoom->setFocus();
+    QTest::keyClick(zoom, Qt::Key_Down);
+
+    QVERIFY(view()->zoomMode() == ReportView::ZoomMode::Fixed);
+    QCOMPARE(view()->zoomPercent(), fitted);
+}
+
 void TestReportPage::exportWritesAPdfThatIsOpened()
 {
     QVERIFY(!buttonOf(*window, "Open PDF")->isEnabled());
-    DialogDriver driver;
-    driver.expect([this](QDialog &dialog) {
-        auto *name = dialog.findChild<QLineEdit *>("fileNameEdit");
-        QVERIFY(name);
-        // Without its suffix, which the dialog adds.
-        name->setText(folder->filePath("report"));
-        DialogDriver::click(dialog, QDialogButtonBox::Save);
-    });
-    DialogDriver::click(buttonOf(*window, "Export PDF..."));
+    clickAndAccept("Export PDF...");
 
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(file.read(5) == "%PDF-");
     QCOMPARE(window->findChild<QProgressBar *>()->value(), 100);
-    QProcess reader;
-    reader.start("pdftotext", {path(), "-"});
-    QVERIFY(reader.waitForFinished());
-    QVERIFY(reader.readAllStandardOutput().contains("Purplish blue"));
+    PdfFile file(path());
+    const QStringList pages = file.pageTexts();
+    QCOMPARE(file.errorText(), QString());
+    QCOMPARE(pages.size(), view()->pageCount());
+    QVERIFY(pages.at(1).contains("Purplish blue"));
+    const QString ending = QStringLiteral("%1 page(s) in \"report.pdf\"").arg(pages.size());
+    QVERIFY(isRead(*window, ending));
 
-    QDesktopServices::setUrlHandler("file", this, "takeUrl");
-    DialogDriver::click(buttonOf(*window, "Open PDF"));
-    QDesktopServices::unsetUrlHandler("file");
+    openPdf();
     QCOMPARE(openedUrl, QUrl::fromLocalFile(path()));
 }
 
@@ -268,6 +367,10 @@ void TestReportPage::controlsAreDisabledWhileExporting()
     QCOMPARE(busy.size(), 2);
     QVERIFY(QFile::exists(path()));
     QVERIFY(!QFile::exists(folder->filePath("second.pdf")));
+    const QString ending = QStringLiteral("%1 page(s) in \"report.pdf\"").arg(view()->pageCount());
+    QVERIFY(isRead(*window, ending));
+    openPdf();
+    QCOMPARE(openedUrl, QUrl::fromLocalFile(path()));
     QVERIFY(buttonOf(*window, "Export PDF...")->isEnabled());
     QVERIFY(controlOf<QComboBox>(*window, "Paper")->isEnabled());
     QVERIFY(!buttonOf(*window, "Cancel")->isEnabled());
@@ -350,6 +453,39 @@ void TestReportPage::languageMayChangeWhileExporting()
     QCoreApplication::processEvents();
 }
 
+void TestReportPage::windowDestroyedWithItsDialogOpenEndsIt_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::newRow("export") << "Export PDF...";
+    QTest::newRow("print") << "Print...";
+}
+
+void TestReportPage::windowDestroyedWithItsDialogOpenEndsIt()
+{
+    QFETCH(QString, button);
+    DialogDriver driver;
+    driver.expect([this](QDialog & /*dialog*/) { window.reset(); });
+
+    DialogDriver::click(buttonOf(*window, button));
+
+    QVERIFY(!window);
+    QVERIFY(QDir(folder->path()).isEmpty());
+}
+
+void TestReportPage::windowDestroyedAfterItsDialogEndsIt_data()
+{
+    windowDestroyedWithItsDialogOpenEndsIt_data();
+}
+
+void TestReportPage::windowDestroyedAfterItsDialogEndsIt()
+{
+    QFETCH(QString, button);
+
+    during([this, button] { clickAndAccept(button); }, [this] { window.reset(); });
+
+    QVERIFY(!window);
+}
+
 void TestReportPage::printDialogIsOffered()
 {
     DialogDriver driver;
@@ -360,6 +496,112 @@ void TestReportPage::printDialogIsOffered()
     DialogDriver::click(buttonOf(*window, "Print..."));
 
     QVERIFY(!output()->isBusy());
+}
+
+void TestReportPage::printerGetsTheReport()
+{
+    clickAndAccept("Print...");
+
+    PdfFile file(path());
+    const QStringList pages = file.pageTexts();
+    QCOMPARE(file.errorText(), QString());
+    QCOMPARE(pages.size(), view()->pageCount());
+    QVERIFY(pages.at(1).contains("Purplish blue"));
+    QVERIFY(isRead(*window, "Printed."));
+    QCOMPARE(window->findChild<QProgressBar *>()->value(), 100);
+    QVERIFY(!buttonOf(*window, "Open PDF")->isEnabled());
+}
+
+void TestReportPage::cancelledPrintIsTold()
+{
+    during([this] { clickAndAccept("Print..."); },
+           [this] { DialogDriver::click(buttonOf(*window, "Cancel")); });
+
+    QVERIFY(isRead(*window, "Cancelled, some pages may be printed."));
+    QCOMPARE(window->findChild<QProgressBar *>()->value(), 0);
+    QVERIFY(!output()->isBusy());
+}
+
+void TestReportPage::failedPrintIsTold()
+{
+    DialogDriver driver;
+    driver.expect([this](QDialog &dialog) {
+        chooseMissingPages(dialog);
+        acceptPrinting(dialog, path());
+    });
+    driver.expectMessageBox([](QMessageBox &box) {
+        QCOMPARE(box.icon(), QMessageBox::Critical);
+        QCOMPARE(box.text(), "The report has none of the pages that are to be printed.");
+        DialogDriver::click(box.button(QMessageBox::Ok));
+    });
+    DialogDriver::click(buttonOf(*window, "Print..."));
+
+    QVERIFY(isRead(*window, "Printing has failed."));
+    QVERIFY(QDir(folder->path()).isEmpty());
+}
+
+void TestReportPage::fileThatNothingOpensIsTold()
+{
+    output()->writePdf(path());
+    DialogDriver driver;
+    driver.expectMessageBox([this](QMessageBox &box) {
+        QCOMPARE(box.icon(), QMessageBox::Warning);
+        QCOMPARE(box.text(), QStringLiteral("No program opens the file \"%1\".").arg(path()));
+        DialogDriver::click(box.button(QMessageBox::Ok));
+    });
+
+    // What is to take the file cannot: so no program of this system is started.
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("No such method .*::takeNothing"));
+    QDesktopServices::setUrlHandler("file", this, "takeNothing");
+    DialogDriver::click(buttonOf(*window, "Open PDF"));
+    QDesktopServices::unsetUrlHandler("file");
+}
+
+void TestReportPage::keyboardStaysWhileWorking_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("during");
+    QTest::newRow("export button") << "Export PDF..."
+                                   << "Cancel";
+    QTest::newRow("print button") << "Print..."
+                                  << "Cancel";
+    QTest::newRow("choice") << "Paper"
+                            << "Cancel";
+    QTest::newRow("pages") << "Pages of the report"
+                           << "Pages of the report";
+}
+
+void TestReportPage::keyboardStaysWhileWorking()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, during);
+    QWidget *first = widgetOf(*window, before);
+    QWidget *second = widgetOf(*window, during);
+    QVERIFY(first && second);
+    first->setFocus();
+    QVERIFY(first->hasFocus());
+    QList<QWidget *> visited;
+    QObject context;
+    connect(qApp, &QApplication::focusChanged, &context,
+            [&visited](QWidget *, QWidget *now) { visited.append(now); });
+
+    duringExport([second] { QVERIFY(second->hasFocus()); });
+
+    QVERIFY(first->hasFocus());
+    // Not by way of other controls, which would be read out.
+    const bool isStep = first != second && before != "Paper";
+    QVERIFY(!isStep || visited == QList<QWidget *>({second, first}));
+}
+
+void TestReportPage::keyboardComesToExportWhenNothingHadIt()
+{
+    QVERIFY(window->focusWidget());
+    window->focusWidget()->clearFocus();
+    QVERIFY(!window->focusWidget());
+
+    duringExport([this] { DialogDriver::click(buttonOf(*window, "Cancel")); });
+
+    QVERIFY(buttonOf(*window, "Export PDF...")->hasFocus());
 }
 
 int main(int argc, char **argv)
