@@ -1,16 +1,15 @@
-#include "AllocationMeter.h"
-#include "ICompletionDelegate.h"
+#include "PeakMeter.h"
 #include "RatioReporter.h"
 #include "ReportTablePainter.h"
 #include "TXGraphicsScene.h"
 #include "TXReportDocument.h"
 #include "TXTable.h"
+#include "TextSizeCache.h"
 
 #include <QFile>
 #include <QFont>
 #include <QGraphicsDropShadowEffect>
 #include <QGraphicsItem>
-#include <QImage>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
@@ -27,8 +26,10 @@
 
 // What a report costs on its way to PDF, beside what else one would write for it: a loop that
 // paints each cell with the same lines, fills and texts and knows nothing of tables, and Qt's text
-// document. All have the same texts of which four in ten are distinct, the same page, the same rows
-// on a page and the heading repeated on each; the header and footer of our pages come on top.
+// document. All have the same texts of which four in ten are distinct, the same paper, the same
+// resolution and the heading repeated on each page. The loop has the same rows on a page as our
+// report, whose footer comes on top; the text document lays out its rows and numbers its pages
+// itself. A report is mostly written once, so that our memory of texts is empty each time.
 
 namespace {
 
@@ -36,7 +37,8 @@ constexpr int kColumns = 8;
 constexpr double kRowHeight = 15.0;
 constexpr double kColumnWidth = 64.0;
 constexpr double kFrame = 5.0;
-constexpr int kDotsPerInch = 1200;
+/// That of our writer.
+constexpr int kDotsPerInch = 300;
 constexpr double kPointsPerInch = 72.0;
 
 QFont reportFont()
@@ -65,21 +67,38 @@ QList<QVariant> titles()
     return {"No.", "Patch", "L*", "a*", "b*", "Name", "Difference", "Verdict"};
 }
 
-TXTable reportTable(int rows, bool hasShadow = false)
+QList<QStringList> reportTexts(int rows)
+{
+    QList<QStringList> texts;
+    for (int row = 0; row < rows; ++row) {
+        texts.append(QStringList());
+        for (int column = 0; column < kColumns; ++column) {
+            texts.last().append(textAt(row, column));
+        }
+    }
+    return texts;
+}
+
+TXTable tableWith(const QList<QStringList> &texts, double columnWidth, bool hasShadow)
 {
     TXTable table(kColumns, hasShadow);
     for (int column = 0; column < kColumns; ++column) {
-        table.setColumnWidth(float(kColumnWidth), column);
+        table.setColumnWidth(float(columnWidth), column);
     }
     TXTable::initHeaderOfTableWithTitles(table, titles(), false, float(kRowHeight));
-    QHash<QString, QVariant> settings{{"CellSize", QSizeF(kColumnWidth, kRowHeight)}};
-    for (int row = 0; row < rows; ++row) {
-        for (int column = 0; column < kColumns; ++column) {
-            settings.insert("CellElement", textAt(row, column));
+    QHash<QString, QVariant> settings{{"CellSize", QSizeF(columnWidth, kRowHeight)}};
+    for (const QStringList &row : texts) {
+        for (const QString &text : row) {
+            settings.insert("CellElement", text);
             table.addCell(settings);
         }
     }
     return table;
+}
+
+TXTable reportTable(int rows)
+{
+    return tableWith(reportTexts(rows), kColumnWidth, false);
 }
 
 /// A folder for the files, which all contestants write to alike.
@@ -93,26 +112,41 @@ private:
     QTemporaryDir folder;
 };
 
-QRectF contentOf(const QPageLayout &layout)
-{
-    return layout.paintRect(QPageLayout::Point);
-}
-
 QPageLayout pageLayout()
 {
     return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(36, 36, 36, 36),
             QPageLayout::Point};
 }
 
-int rowsOnPage(double height)
+/// What our report has between its margins and above its footer.
+QSizeF contentSize()
 {
-    return int((height - 2 * kFrame) / kRowHeight) - 1;
+    return TXReportDocument().contentRect().size();
+}
+
+/// Without the heading.
+int rowsOnPage()
+{
+    return int((contentSize().height() - 2 * kFrame) / kRowHeight) - 1;
+}
+
+int pagesFor(int rows)
+{
+    return (rows + rowsOnPage() - 1) / rowsOnPage();
 }
 
 void setUp(QPdfWriter &writer)
 {
     writer.setResolution(kDotsPerInch);
     writer.setPageLayout(pageLayout());
+}
+
+/// Untimed: a report is written by a program that has measured none of its texts.
+void forgetTexts(benchmark::State &state)
+{
+    state.PauseTiming();
+    TextSizeCache::forget();
+    state.ResumeTiming();
 }
 
 void count(benchmark::State &state, const Folder &folder, int rows)
@@ -123,16 +157,41 @@ void count(benchmark::State &state, const Folder &folder, int rows)
 
 // --- the contestants ---
 
+/// False, and the benchmark fails, when the report is not written or not on as many pages.
+bool writeTable(benchmark::State &state, const TXTable &table, int pages, const Folder &folder)
+{
+    TXReportDocument report;
+    report.addTable(table, reportFont());
+    if (!report.writePdf(folder.file()) || report.pageCount() != pages) {
+        state.SkipWithError("the report was not written on as many pages as the peer's");
+        return false;
+    }
+    return true;
+}
+
 void tableOurs(benchmark::State &state)
 {
     const int rows = int(state.range(0));
     const TXTable table = reportTable(rows);
     const Folder folder;
     for (auto step : state) {
-        TXReportDocument report;
-        report.addTable(table, reportFont());
-        if (!report.writePdf(folder.file())) {
-            state.SkipWithError("the report was not written");
+        forgetTexts(state);
+        if (!writeTable(state, table, pagesFor(rows), folder)) {
+            return;
+        }
+    }
+    count(state, folder, rows);
+}
+
+void tableFromTextsOurs(benchmark::State &state)
+{
+    const int rows = int(state.range(0));
+    const QList<QStringList> texts = reportTexts(rows);
+    const Folder folder;
+    for (auto step : state) {
+        forgetTexts(state);
+        const TXTable table = tableWith(texts, kColumnWidth, false);
+        if (!writeTable(state, table, pagesFor(rows), folder)) {
             return;
         }
     }
@@ -140,12 +199,11 @@ void tableOurs(benchmark::State &state)
 }
 
 /// Paints one row of texts; the header is bold white on black.
-void paintBareRow(QPainter &painter, double y, const QStringList &texts, bool isHeader)
+void paintBareRow(QPainter &painter, double y, const QStringList &texts, const QFont &font,
+                  bool isHeader)
 {
     painter.setPen(isHeader ? QPen(Qt::darkGray, 0.35) : QPen(Qt::black, 0.5));
     painter.setBrush(isHeader ? Qt::black : Qt::white);
-    QFont font = reportFont();
-    font.setBold(isHeader);
     painter.setFont(font);
     for (int column = 0; column < texts.size(); ++column) {
         const QRectF rect(kFrame + column * kColumnWidth, y, kColumnWidth, kRowHeight);
@@ -166,7 +224,10 @@ void paintBare(const QString &fileName, const QList<QStringList> &rows)
     setUp(writer);
     QPainter painter(&writer);
     painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
-    const int onPage = rowsOnPage(contentOf(pageLayout()).height());
+    const int onPage = rowsOnPage();
+    const QFont plain = reportFont();
+    QFont bold = plain;
+    bold.setBold(true);
     QStringList heading;
     for (const QVariant &title : titles()) {
         heading.append(title.toString());
@@ -178,23 +239,11 @@ void paintBare(const QString &fileName, const QList<QStringList> &rows)
                 writer.newPage();
             }
             y = kFrame;
-            paintBareRow(painter, y, heading, true);
+            paintBareRow(painter, y, heading, bold, true);
         }
         y += kRowHeight;
-        paintBareRow(painter, y, rows.at(row), false);
+        paintBareRow(painter, y, rows.at(row), plain, false);
     }
-}
-
-QList<QStringList> reportTexts(int rows)
-{
-    QList<QStringList> texts;
-    for (int row = 0; row < rows; ++row) {
-        texts.append(QStringList());
-        for (int column = 0; column < kColumns; ++column) {
-            texts.last().append(textAt(row, column));
-        }
-    }
-    return texts;
 }
 
 void tableBareLoop(benchmark::State &state)
@@ -214,8 +263,9 @@ void tablePainter(benchmark::State &state)
     const int rows = int(state.range(0));
     const TXTable table = reportTable(rows);
     const Folder folder;
-    const int onPage = rowsOnPage(contentOf(pageLayout()).height());
+    const int onPage = rowsOnPage();
     for (auto step : state) {
+        forgetTexts(state);
         QPdfWriter writer(folder.file());
         setUp(writer);
         QPainter painter(&writer);
@@ -233,27 +283,37 @@ void tablePainter(benchmark::State &state)
     count(state, folder, rows);
 }
 
-void tableTextDocument(benchmark::State &state)
+void fillTextTable(QTextDocument &document, const QList<QStringList> &texts)
+{
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    QTextTableFormat format;
+    format.setHeaderRowCount(1);
+    const QList<QVariant> heading = titles();
+    QTextTable *table = cursor.insertTable(int(texts.size()) + 1, kColumns, format);
+    for (int column = 0; column < kColumns; ++column) {
+        table->cellAt(0, column).firstCursorPosition().insertText(heading.at(column).toString());
+    }
+    for (int row = 0; row < texts.size(); ++row) {
+        for (int column = 0; column < kColumns; ++column) {
+            table->cellAt(row + 1, column)
+                .firstCursorPosition()
+                .insertText(texts.at(row).at(column));
+        }
+    }
+    cursor.endEditBlock();
+}
+
+void tableFromTextsTextDocument(benchmark::State &state)
 {
     const int rows = int(state.range(0));
     const QList<QStringList> texts = reportTexts(rows);
     const Folder folder;
     for (auto step : state) {
         QTextDocument document;
+        document.setUndoRedoEnabled(false);
         document.setDefaultFont(reportFont());
-        QTextCursor cursor(&document);
-        QTextTableFormat format;
-        format.setHeaderRowCount(1);
-        QTextTable *table = cursor.insertTable(rows + 1, kColumns, format);
-        for (int column = 0; column < kColumns; ++column) {
-            table->cellAt(0, column).firstCursorPosition().insertText(
-                titles().at(column).toString());
-            for (int row = 0; row < rows; ++row) {
-                table->cellAt(row + 1, column)
-                    .firstCursorPosition()
-                    .insertText(texts.at(row).at(column));
-            }
-        }
+        fillTextTable(document, texts);
         QPdfWriter writer(folder.file());
         setUp(writer);
         document.print(&writer);
@@ -266,11 +326,11 @@ void pagesOurs(benchmark::State &state)
     const int rows = int(state.range(0));
     const TXTable table = reportTable(rows);
     const Folder folder;
+    const int onPage = rowsOnPage();
     for (auto step : state) {
+        forgetTexts(state);
         TXReportDocument report;
-        const int onPage = rowsOnPage(report.contentRect().height());
-        const int pages = (rows + onPage - 1) / onPage;
-        report.addPages(pages, [&](TXGraphicsScene *scene, int page) {
+        report.addPages(pagesFor(rows), [&](TXGraphicsScene *scene, int page) {
             const int first = 1 + page * onPage;
             const int last = std::min(first + onPage, rows + 1);
             scene->drawTable(TXTable::copyPartOfTable(table, first, last), QPointF(kFrame, kFrame),
@@ -284,27 +344,53 @@ void pagesOurs(benchmark::State &state)
     count(state, folder, rows);
 }
 
-/// A page with several shadows: a framed table, a title box, a line, an ellipse.
+/// Tables that differ in width by 2 points each, so many that their pages throw more shadows than
+/// are remembered.
+QList<TXTable> shadowTables()
+{
+    constexpr int kTables = 40;
+    constexpr int kRows = 30;
+    constexpr double kNarrowest = 50.0;
+    constexpr double kStep = 0.25;
+    const QList<QStringList> texts = reportTexts(kRows);
+    QList<TXTable> tables;
+    for (int i = 0; i < kTables; ++i) {
+        tables.append(tableWith(texts, kNarrowest + i * kStep, true));
+    }
+    return tables;
+}
+
+/// A page with several shadows: a framed table, a title box, a line, an ellipse. All change their
+/// size with the table's, so that no shadow of another page is of use.
 void drawShadowPage(TXGraphicsScene *scene, const TXTable &table)
 {
     const QPen pen(Qt::black, 0.5);
-    const QRectF box(10, 10, 500, 60);
+    const auto width = double(table.tableWidth());
+    const QRectF box(10, 10, width, 60);
     scene->drawRoundedRect(box, 8, 8, pen, QColor(230, 240, 255), true);
     scene->drawTextInRect("Comparison of two charts", box, TXAlignHorizontallyCentred,
                           TXAlignVerticallyCentred, reportFont(), Qt::black, QSizeF(2, 2));
     scene->drawTable(table, QPointF(10, 90), reportFont());
-    scene->drawLine(QPointF(10, 700), QPointF(500, 700), QPen(Qt::darkBlue, 2), true);
-    scene->drawEllipse(QRectF(400, 600, 80, 80), pen, Qt::yellow, true);
+    scene->drawLine(QPointF(10, 700), QPointF(10 + width, 700), QPen(Qt::darkBlue, 2), true);
+    scene->drawEllipse(QRectF(300, 580, width - 320, 80), pen, Qt::yellow, true);
+}
+
+/// The table of the next page.
+const TXTable &nextOf(const QList<TXTable> &tables, qsizetype *drawn)
+{
+    return tables.at((*drawn)++ % tables.size());
 }
 
 void shadowPageOurs(benchmark::State &state)
 {
-    const TXTable table = reportTable(30, true);
+    const QList<TXTable> tables = shadowTables();
     const Folder folder;
+    qsizetype drawn = 0;
     for (auto step : state) {
+        forgetTexts(state);
         TXReportDocument report;
         TXGraphicsScene scene;
-        drawShadowPage(&scene, table);
+        drawShadowPage(&scene, nextOf(tables, &drawn));
         report.addPage(&scene);
         if (!report.writePdf(folder.file())) {
             state.SkipWithError("the report was not written");
@@ -314,135 +400,119 @@ void shadowPageOurs(benchmark::State &state)
     state.counters["kB"] = double(folder.fileSize()) / 1000.0;
 }
 
+void useQtEffects(const QGraphicsScene &scene)
+{
+    const QList<QGraphicsItem *> items = scene.items();
+    for (QGraphicsItem *item : items) {
+        if (const auto *ours =
+                qobject_cast<const QGraphicsDropShadowEffect *>(item->graphicsEffect())) {
+            auto effect = std::make_unique<QGraphicsDropShadowEffect>();
+            effect->setColor(ours->color());
+            effect->setOffset(ours->offset());
+            effect->setBlurRadius(ours->blurRadius());
+            item->setGraphicsEffect(effect.release());
+        }
+    }
+}
+
 /// The same page with the effect that Qt brings.
 void shadowPageQtEffect(benchmark::State &state)
 {
-    const TXTable table = reportTable(30, true);
+    const QList<TXTable> tables = shadowTables();
     const Folder folder;
+    qsizetype drawn = 0;
     for (auto step : state) {
+        forgetTexts(state);
         TXGraphicsScene scene;
-        drawShadowPage(&scene, table);
-        for (QGraphicsItem *item : scene.items()) {
-            if (const auto *ours =
-                    qobject_cast<const QGraphicsDropShadowEffect *>(item->graphicsEffect())) {
-                auto effect = std::make_unique<QGraphicsDropShadowEffect>();
-                effect->setColor(ours->color());
-                effect->setOffset(ours->offset());
-                effect->setBlurRadius(ours->blurRadius());
-                item->setGraphicsEffect(effect.release());
-            }
-        }
+        drawShadowPage(&scene, nextOf(tables, &drawn));
+        useQtEffects(scene);
         QPdfWriter writer(folder.file());
         setUp(writer);
         QPainter painter(&writer);
         painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
-        const QRectF page(QPointF(0, 0), contentOf(pageLayout()).size());
+        const QRectF page(QPointF(0, 0), contentSize());
         scene.render(&painter, page, page);
     }
     state.counters["kB"] = double(folder.fileSize()) / 1000.0;
 }
 
-/// Looks at the heap after each page.
-class HeapWatcher : public ICompletionDelegate
+/// The peak of the work, all in one "row", when all has been loaded that is loaded once.
+template<class Work>
+void measurePeak(benchmark::State &state, const Work &work)
 {
-public:
-    explicit HeapWatcher(const AllocationMeter &meter)
-        : meter(meter)
-    { }
-
-    void onProgressionUpdated(QList<QString> /*path*/, float /*progress*/) override
-    {
-        most = std::max(most, meter.bytes());
-    }
-    void onMessageUpdated(QList<QString> /*path*/, const TXStringI18n & /*message*/) override { }
-    void onLogAppended(QList<QString> /*path*/, const TXError & /*error*/) override { }
-    void onMetadataEdited(QList<QString> /*path*/, QString /*key*/, QVariant /*value*/) override { }
-
-    [[nodiscard]] qint64 peak() const { return most; }
-
-private:
-    const AllocationMeter &meter;
-    qint64 most = 0;
-};
-
-/// What writing takes on top of the table, all in one "row", as the peer has one page only.
-void memoryOurs(benchmark::State &state)
-{
-    const TXTable table = reportTable(10'000);
-    const Folder folder;
     qint64 bytes = 0;
+    work();
     for (auto step : state) {
-        const AllocationMeter meter;
-        HeapWatcher watcher(meter);
-        TXReportDocument report;
-        report.addTable(table, reportFont());
-        if (!report.writePdf(folder.file(), &watcher)) {
-            state.SkipWithError("the report was not written");
+        TextSizeCache::forget();
+        const PeakMeter meter;
+        if (!meter.isValid()) {
+            state.SkipWithError("the peak of the memory can't be measured here");
             return;
         }
-        bytes = watcher.peak();
+        work();
+        bytes = meter.bytes();
     }
     reportBytesPerRow(state, bytes, 1);
 }
 
+/// What writing takes on top of the table, the memory of its texts included.
+void memoryOurs(benchmark::State &state)
+{
+    const int rows = int(state.range(0));
+    const TXTable table = reportTable(rows);
+    const Folder folder;
+    measurePeak(state, [&] { writeTable(state, table, pagesFor(rows), folder); });
+}
+
+/// One page alone of the same table, as items.
 void memoryPageOfItems(benchmark::State &state)
 {
-    const TXTable table = reportTable(50);
-    qint64 bytes = 0;
-    for (auto step : state) {
-        const AllocationMeter meter;
+    const TXTable table = reportTable(rowsOnPage());
+    const Folder folder;
+    measurePeak(state, [&] {
         TXGraphicsScene scene;
         scene.drawTable(table, QPointF(kFrame, kFrame), reportFont());
-        QImage image(600, 800, QImage::Format_RGB32);
-        QPainter painter(&image);
-        scene.render(&painter);
-        bytes = meter.bytes() - image.sizeInBytes();
-    }
-    reportBytesPerRow(state, bytes, 1);
+        QPdfWriter writer(folder.file());
+        setUp(writer);
+        QPainter painter(&writer);
+        painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
+        const QRectF page(QPointF(0, 0), contentSize());
+        scene.render(&painter, page, page);
+    });
+}
+
+void memoryBareLoop(benchmark::State &state)
+{
+    const QList<QStringList> texts = reportTexts(int(state.range(0)));
+    const Folder folder;
+    measurePeak(state, [&] { paintBare(folder.file(), texts); });
+}
+
+void reportSizes(benchmark::internal::Benchmark *family)
+{
+    family->RangeMultiplier(10)->Range(100, 10000)->Unit(benchmark::kMillisecond);
+}
+
+void memorySizes(benchmark::internal::Benchmark *family)
+{
+    family->RangeMultiplier(10)->Range(100, 10000)->Iterations(1);
 }
 
 } // namespace
 
-BENCHMARK(tableOurs)
-    ->Name("table/ours")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(tablePainter)
-    ->Name("painter/ours")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(tableBareLoop)
-    ->Name("table/bareLoop")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(tableTextDocument)
-    ->Name("table/textDocument")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(pagesOurs)
-    ->Name("pages/ours")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(tableBareLoop)
-    ->Name("pages/bareLoop")
-    ->Arg(100)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(tableOurs)->Name("table/ours")->Apply(reportSizes);
+BENCHMARK(tableBareLoop)->Name("table/bareLoop")->Apply(reportSizes);
+BENCHMARK(tableFromTextsOurs)->Name("tableFromTexts/ours")->Apply(reportSizes);
+BENCHMARK(tableFromTextsTextDocument)->Name("tableFromTexts/textDocument")->Apply(reportSizes);
+BENCHMARK(tablePainter)->Name("painter/ours")->Apply(reportSizes);
+BENCHMARK(tableBareLoop)->Name("painter/bareLoop")->Apply(reportSizes);
+BENCHMARK(pagesOurs)->Name("pages/ours")->Apply(reportSizes);
+BENCHMARK(tableBareLoop)->Name("pages/bareLoop")->Apply(reportSizes);
 BENCHMARK(shadowPageOurs)->Name("shadowPage/ours")->Unit(benchmark::kMillisecond);
 BENCHMARK(shadowPageQtEffect)
     ->Name("shadowPage/QGraphicsDropShadowEffect")
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1);
+    ->Unit(benchmark::kMillisecond);
 
-BENCHMARK(memoryOurs)->Name("memory/ours")->Iterations(1);
-BENCHMARK(memoryPageOfItems)->Name("memory/one page of items")->Iterations(1);
+BENCHMARK(memoryOurs)->Name("memory/ours")->Apply(memorySizes);
+BENCHMARK(memoryPageOfItems)->Name("memory/one page of items")->Apply(memorySizes);
+BENCHMARK(memoryBareLoop)->Name("memory/bareLoop")->Apply(memorySizes);
