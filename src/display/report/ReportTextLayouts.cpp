@@ -2,6 +2,7 @@
 
 #include "TextSizeCache.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -13,7 +14,7 @@ constexpr qsizetype kCharactersForEachText = 16;
 std::unique_ptr<ReportTextLayouts::Text> laidOut(QString text, const QFont &font)
 {
     auto made = std::make_unique<ReportTextLayouts::Text>();
-    made->size = TextSizeCache::textSize(text, font);
+    made->size = TextSizeCache::measuredTextSize(text, font);
     QTextLayout &layout = made->layout;
     layout.setFont(font);
     layout.setText(text.replace(QLatin1Char('\n'), QChar::LineSeparator));

@@ -192,6 +192,11 @@ QSizeF TextSizeCache::textSize(const QString &text, const QFont &font)
     return size;
 }
 
+QSizeF TextSizeCache::measuredTextSize(const QString &text, const QFont &font)
+{
+    return Memory::current().measuredFont(font).metrics.size(Qt::TextShowMnemonic, text);
+}
+
 QFont TextSizeCache::fontWithWeight(const QFont &font, QFont::Weight weight)
 {
     return Memory::current().weightedFont(font, weight);

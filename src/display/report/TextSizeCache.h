@@ -22,6 +22,9 @@ public:
     /// same when they are equal and equally large on their device.
     [[nodiscard]] static QSizeF textSize(const QString &text, const QFont &font);
 
+    /// The same for a text that the caller remembers itself: it is not remembered here too.
+    [[nodiscard]] static QSizeF measuredTextSize(const QString &text, const QFont &font);
+
     /// The font with its weight set. The same font (a copy, that is, not one made alike) gives the
     /// same copy again, which spares Qt the search for its glyphs.
     [[nodiscard]] static QFont fontWithWeight(const QFont &font, QFont::Weight weight);
