@@ -21,7 +21,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <memory>
 
 // What a report costs on its way to PDF, beside what else one would write for it: a loop that
@@ -37,6 +36,7 @@ constexpr int kColumns = 8;
 constexpr double kRowHeight = 15.0;
 constexpr double kColumnWidth = 64.0;
 constexpr double kFrame = 5.0;
+constexpr QPointF kTableCorner(kFrame, kFrame);
 /// That of our writer.
 constexpr int kDotsPerInch = 300;
 constexpr double kPointsPerInch = 72.0;
@@ -135,10 +135,22 @@ int pagesFor(int rows)
     return (rows + rowsOnPage() - 1) / rowsOnPage();
 }
 
+/// With the header, which is the first row.
+TXTable partOnPage(const TXTable &table, int page, int rowsOnPage)
+{
+    const int first = 1 + page * rowsOnPage;
+    return TXTable::copyPartOfTable(table, first, first + rowsOnPage);
+}
+
 void setUp(QPdfWriter &writer)
 {
     writer.setResolution(kDotsPerInch);
     writer.setPageLayout(pageLayout());
+}
+
+void usePoints(QPainter &painter)
+{
+    painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
 }
 
 /// Untimed: a report is written by a program that has measured none of its texts.
@@ -223,7 +235,7 @@ void paintBare(const QString &fileName, const QList<QStringList> &rows)
     QPdfWriter writer(fileName);
     setUp(writer);
     QPainter painter(&writer);
-    painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
+    usePoints(painter);
     const int onPage = rowsOnPage();
     const QFont plain = reportFont();
     QFont bold = plain;
@@ -264,20 +276,20 @@ void tablePainter(benchmark::State &state)
     const TXTable table = reportTable(rows);
     const Folder folder;
     const int onPage = rowsOnPage();
+    const int pages = pagesFor(rows);
     for (auto step : state) {
         forgetTexts(state);
         QPdfWriter writer(folder.file());
         setUp(writer);
         QPainter painter(&writer);
-        painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
+        usePoints(painter);
         ReportTablePainter tables;
-        for (int first = 1; first <= rows; first += onPage) {
-            if (first > 1) {
+        for (int page = 0; page < pages; ++page) {
+            if (page > 0) {
                 writer.newPage();
             }
-            const TXTable part =
-                TXTable::copyPartOfTable(table, first, std::min(first + onPage, rows + 1));
-            tables.paintTable(&painter, part, QPointF(kFrame, kFrame), reportFont());
+            tables.paintTable(&painter, partOnPage(table, page, onPage), kTableCorner,
+                              reportFont());
         }
     }
     count(state, folder, rows);
@@ -331,10 +343,7 @@ void pagesOurs(benchmark::State &state)
         forgetTexts(state);
         TXReportDocument report;
         report.addPages(pagesFor(rows), [&](TXGraphicsScene *scene, int page) {
-            const int first = 1 + page * onPage;
-            const int last = std::min(first + onPage, rows + 1);
-            scene->drawTable(TXTable::copyPartOfTable(table, first, last), QPointF(kFrame, kFrame),
-                             reportFont());
+            scene->drawTable(partOnPage(table, page, onPage), kTableCorner, reportFont());
         });
         if (!report.writePdf(folder.file())) {
             state.SkipWithError("the report was not written");
@@ -429,7 +438,7 @@ void shadowPageQtEffect(benchmark::State &state)
         QPdfWriter writer(folder.file());
         setUp(writer);
         QPainter painter(&writer);
-        painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
+        usePoints(painter);
         const QRectF page(QPointF(0, 0), contentSize());
         scene.render(&painter, page, page);
     }
@@ -471,11 +480,11 @@ void memoryPageOfItems(benchmark::State &state)
     const Folder folder;
     measurePeak(state, [&] {
         TXGraphicsScene scene;
-        scene.drawTable(table, QPointF(kFrame, kFrame), reportFont());
+        scene.drawTable(table, kTableCorner, reportFont());
         QPdfWriter writer(folder.file());
         setUp(writer);
         QPainter painter(&writer);
-        painter.scale(kDotsPerInch / kPointsPerInch, kDotsPerInch / kPointsPerInch);
+        usePoints(painter);
         const QRectF page(QPointF(0, 0), contentSize());
         scene.render(&painter, page, page);
     });
