@@ -177,6 +177,7 @@ private slots:
 
 private:
     [[nodiscard]] QList<QStringList> pagesOf(TXReportDocument &report) const;
+    [[nodiscard]] QStringList textsOf(TXReportDocument &report) const;
 };
 
 /// What stands on each page, in reading order. Empty, and the test has failed, on any error.
@@ -192,6 +193,17 @@ QList<QStringList> TestReportPdfPaging::pagesOf(TXReportDocument &report) const
         QTest::qFail(qPrintable(pdf.errorText()), __FILE__, __LINE__);
     }
     return result;
+}
+
+/// A text for each page, the words of which stand with a blank between them.
+QStringList TestReportPdfPaging::textsOf(TXReportDocument &report) const
+{
+    QStringList texts;
+    const QList<QStringList> pages = pagesOf(report);
+    for (const QStringList &words : pages) {
+        texts.append(words.join(u' '));
+    }
+    return texts;
 }
 
 void TestReportPdfPaging::eachPageTellsItsNumberAndTheTitle()
@@ -325,13 +337,9 @@ void TestReportPdfPaging::rowsAreCutAtTheLimit()
     removeHeaderAndFooter(report);
     report.addTable(numberedRows(heights), reportTestFont(8));
 
-    QStringList found;
-    const QList<QStringList> onPages = pagesOf(report);
-    for (const QStringList &words : onPages) {
-        found.append(words.join(u' '));
-    }
+    const QStringList found = textsOf(report);
     QCOMPARE(found.join(QStringLiteral(" | ")), pages);
-    QCOMPARE(report.pageCount(), onPages.size());
+    QCOMPARE(report.pageCount(), found.size());
 }
 
 void TestReportPdfPaging::rowHigherThanThePaperStillStandsAlone()
@@ -341,12 +349,7 @@ void TestReportPdfPaging::rowHigherThanThePaperStillStandsAlone()
     removeHeaderAndFooter(report);
     report.addTable(numberedRows({20, 1000, 20, 100000, 20}), reportTestFont(8));
 
-    QStringList found;
-    const QList<QStringList> onPages = pagesOf(report);
-    for (const QStringList &words : onPages) {
-        found.append(words.join(u' '));
-    }
-    QCOMPARE(found.join(QStringLiteral(" | ")),
+    QCOMPARE(textsOf(report).join(QStringLiteral(" | ")),
              QStringLiteral("r0 | r0 r1 | r0 r2 | r0 r3 | r0 r4"));
 }
 
@@ -367,12 +370,7 @@ void TestReportPdfPaging::contentsFollowEachOtherInOrder()
     });
     report.addPage(&cover);
 
-    QStringList found;
-    const QList<QStringList> onPages = pagesOf(report);
-    for (const QStringList &words : onPages) {
-        found.append(words.join(u' '));
-    }
-    QCOMPARE(found.join(QStringLiteral(" | ")),
+    QCOMPARE(textsOf(report).join(QStringLiteral(" | ")),
              QStringLiteral("cover | r0 r1 r2 r3 | r0 r4 r5 | drawn0 | drawn1 | drawn2 | cover"));
 }
 
