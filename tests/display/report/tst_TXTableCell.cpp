@@ -10,6 +10,25 @@ using SceneTestHelpers::exactly;
 using TableTest::describe;
 using TableTest::Settings;
 
+namespace {
+
+Settings settingsWithoutDefaults()
+{
+    return {{"CellElement", 42},
+            {"CellSize", QSizeF(30.25, -7)},
+            {"CellTextColor", QColor(1, 2, 3)},
+            {"CellTextHorizontalAlign", 0U},
+            {"CellTextVerticalAlign", 1U},
+            {"CellTextBold", true},
+            {"InsideCellColor", QColor(4, 5, 6)},
+            {"BorderCellColor", QColor(7, 8, 9, 10)},
+            {"BorderCellLineWidth", 1.25},
+            {"CellRealColumn", 3},
+            {"NbMergedCell", 4}};
+}
+
+} // namespace
+
 class TestTXTableCell : public TestBase
 {
     Q_OBJECT
@@ -43,18 +62,10 @@ void TestTXTableCell::emptyDictionaryGivesTheDefaults()
 
 void TestTXTableCell::everyKeyIsRead()
 {
-    const TXTableCell cell({{"CellElement", 42},
-                            {"CellSize", QSizeF(30.25, -7)},
-                            {"CellTextColor", QColor(1, 2, 3)},
-                            {"CellTextHorizontalAlign", 0U},
-                            {"CellTextVerticalAlign", 1U},
-                            {"CellTextBold", true},
-                            {"InsideCellColor", QColor(4, 5, 6)},
-                            {"BorderCellColor", QColor(7, 8, 9, 10)},
-                            {"BorderCellLineWidth", 1.25},
-                            {"CellRealColumn", 3},
-                            {"NbMergedCell", 4},
-                            {"SomethingElse", 5}});
+    Settings all = settingsWithoutDefaults();
+    all.insert("SomethingElse", 5);
+
+    const TXTableCell cell(all);
 
     QCOMPARE(cell.element, QVariant(42));
     QCOMPARE(cell.size, QSizeF(30.25, -7));
@@ -139,18 +150,11 @@ void TestTXTableCell::singlePrecisionBorderIsKept()
 
 void TestTXTableCell::copyHoldsTheSame()
 {
-    // Nothing is at its default.
-    const TXTableCell cell({{"CellElement", QStringLiteral("a")},
-                            {"CellSize", QSizeF(30.25, 0.1)},
-                            {"CellTextColor", QColor(1, 2, 3)},
-                            {"CellTextHorizontalAlign", 0U},
-                            {"CellTextVerticalAlign", 1U},
-                            {"CellTextBold", true},
-                            {"InsideCellColor", QColor(4, 5, 6)},
-                            {"BorderCellColor", QColor(7, 8, 9, 10)},
-                            {"BorderCellLineWidth", 0.35F},
-                            {"CellRealColumn", 3},
-                            {"NbMergedCell", 4}});
+    Settings all = settingsWithoutDefaults();
+    // Numbers that a copy by way of a text, or of the other precision, would not keep.
+    all.insert("CellSize", QSizeF(30.25, 0.1));
+    all.insert("BorderCellLineWidth", 0.35F);
+    const TXTableCell cell(all);
     TXTableCell assigned(Settings{});
     const TXTableCell &self = assigned;
 
