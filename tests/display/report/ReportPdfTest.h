@@ -22,7 +22,8 @@
 #include <algorithm>
 #include <memory>
 
-/// Base of the tests that write a report as PDF and read it with other people's tools.
+/// Base of the tests that write a report, or what stands on one, as PDF and read it with other
+/// people's tools.
 class ReportPdfTest : public TestBase
 {
 protected:

@@ -2,9 +2,9 @@
 
 #include "PdfFile.h"
 #include "PixelProbe.h"
+#include "ReportPdfTest.h"
 #include "ReportTestFont.h"
 #include "TXGraphicsScene.h"
-#include "TestBase.h"
 
 #include <QBuffer>
 #include <QColor>
@@ -225,7 +225,7 @@ void replaceByQtsEffect(QGraphicsItem *item)
 
 } // namespace
 
-class TestReportShadowEffect : public TestBase
+class TestReportShadowEffect : public ReportPdfTest
 {
     Q_OBJECT
 
@@ -271,10 +271,8 @@ void TestReportShadowEffect::onPaperItLooksAsOnTheScreen()
     QFETCH(QString, what);
     TXGraphicsScene scene;
     drawScene(scene, what);
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("shadow.pdf");
-    writePdf({&scene}, fileName);
-    const QImage paper = pixelsOfPdf(fileName);
+    writePdf({&scene}, fileName());
+    const QImage paper = pixelsOfPdf(fileName());
     const QImage screen = onPixels(scene);
     QCOMPARE(paper.size(), screen.size());
     const Difference difference = differenceOf(paper, screen);
@@ -292,18 +290,16 @@ void TestReportShadowEffect::onPaperOnlyTheShadowIsAPicture()
     QFETCH(QString, what);
     TXGraphicsScene scene;
     drawScene(scene, what);
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("shadow.pdf");
-    writePdf({&scene}, fileName);
+    writePdf({&scene}, fileName());
     // Each picture comes with a mask of its size.
-    PdfFile pdf(fileName);
+    PdfFile pdf(fileName());
     const QList<PdfFile::Picture> pictures = pdf.pictures();
     QCOMPARE(pdf.errorText(), QString());
     QCOMPARE(pictures.size(), what == "nested" ? 4 : 2);
     for (const PdfFile::Picture &picture : pictures) {
         QVERIFY2(pixelCount(picture) <= 100'000, qPrintable(QString::number(pixelCount(picture))));
     }
-    const qint64 bytes = QFile(fileName).size();
+    const qint64 bytes = QFile(fileName()).size();
     QVERIFY2(bytes < 30'000, qPrintable(QString::number(bytes)));
 }
 
@@ -311,14 +307,13 @@ void TestReportShadowEffect::doesNotDependOnTheResolutionOfThePaper()
 {
     TXGraphicsScene scene;
     scene.drawRect(QRectF(80, 70, 120, 80), Qt::NoPen, Qt::yellow, true);
-    const QTemporaryDir folder;
-    writePdf({&scene}, folder.filePath("coarse.pdf"), 72);
-    writePdf({&scene}, folder.filePath("fine.pdf"), 1200);
-    const Difference difference = differenceOf(pixelsOfPdf(folder.filePath("coarse.pdf")),
-                                               pixelsOfPdf(folder.filePath("fine.pdf")));
+    writePdf({&scene}, fileName("coarse.pdf"), 72);
+    writePdf({&scene}, fileName("fine.pdf"), 1200);
+    const Difference difference =
+        differenceOf(pixelsOfPdf(fileName("coarse.pdf")), pixelsOfPdf(fileName("fine.pdf")));
     QVERIFY2(difference.mean < kMeanOfPictureGrid, qPrintable(QString::number(difference.mean)));
-    const qint64 coarse = QFile(folder.filePath("coarse.pdf")).size();
-    const qint64 fine = QFile(folder.filePath("fine.pdf")).size();
+    const qint64 coarse = QFile(fileName("coarse.pdf")).size();
+    const qint64 fine = QFile(fileName("fine.pdf")).size();
     QVERIFY2(fine < coarse + 1000, qPrintable(QString::number(fine - coarse)));
 }
 
@@ -326,10 +321,8 @@ void TestReportShadowEffect::shadowedTextStaysTextWithItsFont()
 {
     TXGraphicsScene scene;
     drawScene(scene, "text");
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("shadow.pdf");
-    writePdf({&scene}, fileName);
-    PdfFile pdf(fileName);
+    writePdf({&scene}, fileName());
+    PdfFile pdf(fileName());
     QCOMPARE(pdf.pageTexts().value(0).trimmed(), QString("Shadowed words"));
     const QList<PdfFile::Font> fonts = pdf.fonts();
     QCOMPARE(fonts.size(), 1);
@@ -345,10 +338,8 @@ void TestReportShadowEffect::equalItemsShareOnePicture()
     second.drawRect(QRectF(150.3, 120.8, 100, 60), QPen(Qt::black), Qt::yellow, true);
     TXGraphicsScene other;
     other.drawRect(QRectF(50, 50, 110, 60), QPen(Qt::black), Qt::yellow, true);
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("shadow.pdf");
-    writePdf({&first, &second, &other}, fileName);
-    const QList<PdfFile::Picture> pictures = PdfFile(fileName).pictures();
+    writePdf({&first, &second, &other}, fileName());
+    const QList<PdfFile::Picture> pictures = PdfFile(fileName()).pictures();
     QCOMPARE(pictures.size(), 6);
     QCOMPARE(pictures.at(2).object, pictures.at(0).object);
     QVERIFY(pictures.at(4).object != pictures.at(0).object);
@@ -364,14 +355,12 @@ void TestReportShadowEffect::followsTheEffectsSettings()
     effect->setColor(QColor(200, 0, 0, 255));
     effect->setOffset(30, 20);
     effect->setBlurRadius(10);
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("shadow.pdf");
-    writePdf({&scene}, fileName);
-    const Difference difference = differenceOf(pixelsOfPdf(fileName), onPixels(scene));
+    writePdf({&scene}, fileName());
+    const Difference difference = differenceOf(pixelsOfPdf(fileName()), onPixels(scene));
     QVERIFY2(difference.mean < kMeanOfStrongShadow, qPrintable(QString::number(difference.mean)));
     effect->setEnabled(false);
-    writePdf({&scene}, fileName);
-    PdfFile pdf(fileName);
+    writePdf({&scene}, fileName());
+    PdfFile pdf(fileName());
     QCOMPARE(pdf.pictures().size(), 0);
     QCOMPARE(pdf.errorText(), QString());
 }
@@ -397,12 +386,10 @@ void TestReportShadowEffect::senselessItemsCostNothing()
     QFETCH(QRectF, rect);
     TXGraphicsScene scene;
     scene.drawRect(rect, QPen(Qt::black), Qt::yellow, true);
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("shadow.pdf");
-    writePdf({&scene}, fileName);
-    const qint64 bytes = QFile(fileName).size();
+    writePdf({&scene}, fileName());
+    const qint64 bytes = QFile(fileName()).size();
     QVERIFY2(bytes > 0 && bytes < 30'000, qPrintable(QString::number(bytes)));
-    PdfFile pdf(fileName);
+    PdfFile pdf(fileName());
     const QList<PdfFile::Picture> pictures = pdf.pictures();
     // Qt closes the outline of nothing, which readers remark on and pass over.
     const QString error = pdf.errorText();
@@ -447,15 +434,13 @@ void TestReportShadowEffect::recordingKeepsTheItemAsItIs()
     render(scene, &recorder);
     recorder.end();
 
-    const QTemporaryDir folder;
-    const QString fileName = folder.filePath("played.pdf");
     {
-        QPdfWriter writer(fileName);
+        QPdfWriter writer(fileName());
         setUpPaper(writer, 72);
         QPainter painter(&writer);
         painter.drawPicture(0, 0, recording);
     }
-    PdfFile pdf(fileName);
+    PdfFile pdf(fileName());
     QCOMPARE(pdf.pageTexts().value(0).trimmed(), QString("Shadowed words"));
     QCOMPARE(pdf.pictures().size(), 2);
 }
