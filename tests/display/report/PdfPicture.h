@@ -1,11 +1,13 @@
 #pragma once
 
+#include "PdfFile.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QProcess>
 #include <QRectF>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <functional>
 
@@ -13,17 +15,6 @@
 namespace PdfPicture {
 
 const QRectF kPaper(0, 0, 420, 300);
-
-/// All that the program says; what went wrong when it could not be run to its end.
-inline QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
-        return "failed: " + process.errorString().toUtf8();
-    }
-    return process.readAllStandardOutput() + process.readAllStandardError();
-}
 
 /// Writes a page of kPaper, a unit of the painter being a point.
 inline void write(const QString &fileName, const std::function<void(QPainter *)> &paint)
@@ -41,14 +32,19 @@ inline void write(const QString &fileName, const std::function<void(QPainter *)>
     paint(&painter);
 }
 
-/// The page in pixels; null if it cannot be shown.
+/// The page in pixels. Null, and the test has failed, where it cannot be shown.
 inline QImage of(const std::function<void(QPainter *)> &paint)
 {
+    constexpr double kShownDotsPerInch = 150.0;
     const QTemporaryDir folder;
     const QString fileName = folder.filePath("page.pdf");
     write(fileName, paint);
-    const QByteArray png = outputOf("pdftoppm", {"-r", "150", "-png", fileName});
-    return QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGB32);
+    PdfFile pdf(fileName);
+    const QImage image = pdf.rendered(1, kShownDotsPerInch);
+    if (!pdf.errorText().isEmpty()) {
+        QTest::qFail(qPrintable(pdf.errorText()), __FILE__, __LINE__);
+    }
+    return image.convertToFormat(QImage::Format_RGB32);
 }
 
 } // namespace PdfPicture

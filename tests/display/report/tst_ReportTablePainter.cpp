@@ -85,7 +85,7 @@ QString differenceOf(const TXTable &table, const Look &look)
 
 } // namespace
 
-class tst_ReportTablePainter : public TestBase
+class TestReportTablePainter : public TestBase
 {
     Q_OBJECT
 
@@ -99,7 +99,7 @@ private slots:
     void paintsTextsThatAreTooLongToBeRemembered();
 };
 
-void tst_ReportTablePainter::paintsThePixelsOfTheRenderedScene()
+void TestReportTablePainter::paintsThePixelsOfTheRenderedScene()
 {
     QFETCH(TXTable, table);
     for (const Look &look : allLooks()) {
@@ -108,7 +108,7 @@ void tst_ReportTablePainter::paintsThePixelsOfTheRenderedScene()
     }
 }
 
-void tst_ReportTablePainter::paintsThePixelsOfTheRenderedSceneForRandomTables()
+void TestReportTablePainter::paintsThePixelsOfTheRenderedSceneForRandomTables()
 {
     const QList<Look> looks = allLooks();
     for (quint32 seed = 1; seed <= 200; ++seed) {
@@ -117,7 +117,7 @@ void tst_ReportTablePainter::paintsThePixelsOfTheRenderedSceneForRandomTables()
     }
 }
 
-void tst_ReportTablePainter::paintsEachTableInItsOwnFont()
+void TestReportTablePainter::paintsEachTableInItsOwnFont()
 {
     const TXTable table = tableOf({{cell("text"), cell("bold", {{"CellTextBold", true}})}});
     QFont large = reportFont();
@@ -141,14 +141,14 @@ void tst_ReportTablePainter::paintsEachTableInItsOwnFont()
     }
 }
 
-void tst_ReportTablePainter::leavesThePaintersState_data()
+void TestReportTablePainter::leavesThePaintersState_data()
 {
     QTest::addColumn<bool>("isPaper");
     QTest::newRow("pixels") << false;
     QTest::newRow("paper") << true;
 }
 
-void tst_ReportTablePainter::leavesThePaintersState()
+void TestReportTablePainter::leavesThePaintersState()
 {
     QFETCH(bool, isPaper);
     QImage image(100, 100, QImage::Format_RGB32);
@@ -169,7 +169,7 @@ void tst_ReportTablePainter::leavesThePaintersState()
     QCOMPARE(painter.brush(), QBrush(Qt::cyan));
 }
 
-void tst_ReportTablePainter::paintsTextsThatAreTooLongToBeRemembered()
+void TestReportTablePainter::paintsTextsThatAreTooLongToBeRemembered()
 {
     const QString longText = QString("long ").repeated(20'000);
     const QString difference =
@@ -180,7 +180,7 @@ void tst_ReportTablePainter::paintsTextsThatAreTooLongToBeRemembered()
 
 int main(int argc, char **argv)
 {
-    return runTest<tst_ReportTablePainter>(argc, argv);
+    return runTest<TestReportTablePainter>(argc, argv);
 }
 
 #include "tst_ReportTablePainter.moc"
