@@ -7,13 +7,14 @@
 #include <QGraphicsRectItem>
 #include <QGraphicsSimpleTextItem>
 #include <QPainter>
+#include <QStyleOptionGraphicsItem>
 
 #include <algorithm>
 #include <typeinfo>
 
 namespace {
 
-constexpr qint64 kMostKeptBytes = 64 * 1024 * 1024;
+constexpr qint64 kMostKeptBytes = qint64(64) * 1024 * 1024;
 
 qint64 bytesOf(const ReportPageScene::Pictures &pictures)
 {

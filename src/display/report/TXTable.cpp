@@ -149,6 +149,16 @@ bool hasEvenShares(const QList<TXTableCell> &cells, const ColumnWidths &columnWi
     });
 }
 
+/// A row that fits already stays shared with the copies of the table.
+void shareEvenly(QList<QList<TXTableCell>> &rows, qsizetype row, const ColumnWidths &columnWidths)
+{
+    if (!hasEvenShares(rows.at(row), columnWidths)) {
+        for (TXTableCell &cell : rows[row]) {
+            cell.size.setWidth(evenShare(columnWidths, cell));
+        }
+    }
+}
+
 } // namespace
 
 TXTable::TXTable(int nbColumns, bool hasShadow)
@@ -248,13 +258,7 @@ void TXTable::optimizeTableSize(const QFont &font)
     }
     const ColumnWidths widths = widestColumns(tableCells, font);
     for (qsizetype row = 0; row < tableCells.size(); ++row) {
-        // A row that fits already stays shared with the copies of the table.
-        if (hasEvenShares(tableCells.at(row), widths)) {
-            continue;
-        }
-        for (TXTableCell &cell : tableCells[row]) {
-            cell.size.setWidth(evenShare(widths, cell));
-        }
+        shareEvenly(tableCells, row, widths);
     }
     for (const TXTableCell &cell : tableCells.constFirst()) {
         setColumnWidth(widths[cell.realColumn], cell.realColumn);
@@ -321,7 +325,7 @@ void TXTable::drawBorderTable(TXGraphicsScene *scene, const QPointF &topLeft, fl
 
 QPen TXTable::framePen()
 {
-    return QPen(Qt::black, kFramePenWidth, Qt::SolidLine);
+    return {Qt::black, kFramePenWidth, Qt::SolidLine};
 }
 
 QRectF TXTable::frameRect(const QPointF &topLeft, float margin) const
