@@ -10,7 +10,8 @@ namespace {
 
 /// What the kernel counts late, and pages that others of the process touch meanwhile.
 constexpr qint64 kNoiseBytes = qint64(1024) * 1024;
-constexpr qsizetype kBigBytes = qsizetype(16) * 1024 * 1024;
+/// So much that the heap never keeps it: it is given back at once when it is freed.
+constexpr qsizetype kBigBytes = qsizetype(40) * 1024 * 1024;
 constexpr int kSmallBlocks = 16384;
 constexpr int kSmallBytes = 1024;
 
