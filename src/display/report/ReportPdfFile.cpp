@@ -6,7 +6,7 @@
 #include <algorithm>
 
 namespace {
-constexpr qsizetype kBufferBytes = 64 * 1024;
+constexpr qsizetype kBufferBytes = qsizetype(64) * 1024;
 }
 
 ReportPdfFile::ReportPdfFile(const QString &fileName)
