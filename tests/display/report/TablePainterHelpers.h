@@ -111,7 +111,7 @@ inline QVariant randomElement(QRandomGenerator &random)
     case 1:
         return picture(random.bounded(1, 40), random.bounded(1, 40));
     case 2:
-        return QVariant();
+        return {};
     default:
         return kTexts.at(int(random.bounded(kTexts.size())));
     }
