@@ -9,6 +9,7 @@
 #include "ReportSharedParts.h"
 #include "TXStringI18n.h"
 #include "TXTable.h"
+#include "TextSizeCache.h"
 
 #include <QFont>
 #include <QPageSize>
@@ -48,12 +49,23 @@ bool checkForContent(ReportPages &pages, ReportRun &run)
 class TXReportDocument::Private
 {
 public:
+    [[nodiscard]] ReportPages pagesAsTheyAre() const;
     [[nodiscard]] PdfDocumentInfo documentInfo() const;
 
     ReportPages pages;
     QString author;
     ReportRunState state;
 };
+
+/// The delegate may change the report, and this thread need not be that of the host's fonts: a
+/// writing neither changes with the report nor shares its font.
+ReportPages TXReportDocument::Private::pagesAsTheyAre() const
+{
+    ReportPages copy = pages;
+    QFont &font = copy.changeFrame().font;
+    font = TextSizeCache::separateCopy(font);
+    return copy;
+}
 
 PdfDocumentInfo TXReportDocument::Private::documentInfo() const
 {
@@ -178,8 +190,7 @@ void TXReportDocument::paintPage(int page, QPainter *painter) const
 bool TXReportDocument::writePdf(const QString &fileName, ICompletionDelegate *delegate,
                                 TXError *error)
 {
-    // The delegate may change the report; this writing does not change with it.
-    ReportPages pages = d->pages;
+    ReportPages pages = d->pagesAsTheyAre();
     const PdfDocumentInfo info = d->documentInfo();
     ReportRun run(&d->state, pages.frame().title, delegate, error);
     return run.isGoingOn() && checkForContent(pages, run)
@@ -188,7 +199,7 @@ bool TXReportDocument::writePdf(const QString &fileName, ICompletionDelegate *de
 
 bool TXReportDocument::print(QPrinter *printer, ICompletionDelegate *delegate, TXError *error)
 {
-    ReportPages pages = d->pages;
+    ReportPages pages = d->pagesAsTheyAre();
     ReportRun run(&d->state, pages.frame().title, delegate, error);
     return run.isGoingOn() && checkForContent(pages, run)
         && ReportPrinting::print(pages, printer, run);

@@ -12,23 +12,12 @@
 
 namespace {
 
-/// A copy that shares nothing with the font.
-///
-/// Fonts keep in their shared part what the thread that used them last found out about glyphs, and
-/// Qt guards it by no lock: a font that other threads may use must not be measured with.
-QFont separateCopy(const QFont &font)
-{
-    QFont copy = font;
-    copy.setUnderline(!font.underline());
-    copy.setUnderline(font.underline());
-    return copy;
-}
-
 /// The size on the font's device, by which equal fonts of different devices differ.
 double pixelSizeOnDevice(const QFont &font)
 {
     const bool isSetInPixels = font.pixelSize() >= 0;
-    return isSetInPixels ? font.pixelSize() : QRawFont::fromFont(separateCopy(font)).pixelSize();
+    return isSetInPixels ? font.pixelSize()
+                         : QRawFont::fromFont(TextSizeCache::separateCopy(font)).pixelSize();
 }
 
 /// A font with the texts that were measured in it.
@@ -36,7 +25,7 @@ struct MeasuredFont
 {
     explicit MeasuredFont(const QFont &font)
         : latest(font)
-        , metrics(separateCopy(font))
+        , metrics(TextSizeCache::separateCopy(font))
         , pixelSize(pixelSizeOnDevice(font))
     { }
 
@@ -171,7 +160,7 @@ const QFont &Memory::weightedFont(const QFont &font, QFont::Weight weight)
     if (weightedFonts.size() == TextSizeCache::kMaximumFonts) {
         weightedFonts.clear();
     }
-    QFont weighted = font;
+    QFont weighted = TextSizeCache::separateCopy(font);
     weighted.setWeight(weight);
     weightedFonts.push_back({font, weight, weighted});
     return weightedFonts.back().weighted;
@@ -195,6 +184,15 @@ QSizeF TextSizeCache::textSize(const QString &text, const QFont &font)
 QSizeF TextSizeCache::measuredTextSize(const QString &text, const QFont &font)
 {
     return Memory::current().measuredFont(font).metrics.size(Qt::TextShowMnemonic, text);
+}
+
+QFont TextSizeCache::separateCopy(const QFont &font)
+{
+    QFont copy = font;
+    copy.setUnderline(!font.underline());
+    copy.setUnderline(font.underline());
+    copy.setResolveMask(font.resolveMask());
+    return copy;
 }
 
 QFont TextSizeCache::fontWithWeight(const QFont &font, QFont::Weight weight)

@@ -25,8 +25,15 @@ public:
     /// The same for a text that the caller remembers itself: it is not remembered here too.
     [[nodiscard]] static QSizeF measuredTextSize(const QString &text, const QFont &font);
 
-    /// The font with its weight set. The same font (a copy, that is, not one made alike) gives the
-    /// same copy again, which spares Qt the search for its glyphs.
+    /// A copy that shares nothing with the font.
+    ///
+    /// Fonts keep in their shared part what the thread that used them last found out about glyphs,
+    /// and Qt guards it by no lock: a font that other threads may use must not be used itself.
+    [[nodiscard]] static QFont separateCopy(const QFont &font);
+
+    /// The font with its weight set; it shares nothing with the font given. The same font (a copy,
+    /// that is, not one made alike) gives the same copy again, which spares Qt the search for its
+    /// glyphs.
     [[nodiscard]] static QFont fontWithWeight(const QFont &font, QFont::Weight weight);
 
     /// The number of texts that this thread remembers, over all fonts.

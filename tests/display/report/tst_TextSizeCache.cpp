@@ -99,6 +99,7 @@ private slots:
     void weightIsSet();
     void sameFontGivesTheSameWeightedCopy();
     void weightedCopyKeepsTheMaskOfItsSource();
+    void weightedCopySharesNothingWithItsSource();
     void manyWeightedFontsAreRight();
 
 protected:
@@ -368,7 +369,8 @@ void TestTextSizeCache::weightIsSet()
 void TestTextSizeCache::sameFontGivesTheSameWeightedCopy()
 {
     const QFont source = reportTestFont(10);
-    const QFont copy = source;
+    QFont copy;
+    copy = source;
 
     const QFont bold = TextSizeCache::fontWithWeight(source, QFont::Bold);
     const QFont regular = TextSizeCache::fontWithWeight(source, QFont::Normal);
@@ -376,6 +378,18 @@ void TestTextSizeCache::sameFontGivesTheSameWeightedCopy()
     QVERIFY(TextSizeCache::fontWithWeight(copy, QFont::Bold).isCopyOf(bold));
     QVERIFY(TextSizeCache::fontWithWeight(copy, QFont::Normal).isCopyOf(regular));
     QVERIFY(!bold.isCopyOf(regular));
+}
+
+void TestTextSizeCache::weightedCopySharesNothingWithItsSource()
+{
+    QFont source = reportTestFont(10);
+    source.setWeight(QFont::Normal);
+
+    // Setting the weight that it has already would leave a copy shared.
+    const QFont weighted = TextSizeCache::fontWithWeight(source, QFont::Normal);
+
+    QCOMPARE(weighted, source);
+    QVERIFY(!weighted.isCopyOf(source));
 }
 
 void TestTextSizeCache::weightedCopyKeepsTheMaskOfItsSource()
