@@ -158,12 +158,14 @@ void TestTXTableCell::copyHoldsTheSame()
     TXTableCell assigned(Settings{});
     const TXTableCell &self = assigned;
 
-    const TXTableCell copy(cell);
+    TXTableCell copy(cell);
     assigned = cell;
     assigned = self;
 
     QCOMPARE(describe(copy), describe(cell));
     QCOMPARE(describe(assigned), describe(cell));
+    copy.nbMergedCell += 1;
+    QVERIFY(describe(copy) != describe(cell));
 }
 
 int main(int argc, char **argv)

@@ -5,7 +5,6 @@
 #include "TestBase.h"
 #include "TextSizeCache.h"
 
-using TableTest::cellAt;
 using TableTest::Row;
 using TableTest::Rows;
 using TableTest::settings;

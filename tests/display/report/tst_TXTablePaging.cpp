@@ -5,7 +5,6 @@
 
 #include <limits>
 
-using TableTest::cell;
 using TableTest::describe;
 using TableTest::firstTexts;
 using TableTest::hasShadow;
