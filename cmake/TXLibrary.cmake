@@ -26,7 +26,7 @@ function(tx_add_library name)
     EXPORT_FILE_NAME ${export_header}
     CUSTOM_CONTENT_FROM_VARIABLE private_export)
   target_sources(${name} PUBLIC
-    FILE_SET public_headers TYPE HEADERS
+    FILE_SET export_header TYPE HEADERS
     BASE_DIRS ${CMAKE_CURRENT_BINARY_DIR}/export
     FILES ${export_header})
 endfunction()
@@ -52,9 +52,11 @@ function(tx_add_library_folder library)
         PROPERTIES OBJECT_DEPENDS ${PROJECT_SOURCE_DIR}/src/forms/${unit}.ui)
     endif()
   endforeach()
+  # A set of its own, since a set may not hold a folder and a folder inside that one.
+  cmake_path(GET here FILENAME folder)
   foreach(unit IN LISTS arg_PUBLIC)
     target_sources(${library} PUBLIC
-      FILE_SET public_headers TYPE HEADERS BASE_DIRS ${here} FILES ${here}/${unit}.h)
+      FILE_SET public_headers_${folder} TYPE HEADERS BASE_DIRS ${here} FILES ${here}/${unit}.h)
   endforeach()
   foreach(unit IN LISTS arg_PRIVATE)
     if(EXISTS ${here}/${unit}.h)
