@@ -1,6 +1,6 @@
 #include "EMailSenderWidget.h"
 
-#include "PanelMessageBox.h"
+#include "PlainMessageBox.h"
 #include "StoredSecret.h"
 #include "TXMailSender.h"
 #include "TestMailText.h"
@@ -175,7 +175,7 @@ bool EMailSenderWidget::checkFieldBeforeAccept()
     QString error;
     const bool isAcceptable = checkConfigurationField(error);
     if (!isAcceptable) {
-        PanelMessageBox::warning(this, tr("Uncompleted Mail Configuration"), error);
+        PlainMessageBox::warning(this, tr("Uncompleted Mail Configuration"), error);
     }
     return isAcceptable;
 }
@@ -287,7 +287,7 @@ void EMailSenderWidget::testEMailSenderConfiguration()
 void EMailSenderWidget::testEMailSucceed()
 {
     const QPointer<QObject> answered = sender();
-    PanelMessageBox::information(this, tr("Mail Sending Result"),
+    PlainMessageBox::information(this, tr("Mail Sending Result"),
                                  tr("Mail has been sent successfully."));
     freeLater(answered);
 }
@@ -295,7 +295,7 @@ void EMailSenderWidget::testEMailSucceed()
 void EMailSenderWidget::testEMailFailed(const QString &message)
 {
     const QPointer<QObject> answered = sender();
-    PanelMessageBox::warning(this, tr("Mail Sending Result"), message);
+    PlainMessageBox::warning(this, tr("Mail Sending Result"), message);
     freeLater(answered);
 }
 

@@ -1,4 +1,4 @@
-#include "PanelMessageBox.h"
+#include "PlainMessageBox.h"
 
 #include "DialogDriver.h"
 #include "TestBase.h"
@@ -9,7 +9,7 @@
 
 using Show = void (*)(QWidget *, const QString &, const QString &);
 
-class TestPanelMessageBox : public TestBase
+class TestPlainMessageBox : public TestBase
 {
     Q_OBJECT
 
@@ -22,15 +22,15 @@ private slots:
     void boxNeedsNoParent();
 };
 
-void TestPanelMessageBox::boxIsLikeQtsOwn_data()
+void TestPlainMessageBox::boxIsLikeQtsOwn_data()
 {
     QTest::addColumn<Show>("show");
     QTest::addColumn<QMessageBox::Icon>("icon");
-    QTest::addRow("information") << &PanelMessageBox::information << QMessageBox::Information;
-    QTest::addRow("warning") << &PanelMessageBox::warning << QMessageBox::Warning;
+    QTest::addRow("information") << &PlainMessageBox::information << QMessageBox::Information;
+    QTest::addRow("warning") << &PlainMessageBox::warning << QMessageBox::Warning;
 }
 
-void TestPanelMessageBox::boxIsLikeQtsOwn()
+void TestPlainMessageBox::boxIsLikeQtsOwn()
 {
     QFETCH(Show, show);
     QFETCH(QMessageBox::Icon, icon);
@@ -49,7 +49,7 @@ void TestPanelMessageBox::boxIsLikeQtsOwn()
     show(&parent, QStringLiteral("Title"), QStringLiteral("Text"));
 }
 
-void TestPanelMessageBox::markupIsShownAsItIs()
+void TestPlainMessageBox::markupIsShownAsItIs()
 {
     const QString text = QStringLiteral("<b>554</b> <img src=\"file:///etc/passwd\"> & more");
     DialogDriver driver;
@@ -59,21 +59,21 @@ void TestPanelMessageBox::markupIsShownAsItIs()
         DialogDriver::click(box.button(QMessageBox::Ok));
     });
 
-    PanelMessageBox::warning(nullptr, QString(), text);
+    PlainMessageBox::warning(nullptr, QString(), text);
 }
 
-void TestPanelMessageBox::boxIsGoneAfterTheCall()
+void TestPlainMessageBox::boxIsGoneAfterTheCall()
 {
     QWidget parent;
     DialogDriver driver;
     driver.expectMessageBox([](QMessageBox &box) { box.reject(); });
 
-    PanelMessageBox::information(&parent, QString(), QStringLiteral("Text"));
+    PlainMessageBox::information(&parent, QString(), QStringLiteral("Text"));
 
     QVERIFY(parent.findChildren<QDialog *>().isEmpty());
 }
 
-void TestPanelMessageBox::parentMayDieBeforeItsBox()
+void TestPlainMessageBox::parentMayDieBeforeItsBox()
 {
     auto parent = std::make_unique<QWidget>();
     QPointer<QMessageBox> opened;
@@ -83,23 +83,23 @@ void TestPanelMessageBox::parentMayDieBeforeItsBox()
         parent.reset();
     });
 
-    PanelMessageBox::information(parent.get(), QString(), QStringLiteral("Text"));
+    PlainMessageBox::information(parent.get(), QString(), QStringLiteral("Text"));
 
     QVERIFY(!parent);
     QVERIFY(!opened);
 }
 
-void TestPanelMessageBox::boxNeedsNoParent()
+void TestPlainMessageBox::boxNeedsNoParent()
 {
     DialogDriver driver;
     driver.expectMessageBox([](QMessageBox &box) { box.reject(); });
 
-    PanelMessageBox::information(nullptr, QString(), QStringLiteral("Text"));
+    PlainMessageBox::information(nullptr, QString(), QStringLiteral("Text"));
 }
 
 int main(int argc, char **argv)
 {
-    return runTest<TestPanelMessageBox>(argc, argv);
+    return runTest<TestPlainMessageBox>(argc, argv);
 }
 
-#include "tst_PanelMessageBox.moc"
+#include "tst_PlainMessageBox.moc"

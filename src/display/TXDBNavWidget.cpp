@@ -1,0 +1,135 @@
+#include "TXDBNavWidget.h"
+
+#include "TXSqlTableModel.h"
+#include "ui_TXDBNavWidget.h"
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+/// The rows of the table that the filter lets through; 0 when the database refuses. Costs what the
+/// database needs to count them.
+quint64 countRows(const QString &table, const QString &filter, const QSqlDatabase &database)
+{
+    QString statement = QStringLiteral("SELECT COUNT(*) FROM ") + table;
+    if (!filter.isEmpty()) {
+        statement += QStringLiteral(" WHERE ") + filter;
+    }
+    QSqlQuery query(database);
+    // A prepared statement is one statement: what stands behind a semicolon is refused.
+    const bool isCounted = query.prepare(statement) && query.exec() && query.next();
+    return isCounted ? query.value(0).toULongLong() : 0;
+}
+
+int spinBoxNumber(qulonglong number)
+{
+    return static_cast<int>(std::min<qulonglong>(number, std::numeric_limits<int>::max()));
+}
+
+} // namespace
+
+TXDBNavWidget::TXDBNavWidget(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::TXDBNavWidget>())
+{
+    ui->setupUi(this);
+    connect(ui->gotoSpinBox, SIGNAL(valueChanged(int)), this, SLOT(update()));
+}
+
+TXDBNavWidget::~TXDBNavWidget() = default;
+
+TXSqlTableModel *TXDBNavWidget::model() const
+{
+    return currentModel;
+}
+
+void TXDBNavWidget::setModel(TXSqlTableModel *model)
+{
+    if (currentModel != nullptr) {
+        currentModel->disconnect(SIGNAL(rowsInserted(QModelIndex, int, int)), this,
+                                 SLOT(refresh()));
+        currentModel->disconnect(SIGNAL(rowsRemoved(QModelIndex, int, int)), this, SLOT(refresh()));
+        currentModel->disconnect(SIGNAL(filterChanged(QString)), this, SLOT(refresh()));
+    }
+    currentModel = model;
+    if (model == nullptr) {
+        return;
+    }
+    connect(model, SIGNAL(rowsInserted(QModelIndex, int, int)), this, SLOT(refresh()));
+    connect(model, SIGNAL(rowsRemoved(QModelIndex, int, int)), this, SLOT(refresh()));
+    connect(model, SIGNAL(filterChanged(QString)), this, SLOT(refresh()));
+    refresh();
+}
+
+qulonglong TXDBNavWidget::offset() const
+{
+    return currentModel == nullptr ? 0 : currentModel->offset;
+}
+
+void TXDBNavWidget::setOffset(qulonglong offset)
+{
+    if (currentModel != nullptr) {
+        currentModel->offset = offset;
+    }
+}
+
+qulonglong TXDBNavWidget::limit() const
+{
+    return currentModel == nullptr ? 0 : currentModel->limit;
+}
+
+void TXDBNavWidget::setLimit(qulonglong limit)
+{
+    if (currentModel != nullptr) {
+        currentModel->limit = limit;
+    }
+}
+
+bool TXDBNavWidget::select()
+{
+    return currentModel != nullptr && currentModel->select();
+}
+
+void TXDBNavWidget::refresh()
+{
+    if (currentModel != nullptr) {
+        rowCount =
+            countRows(currentModel->tableName(), currentModel->filter(), currentModel->database());
+    }
+    const qulonglong pages = pageCount();
+    const int page = spinBoxNumber(currentPage(pages));
+    if (page != ui->gotoSpinBox->value()) {
+        // Before the new maximum: this selects the page anew, through update().
+        ui->gotoSpinBox->setValue(page);
+    }
+    ui->gotoSpinBox->setMaximum(spinBoxNumber(pages));
+    ui->gotoSpinBox->setSuffix(QStringLiteral("/%1").arg(pages));
+    emit severalPages(pages >= 2);
+}
+
+void TXDBNavWidget::update()
+{
+    if (currentModel == nullptr) {
+        return;
+    }
+    const auto page = static_cast<qulonglong>(ui->gotoSpinBox->value());
+    currentModel->offset = std::min<qulonglong>(rowCount, (page - 1) * currentModel->limit);
+    currentModel->select();
+}
+
+qulonglong TXDBNavWidget::pageCount() const
+{
+    if (limit() == 0) {
+        return 1;
+    }
+    return std::max<qulonglong>(1, (limit() + rowCount - 1) / limit());
+}
+
+qulonglong TXDBNavWidget::currentPage(qulonglong pages) const
+{
+    return pages > 1 ? std::min(offset() / limit() + 1, pages) : 1;
+}

@@ -1,0 +1,419 @@
+#include "TXCheckForUpdateWidget.h"
+
+#include "InstallerFile.h"
+#include "PlainMessageBox.h"
+#include "ReleaseRecord.h"
+#include "TXFileDialog.h"
+#include "UnfinishedDownloads.h"
+#include "UpdateRunnable.h"
+#include "ui_TXCheckForUpdateWidget.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFile>
+#include <QFileInfo>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QPointer>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QThreadPool>
+#include <QTimer>
+#include <QUrl>
+
+namespace {
+
+constexpr int kDayMilliseconds = 86400000;
+constexpr int kStartupDelayMilliseconds = 20000;
+constexpr int kDefaultPeriodDays = 7;
+
+const QString kPeriodSetting = QStringLiteral("CheckForUpdatesAutoPeriod");
+const QString kAtStartupSetting = QStringLiteral("CheckForUpdatesAtStartup");
+
+/// The details of dialogs that are built without any.
+struct GlobalDetails
+{
+    QString productName;
+    int productType = -1;
+};
+
+Q_GLOBAL_STATIC(GlobalDetails, globalDetails)
+
+TXCheckForUpdateWidget *firstInstance = nullptr;
+
+} // namespace
+
+TXCheckForUpdateWidget::TXCheckForUpdateWidget(QWidget *parent, bool checkAtStartup)
+    : TXEmbeddableDialog(parent)
+    , ui(std::make_unique<Ui::TXCheckForUpdateWidget>())
+    , timer(new QTimer(this))
+{
+    productName = globalDetails->productName;
+    productType = globalDetails->productType;
+    setUp(checkAtStartup);
+}
+
+TXCheckForUpdateWidget::TXCheckForUpdateWidget(QString name, int type, bool checkAtStartup,
+                                               QWidget *parent)
+    : TXEmbeddableDialog(parent)
+    , ui(std::make_unique<Ui::TXCheckForUpdateWidget>())
+    , timer(new QTimer(this))
+{
+    setDetails(name, type);
+    setUp(checkAtStartup);
+    if (firstInstance == nullptr) {
+        firstInstance = this;
+    }
+}
+
+TXCheckForUpdateWidget::~TXCheckForUpdateWidget()
+{
+    if (firstInstance == this) {
+        firstInstance = nullptr;
+    }
+    if (currentReply != nullptr) {
+        currentReply->disconnect(this);
+        networkManager->disconnect(this);
+        currentReply->abort();
+    }
+    threadPool->waitForDone(-1);
+}
+
+TXCheckForUpdateWidget *TXCheckForUpdateWidget::instance()
+{
+    return firstInstance;
+}
+
+void TXCheckForUpdateWidget::setGlobalDetails(QString productName, int productType)
+{
+    *globalDetails = {productName, productType};
+}
+
+void TXCheckForUpdateWidget::setDetails(QString name, int type)
+{
+    productName = name;
+    productType = type;
+    if (globalDetails->productName.isEmpty()) {
+        setGlobalDetails(name, type);
+    }
+}
+
+TXCheckForUpdateWidget::State TXCheckForUpdateWidget::state() const
+{
+    return currentState;
+}
+
+int TXCheckForUpdateWidget::autoCheckPeriod() const
+{
+    return automaticCheckPeriod;
+}
+
+void TXCheckForUpdateWidget::setAutoCheckPeriod(int days)
+{
+    automaticCheckPeriod = days;
+    elapsedDays = 0;
+    if (days > 0) {
+        timer->start(kDayMilliseconds);
+    } else {
+        timer->stop();
+    }
+}
+
+void TXCheckForUpdateWidget::updateState(State state)
+{
+    if (state != currentState) {
+        // A slot that reads state() meanwhile sees the old one.
+        emit stateChanged(state);
+        currentState = state;
+    }
+    enter(state);
+}
+
+void TXCheckForUpdateWidget::getRevisionInfo(int type)
+{
+    auto runnable = std::make_unique<UpdateRunnable>(type);
+    connect(runnable.get(), SIGNAL(updateReceived(QVariantHash, QVariantHash)), this,
+            SLOT(updateInfoReceived(QVariantHash, QVariantHash)));
+    threadPool->start(runnable.release());
+}
+
+QVariantHash TXCheckForUpdateWidget::revisionInfo(QVariantHash info)
+{
+    return ReleaseRecord::completed(info, productType);
+}
+
+void TXCheckForUpdateWidget::setVisible(bool visible)
+{
+    if (visible) {
+        tryCheckUpdate();
+    }
+    QDialog::setVisible(visible);
+    raise();
+}
+
+void TXCheckForUpdateWidget::checkUpdate()
+{
+    tryCheckUpdate();
+    QDialog::setVisible(true);
+}
+
+void TXCheckForUpdateWidget::tryCheckUpdate()
+{
+    if (currentState != Downloading) {
+        updateState(Checking);
+    }
+}
+
+void TXCheckForUpdateWidget::updateInfoReceived(QVariantHash newUpdate, QVariantHash newLastUpdate)
+{
+    update = revisionInfo(newUpdate);
+    lastUpdate = revisionInfo(newLastUpdate);
+    if (newLastUpdate.isEmpty()) {
+        updateState(ServiceError);
+        return;
+    }
+    updateState(ReleaseRecord::isNewer(update) ? UpdateAvailable : UpToDate);
+    emit updateRefreshed(update);
+}
+
+void TXCheckForUpdateWidget::on_downloadButton_clicked()
+{
+    const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+    const QString folder = TXFileDialog::getExistingDirectory(
+        this, tr("Choose Download Directory"), downloads, QFileDialog::ShowDirsOnly, QString());
+    if (folder.isEmpty()) {
+        return;
+    }
+    update.insert(ReleaseRecord::kPathKey,
+                  QString(folder + u'/' + ReleaseRecord::fileName(update)));
+    updateState(DownloadStarting);
+}
+
+void TXCheckForUpdateWidget::on_downloadAndInstallButton_clicked()
+{
+    const QString question = tr("%1 will be installed on your computer.\n"
+                                "Please make sure to have administrator rights before attempting "
+                                "the software update.")
+                                 .arg(ReleaseRecord::title(update));
+    const QPointer<TXCheckForUpdateWidget> guard(this);
+    if (PlainMessageBox::confirm(tr("Installing Update"), question) && guard) {
+        installAfterDownload = true;
+        updateState(DownloadStarting);
+    }
+}
+
+void TXCheckForUpdateWidget::on_installButton_clicked()
+{
+    const QString question = tr("Do you want to install this update?\n"
+                                "The application will exit.");
+    const QPointer<TXCheckForUpdateWidget> guard(this);
+    if (!PlainMessageBox::confirm(tr("Installing Update"), question) || !guard) {
+        return;
+    }
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(downloadPath))) {
+        accept();
+        QMetaObject::invokeMethod(qApp, "closeAllWindows", Qt::QueuedConnection);
+    }
+}
+
+void TXCheckForUpdateWidget::on_cancelButton_clicked()
+{
+    reject();
+}
+
+void TXCheckForUpdateWidget::on_okButton_clicked()
+{
+    accept();
+}
+
+void TXCheckForUpdateWidget::onTimer()
+{
+    // One more than the period must have been counted before a tick is due, so the check comes on
+    // the tick of the period plus two.
+    if (automaticCheckPeriod < elapsedDays) {
+        elapsedDays = 0;
+        tryCheckUpdate();
+    } else {
+        ++elapsedDays;
+    }
+}
+
+void TXCheckForUpdateWidget::setUp(bool checkAtStartup)
+{
+    setWindowTitle(tr("Check for Updates"));
+    connect(timer, SIGNAL(timeout()), this, SLOT(onTimer()));
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    setUpNetwork();
+    setUpForm();
+    readSettings(checkAtStartup);
+}
+
+void TXCheckForUpdateWidget::setUpNetwork()
+{
+    networkManager = new QNetworkAccessManager(this);
+    connect(networkManager, SIGNAL(finished(QNetworkReply *)), this,
+            SLOT(finished(QNetworkReply *)));
+    threadPool = new QThreadPool(this);
+    threadPool->setMaxThreadCount(1);
+}
+
+void TXCheckForUpdateWidget::setUpForm()
+{
+    ui->setupUi(this);
+}
+
+void TXCheckForUpdateWidget::readSettings(bool checkAtStartup)
+{
+    const QSettings settings;
+    setAutoCheckPeriod(settings.value(kPeriodSetting, kDefaultPeriodDays).toInt());
+    if (checkAtStartup && settings.value(kAtStartupSetting).toBool()) {
+        QTimer::singleShot(kStartupDelayMilliseconds, this, SLOT(checkUpdate()));
+    }
+}
+
+void TXCheckForUpdateWidget::enter(State state)
+{
+    switch (state) {
+    case Checking:
+        enterChecking();
+        return;
+    case UpToDate:
+        enterUpToDate();
+        return;
+    case UpdateAvailable:
+        enterUpdateAvailable();
+        return;
+    case DownloadStarting:
+        enterDownloadStarting();
+        return;
+    case Downloading:
+        enterDownloading();
+        return;
+    case ReadyToInstall:
+        enterReadyToInstall();
+        return;
+    case ServiceError:
+        enterServiceError();
+        return;
+    }
+    currentState = Checking;
+}
+
+void TXCheckForUpdateWidget::enterChecking()
+{
+    ui->stackedWidget->setCurrentWidget(ui->CheckUpdatePage);
+    update.clear();
+    lastUpdate.clear();
+    installAfterDownload = false;
+    getRevisionInfo(productType);
+}
+
+void TXCheckForUpdateWidget::enterUpToDate()
+{
+    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
+    ui->updateNameLabel->setText(tr("%1 is up to date.").arg(productName));
+    ui->scrollArea->hide();
+    ui->downloadButton->hide();
+    ui->downloadAndInstallButton->hide();
+    ui->installButton->hide();
+    ui->cancelButton->hide();
+    ui->okButton->show();
+    ui->downloadProgressBar->hide();
+}
+
+void TXCheckForUpdateWidget::enterUpdateAvailable()
+{
+    showOffer();
+    examineOfferedFile();
+}
+
+void TXCheckForUpdateWidget::enterDownloadStarting()
+{
+    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
+    ui->downloadButton->hide();
+    ui->downloadAndInstallButton->hide();
+    ui->installButton->hide();
+    ui->cancelButton->hide();
+    ui->okButton->hide();
+    ui->downloadProgressBar->show();
+    startTransfer();
+}
+
+void TXCheckForUpdateWidget::enterDownloading()
+{
+    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
+    ui->downloadButton->hide();
+    ui->downloadAndInstallButton->hide();
+    ui->installButton->hide();
+    ui->cancelButton->hide();
+    ui->okButton->hide();
+    ui->downloadProgressBar->show();
+    QDialog::setVisible(true);
+}
+
+void TXCheckForUpdateWidget::enterReadyToInstall()
+{
+    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
+    ui->downloadButton->hide();
+    ui->downloadAndInstallButton->hide();
+    ui->installButton->show();
+    ui->cancelButton->show();
+    ui->okButton->hide();
+    ui->downloadProgressBar->hide();
+    QDialog::setVisible(true);
+    if (installAfterDownload) {
+        on_installButton_clicked();
+    }
+}
+
+void TXCheckForUpdateWidget::enterServiceError()
+{
+    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
+    ui->updateNameLabel->hide();
+    ui->shortDescLabel->setText(tr("Impossible to connect to the Check for Updates service, "
+                                   "please check your Internet connection."));
+    ui->scrollArea->hide();
+    ui->downloadButton->hide();
+    ui->downloadAndInstallButton->hide();
+    ui->installButton->hide();
+    ui->cancelButton->hide();
+    ui->okButton->hide();
+    ui->downloadProgressBar->hide();
+}
+
+void TXCheckForUpdateWidget::showOffer()
+{
+    const bool isDownloadable = update.contains(ReleaseRecord::kUrlKey);
+    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
+    ui->updateNameLabel->setText(update.value(ReleaseRecord::kProductNameKey).toString());
+    ui->shortDescLabel->setText(
+        tr("%1 is available. Do you want to download it?").arg(ReleaseRecord::title(update)));
+    ui->shortDescLabel->show();
+    ui->descriptionLabel->setText(update.value(ReleaseRecord::kDescriptionKey).toString());
+    ui->scrollArea->show();
+    ui->downloadButton->setVisible(isDownloadable);
+    ui->downloadAndInstallButton->setVisible(isDownloadable);
+    ui->installButton->hide();
+    ui->cancelButton->show();
+    ui->okButton->hide();
+    ui->downloadProgressBar->hide();
+}
+
+void TXCheckForUpdateWidget::examineOfferedFile()
+{
+    const QString path = update.value(ReleaseRecord::kPathKey).toString();
+    const QFileInfo file(path);
+    if (!file.isFile()) {
+        QDialog::setVisible(true);
+        return;
+    }
+    const bool isWhole =
+        file.size() == ReleaseRecord::fileSize(update) && !UnfinishedDownloads::contains(path);
+    if (isWhole) {
+        downloadPath = path;
+        updateState(ReadyToInstall);
+        return;
+    }
+    QFile::remove(file.absoluteFilePath());
+    QDialog::setVisible(true);
+}
