@@ -33,8 +33,10 @@ struct LocalWebReply
     /// with TLS's notice, is the end of the body.
     bool tellsLength = true;
 
-    /// From 0 on: after so many bytes of the body the connection ends without TLS's notice, as by a
-    /// line that breaks. The client gets all bytes before. The told size is that of the whole body.
+    /// From 0 on: after so many bytes of the body the connection breaks. Where the size is told, it
+    /// is that of the whole body, and the client gets all bytes before the cut. Where it is not,
+    /// the connection is reset, which libcurl tells from the end and Qt does not; a reset may cost
+    /// the client bytes that it has not read by then.
     qint64 cutAfter = -1;
 
     /// Above 0: the body goes out in pieces of so many bytes, each sent at once.

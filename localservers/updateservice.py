@@ -9,6 +9,7 @@ import math
 import socket
 import socketserver
 import ssl
+import struct
 import sys
 import threading
 import time
@@ -19,6 +20,7 @@ PATTERN = bytes(range(251))
 # Whole patterns, about a megabyte: TLS is no faster with more at once.
 GENERATED = memoryview(PATTERN * 4096)
 BUFFER_SIZE = len(GENERATED)
+RESET_AT_CLOSE = struct.pack("ii", 1, 0)
 STATUSES_WITHOUT_BODY = (204, 304)
 
 
@@ -140,13 +142,18 @@ class Connection(http.server.BaseHTTPRequestHandler):
         if position == reply.hold_after:
             self.released.wait()
         if reply.is_cut:
-            self._cut()
+            self._cut(reply)
 
-    def _cut(self):
-        # Forgets TLS, so without its notice. Not by a reset: that would take from the client what
-        # it has not read yet.
-        self.connection.shutdown(socket.SHUT_WR)
+    def _cut(self, reply):
         self.close_connection = True
+        if reply.tells_length:
+            # Forgets TLS, so without its notice. The client misses the rest, and a reset would
+            # take from it what it has not read yet.
+            self.connection.shutdown(socket.SHUT_WR)
+        else:
+            # Clients forgive a missing notice: only a reset tells this from the body's end.
+            self.connection.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, RESET_AT_CLOSE)
+            self.connection.close()
 
     def _wait(self, reply, position):
         if position == reply.hold_after:

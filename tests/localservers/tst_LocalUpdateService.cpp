@@ -1,3 +1,4 @@
+#include "CurlClient.h"
 #include "LocalUpdateService.h"
 #include "ProcessTable.h"
 #include "TestBase.h"
@@ -10,6 +11,8 @@
 #include <QSignalSpy>
 #include <QSslCertificate>
 #include <QSslConfiguration>
+#include <QTemporaryDir>
+#include <QUrl>
 
 #include <memory>
 #include <vector>
@@ -55,6 +58,11 @@ bool finishes(QNetworkReply *reply)
     return QTest::qWaitFor([reply]() { return reply->isFinished(); }, kPatienceMilliseconds);
 }
 
+size_t dropBytes(const char *, size_t size, size_t count, void *)
+{
+    return size * count;
+}
+
 int statusOf(const QNetworkReply *reply)
 {
     return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -84,7 +92,7 @@ private slots:
     void cutEndsTheTransferAfterItsPlace();
     void cutBeyondTheBodyDoesNothing();
     void cutFollowsHold();
-    void cutWithoutLengthIsTold();
+    void cutWithoutLengthResetsTheConnection();
     void piecesComeOneByOne();
     void endlessBodyRepeatsItself_data();
     void endlessBodyRepeatsItself();
@@ -100,6 +108,7 @@ private slots:
     void goneClientLeavesNoError_data();
     void goneClientLeavesNoError();
     void stopEndsARunningTransferAtOnce();
+    void bodyThatCannotBeWrittenEndsTheService();
     void missingFolderIsToldInWords();
 };
 
@@ -391,20 +400,24 @@ void TestLocalUpdateService::cutFollowsHold()
     QCOMPARE(reply->readAll(), QByteArray("123"));
 }
 
-void TestLocalUpdateService::cutWithoutLengthIsTold()
+void TestLocalUpdateService::cutWithoutLengthResetsTheConnection()
 {
-    Exchange exchange;
+    LocalUpdateService service;
     LocalWebReply given = replyWith("12345");
     given.cutAfter = 3;
     given.tellsLength = false;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
+    service.setDownloadReply(given);
+    QVERIFY2(service.start(), qPrintable(service.error()));
+    // Qt's client takes a reset for the end, too.
+    CurlClient client("https", service.port());
+    const QByteArray url = "https://" + service.authority().toLatin1() + "/download";
+    client.set(CURLOPT_URL, url.constData());
+    client.set(CURLOPT_SSL_VERIFYPEER, 0L);
+    client.set(CURLOPT_NOBODY, 0L);
+    client.set(CURLOPT_WRITEFUNCTION, dropBytes);
 
-    const ReplyPointer reply = exchange.get("/download");
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->readAll(), QByteArray("123"));
-    qInfo() << reply->error() << reply->errorString();
+    QCOMPARE(client.run(), int(CURLE_RECV_ERROR));
+    QCOMPARE(service.error(), QString());
 }
 
 void TestLocalUpdateService::piecesComeOneByOne()
@@ -710,6 +723,22 @@ void TestLocalUpdateService::stopEndsARunningTransferAtOnce()
     QCOMPARE(service.error(), QString());
     QVERIFY(finishes(running.get()) && finishes(waiting.get()));
     QCOMPARE(waiting->error(), QNetworkReply::RemoteHostClosedError);
+}
+
+void TestLocalUpdateService::bodyThatCannotBeWrittenEndsTheService()
+{
+    QTemporaryDir parent;
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", parent.path().toLocal8Bit());
+    LocalUpdateService service;
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    QVERIFY2(service.start(), qPrintable(service.error()));
+    QVERIFY(parent.remove());
+
+    service.setCheckReply(replyWith("x"));
+
+    QVERIFY(!service.isRunning());
+    QVERIFY2(service.error().contains("FileNotFoundError"), qPrintable(service.error()));
 }
 
 void TestLocalUpdateService::missingFolderIsToldInWords()
