@@ -4,6 +4,11 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 # Qt would tell each test its own folders by definitions, and targets whose definitions differ
 # cannot share a precompiled header. Nothing of ours uses them (QFINDTESTDATA does).
 set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
+# So would those of modules that only some tests link.
+set_target_properties(Qt6::Network Qt6::Sql PROPERTIES INTERFACE_COMPILE_DEFINITIONS "")
+if(TARGET Qt6::DBus)
+  set_target_properties(Qt6::DBus PROPERTIES INTERFACE_COMPILE_DEFINITIONS "")
+endif()
 
 # tx_add_test(<unit> [LIBRARIES <library>...])
 #

@@ -19,14 +19,15 @@ LONGEST_LOG_LINE = 1000
 _output = threading.Lock()
 
 
-def begin(take=lambda message: None):
+def begin(take=lambda message: None, before_end=lambda: None):
     """Returns the options, and from now on ends the process with its standard input.
 
-    The messages that come are handed to take, on a thread of their own.
+    The messages that come are handed to take. What is to be done before the end, if anything, is
+    before_end. Both are called on a thread of their own.
     """
     logging.basicConfig(level=logging.ERROR)
     options = json.loads(sys.stdin.readline())
-    threading.Thread(target=_follow_standard_input, args=(take,), daemon=True).start()
+    threading.Thread(target=_follow_standard_input, args=(take, before_end), daemon=True).start()
     return options
 
 
@@ -53,11 +54,12 @@ def silent():
     report("silent")
 
 
-def _follow_standard_input(take):
+def _follow_standard_input(take, before_end):
     try:
         for line in _lines_of_standard_input():
             take(json.loads(line))
             report("taken")
+        before_end()
     except Exception:
         # Whoever sent the message must not wait for its answer.
         traceback.print_exc()
