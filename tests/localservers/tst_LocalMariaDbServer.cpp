@@ -356,9 +356,10 @@ void TestLocalMariaDbServer::preparedStatementsShowWithTheirValues()
     }
 
     QCOMPARE(isDone, QList<bool>({true, false, true}));
-    QCOMPARE(server.statements().mid(before),
-             QStringList(
-                 {"insert into t values (7, 'o\\'neil')", "insert into t values (8, 'o\\'neil')"}));
+    QCOMPARE(
+        server.statements().mid(before),
+        QStringList({"insert into t values (7, 'o\\'neil')", "insert into t values (7, 'o\\'neil')",
+                     "insert into t values (8, 'o\\'neil')"}));
 }
 
 void TestLocalMariaDbServer::statementIsThereBeforeItsAnswer()
