@@ -33,9 +33,9 @@ public:
     /// and so is what the server refuses or cannot make sense of. Choosing a database without a
     /// statement, as a client does when it connects, does not show.
     ///
-    /// A prepared statement shows each time that it has been executed, with its values filled in:
-    /// "insert into t values (7)". Its preparation does not show, nor does an execution that
-    /// failed. An EXECUTE that is itself a statement shows as such, and then what it executed.
+    /// A prepared statement shows each time that it is executed, with its values filled in:
+    /// "insert into t values (7)". Its preparation alone does not show. An EXECUTE that is itself a
+    /// statement shows as such, and then what it executes.
     ///
     /// Read from the server's general log at each call, which takes a time in proportion to it. A
     /// statement is here before its answer is sent. Empty when the server does not run.
