@@ -50,8 +50,10 @@ bool LocalServer::start()
         }
         return true;
     }
+    // With what the script has printed, which error() would add once more.
     const QString reason = error();
     stop();
+    errorOutput.clear();
     failure = reason;
     return false;
 }
