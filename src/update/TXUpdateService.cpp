@@ -56,5 +56,5 @@ QUrl TXUpdateService::url(const QString &path)
     const QString text = authority();
     // QUrl drops a port that it does not understand, and the request would go to another service.
     const QString known = isHostAndPort(text) ? text : QString();
-    return QUrl(QStringLiteral("https://") + known + path, QUrl::TolerantMode);
+    return {QStringLiteral("https://") + known + path, QUrl::TolerantMode};
 }

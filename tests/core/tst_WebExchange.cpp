@@ -4,6 +4,8 @@
 #include "LocalUpdateService.h"
 #include "TestBase.h"
 
+#include <QAbstractEventDispatcher>
+#include <QEventLoop>
 #include <QFile>
 #include <QHttpMultiPart>
 #include <QHttpPart>
@@ -15,15 +17,17 @@
 #include <QTcpSocket>
 #include <QThread>
 #include <QTimer>
-#include <QWidget>
-#include <QWindow>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
 
 constexpr int kPatienceMilliseconds = 20000;
 constexpr qint64 kMegabyte = 1024 * 1024;
+/// What a transfer may take beside the body: buffers on the way, and what a sanitizer holds back of
+/// the memory that was freed.
+constexpr qint64 kAllowance = 448 * kMegabyte;
 
 QUrl urlOf(const LocalUpdateService &service)
 {
@@ -43,7 +47,14 @@ LocalWebReply replyOfSize(qint64 size)
     return reply;
 }
 
-/// The most memory that this process ever had, in bytes.
+/// From now on peakMemory() tells of what comes.
+bool forgetPeakMemory()
+{
+    QFile file(QStringLiteral("/proc/self/clear_refs"));
+    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write("5") == 1;
+}
+
+/// The most memory that this process had, in bytes.
 qint64 peakMemory()
 {
     QFile file(QStringLiteral("/proc/self/status"));
@@ -104,14 +115,33 @@ QByteArray deflated(qsizetype size)
     return qCompress(QByteArray(size, 'x')).mid(kLengthOfQt);
 }
 
-/// Counts the clicks on it.
-class Clicked : public QWidget
+/// A dispatcher that knows posted events only, and tells by which flags they were processed.
+class FlagsRecorder : public QAbstractEventDispatcher
 {
 public:
-    int presses = 0;
+    explicit FlagsRecorder(QList<QEventLoop::ProcessEventsFlags> &list)
+        : seen(list)
+    { }
 
-protected:
-    void mousePressEvent(QMouseEvent *) override { ++presses; }
+    bool processEvents(QEventLoop::ProcessEventsFlags flags) override
+    {
+        seen.append(flags);
+        QCoreApplication::sendPostedEvents();
+        return true;
+    }
+
+    void registerSocketNotifier(QSocketNotifier *) override { }
+    void unregisterSocketNotifier(QSocketNotifier *) override { }
+    void registerTimer(int, qint64, Qt::TimerType, QObject *) override { }
+    bool unregisterTimer(int) override { return false; }
+    bool unregisterTimers(QObject *) override { return false; }
+    [[nodiscard]] QList<TimerInfo> registeredTimers(QObject *) const override { return {}; }
+    int remainingTime(int) override { return -1; }
+    void wakeUp() override { }
+    void interrupt() override { }
+
+private:
+    QList<QEventLoop::ProcessEventsFlags> &seen;
 };
 
 } // namespace
@@ -144,7 +174,7 @@ void TestWebExchange::endlessBodyIsCancelledInBoundedMemory_data()
     QTest::addColumn<int>("status");
     QTest::addColumn<qint64>("pieceSize");
     QTest::addColumn<qint64>("generatedSize");
-    QTest::newRow("endless in small pieces") << 200 << qint64(1460) << qint64(-1);
+    QTest::newRow("endless in small pieces") << 200 << qint64(4096) << qint64(-1);
     QTest::newRow("endless with an error") << 404 << qint64(0) << qint64(-1);
     QTest::newRow("size told") << 200 << qint64(0) << 1024 * 1024 * kMegabyte;
 }
@@ -162,6 +192,7 @@ void TestWebExchange::endlessBodyIsCancelledInBoundedMemory()
     reply.pieceSize = pieceSize;
     service.setDownloadReply(reply);
     QVERIFY2(service.start(), qPrintable(service.error()));
+    QVERIFY(forgetPeakMemory());
     const qint64 before = peakMemory();
 
     const WebAnswer answer = get(urlOf(service));
@@ -171,7 +202,7 @@ void TestWebExchange::endlessBodyIsCancelledInBoundedMemory()
     QVERIFY(answer.body.isEmpty());
     QVERIFY(before > 0);
     const qint64 growth = peakMemory() - before;
-    QVERIFY2(growth < 2 * WebExchange::kLargestBody, qPrintable(QString::number(growth)));
+    QVERIFY2(growth < WebExchange::kLargestBody + kAllowance, qPrintable(QString::number(growth)));
 }
 
 void TestWebExchange::largestBodyArrivesWhole()
@@ -350,22 +381,19 @@ void TestWebExchange::otherEventsAreProcessedMeanwhile()
 
 void TestWebExchange::userInputIsHeldBackMeanwhile()
 {
-    Clicked widget;
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
-    PlainServer server("\r\n\r\n", okWith("x"));
+    QList<QEventLoop::ProcessEventsFlags> flags;
+    WebAnswer answer;
+    const std::unique_ptr<QThread> thread(
+        QThread::create([&] { answer = get(QUrl(QStringLiteral("https:///"))); }));
+    thread->setEventDispatcher(std::make_unique<FlagsRecorder>(flags).release());
+    thread->start();
 
-    const WebAnswer answer = WebExchange::run([&](QNetworkAccessManager &manager) {
-        const QPointF place(1, 1);
-        qt_handleMouseEvent(widget.windowHandle(), place, widget.mapToGlobal(place), Qt::LeftButton,
-                            Qt::LeftButton, QEvent::MouseButtonPress, Qt::NoModifier, 1);
-        return manager.get(QNetworkRequest(server.url()));
-    });
-
-    QVERIFY(answer.isSuccess);
-    QCOMPARE(widget.presses, 0);
-    QTRY_COMPARE(widget.presses, 1);
-    QTest::mouseRelease(&widget, Qt::LeftButton);
+    QVERIFY(thread->wait(kPatienceMilliseconds));
+    QCOMPARE(answer.error, QNetworkReply::HostNotFoundError);
+    QVERIFY(!flags.isEmpty());
+    QVERIFY(std::all_of(flags.cbegin(), flags.cend(), [](QEventLoop::ProcessEventsFlags used) {
+        return used.testFlag(QEventLoop::ExcludeUserInputEvents);
+    }));
 }
 
 void TestWebExchange::endOfTheEventLoopIsNoAnswer()

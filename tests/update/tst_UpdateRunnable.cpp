@@ -252,7 +252,8 @@ void TestUpdateRunnable::answerBecomesARecord_data()
     }
     QTest::newRow("cut at once") << cutReply(0, true) << kFailed;
     QTest::newRow("cut in mid-body") << cutReply(9, true) << kFailed;
-    QTest::newRow("cut in mid-body without a told length") << cutReply(9, false) << kFailed;
+    // The end of the connection is the end of such a body, so this is a whole answer.
+    QTest::newRow("cut in mid-body without a told length") << cutReply(9, false) << kNoData;
 }
 
 void TestUpdateRunnable::answerBecomesARecord()

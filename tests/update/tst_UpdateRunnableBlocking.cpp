@@ -119,7 +119,8 @@ void TestUpdateRunnableBlocking::proxyNeedsNoGuiThread()
     }
     const quint16 port = answer.isEmpty() ? closedPort() : proxy.port();
     QNetworkProxy::setApplicationProxy(QNetworkProxy(type, QStringLiteral("127.0.0.1"), port));
-    TXUpdateService::setAuthority(QStringLiteral("127.0.0.1:1"));
+    // Not an address of this computer: those are asked without a proxy.
+    TXUpdateService::setAuthority(QStringLiteral("updates.invalid:1"));
     UpdateReceiver receiver;
 
     QVERIFY(checkWhileBlocked(receiver));
@@ -127,7 +128,7 @@ void TestUpdateRunnableBlocking::proxyNeedsNoGuiThread()
     QCoreApplication::processEvents();
     QCOMPARE(receiver.count, 1);
     QVERIFY(receiver.lastUpdate.isEmpty());
-    QCOMPARE(proxy.log().join(u'\n').startsWith(QStringLiteral("CONNECT 127.0.0.1:1 ")),
+    QCOMPARE(proxy.log().join(u'\n').startsWith(QStringLiteral("CONNECT updates.invalid:1 ")),
              !answer.isEmpty());
 }
 
