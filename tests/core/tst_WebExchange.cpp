@@ -24,14 +24,14 @@
 namespace {
 
 constexpr int kPatienceMilliseconds = 20000;
-constexpr qint64 kMegabyte = 1024 * 1024;
+constexpr qint64 kMegabyte = 1024LL * 1024;
 /// What a transfer may take beside the body: buffers on the way, and what a sanitizer holds back of
 /// the memory that was freed.
 constexpr qint64 kAllowance = 448 * kMegabyte;
 
 QUrl urlOf(const LocalUpdateService &service)
 {
-    return QUrl(QStringLiteral("https://%1/download").arg(service.authority()));
+    return {QStringLiteral("https://%1/download").arg(service.authority())};
 }
 
 WebAnswer get(const QUrl &url)
@@ -80,7 +80,7 @@ public:
 
     [[nodiscard]] QUrl url() const
     {
-        return QUrl(QStringLiteral("http://127.0.0.1:%1/feedback").arg(serverPort()));
+        return {QStringLiteral("http://127.0.0.1:%1/feedback").arg(serverPort())};
     }
 
     QByteArray request;
@@ -176,7 +176,7 @@ void TestWebExchange::endlessBodyIsCancelledInBoundedMemory_data()
     QTest::addColumn<qint64>("generatedSize");
     QTest::newRow("endless in small pieces") << 200 << qint64(4096) << qint64(-1);
     QTest::newRow("endless with an error") << 404 << qint64(0) << qint64(-1);
-    QTest::newRow("size told") << 200 << qint64(0) << 1024 * 1024 * kMegabyte;
+    QTest::newRow("size told") << 200 << qint64(0) << kMegabyte * kMegabyte;
 }
 
 void TestWebExchange::endlessBodyIsCancelledInBoundedMemory()

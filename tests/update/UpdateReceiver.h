@@ -10,12 +10,15 @@
 class UpdateReceiver : public QObject
 {
 public:
+    /// How often something came.
     int count = 0;
+    /// What came last, and on which thread.
     QVariantHash update;
     QVariantHash lastUpdate;
     QThread *thread = nullptr;
 
-    void listenTo(const UpdateRunnable &runnable)
+    /// From now on takes what this one emits.
+    void listenTo(const UpdateRunnable &runnable) const
     {
         connect(&runnable, &UpdateRunnable::updateReceived, this, &UpdateReceiver::take);
     }

@@ -127,7 +127,7 @@ private slots:
     void secondCheckQueuesBehindTheFirst();
 
 private:
-    void start(UpdateReceiver &receiver, int product = kProduct)
+    void start(const UpdateReceiver &receiver, int product = kProduct)
     {
         auto runnable = std::make_unique<UpdateRunnable>(product);
         receiver.listenTo(*runnable);
@@ -270,7 +270,7 @@ void TestUpdateRunnable::answerBecomesARecord()
 
 void TestUpdateRunnable::largeDescriptionArrivesWhole()
 {
-    QString description(10 * 1024 * 1024, u'x');
+    QString description(10LL * 1024 * 1024, u'x');
     description += QStringLiteral("\u20ac end");
     LocalUpdateService service;
 

@@ -27,7 +27,7 @@ LocalWebReply recordReply()
 }
 
 /// Starts a check and blocks this thread until it is over; whether it ended.
-bool checkWhileBlocked(UpdateReceiver &receiver)
+bool checkWhileBlocked(const UpdateReceiver &receiver)
 {
     QThreadPool pool;
     auto runnable = std::make_unique<UpdateRunnable>(7);
