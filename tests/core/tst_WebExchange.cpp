@@ -12,7 +12,6 @@
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
 #include <QPointer>
-#include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QThread>
