@@ -39,7 +39,7 @@ class TXGUICOMMON_PRIVATE_EXPORT WebExchange
 {
 public:
     /// The most bytes that a body may have, after decompression.
-    static constexpr qint64 kLargestBody = 64LL * 1024 * 1024;
+    static constexpr qint64 kLargestBody = 32LL * 1024 * 1024;
 
     /// Starts a request by the manager and returns its reply, never null. The manager lives as long
     /// as the call of run() does, and the reply with it: what the request reads from, such as the
