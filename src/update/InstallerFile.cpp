@@ -28,7 +28,8 @@ InstallerFile::Result InstallerFile::append(QIODevice &source, qint64 size)
         isBegun = true;
         birth = file.fileTime(QFileDevice::FileBirthTime);
     }
-    const bool isWritten = isOurs(file) && write(file, source.read(qBound(qint64(0), size, kLargestPiece)));
+    const bool isWritten =
+        isOurs(file) && write(file, source.read(qBound(qint64(0), size, kLargestPiece)));
     return isWritten ? Result::Written : lose();
 }
 

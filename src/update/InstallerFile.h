@@ -47,8 +47,8 @@ public:
     [[nodiscard]] Result append(QIODevice &source, qint64 size);
 
     /// To be called after the last piece: whether the file on disk holds all that was appended, and
-    /// not less than expected. A file that does is no longer known as unfinished; one that does not is
-    /// lost. A download without any piece made no file, and is not whole.
+    /// not less than expected. A file that does is no longer known as unfinished; one that does not
+    /// is lost. A download without any piece made no file, and is not whole.
     [[nodiscard]] bool finish();
 
 private:

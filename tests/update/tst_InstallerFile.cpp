@@ -93,8 +93,10 @@ private:
     QTemporaryDir folder;
 
 protected:
-    void prepare() override { QVERIFY(QDir(folder.path()).removeRecursively()
-                                      && QDir().mkpath(folder.path())); }
+    void prepare() override
+    {
+        QVERIFY(QDir(folder.path()).removeRecursively() && QDir().mkpath(folder.path()));
+    }
 };
 
 void TestInstallerFile::piecesFollowOneAnother()
@@ -235,8 +237,7 @@ void TestInstallerFile::changedFileTakesNoFurtherPiece()
     ::change(path(), change);
     const QByteArray before = contentOf(path());
 
-    const Result expected =
-        change == QLatin1String("folder") ? Result::NotOpened : Result::Failed;
+    const Result expected = change == QLatin1String("folder") ? Result::NotOpened : Result::Failed;
     QCOMPARE(append(file, "def"), expected);
     QCOMPARE(contentOf(path()), before);
     QCOMPARE(QFile::exists(path()), change != QLatin1String("deleted"));

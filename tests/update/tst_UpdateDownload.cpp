@@ -1,4 +1,3 @@
-#include "InstallerFile.h"
 #include "UnfinishedDownloads.h"
 #include "UpdateDownloadHelpers.h"
 
@@ -112,6 +111,8 @@ void TestUpdateDownload::barHasNoMaximumWithoutALength()
 {
     LocalWebReply reply = generated(5000);
     reply.tellsLength = false;
+    reply.pieceSize = 1000;
+    reply.pauseMilliseconds = 150;
     reply.holdAfter = 4000;
     service->setDownloadReply(reply);
     Widget dialog(nullptr, false);
@@ -121,7 +122,9 @@ void TestUpdateDownload::barHasNoMaximumWithoutALength()
     QTRY_COMPARE(bar->maximum(), -1);
     service->release();
     QVERIFY(waitForEnd(dialog));
-    QCOMPARE(dialog.state(), Widget::ReadyToInstall);
+    // Qt tells the length with the last byte.
+    QCOMPARE(bar->maximum(), 5000);
+    QCOMPARE(bar->value(), 5000);
 }
 
 void TestUpdateDownload::progressIsNarrowedWithoutScaling_data()
@@ -239,7 +242,10 @@ public:
     }
 
     void abort() override { ++abortCount; }
-    qint64 bytesAvailable() const override { return content.size() + QNetworkReply::bytesAvailable(); }
+    qint64 bytesAvailable() const override
+    {
+        return content.size() + QNetworkReply::bytesAvailable();
+    }
 
     int abortCount = 0;
 
