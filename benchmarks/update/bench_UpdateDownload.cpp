@@ -24,7 +24,7 @@
 
 namespace {
 
-constexpr qint64 kMegabyte = 1024 * 1024;
+constexpr qint64 kMegabyte = qint64(1024) * 1024;
 constexpr qint64 kWarmUpBytes = 16 * kMegabyte;
 
 const QString kFileName = QStringLiteral("installer.bin");

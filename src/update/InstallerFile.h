@@ -36,7 +36,7 @@ public:
     };
 
     /// How many bytes append() moves at most; a bound for memory and for the time it blocks.
-    static constexpr qint64 kLargestPiece = 1024 * 1024;
+    static constexpr qint64 kLargestPiece = qint64(1024) * 1024;
 
     /// A download to this path, of so many bytes; 0 or less for an unknown number. Touches nothing.
     /// An empty path makes a download that is lost from the start.

@@ -16,7 +16,7 @@
 namespace {
 
 /// What a reply holds back for us at most: a network that is faster than the disk has to wait.
-constexpr qint64 kReplyBufferBytes = 256 * 1024;
+constexpr qint64 kReplyBufferBytes = qint64(256) * 1024;
 
 /// A file that cannot be opened, as while another program looks into it, is tried so often again.
 constexpr int kRetryMilliseconds = 100;

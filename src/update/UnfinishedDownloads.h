@@ -18,7 +18,7 @@ class TXGUICOMMON_PRIVATE_EXPORT UnfinishedDownloads
 {
 public:
     /// How long an entry is kept whose file is not there: the file may just be about to be made.
-    static constexpr qint64 kKeptSeconds = 24 * 60 * 60;
+    static constexpr qint64 kKeptSeconds = qint64(24) * 60 * 60;
 
     UnfinishedDownloads() = delete;
 

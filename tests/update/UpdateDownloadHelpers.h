@@ -16,7 +16,7 @@
 #include <optional>
 
 constexpr int kTransferMilliseconds = 30000;
-constexpr qint64 kMegabyte = 1024 * 1024;
+constexpr qint64 kMegabyte = qint64(1024) * 1024;
 constexpr char kInstallerName[] = "installer.bin";
 
 /// Makes this the user's folder for downloads, as a desktop's settings do.
