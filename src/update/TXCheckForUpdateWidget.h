@@ -3,6 +3,7 @@
 #include "TXEmbeddableDialog.h"
 #include "TXGUICommonExport.h"
 
+#include <QPointer>
 #include <QString>
 #include <QVariantHash>
 
@@ -39,6 +40,9 @@ class TXCheckForUpdateWidget;
 /// - "CheckForUpdatesAtStartup": bool, whether a dialog that may check at startup does so; false
 ///   when missing.
 /// - "UpdateStatus": text, passed on to the service when it is there.
+///
+/// Settings that are written: the group "UnfinishedDownloads", by which a file whose transfer did
+/// not come to its end is known, also after the application was killed.
 ///
 /// Thread: the GUI thread. A check runs on a thread of the dialog's own, and destroying the dialog
 /// waits for it without a limit.
@@ -112,8 +116,9 @@ public:
     /// to download. These two are never taken from the service.
     [[nodiscard]] QVariantHash revisionInfo(QVariantHash info);
 
-    /// Makes this the running transfer. One that runs already is aborted, and the path of the
-    /// download forgotten with it. The reply is not owned.
+    /// Makes this the running transfer; null for none. One that runs already is aborted, and the
+    /// path of the download forgotten with it, so that the new one ends in the error. The reply is
+    /// not owned; what it brings is never put behind a file that is there already.
     void setCurrentReply(QNetworkReply *reply);
 
     /// Starts a check unless a transfer is running, when the dialog is to be shown; then shows or
@@ -145,7 +150,10 @@ public slots:
     /// Shows how much has been transferred, in bytes narrowed to int.
     void updateDataTransferProgress(qint64 readBytes, qint64 totalBytes);
 
-    /// Writes to disk what the sender, a reply, has received.
+    /// Writes to disk what the sender, the reply of the running transfer, has received. What cannot
+    /// be written since the file does not open stays in the reply and is tried again for two
+    /// seconds; a full disk and a file that somebody has changed end the transfer at once. Does
+    /// nothing for another sender.
     void downloading();
 
     /// Takes the answer to a check: as the service sent it, or empty for a failed check. Only
@@ -153,7 +161,8 @@ public slots:
     void updateInfoReceived(QVariantHash update, QVariantHash lastUpdate);
 
     /// Takes the end of a transfer: writes the rest and goes on to the installation, or to the
-    /// error.
+    /// error when the reply failed or the file is not whole. Another reply than that of the running
+    /// transfer is only deleted later; null does nothing.
     void finished(QNetworkReply *reply);
 
     /// Takes a failure of the transfer.
@@ -171,6 +180,9 @@ public slots:
     /// The daily tick.
     void onTimer();
 
+private slots:
+    void retryWriting();
+
 private:
     void setUp(bool checkAtStartup);
     void setUpForm();
@@ -187,8 +199,12 @@ private:
     void showOffer();
     void examineOfferedFile();
     void startTransfer();
-    void writeReceived(QNetworkReply &reply);
+    [[nodiscard]] bool dropUnfinished();
+    void follow(QNetworkReply &reply);
+    void writeReceived();
+    void writeLater();
     [[nodiscard]] bool writeRest();
+    void abandonTransfer();
 
     State currentState = Checking;
     std::unique_ptr<Ui::TXCheckForUpdateWidget> ui;
@@ -198,11 +214,17 @@ private:
     QString productName;
     int productType = -1;
     QString downloadPath;
-    QNetworkReply *currentReply = nullptr;
+    /// Not owned; whoever owns it may delete it.
+    QPointer<QNetworkReply> currentReply;
     QThreadPool *threadPool = nullptr;
     bool installAfterDownload = false;
     int automaticCheckPeriod = 7;
     int elapsedDays = 0;
     QTimer *timer;
+    /// The file of the current reply, null without one.
     std::unique_ptr<InstallerFile> installerFile;
+    bool isRetryPending = false;
+    int remainingRetries = 0;
+    /// How many of the slots that the transfer calls are running.
+    int transferDepth = 0;
 };
