@@ -8,11 +8,11 @@
 InstallerFile::InstallerFile(const QString &filePath, qint64 size)
     : path(filePath)
     , expectedSize(size)
-    , isLost(filePath.isEmpty())
 { }
 
 InstallerFile::Result InstallerFile::append(QIODevice &source, qint64 size)
 {
+    isOffered = true;
     if (isLost) {
         return Result::Failed;
     }
@@ -35,8 +35,8 @@ InstallerFile::Result InstallerFile::append(QIODevice &source, qint64 size)
 
 bool InstallerFile::finish()
 {
-    const QFile file(path);
-    if (isLost || !isBegun || !isOurs(file) || writtenSize < expectedSize) {
+    const bool isOnDisk = isBegun ? isOurs(QFile(path)) : !isOffered;
+    if (isLost || !isOnDisk || writtenSize < expectedSize) {
         lose();
         return false;
     }
@@ -48,11 +48,16 @@ bool InstallerFile::isReadyToBegin()
 {
     // Checked before the file is remembered: what is there belongs to somebody else.
     const QFileInfo file(path);
-    if (file.isFile() || file.isSymLink()) {
+    if (path.isEmpty() || file.isFile() || file.isSymLink()) {
         return false;
     }
-    isRemembered = isRemembered || UnfinishedDownloads::add(path);
-    return isRemembered;
+    if (!isRemembered) {
+        // Settings that cannot be written, as those of a host without a name, are no reason to go
+        // without the download.
+        UnfinishedDownloads::add(path);
+        isRemembered = true;
+    }
+    return true;
 }
 
 bool InstallerFile::isOurs(const QFile &file) const

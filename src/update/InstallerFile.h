@@ -14,8 +14,7 @@ class QIODevice;
 /// - The first piece makes the file. One that is there already is never written to, nor does it
 ///   become known as unfinished.
 /// - The file is known to UnfinishedDownloads before it is made, and until finish() has found it
-///   whole; also when the process is killed. Settings that cannot be written lose the download
-///   before it makes a file.
+///   whole; also when the process is killed, as far as the settings can be written.
 /// - A later piece goes only into the file that the first one made, at its end as the last piece
 ///   left it. A file that was deleted, replaced, cut or lengthened meanwhile loses the download: no
 ///   file is made without its beginning.
@@ -39,7 +38,7 @@ public:
     static constexpr qint64 kLargestPiece = qint64(1024) * 1024;
 
     /// A download to this path, of so many bytes; 0 or less for an unknown number. Touches nothing.
-    /// An empty path makes a download that is lost from the start.
+    /// To an empty path nothing can be appended.
     InstallerFile(const QString &path, qint64 expectedSize);
 
     /// Moves so many bytes from the source to the end of the file, or what the source has of them,
@@ -48,7 +47,8 @@ public:
 
     /// To be called after the last piece: whether the file on disk holds all that was appended, and
     /// not less than expected. A file that does is no longer known as unfinished; one that does not
-    /// is lost. A download without any piece made no file, and is not whole.
+    /// is lost. A download to which no piece was offered has made no file, and is whole unless a
+    /// size was expected.
     [[nodiscard]] bool finish();
 
 private:
@@ -64,6 +64,7 @@ private:
     /// When the file was made, which tells it from another of the same size; invalid where the file
     /// system does not know.
     QDateTime birth;
+    bool isOffered = false;
     bool isBegun = false;
     bool isRemembered = false;
     bool isLost = false;

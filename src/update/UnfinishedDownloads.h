@@ -29,7 +29,7 @@ public:
     /// False when the path is empty or the settings cannot be written.
     ///
     /// Forgets entries older than kKeptSeconds whose file is gone, so that they do not pile up.
-    [[nodiscard]] static bool add(const QString &path);
+    static bool add(const QString &path);
 
     /// To be called when the last byte is on disk, or when the file has been deleted. Does nothing
     /// for a file that is not remembered.

@@ -74,7 +74,8 @@ private slots:
     void fileShorterThanExpectedIsNotWhole_data();
     void fileShorterThanExpectedIsNotWhole();
     void downloadWithoutAPieceIsNotWhole();
-    void emptyPathIsLost();
+    void downloadOfNothingIsWholeWithoutAFile();
+    void emptyPathTakesNothing();
     void fileOfSomebodyElseIsLeftAlone();
     void deadLinkIsNotFollowed();
     void changedFileTakesNoFurtherPiece_data();
@@ -84,7 +85,7 @@ private slots:
     void pieceStaysInTheSourceWhenTheFileCannotBeOpened_data();
     void pieceStaysInTheSourceWhenTheFileCannotBeOpened();
     void fullDiskLosesTheDownload();
-    void unwritableSettingsLoseTheDownload();
+    void downloadGoesOnWithSettingsThatCannotBeWritten();
     void killedProcessLeavesTheFileKnown();
 
 private:
@@ -159,14 +160,22 @@ void TestInstallerFile::fileShorterThanExpectedIsNotWhole()
 
 void TestInstallerFile::downloadWithoutAPieceIsNotWhole()
 {
-    InstallerFile file(path(), 0);
+    InstallerFile file(path(), 1);
     QVERIFY(!file.finish());
     QVERIFY(!QFile::exists(path()));
     QCOMPARE(append(file, "abc"), Result::Failed);
     QVERIFY(!QFile::exists(path()));
 }
 
-void TestInstallerFile::emptyPathIsLost()
+void TestInstallerFile::downloadOfNothingIsWholeWithoutAFile()
+{
+    InstallerFile file(path(), 0);
+    QVERIFY(file.finish());
+    QVERIFY(!QFile::exists(path()));
+    QVERIFY(!UnfinishedDownloads::contains(path()));
+}
+
+void TestInstallerFile::emptyPathTakesNothing()
 {
     InstallerFile file(QString(), 0);
     QCOMPARE(append(file, "abc"), Result::Failed);
@@ -302,7 +311,7 @@ void TestInstallerFile::fullDiskLosesTheDownload()
     QVERIFY(UnfinishedDownloads::contains(path()));
 }
 
-void TestInstallerFile::unwritableSettingsLoseTheDownload()
+void TestInstallerFile::downloadGoesOnWithSettingsThatCannotBeWritten()
 {
     const QString before = QFileInfo(QSettings().fileName()).dir().filePath(QStringLiteral(".."));
     write(folder.filePath(QStringLiteral("plain")), "x");
@@ -312,8 +321,8 @@ void TestInstallerFile::unwritableSettingsLoseTheDownload()
     const Result result = append(file, "abc");
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QDir::cleanPath(before));
 
-    QCOMPARE(result, Result::Failed);
-    QVERIFY(!QFile::exists(path()));
+    QCOMPARE(result, Result::Written);
+    QCOMPARE(contentOf(path()), QByteArray("abc"));
 }
 
 void TestInstallerFile::killedProcessLeavesTheFileKnown()

@@ -58,7 +58,7 @@ void TestUpdateDownloadFailures::brokenTransferIsAnError_data()
         << 200 << qint64(8999) << true << qint64(-1) << qint64(9000) << true;
     QTest::newRow("record of an absurd size")
         << 200 << qint64(9000) << true << qint64(-1) << std::numeric_limits<qint64>::max() << true;
-    QTest::newRow("empty body") << 200 << qint64(0) << true << qint64(-1) << qint64(0) << false;
+    QTest::newRow("empty body") << 200 << qint64(0) << true << qint64(-1) << qint64(1) << false;
     QTest::newRow("404 with a body")
         << 404 << qint64(300) << true << qint64(-1) << qint64(300) << true;
     QTest::newRow("500 with a body")
