@@ -28,6 +28,20 @@ quint64 countRows(const QString &table, const QString &filter, const QSqlDatabas
     return query.next() ? query.value(0).toULongLong() : 0;
 }
 
+qulonglong countPages(quint64 rows, qulonglong limit)
+{
+    if (limit == 0) {
+        return 1;
+    }
+    // Where the sum is beyond 64 bits, all rows fit on one page, and what is left of it gives 0.
+    return std::max<qulonglong>(1, (limit + rows - 1) / limit);
+}
+
+qulonglong pageOf(qulonglong offset, qulonglong limit, qulonglong pages)
+{
+    return limit == 0 ? 1 : std::min(offset / limit, pages - 1) + 1;
+}
+
 int spinBoxNumber(qulonglong number)
 {
     return static_cast<int>(std::min<qulonglong>(number, std::numeric_limits<int>::max()));
@@ -103,8 +117,8 @@ void TXDBNavWidget::refresh()
         rowCount =
             countRows(currentModel->tableName(), currentModel->filter(), currentModel->database());
     }
-    const qulonglong pages = pageCount();
-    const int page = spinBoxNumber(currentPage(pages));
+    const qulonglong pages = countPages(rowCount, limit());
+    const int page = spinBoxNumber(pageOf(offset(), limit(), pages));
     if (page != ui->gotoSpinBox->value()) {
         // Before the new maximum: this selects the page anew, through update().
         ui->gotoSpinBox->setValue(page);
@@ -121,20 +135,6 @@ void TXDBNavWidget::update()
     }
     currentModel->offset = std::min<qulonglong>(rowCount, spinBoxOffset());
     currentModel->select();
-}
-
-qulonglong TXDBNavWidget::pageCount() const
-{
-    if (limit() == 0) {
-        return 1;
-    }
-    // Where the sum is beyond 64 bits, all rows fit on one page, and what is left of it gives 0.
-    return std::max<qulonglong>(1, (limit() + rowCount - 1) / limit());
-}
-
-qulonglong TXDBNavWidget::currentPage(qulonglong pages) const
-{
-    return pages > 1 ? std::min(offset() / limit() + 1, pages) : 1;
 }
 
 qulonglong TXDBNavWidget::spinBoxOffset() const

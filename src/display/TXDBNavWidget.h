@@ -76,8 +76,6 @@ public slots:
     void update();
 
 private:
-    [[nodiscard]] qulonglong pageCount() const;
-    [[nodiscard]] qulonglong currentPage(qulonglong pages) const;
     [[nodiscard]] qulonglong spinBoxOffset() const;
 
     std::unique_ptr<Ui::TXDBNavWidget> ui;

@@ -10,6 +10,7 @@
 #include <QSqlQuery>
 #include <QUuid>
 
+#include <algorithm>
 #include <memory>
 
 /// What the tests of paged tables share: a table "samples" in a database of each kind.

@@ -6,7 +6,8 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QMetaMethod>
+
+#include <limits>
 
 using PagedTable::Model;
 using PagedTable::Navigator;

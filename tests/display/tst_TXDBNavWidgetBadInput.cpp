@@ -1,7 +1,11 @@
 #include "NavigatorHelpers.h"
 #include "TXDBNavWidget.h"
 
+#include <QHeaderView>
 #include <QSqlDriver>
+#include <QTableView>
+
+#include <limits>
 
 using PagedTable::Model;
 using PagedTable::Navigator;
@@ -27,6 +31,8 @@ private slots:
     void closedConnectionIsOnePage();
     void stoppedServerIsOnePage();
     void modelWithoutAConnectionIsOnePage();
+    void insertedRowGivesWayWhenItsPageIsGone();
+    void largestOffsetIsOnTheLastPage();
     void hostWhoSelectsInReplyIsHeard();
     void hostWhoDropsTheModelInReplyIsHeard();
 };
@@ -236,6 +242,41 @@ void TestTXDBNavWidgetBadInput::modelWithoutAConnectionIsOnePage()
 
     QCOMPARE(navigator.text(), QStringLiteral("1/1"));
     QVERIFY(!navigator.select());
+}
+
+// The refresh that the row brings about selects the last page, within the signal of the insertion.
+void TestTXDBNavWidgetBadInput::insertedRowGivesWayWhenItsPageIsGone()
+{
+    const auto connection = connect(10, false);
+    Model model(*connection, 3);
+    model.setEditStrategy(QSqlTableModel::OnManualSubmit);
+    Navigator navigator;
+    navigator.setModel(&model);
+    QTableView view;
+    view.setModel(&model);
+    view.show();
+    navigator.spinBox()->setValue(4);
+    connection->run(QStringLiteral("DELETE FROM samples WHERE id > 5"));
+
+    QVERIFY(model.insertRow(1));
+    view.grab();
+
+    QCOMPARE(navigator.text(), QStringLiteral("2/2"));
+    QCOMPARE(model.ids(), QList<int>({4, 5}));
+    QVERIFY(!model.isDirty());
+    QCOMPARE(view.verticalHeader()->count(), 2);
+}
+
+void TestTXDBNavWidgetBadInput::largestOffsetIsOnTheLastPage()
+{
+    const auto connection = connect(10, false);
+    Model model(*connection, 1, std::numeric_limits<qulonglong>::max());
+    Navigator navigator;
+
+    navigator.setModel(&model);
+
+    QCOMPARE(navigator.text(), QStringLiteral("10/10"));
+    QCOMPARE(model.ids(), QList<int>{10});
 }
 
 void TestTXDBNavWidgetBadInput::hostWhoSelectsInReplyIsHeard()

@@ -2,9 +2,9 @@
 
 #include "PagedTableHelpers.h"
 
+#include <QHeaderView>
 #include <QSignalSpy>
 #include <QSqlDriver>
-#include <QSqlIndex>
 #include <QTableView>
 
 #include <limits>
