@@ -1,5 +1,6 @@
 #include "TXDBNavWidget.h"
 
+#include "SingleStatement.h"
 #include "TXSqlTableModel.h"
 #include "ui_TXDBNavWidget.h"
 
@@ -19,10 +20,26 @@ quint64 countRows(const QString &table, const QString &filter, const QSqlDatabas
     if (!filter.isEmpty()) {
         statement += QStringLiteral(" WHERE ") + filter;
     }
-    QSqlQuery query(database);
-    // A prepared statement is one statement: what stands behind a semicolon is refused.
-    const bool isCounted = query.prepare(statement) && query.exec() && query.next();
-    return isCounted ? query.value(0).toULongLong() : 0;
+    // Qt would warn of a closed connection.
+    if (!database.isOpen() || !SingleStatement::isSingle(statement, database)) {
+        return 0;
+    }
+    QSqlQuery query(statement, database);
+    return query.next() ? query.value(0).toULongLong() : 0;
+}
+
+qulonglong countPages(quint64 rows, qulonglong limit)
+{
+    if (limit == 0) {
+        return 1;
+    }
+    // Where the sum is beyond 64 bits, all rows fit on one page, and what is left of it gives 0.
+    return std::max<qulonglong>(1, (limit + rows - 1) / limit);
+}
+
+qulonglong pageOf(qulonglong offset, qulonglong limit, qulonglong pages)
+{
+    return limit == 0 ? 1 : std::min(offset / limit, pages - 1) + 1;
 }
 
 int spinBoxNumber(qulonglong number)
@@ -100,8 +117,8 @@ void TXDBNavWidget::refresh()
         rowCount =
             countRows(currentModel->tableName(), currentModel->filter(), currentModel->database());
     }
-    const qulonglong pages = pageCount();
-    const int page = spinBoxNumber(currentPage(pages));
+    const qulonglong pages = countPages(rowCount, limit());
+    const int page = spinBoxNumber(pageOf(offset(), limit(), pages));
     if (page != ui->gotoSpinBox->value()) {
         // Before the new maximum: this selects the page anew, through update().
         ui->gotoSpinBox->setValue(page);
@@ -116,20 +133,14 @@ void TXDBNavWidget::update()
     if (currentModel == nullptr) {
         return;
     }
-    const auto page = static_cast<qulonglong>(ui->gotoSpinBox->value());
-    currentModel->offset = std::min<qulonglong>(rowCount, (page - 1) * currentModel->limit);
+    currentModel->offset = std::min<qulonglong>(rowCount, spinBoxOffset());
     currentModel->select();
 }
 
-qulonglong TXDBNavWidget::pageCount() const
+qulonglong TXDBNavWidget::spinBoxOffset() const
 {
-    if (limit() == 0) {
-        return 1;
-    }
-    return std::max<qulonglong>(1, (limit() + rowCount - 1) / limit());
-}
-
-qulonglong TXDBNavWidget::currentPage(qulonglong pages) const
-{
-    return pages > 1 ? std::min(offset() / limit() + 1, pages) : 1;
+    const auto pagesBefore = static_cast<qulonglong>(ui->gotoSpinBox->value() - 1);
+    const qulonglong most = std::numeric_limits<qulonglong>::max();
+    const bool isTooMuch = pagesBefore > 0 && limit() > most / pagesBefore;
+    return isTooMuch ? most : pagesBefore * limit();
 }

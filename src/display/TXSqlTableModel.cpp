@@ -1,8 +1,13 @@
 #include "TXSqlTableModel.h"
 
+#include "SingleStatement.h"
+
 #include <QScopedValueRollback>
 #include <QSqlDatabase>
 #include <QSqlDriver>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
 
 #include <algorithm>
 #include <limits>
@@ -21,6 +26,19 @@ TXSqlTableModel::TXSqlTableModel(QObject *parent, const QSqlDatabase &database)
     : QSqlTableModel(parent, database)
 { }
 
+void TXSqlTableModel::setTable(const QString &table)
+{
+    // Qt asks the database for the key of the table, and its escaping leaves back-ticks alone.
+    const QString name = database().driver()->escapeIdentifier(table, QSqlDriver::TableName);
+    QSqlError reason;
+    if (SingleStatement::isSingle(QStringLiteral("SELECT * FROM ") + name, database(), &reason)) {
+        QSqlTableModel::setTable(table);
+        return;
+    }
+    QSqlTableModel::setTable(QString());
+    setLastError(reason);
+}
+
 void TXSqlTableModel::setFilter(const QString &newFilter)
 {
     const bool isOther = newFilter != filter();
@@ -35,12 +53,7 @@ bool TXSqlTableModel::select()
     // Within one reset: a view, and a navigator that counts, would follow each portion of rows
     // otherwise.
     beginResetModel();
-    const bool isDone = QSqlTableModel::select();
-    if (!database().driver()->hasFeature(QSqlDriver::QuerySize)) {
-        while (canFetchMore(QModelIndex())) {
-            fetchMore(QModelIndex());
-        }
-    }
+    const bool isDone = selectPage();
     endResetModel();
     return isDone;
 }
@@ -58,6 +71,33 @@ QString TXSqlTableModel::selectStatement() const
     if (statement.isEmpty() || limit == 0 || !isPaged) {
         return statement;
     }
+    // On a line of its own, for a filter that ends with a comment.
     return statement
-        + QStringLiteral(" LIMIT %1 OFFSET %2").arg(rowNumber(limit)).arg(rowNumber(offset));
+        + QStringLiteral("\nLIMIT %1 OFFSET %2").arg(rowNumber(limit)).arg(rowNumber(offset));
+}
+
+bool TXSqlTableModel::selectPage()
+{
+    QSqlError reason;
+    if (!SingleStatement::isSingle(selectStatement(), database(), &reason)) {
+        dropRows();
+        setLastError(reason);
+        return false;
+    }
+    const bool isDone = QSqlTableModel::select();
+    // A statement of another kind has no columns, and would have more to fetch without end.
+    if (columnCount() > 0 && !database().driver()->hasFeature(QSqlDriver::QuerySize)) {
+        while (canFetchMore(QModelIndex())) {
+            fetchMore(QModelIndex());
+        }
+    }
+    return isDone;
+}
+
+void TXSqlTableModel::dropRows()
+{
+    revertAll();
+    const QString statement = database().driver()->sqlStatement(QSqlDriver::SelectStatement,
+                                                                tableName(), record(), false);
+    setQuery(QSqlQuery(statement + QStringLiteral(" WHERE 1 = 0"), database()));
 }
