@@ -6,6 +6,7 @@
 #include <QString>
 #include <QVariantHash>
 
+#include <initializer_list>
 #include <memory>
 
 class InstallerFile;
@@ -126,7 +127,7 @@ signals:
     void updateRefreshed(QVariantHash info);
 
     /// The dialog is about to enter another state: state() still tells the old one.
-    void stateChanged(TXCheckForUpdateWidget::State state);
+    void stateChanged(State state);
 
 public slots:
     /// Like tryCheckUpdate(), then shows the dialog.
@@ -172,6 +173,7 @@ public slots:
     void onTimer();
 
 private:
+    void setUpTimer();
     void setUp(bool checkAtStartup);
     void setUpForm();
     void setUpNetwork();
@@ -184,6 +186,7 @@ private:
     void enterDownloading();
     void enterReadyToInstall();
     void enterServiceError();
+    void showResult(std::initializer_list<QWidget *> shownInRow);
     void showOffer();
     void examineOfferedFile();
     void startTransfer();
@@ -203,6 +206,6 @@ private:
     bool installAfterDownload = false;
     int automaticCheckPeriod = 7;
     int elapsedDays = 0;
-    QTimer *timer;
+    QTimer *timer = nullptr;
     std::unique_ptr<InstallerFile> installerFile;
 };
