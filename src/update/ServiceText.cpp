@@ -20,7 +20,7 @@ constexpr qsizetype kLongestLineCharacters = 500;
 constexpr QChar kEllipsis(0x2026);
 
 // What laying out notes costs, in units of a plain character; measured with QLabel.
-constexpr int kAffordableCost = 20000;
+constexpr int kAffordableCost = 12000;
 constexpr int kLineCost = 20;
 constexpr int kTagCost = 20;
 constexpr int kTableTagCost = 60;
@@ -65,13 +65,17 @@ qsizetype affordableLength(const QString &text)
     return text.size();
 }
 
-/// Where the first cell stands that would span hundreds of rows or columns: each of them is laid
-/// out. The whole text without one.
-qsizetype lengthBeforeHugeCell(const QString &text)
+/// Where the first tag or style rule stands that asks for hundreds of columns or rows, each of
+/// which is laid out, or for lengths of thousands, which together are more than a layout can count:
+/// it would never end. The whole text without one.
+qsizetype lengthBeforeHugeNumber(const QString &text)
 {
-    static const QRegularExpression hugeSpan(QStringLiteral("span\\s*=[\\s\"']*(\\d{3}|&)"),
-                                             QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = hugeSpan.match(text);
+    static const QRegularExpression hugeNumber(
+        QStringLiteral("[<{][^<>{}]*(span\\s*=[\\s\"']*(\\d{3}|&)|"
+                       "(width|height|size|padding|spacing|border|margin|indent)[a-z-]*"
+                       "\\s*[:=][\\s\"']*(\\d{4}|&))"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = hugeNumber.match(text);
     return match.hasMatch() ? match.capturedStart() : text.size();
 }
 
@@ -144,7 +148,7 @@ void ServiceText::showNotes(const QString &text, QLabel &label)
 QString ServiceText::shortened(const QString &text)
 {
     const qsizetype affordable = affordableLength(text);
-    const qsizetype length = std::min(affordable, lengthBeforeHugeCell(text.left(affordable)));
+    const qsizetype length = std::min(affordable, lengthBeforeHugeNumber(text.left(affordable)));
     if (length == text.size()) {
         return text;
     }

@@ -28,7 +28,7 @@ public:
     static void showNotes(const QString &text, QLabel &label);
 
     /// The notes as they are shown: unchanged, or with an ellipsis where they become so long or so
-    /// laborious that laying them out would be felt (some 20,000 characters of plain text, fewer
+    /// laborious that laying them out would be felt (some 12,000 characters of plain text, fewer
     /// with markup, a handful of tables). Never cut within a tag.
     [[nodiscard]] static QString shortened(const QString &text);
 };
