@@ -74,11 +74,7 @@ TXCheckForUpdateWidget::~TXCheckForUpdateWidget()
     if (firstInstance == this) {
         firstInstance = nullptr;
     }
-    if (currentReply != nullptr) {
-        currentReply->disconnect(this);
-        networkManager->disconnect(this);
-        currentReply->abort();
-    }
+    abandonTransfer();
     threadPool->waitForDone(-1);
 }
 
@@ -125,8 +121,12 @@ void TXCheckForUpdateWidget::setAutoCheckPeriod(int days)
 void TXCheckForUpdateWidget::updateState(State state)
 {
     if (state != currentState) {
+        const QPointer<TXCheckForUpdateWidget> guard(this);
         // A slot that reads state() meanwhile sees the old one.
         emit stateChanged(state);
+        if (!guard) {
+            return;
+        }
         currentState = state;
     }
     enter(state);

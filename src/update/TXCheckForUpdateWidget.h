@@ -3,6 +3,7 @@
 #include "TXEmbeddableDialog.h"
 #include "TXGUICommonExport.h"
 
+#include <QPointer>
 #include <QString>
 #include <QVariantHash>
 
@@ -172,6 +173,9 @@ public slots:
     /// The daily tick.
     void onTimer();
 
+private slots:
+    void retryWriting();
+
 private:
     void setUpTimer();
     void setUp(bool checkAtStartup);
@@ -190,8 +194,12 @@ private:
     void showOffer();
     void examineOfferedFile();
     void startTransfer();
-    void writeReceived(QNetworkReply &reply);
+    [[nodiscard]] bool dropUnfinished();
+    void follow(QNetworkReply &reply);
+    void writeReceived();
+    void writeLater();
     [[nodiscard]] bool writeRest();
+    void abandonTransfer();
 
     State currentState = Checking;
     std::unique_ptr<Ui::TXCheckForUpdateWidget> ui;
@@ -201,11 +209,17 @@ private:
     QString productName;
     int productType = -1;
     QString downloadPath;
-    QNetworkReply *currentReply = nullptr;
+    /// Not owned; whoever owns it may delete it.
+    QPointer<QNetworkReply> currentReply;
     QThreadPool *threadPool = nullptr;
     bool installAfterDownload = false;
     int automaticCheckPeriod = 7;
     int elapsedDays = 0;
     QTimer *timer = nullptr;
+    /// The file of the current reply, null without one.
     std::unique_ptr<InstallerFile> installerFile;
+    bool isRetryPending = false;
+    int remainingRetries = 0;
+    /// How many of the slots that the transfer calls are running.
+    int transferDepth = 0;
 };

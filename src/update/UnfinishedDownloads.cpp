@@ -1,54 +1,82 @@
 #include "UnfinishedDownloads.h"
 
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStringList>
 
 namespace {
 
-const QString kKey = QStringLiteral("UnfinishedDownloads");
+const QString kGroup = QStringLiteral("UnfinishedDownloads");
 
+/// The file's one name: the folder's real place, then the name as it was given, since the file
+/// itself may not be there yet.
 QString nameOf(const QString &path)
 {
-    return QFileInfo(path).absoluteFilePath();
+    const QFileInfo file(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    const QString folder = QFileInfo(file.path()).canonicalFilePath();
+    return folder.isEmpty() ? file.filePath() : QDir(folder).filePath(file.fileName());
 }
 
-/// The remembered paths but for this one and for those whose file is gone.
-QStringList othersThan(const QString &name)
+/// Settings take no slash in a key.
+QString keyOf(const QString &name)
 {
-    QStringList names = QSettings().value(kKey).toStringList();
-    names.removeIf(
-        [&](const QString &other) { return other == name || !QFileInfo::exists(other); });
-    return names;
+    const QByteArray hash = QCryptographicHash::hash(name.toUtf8(), QCryptographicHash::Sha1);
+    return kGroup + u'/' + QString::fromLatin1(hash.toHex());
 }
 
-void store(const QStringList &names)
+/// An entry that is no entry of ours counts as old and gone.
+bool isOldAndGone(const QStringList &entry)
 {
-    QSettings settings;
-    if (names.isEmpty()) {
-        settings.remove(kKey);
-    } else {
-        settings.setValue(kKey, names);
+    if (entry.size() != 2) {
+        return true;
     }
-    settings.sync();
+    const QDateTime made = QDateTime::fromString(entry.at(1), Qt::ISODate);
+    const qint64 age = made.secsTo(QDateTime::currentDateTimeUtc());
+    const bool isRecent = made.isValid() && qAbs(age) <= UnfinishedDownloads::kKeptSeconds;
+    return !isRecent && !QFileInfo::exists(entry.at(0));
+}
+
+void dropOldEntries(QSettings &settings)
+{
+    settings.beginGroup(kGroup);
+    const QStringList keys = settings.childKeys();
+    for (const QString &key : keys) {
+        if (isOldAndGone(settings.value(key).toStringList())) {
+            settings.remove(key);
+        }
+    }
+    settings.endGroup();
 }
 
 } // namespace
 
 bool UnfinishedDownloads::contains(const QString &path)
 {
-    return QSettings().value(kKey).toStringList().contains(nameOf(path));
+    return !path.isEmpty() && QSettings().contains(keyOf(nameOf(path)));
 }
 
-void UnfinishedDownloads::add(const QString &path)
+bool UnfinishedDownloads::add(const QString &path)
 {
+    if (path.isEmpty()) {
+        return false;
+    }
     const QString name = nameOf(path);
-    store(othersThan(name) + QStringList(name));
+    QSettings settings;
+    dropOldEntries(settings);
+    const QString now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
+    settings.setValue(keyOf(name), QStringList({name, now}));
+    settings.sync();
+    return settings.status() == QSettings::NoError;
 }
 
 void UnfinishedDownloads::remove(const QString &path)
 {
     if (contains(path)) {
-        store(othersThan(nameOf(path)));
+        QSettings settings;
+        settings.remove(keyOf(nameOf(path)));
+        settings.sync();
     }
 }

@@ -540,7 +540,7 @@ void TestTXCheckForUpdateWidgetStates::emptyFileIsCompleteWithoutAFilesize()
 void TestTXCheckForUpdateWidgetStates::unfinishedFileNeverCountsAsComplete()
 {
     writeFile(installerPath(), "12345");
-    UnfinishedDownloads::add(installerPath());
+    QVERIFY(UnfinishedDownloads::add(installerPath()));
     Dialog dialog;
     receive(dialog, newRelease());
     QCOMPARE(dialog.state(), Dialog::UpdateAvailable);
