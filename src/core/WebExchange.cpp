@@ -2,28 +2,71 @@
 
 #include <QEventLoop>
 #include <QNetworkAccessManager>
-#include <QNetworkReply>
+#include <QObject>
+
+namespace {
+
+/// Ends a transfer whose body is too large: a service that talks on and on would fill the memory.
+class BodyLimit : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit BodyLimit(QNetworkReply &limitedReply)
+        : reply(limitedReply)
+    { }
+
+public slots:
+    void check()
+    {
+        if (reply.bytesAvailable() > WebExchange::kLargestBody) {
+            reply.abort();
+        }
+    }
+
+private:
+    QNetworkReply &reply;
+};
+
+void waitFor(QNetworkReply &reply)
+{
+    QEventLoop loop;
+    BodyLimit limit(reply);
+    QObject::connect(&reply, SIGNAL(sslErrors(QList<QSslError>)), &reply, SLOT(ignoreSslErrors()));
+    QObject::connect(&reply, SIGNAL(finished()), &loop, SLOT(quit()));
+    QObject::connect(&reply, SIGNAL(readyRead()), &limit, SLOT(check()));
+    if (!reply.isFinished()) {
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+    // The end of the thread's event loop ends this one too, and half a body is no answer.
+    if (!reply.isFinished()) {
+        reply.abort();
+    }
+}
+
+WebAnswer answerIn(QNetworkReply &reply)
+{
+    WebAnswer answer;
+    answer.error = reply.error();
+    answer.isSuccess = answer.error == QNetworkReply::NoError;
+    if (answer.isSuccess) {
+        answer.body = reply.readAll();
+    } else {
+        answer.errorText = reply.errorString();
+    }
+    return answer;
+}
+
+} // namespace
 
 WebAnswer WebExchange::run(const Send &send)
 {
     QNetworkAccessManager manager;
     QNetworkReply *reply = send(manager);
-    QEventLoop loop;
-    QObject::connect(reply, SIGNAL(sslErrors(QList<QSslError>)), reply, SLOT(ignoreSslErrors()));
-    QObject::connect(reply, SIGNAL(finished()), &loop, SLOT(quit()));
-    // A service that talks on and on would fill the memory.
-    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply] {
-        if (reply->bytesAvailable() > kLargestBody) {
-            reply->abort();
-        }
-    });
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-
-    WebAnswer answer;
-    answer.isSuccess = reply->error() == QNetworkReply::NoError;
-    if (answer.isSuccess) {
-        answer.body = reply->readAll();
-    }
+    waitFor(*reply);
+    WebAnswer answer = answerIn(*reply);
     reply->deleteLater();
     return answer;
 }
+
+#include "WebExchange.moc"

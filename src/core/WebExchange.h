@@ -3,34 +3,47 @@
 #include "TXGUICommonExport.h"
 
 #include <QByteArray>
+#include <QNetworkReply>
+#include <QString>
 
 #include <functional>
 
 class QNetworkAccessManager;
-class QNetworkReply;
 
 /// What a web service has answered.
 struct WebAnswer
 {
     /// Whether the transfer ended without an error of the network, of TLS or of HTTP.
     bool isSuccess = false;
+
     /// The whole body of a successful answer; empty otherwise.
     QByteArray body;
+
+    /// What went wrong; NoError exactly for a successful answer.
+    QNetworkReply::NetworkError error = QNetworkReply::NoError;
+
+    /// The same in words, for the user; empty for a successful answer.
+    QString errorText;
 };
 
 /// One blocking exchange with a web service.
 ///
 /// Certificate errors are ignored. There is no time-out: the call returns when the reply has
-/// finished, however long the service takes. A body that grows beyond kLargestBody bytes is an
-/// error, since it would fill the memory otherwise.
+/// finished, however long the service takes. Two things end it early, as an exchange that was
+/// cancelled: a body that grows beyond kLargestBody, since it would fill the memory, and the end of
+/// the calling thread's event loop, as by QCoreApplication::quit().
 ///
-/// Thread: any; the caller's events are processed meanwhile, apart from user input.
+/// Thread: any; nothing of another thread is needed meanwhile. The caller's events are processed
+/// apart from user input, so what called may be gone afterwards.
 class TXGUICOMMON_PRIVATE_EXPORT WebExchange
 {
 public:
-    static constexpr qint64 kLargestBody = 64 * 1024 * 1024;
+    /// The most bytes that a body may have, after decompression.
+    static constexpr qint64 kLargestBody = 64LL * 1024 * 1024;
 
-    /// Starts a request by the manager, which lives as long as the call does.
+    /// Starts a request by the manager and returns its reply, never null. The manager lives as long
+    /// as the call of run() does, and the reply with it: what the request reads from, such as the
+    /// parts of a form, may be made a child of the reply.
     using Send = std::function<QNetworkReply *(QNetworkAccessManager &manager)>;
 
     WebExchange() = delete;

@@ -1,12 +1,16 @@
 #include "ReleaseRecord.h"
 
-#include "TXUpdateService.h"
+#include "InstallerName.h"
 #include "ThisBuild.h"
+#include "UpdateQuery.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QMetaType>
 #include <QStandardPaths>
-#include <QUrlQuery>
+#include <QVariant>
+
+#include <limits>
 
 namespace {
 
@@ -16,6 +20,24 @@ const QLatin1String kFinalStatus("Finale");
 QString text(const QVariantHash &record, QLatin1String key)
 {
     return record.value(key).toString();
+}
+
+/// Whether a value is a number beyond the range of qint64, where QVariant's own conversion wraps
+/// around or is undefined.
+bool isBeyondRange(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float) {
+        const double number = value.toDouble();
+        return !(number >= -0x1p63 && number < 0x1p63);
+    }
+    return value.typeId() == QMetaType::ULongLong
+        && value.toULongLong() > quint64(std::numeric_limits<qint64>::max());
+}
+
+qint64 number(const QVariantHash &record, QLatin1String key)
+{
+    const QVariant value = record.value(key);
+    return isBeyondRange(value) ? 0 : value.toLongLong();
 }
 
 } // namespace
@@ -43,34 +65,30 @@ QVariantHash ReleaseRecord::completed(const QVariantHash &record, int productTyp
 
 QUrl ReleaseRecord::downloadUrl(const QVariantHash &record, int productType, const QDateTime &now)
 {
-    QUrlQuery query;
-    query.addQueryItem(QStringLiteral("CurrentRevision"), ThisBuild::kRevision);
-    query.addQueryItem(QStringLiteral("CurrentOS"), ThisBuild::kPlatform);
-    query.addQueryItem(QStringLiteral("CurrentProductType"), QString::number(productType));
-    query.addQueryItem(QStringLiteral("ReleaseId"), text(record, kReleaseIdKey));
-    query.addQueryItem(QStringLiteral("Date"), now.toString(Qt::ISODate));
-    QUrl url = TXUpdateService::url(QStringLiteral("/download"));
-    url.setQuery(query);
-    return url;
+    return UpdateQuery::address(
+        QStringLiteral("/download"),
+        {{QStringLiteral("CurrentRevision"), ThisBuild::kRevision},
+         {QStringLiteral("CurrentOS"), ThisBuild::kPlatform},
+         {QStringLiteral("CurrentProductType"), QString::number(productType)},
+         {QStringLiteral("ReleaseId"), text(record, kReleaseIdKey)},
+         {QStringLiteral("Date"), now.toUTC().toString(Qt::ISODate)}});
 }
 
 QString ReleaseRecord::fileName(const QVariantHash &record)
 {
-    QString path = text(record, kFilenameKey);
-    path.replace(u'\\', u'/');
-    const QString name = path.section(u'/', -1);
-    const bool isPlace = name == QLatin1String(".") || name == QLatin1String("..");
-    return isPlace ? QString() : name;
+    return InstallerName::in(text(record, kFilenameKey));
 }
 
 int ReleaseRecord::revision(const QVariantHash &record)
 {
-    return record.value(kRevisionKey).toInt();
+    using Range = std::numeric_limits<int>;
+    const qint64 revision = number(record, kRevisionKey);
+    return revision < Range::min() || revision > Range::max() ? 0 : int(revision);
 }
 
 qint64 ReleaseRecord::fileSize(const QVariantHash &record)
 {
-    return record.value(kFilesizeKey, 0).toLongLong();
+    return number(record, kFilesizeKey);
 }
 
 QString ReleaseRecord::title(const QVariantHash &record)
@@ -83,7 +101,8 @@ QString ReleaseRecord::title(const QVariantHash &record)
     }
     const QString revision = text(record, kRevisionKey);
     if (!revision.isEmpty()) {
-        title += QStringLiteral(" (rev %1)").arg(revision);
+        title +=
+            u' ' + QCoreApplication::translate("TXCheckForUpdateWidget", "(rev %1)").arg(revision);
     }
     return title;
 }

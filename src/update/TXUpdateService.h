@@ -10,7 +10,8 @@
 /// A host that wants another service than the one of the build names it at start. The service is
 /// read for each request, so a later change counts for the next one.
 ///
-/// Thread: any, at any time, also before there is an application object.
+/// Thread: any, at any time, also before there is an application object and while static objects
+/// are made.
 class TXGUICOMMON_EXPORT TXUpdateService
 {
 public:
@@ -18,11 +19,15 @@ public:
 
     /// Host, and port behind a colon when it is not 443, as in "updates.tovra.example:8443" or
     /// "[::1]:8443". At first the value of the CMake variable TXGUICOMMON_UPDATE_AUTHORITY.
-    static QString authority();
-    /// Sets the service for all requests from now on. An empty text stands for that of the build.
-    /// A text that is no authority makes every request fail as with an unknown host.
+    [[nodiscard]] static QString authority();
+    /// Sets the service for all requests from now on. Blanks around it do not count; an empty text
+    /// stands for the service of the build.
+    ///
+    /// Any text is kept. With one that is no host and port ("a/b", "user@host", "host:99999") every
+    /// request fails as with an unknown host, and none goes out.
     static void setAuthority(const QString &hostAndPort);
 
     /// The address of a path of the service, which begins with a slash, parsed in tolerant mode.
-    static QUrl url(const QString &path);
+    /// Without a host, "https:///path", when authority() is no host and port.
+    [[nodiscard]] static QUrl url(const QString &path);
 };

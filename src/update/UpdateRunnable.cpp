@@ -2,15 +2,14 @@
 
 #include "ReleaseRecord.h"
 #include "TXJSONSerializer.h"
-#include "TXUpdateService.h"
 #include "ThisBuild.h"
+#include "UpdateQuery.h"
 #include "WebExchange.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
 #include <QSettings>
 #include <QUrl>
-#include <QUrlQuery>
 
 namespace {
 
@@ -45,14 +44,12 @@ void UpdateRunnable::run()
 
 QUrl UpdateRunnable::checkUrl(int productType)
 {
-    QUrlQuery query;
-    query.addQueryItem(QStringLiteral("OS"), ThisBuild::kPlatform);
-    query.addQueryItem(QStringLiteral("ProductType"), QString::number(productType));
-    query.addQueryItem(QStringLiteral("Revision"), ThisBuild::kRevision);
-    if (QSettings().contains(kStatusSetting)) {
-        query.addQueryItem(QStringLiteral("Status"), QSettings().value(kStatusSetting).toString());
+    UpdateQuery::Items items{{QStringLiteral("OS"), ThisBuild::kPlatform},
+                             {QStringLiteral("ProductType"), QString::number(productType)},
+                             {QStringLiteral("Revision"), ThisBuild::kRevision}};
+    const QSettings settings;
+    if (settings.contains(kStatusSetting)) {
+        items.append({QStringLiteral("Status"), settings.value(kStatusSetting).toString()});
     }
-    QUrl url = TXUpdateService::url(QStringLiteral("/checkUpdate"));
-    url.setQuery(query);
-    return url;
+    return UpdateQuery::address(QStringLiteral("/checkUpdate"), items);
 }

@@ -20,6 +20,10 @@ private slots:
     void boxIsGoneAfterTheCall();
     void parentMayDieBeforeItsBox();
     void boxNeedsNoParent();
+    void questionIsLikeQtsOwn();
+    void onlyYesConfirms_data();
+    void onlyYesConfirms();
+    void questionThatIsDeletedIsNotConfirmed();
 };
 
 void TestPlainMessageBox::boxIsLikeQtsOwn_data()
@@ -95,6 +99,68 @@ void TestPlainMessageBox::boxNeedsNoParent()
     driver.expectMessageBox([](QMessageBox &box) { box.reject(); });
 
     PlainMessageBox::information(nullptr, QString(), QStringLiteral("Text"));
+}
+
+void TestPlainMessageBox::questionIsLikeQtsOwn()
+{
+    const QString text = QStringLiteral("<b>Reader</b> %1\nwill be installed.");
+    DialogDriver driver;
+    driver.expectMessageBox([&](QMessageBox &box) {
+        QVERIFY(!box.parentWidget());
+        QCOMPARE(box.windowTitle(), QStringLiteral("Title"));
+        QCOMPARE(box.text(), text);
+        QCOMPARE(box.textFormat(), Qt::PlainText);
+        QCOMPARE(box.icon(), QMessageBox::Warning);
+        QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        QVERIFY(!box.defaultButton());
+        QVERIFY(box.isModal());
+        DialogDriver::click(box.button(QMessageBox::No));
+    });
+
+    QVERIFY(!PlainMessageBox::confirm(QStringLiteral("Title"), text));
+}
+
+void TestPlainMessageBox::onlyYesConfirms_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("button");
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<bool>("isConfirmed");
+    QTest::newRow("Yes") << QMessageBox::Yes << Qt::Key(0) << true;
+    QTest::newRow("No") << QMessageBox::No << Qt::Key(0) << false;
+    QTest::newRow("Escape") << QMessageBox::NoButton << Qt::Key_Escape << false;
+    QTest::newRow("closed") << QMessageBox::NoButton << Qt::Key(0) << false;
+}
+
+void TestPlainMessageBox::onlyYesConfirms()
+{
+    QFETCH(QMessageBox::StandardButton, button);
+    QFETCH(Qt::Key, key);
+    QFETCH(bool, isConfirmed);
+    DialogDriver driver;
+    driver.expectMessageBox([&](QMessageBox &box) {
+        if (button != QMessageBox::NoButton) {
+            DialogDriver::click(box.button(button));
+        } else if (key != Qt::Key(0)) {
+            QTest::keyClick(&box, key);
+        } else {
+            box.close();
+        }
+    });
+
+    QCOMPARE(PlainMessageBox::confirm(QStringLiteral("T"), QStringLiteral("Text")), isConfirmed);
+}
+
+void TestPlainMessageBox::questionThatIsDeletedIsNotConfirmed()
+{
+    QPointer<QMessageBox> opened;
+    DialogDriver driver;
+    driver.expectMessageBox([&](QMessageBox &box) {
+        opened = &box;
+        delete &box;
+    });
+
+    QVERIFY(!PlainMessageBox::confirm(QStringLiteral("T"), QStringLiteral("Text")));
+    QVERIFY(!opened);
 }
 
 int main(int argc, char **argv)
