@@ -1,13 +1,14 @@
 #include "ServiceText.h"
 
 #include <QFontMetrics>
-#include <QImage>
 #include <QLabel>
+#include <QList>
 #include <QPalette>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QString>
 #include <QTextDocument>
+#include <QTextFormat>
 #include <QUrl>
 #include <QVariant>
 #include <QWidget>
@@ -99,15 +100,54 @@ qsizetype outsideOfCharacter(const QString &text, qsizetype place)
     return !before.isEmpty() && before.back().isHighSurrogate() ? place - 1 : place;
 }
 
-QVariant emptyPicture(const QUrl &url)
+bool isWithinTheText(const QString &address)
 {
-    if (url.scheme() == QLatin1String("data")) {
-        return {};
+    return address.startsWith(QLatin1String("data:"), Qt::CaseInsensitive);
+}
+
+/// Rich text that is read and not shown, to learn whether it refers to anything outside of itself.
+/// A label cannot be kept from reading local files: it asks a provider of resources only for what
+/// it has not found.
+class ReadNotes : public QTextDocument
+{
+public:
+    explicit ReadNotes(const QString &text) { setHtml(text); }
+
+    [[nodiscard]] bool refersOutside() const
+    {
+        const QList<QTextFormat> formats = allFormats();
+        return hasAsked
+            || std::any_of(formats.begin(), formats.end(), [](const QTextFormat &format) {
+                   return format.isImageFormat() && !isWithinTheText(format.toImageFormat().name());
+               });
     }
-    // A valid picture: without one the document would go and look for itself.
-    QImage picture(1, 1, QImage::Format_ARGB32);
-    picture.fill(Qt::transparent);
-    return picture;
+
+    /// All words, without pictures.
+    [[nodiscard]] QString words() const
+    {
+        return toPlainText().remove(QChar(QChar::ObjectReplacementCharacter));
+    }
+
+protected:
+    QVariant loadResource(int /*type*/, const QUrl &address) override
+    {
+        hasAsked = hasAsked || !isWithinTheText(address.toString());
+        return QByteArray();
+    }
+
+private:
+    bool hasAsked = false;
+};
+
+/// The same notes, or their words alone when they refer to pictures or style sheets elsewhere.
+QString withoutReferences(const QString &text)
+{
+    if (!Qt::mightBeRichText(text)) {
+        return text;
+    }
+    const ReadNotes notes(text);
+    return notes.refersOutside() ? Qt::convertFromPlainText(notes.words(), Qt::WhiteSpaceNormal)
+                                 : text;
 }
 
 } // namespace
@@ -131,12 +171,11 @@ void ServiceText::prepareForNotes(QLabel &label)
     paper.setColor(QPalette::WindowText, QColor::fromRgb(kTextColour));
     paper.setColor(QPalette::Text, QColor::fromRgb(kTextColour));
     label.setPalette(paper);
-    label.setResourceProvider(emptyPicture);
 }
 
 void ServiceText::showNotes(const QString &text, QLabel &label)
 {
-    label.setText(shortened(text));
+    label.setText(withoutReferences(shortened(text)));
     // The document of a rich text, which is filled only when it is laid out, colours its links by
     // the palette of the application.
     if (auto *document = label.findChild<QTextDocument *>()) {

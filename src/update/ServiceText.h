@@ -20,11 +20,12 @@ public:
     /// characters only.
     [[nodiscard]] static QString line(const QString &text, const QWidget &place);
 
-    /// Makes the label a sheet of white paper: dark text whatever the palette, and pictures from
-    /// anywhere but the text itself stay empty, without a look at the file or the address.
+    /// Makes the label a sheet of white paper: dark text whatever the palette.
     static void prepareForNotes(QLabel &label);
 
-    /// Shows release notes, plain or rich, in a label that was prepared for them.
+    /// Shows release notes, plain or rich, in a label that was prepared for them. Notes that refer
+    /// to pictures or style sheets outside of themselves are shown as their words alone, and
+    /// nothing of what they refer to is read or asked for.
     static void showNotes(const QString &text, QLabel &label);
 
     /// The notes as they are shown: unchanged, or with an ellipsis where they become so long or so
