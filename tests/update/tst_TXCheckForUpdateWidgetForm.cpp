@@ -190,21 +190,14 @@ void TestTXCheckForUpdateWidgetForm::keysHitNoButtonOfAPageThatComesUp()
     Dialog dialog;
     if (hasNotes) {
         receive(dialog, newRelease());
+        dialog.hide();
     } else {
         dialog.updateState(Dialog::UpToDate);
     }
-    dialog.updateState(Dialog::Downloading);
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    part<QScrollArea>(dialog, "scrollArea")->setFocus();
     dialog.updateState(Dialog::ReadyToInstall);
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QVERIFY(!qobject_cast<QPushButton *>(dialog.focusWidget()));
     // A question would hang here.
-    typeInto(dialog);
-    QVERIFY(dialog.isVisible());
-
-    // And in a window that becomes active only now.
-    dialog.hide();
-    dialog.updateState(Dialog::ReadyToInstall);
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
     typeInto(dialog);
     QVERIFY(dialog.isVisible());
 
