@@ -23,6 +23,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -140,6 +141,8 @@ void TXCheckForUpdateWidget::getRevisionInfo(int type)
     threadPool->start(runnable.release());
 }
 
+// The signature is that of the hosts.
+// NOLINTNEXTLINE(performance-unnecessary-value-param,readability-make-member-function-const)
 QVariantHash TXCheckForUpdateWidget::revisionInfo(QVariantHash info)
 {
     return ReleaseRecord::completed(info, productType);
@@ -169,9 +172,10 @@ void TXCheckForUpdateWidget::tryCheckUpdate()
 
 void TXCheckForUpdateWidget::updateInfoReceived(QVariantHash newUpdate, QVariantHash newLastUpdate)
 {
-    update = revisionInfo(newUpdate);
-    lastUpdate = revisionInfo(newLastUpdate);
-    if (newLastUpdate.isEmpty()) {
+    const bool hasFailed = newLastUpdate.isEmpty();
+    update = revisionInfo(std::move(newUpdate));
+    lastUpdate = revisionInfo(std::move(newLastUpdate));
+    if (hasFailed) {
         updateState(ServiceError);
         return;
     }
