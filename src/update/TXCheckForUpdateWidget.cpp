@@ -3,6 +3,7 @@
 #include "InstallerFile.h"
 #include "PlainMessageBox.h"
 #include "ReleaseRecord.h"
+#include "ServiceText.h"
 #include "TXFileDialog.h"
 #include "UnfinishedDownloads.h"
 #include "UpdateRunnable.h"
@@ -20,6 +21,9 @@
 #include <QThreadPool>
 #include <QTimer>
 #include <QUrl>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -46,8 +50,8 @@ TXCheckForUpdateWidget *firstInstance = nullptr;
 TXCheckForUpdateWidget::TXCheckForUpdateWidget(QWidget *parent, bool checkAtStartup)
     : TXEmbeddableDialog(parent)
     , ui(std::make_unique<Ui::TXCheckForUpdateWidget>())
-    , timer(new QTimer(this))
 {
+    setUpTimer();
     productName = globalDetails->productName;
     productType = globalDetails->productType;
     setUp(checkAtStartup);
@@ -57,8 +61,8 @@ TXCheckForUpdateWidget::TXCheckForUpdateWidget(QString name, int type, bool chec
                                                QWidget *parent)
     : TXEmbeddableDialog(parent)
     , ui(std::make_unique<Ui::TXCheckForUpdateWidget>())
-    , timer(new QTimer(this))
 {
+    setUpTimer();
     setDetails(name, type);
     setUp(checkAtStartup);
     if (firstInstance == nullptr) {
@@ -137,6 +141,8 @@ void TXCheckForUpdateWidget::getRevisionInfo(int type)
     threadPool->start(runnable.release());
 }
 
+// The signature is that of the hosts.
+// NOLINTNEXTLINE(performance-unnecessary-value-param,readability-make-member-function-const)
 QVariantHash TXCheckForUpdateWidget::revisionInfo(QVariantHash info)
 {
     return ReleaseRecord::completed(info, productType);
@@ -166,22 +172,28 @@ void TXCheckForUpdateWidget::tryCheckUpdate()
 
 void TXCheckForUpdateWidget::updateInfoReceived(QVariantHash newUpdate, QVariantHash newLastUpdate)
 {
-    update = revisionInfo(newUpdate);
-    lastUpdate = revisionInfo(newLastUpdate);
-    if (newLastUpdate.isEmpty()) {
+    const bool hasFailed = newLastUpdate.isEmpty();
+    update = revisionInfo(std::move(newUpdate));
+    lastUpdate = revisionInfo(std::move(newLastUpdate));
+    if (hasFailed) {
         updateState(ServiceError);
         return;
     }
+    // The question whether to install may come up, and the dialog go while it is open.
+    const QPointer<TXCheckForUpdateWidget> guard(this);
     updateState(ReleaseRecord::isNewer(update) ? UpdateAvailable : UpToDate);
-    emit updateRefreshed(update);
+    if (guard) {
+        emit updateRefreshed(update);
+    }
 }
 
 void TXCheckForUpdateWidget::on_downloadButton_clicked()
 {
     const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+    const QPointer<TXCheckForUpdateWidget> guard(this);
     const QString folder = TXFileDialog::getExistingDirectory(
         this, tr("Choose Download Directory"), downloads, QFileDialog::ShowDirsOnly, QString());
-    if (folder.isEmpty()) {
+    if (!guard || folder.isEmpty()) {
         return;
     }
     update.insert(ReleaseRecord::kPathKey,
@@ -194,7 +206,7 @@ void TXCheckForUpdateWidget::on_downloadAndInstallButton_clicked()
     const QString question = tr("%1 will be installed on your computer.\n"
                                 "Please make sure to have administrator rights before attempting "
                                 "the software update.")
-                                 .arg(ReleaseRecord::title(update));
+                                 .arg(ServiceText::line(ReleaseRecord::title(update), *this));
     const QPointer<TXCheckForUpdateWidget> guard(this);
     if (PlainMessageBox::confirm(tr("Installing Update"), question) && guard) {
         installAfterDownload = true;
@@ -210,7 +222,7 @@ void TXCheckForUpdateWidget::on_installButton_clicked()
     if (!PlainMessageBox::confirm(tr("Installing Update"), question) || !guard) {
         return;
     }
-    if (QDesktopServices::openUrl(QUrl::fromLocalFile(downloadPath))) {
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(downloadPath)) && guard) {
         accept();
         QMetaObject::invokeMethod(qApp, "closeAllWindows", Qt::QueuedConnection);
     }
@@ -238,10 +250,15 @@ void TXCheckForUpdateWidget::onTimer()
     }
 }
 
-void TXCheckForUpdateWidget::setUp(bool checkAtStartup)
+void TXCheckForUpdateWidget::setUpTimer()
 {
     setWindowTitle(tr("Check for Updates"));
+    timer = new QTimer(this);
     connect(timer, SIGNAL(timeout()), this, SLOT(onTimer()));
+}
+
+void TXCheckForUpdateWidget::setUp(bool checkAtStartup)
+{
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setUpNetwork();
     setUpForm();
@@ -260,6 +277,7 @@ void TXCheckForUpdateWidget::setUpNetwork()
 void TXCheckForUpdateWidget::setUpForm()
 {
     ui->setupUi(this);
+    ServiceText::prepareForNotes(*ui->descriptionLabel);
 }
 
 void TXCheckForUpdateWidget::readSettings(bool checkAtStartup)
@@ -310,15 +328,10 @@ void TXCheckForUpdateWidget::enterChecking()
 
 void TXCheckForUpdateWidget::enterUpToDate()
 {
-    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
-    ui->updateNameLabel->setText(tr("%1 is up to date.").arg(productName));
+    showResult({ui->okButton});
+    ui->updateNameLabel->setText(
+        ServiceText::line(tr("%1 is up to date.").arg(productName), *ui->updateNameLabel));
     ui->scrollArea->hide();
-    ui->downloadButton->hide();
-    ui->downloadAndInstallButton->hide();
-    ui->installButton->hide();
-    ui->cancelButton->hide();
-    ui->okButton->show();
-    ui->downloadProgressBar->hide();
 }
 
 void TXCheckForUpdateWidget::enterUpdateAvailable()
@@ -329,37 +342,19 @@ void TXCheckForUpdateWidget::enterUpdateAvailable()
 
 void TXCheckForUpdateWidget::enterDownloadStarting()
 {
-    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
-    ui->downloadButton->hide();
-    ui->downloadAndInstallButton->hide();
-    ui->installButton->hide();
-    ui->cancelButton->hide();
-    ui->okButton->hide();
-    ui->downloadProgressBar->show();
+    showResult({ui->downloadProgressBar});
     startTransfer();
 }
 
 void TXCheckForUpdateWidget::enterDownloading()
 {
-    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
-    ui->downloadButton->hide();
-    ui->downloadAndInstallButton->hide();
-    ui->installButton->hide();
-    ui->cancelButton->hide();
-    ui->okButton->hide();
-    ui->downloadProgressBar->show();
+    showResult({ui->downloadProgressBar});
     QDialog::setVisible(true);
 }
 
 void TXCheckForUpdateWidget::enterReadyToInstall()
 {
-    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
-    ui->downloadButton->hide();
-    ui->downloadAndInstallButton->hide();
-    ui->installButton->show();
-    ui->cancelButton->show();
-    ui->okButton->hide();
-    ui->downloadProgressBar->hide();
+    showResult({ui->installButton, ui->cancelButton});
     QDialog::setVisible(true);
     if (installAfterDownload) {
         on_installButton_clicked();
@@ -368,35 +363,45 @@ void TXCheckForUpdateWidget::enterReadyToInstall()
 
 void TXCheckForUpdateWidget::enterServiceError()
 {
-    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
+    showResult({});
     ui->updateNameLabel->hide();
     ui->shortDescLabel->setText(tr("Impossible to connect to the Check for Updates service, "
                                    "please check your Internet connection."));
     ui->scrollArea->hide();
-    ui->downloadButton->hide();
-    ui->downloadAndInstallButton->hide();
-    ui->installButton->hide();
-    ui->cancelButton->hide();
-    ui->okButton->hide();
-    ui->downloadProgressBar->hide();
+}
+
+void TXCheckForUpdateWidget::showResult(std::initializer_list<QWidget *> shownInRow)
+{
+    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
+    const std::initializer_list<QWidget *> row = {ui->downloadButton, ui->downloadAndInstallButton,
+                                                  ui->installButton,  ui->cancelButton,
+                                                  ui->okButton,       ui->downloadProgressBar};
+    for (QWidget *widget : row) {
+        widget->setVisible(std::find(shownInRow.begin(), shownInRow.end(), widget)
+                           != shownInRow.end());
+    }
+    // The dialog changes and comes up by itself, while the user may be typing: what he types then
+    // must not press a button that was not there before.
+    if (isWindow()) {
+        setFocus();
+    }
 }
 
 void TXCheckForUpdateWidget::showOffer()
 {
-    const bool isDownloadable = update.contains(ReleaseRecord::kUrlKey);
-    ui->stackedWidget->setCurrentWidget(ui->UpdateFoundPage);
-    ui->updateNameLabel->setText(update.value(ReleaseRecord::kProductNameKey).toString());
-    ui->shortDescLabel->setText(
-        tr("%1 is available. Do you want to download it?").arg(ReleaseRecord::title(update)));
+    if (update.contains(ReleaseRecord::kUrlKey)) {
+        showResult({ui->downloadButton, ui->downloadAndInstallButton, ui->cancelButton});
+    } else {
+        showResult({ui->cancelButton});
+    }
+    const QString name = update.value(ReleaseRecord::kProductNameKey).toString();
+    ui->updateNameLabel->setText(ServiceText::line(name, *ui->updateNameLabel));
+    const QString title = ServiceText::line(ReleaseRecord::title(update), *ui->shortDescLabel);
+    ui->shortDescLabel->setText(tr("%1 is available.").arg(title));
     ui->shortDescLabel->show();
-    ui->descriptionLabel->setText(update.value(ReleaseRecord::kDescriptionKey).toString());
+    ServiceText::showNotes(update.value(ReleaseRecord::kDescriptionKey).toString(),
+                           *ui->descriptionLabel);
     ui->scrollArea->show();
-    ui->downloadButton->setVisible(isDownloadable);
-    ui->downloadAndInstallButton->setVisible(isDownloadable);
-    ui->installButton->hide();
-    ui->cancelButton->show();
-    ui->okButton->hide();
-    ui->downloadProgressBar->hide();
 }
 
 void TXCheckForUpdateWidget::examineOfferedFile()
@@ -414,6 +419,8 @@ void TXCheckForUpdateWidget::examineOfferedFile()
         updateState(ReadyToInstall);
         return;
     }
-    QFile::remove(file.absoluteFilePath());
+    if (QFile::remove(file.absoluteFilePath())) {
+        UnfinishedDownloads::remove(path);
+    }
     QDialog::setVisible(true);
 }

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QVariantHash>
 
+#include <initializer_list>
 #include <memory>
 
 class InstallerFile;
@@ -131,7 +132,7 @@ signals:
     void updateRefreshed(QVariantHash info);
 
     /// The dialog is about to enter another state: state() still tells the old one.
-    void stateChanged(TXCheckForUpdateWidget::State state);
+    void stateChanged(State state);
 
 public slots:
     /// Like tryCheckUpdate(), then shows the dialog.
@@ -184,6 +185,7 @@ private slots:
     void retryWriting();
 
 private:
+    void setUpTimer();
     void setUp(bool checkAtStartup);
     void setUpForm();
     void setUpNetwork();
@@ -196,6 +198,7 @@ private:
     void enterDownloading();
     void enterReadyToInstall();
     void enterServiceError();
+    void showResult(std::initializer_list<QWidget *> shownInRow);
     void showOffer();
     void examineOfferedFile();
     void startTransfer();
@@ -220,7 +223,7 @@ private:
     bool installAfterDownload = false;
     int automaticCheckPeriod = 7;
     int elapsedDays = 0;
-    QTimer *timer;
+    QTimer *timer = nullptr;
     /// The file of the current reply, null without one.
     std::unique_ptr<InstallerFile> installerFile;
     bool isRetryPending = false;
