@@ -13,6 +13,12 @@ public:
     GraphicalShell() = delete;
 
     /// Opens a folder, or the folder of a file with the file selected. Does not wait for the
-    /// program that does it; tells whether it was started.
+    /// program that does it; tells whether it was started, or asked.
+    ///
+    /// On Windows that is the Explorer. Elsewhere it is the file manager that serves the desktop on
+    /// its message bus; where there is none, or no bus, or the bus is silent for a second, or the
+    /// file manager answers with an error later, the program "xdg-open" opens the folder without
+    /// selecting anything. A relative path counts from the current folder. False there for an empty
+    /// path, for one with a NUL, and when there is neither.
     static bool show(const QString &path);
 };

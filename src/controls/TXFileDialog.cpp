@@ -1,73 +1,16 @@
 #include "TXFileDialog.h"
 
+#include "FileDialogMemory.h"
 #include "GraphicalShell.h"
-
-#include <QFileInfo>
-#include <QSettings>
-
-namespace {
-
-// The two halves of the memory: what is recalled before a dialog, and what is stored after it.
-
-QString startPath(const QString &dir, const QString &key)
-{
-    const QSettings settings;
-    if (key.isEmpty() || !settings.contains(key)) {
-        return dir;
-    }
-    const QString remembered = settings.value(key).toString();
-    if (QFileInfo(dir).isDir()) {
-        return remembered;
-    }
-    return remembered + u'/' + QFileInfo(dir).fileName();
-}
-
-QString textOf(const QUrl &url)
-{
-    return url.toString(QUrl::FullyEncoded | QUrl::RemoveUserInfo | QUrl::RemovePort);
-}
-
-QUrl startUrl(const QUrl &dir, const QString &key)
-{
-    return QUrl(startPath(textOf(dir), key), QUrl::TolerantMode);
-}
-
-QString folderOf(const QString &file)
-{
-    return QFileInfo(file).absolutePath();
-}
-
-void storeDirectory(const QString &key, const QString &directory)
-{
-    if (!key.isEmpty() && !directory.isEmpty()) {
-        QSettings().setValue(key, directory);
-    }
-}
-
-void recallFilter(QString *selectedFilter, const QString &key)
-{
-    const QSettings settings;
-    if (!key.isEmpty() && selectedFilter != nullptr && settings.contains(key)) {
-        *selectedFilter = settings.value(key).toString();
-    }
-}
-
-void storeFilter(const QString *selectedFilter, const QString &key)
-{
-    if (!key.isEmpty() && selectedFilter != nullptr && !selectedFilter->isEmpty()) {
-        QSettings().setValue(key, *selectedFilter);
-    }
-}
-
-} // namespace
 
 QString TXFileDialog::getExistingDirectory(QWidget *parent, const QString &caption,
                                            const QString &dir, QFileDialog::Options options,
                                            QString directoryKey)
 {
+    const FileDialogMemory memory(directoryKey);
     const QString folder =
-        QFileDialog::getExistingDirectory(parent, caption, startPath(dir, directoryKey), options);
-    storeDirectory(directoryKey, folder);
+        QFileDialog::getExistingDirectory(parent, caption, memory.start(dir), options);
+    memory.storeFolder(folder);
     return folder;
 }
 
@@ -76,9 +19,10 @@ QUrl TXFileDialog::getExistingDirectoryUrl(QWidget *parent, const QString &capti
                                            const QList<QString> &supportedSchemes,
                                            QString directoryKey)
 {
-    const QUrl folder = QFileDialog::getExistingDirectoryUrl(
-        parent, caption, startUrl(dir, directoryKey), options, supportedSchemes);
-    storeDirectory(directoryKey, textOf(folder));
+    const FileDialogMemory memory(directoryKey);
+    const QUrl folder = QFileDialog::getExistingDirectoryUrl(parent, caption, memory.start(dir),
+                                                             options, supportedSchemes);
+    memory.storeUrl(folder);
     return folder;
 }
 
@@ -87,13 +31,12 @@ QString TXFileDialog::getOpenFileName(QWidget *parent, const QString &caption, c
                                       QFileDialog::Options options, QString directoryKey,
                                       QString filterKey)
 {
-    recallFilter(selectedFilter, filterKey);
-    const QString file = QFileDialog::getOpenFileName(parent, caption, startPath(dir, directoryKey),
-                                                      filter, selectedFilter, options);
-    if (!file.isEmpty()) {
-        storeDirectory(directoryKey, folderOf(file));
-    }
-    storeFilter(selectedFilter, filterKey);
+    const FileDialogMemory memory(directoryKey, filterKey, selectedFilter);
+    memory.recallFilter();
+    const QString file = QFileDialog::getOpenFileName(parent, caption, memory.start(dir), filter,
+                                                      selectedFilter, options);
+    memory.storeFolderOf(file);
+    memory.storeFilter();
     return file;
 }
 
@@ -102,13 +45,14 @@ QList<QString> TXFileDialog::getOpenFileNames(QWidget *parent, const QString &ca
                                               QString *selectedFilter, QFileDialog::Options options,
                                               QString directoryKey, QString filterKey)
 {
-    recallFilter(selectedFilter, filterKey);
-    const QList<QString> files = QFileDialog::getOpenFileNames(
-        parent, caption, startPath(dir, directoryKey), filter, selectedFilter, options);
+    const FileDialogMemory memory(directoryKey, filterKey, selectedFilter);
+    memory.recallFilter();
+    const QList<QString> files = QFileDialog::getOpenFileNames(parent, caption, memory.start(dir),
+                                                               filter, selectedFilter, options);
     if (!files.isEmpty()) {
-        storeDirectory(directoryKey, folderOf(files.first()));
+        memory.storeFolderOf(files.first());
     }
-    storeFilter(selectedFilter, filterKey);
+    memory.storeFilter();
     return files;
 }
 
@@ -117,13 +61,12 @@ QString TXFileDialog::getSaveFileName(QWidget *parent, const QString &caption, c
                                       QFileDialog::Options options, QString directoryKey,
                                       QString filterKey)
 {
-    recallFilter(selectedFilter, filterKey);
-    const QString file = QFileDialog::getSaveFileName(parent, caption, startPath(dir, directoryKey),
-                                                      filter, selectedFilter, options);
-    if (!file.isEmpty()) {
-        storeDirectory(directoryKey, folderOf(file));
-    }
-    storeFilter(selectedFilter, filterKey);
+    const FileDialogMemory memory(directoryKey, filterKey, selectedFilter);
+    memory.recallFilter();
+    const QString file = QFileDialog::getSaveFileName(parent, caption, memory.start(dir), filter,
+                                                      selectedFilter, options);
+    memory.storeFolderOf(file);
+    memory.storeFilter();
     return file;
 }
 
@@ -133,12 +76,12 @@ QUrl TXFileDialog::getOpenFileUrl(QWidget *parent, const QString &caption, const
                                   const QList<QString> &supportedSchemes, QString directoryKey,
                                   QString filterKey)
 {
-    recallFilter(selectedFilter, filterKey);
-    const QUrl file =
-        QFileDialog::getOpenFileUrl(parent, caption, startUrl(dir, directoryKey), filter,
-                                    selectedFilter, options, supportedSchemes);
-    storeDirectory(directoryKey, textOf(file));
-    storeFilter(selectedFilter, filterKey);
+    const FileDialogMemory memory(directoryKey, filterKey, selectedFilter);
+    memory.recallFilter();
+    const QUrl file = QFileDialog::getOpenFileUrl(parent, caption, memory.start(dir), filter,
+                                                  selectedFilter, options, supportedSchemes);
+    memory.storeUrl(file);
+    memory.storeFilter();
     return file;
 }
 
@@ -148,14 +91,14 @@ QList<QUrl> TXFileDialog::getOpenFileUrls(QWidget *parent, const QString &captio
                                           const QList<QString> &supportedSchemes,
                                           QString directoryKey, QString filterKey)
 {
-    recallFilter(selectedFilter, filterKey);
-    const QList<QUrl> files =
-        QFileDialog::getOpenFileUrls(parent, caption, startUrl(dir, directoryKey), filter,
-                                     selectedFilter, options, supportedSchemes);
+    const FileDialogMemory memory(directoryKey, filterKey, selectedFilter);
+    memory.recallFilter();
+    const QList<QUrl> files = QFileDialog::getOpenFileUrls(
+        parent, caption, memory.start(dir), filter, selectedFilter, options, supportedSchemes);
     if (!files.isEmpty()) {
-        storeDirectory(directoryKey, textOf(files.first()));
+        memory.storeUrl(files.first());
     }
-    storeFilter(selectedFilter, filterKey);
+    memory.storeFilter();
     return files;
 }
 
@@ -165,12 +108,12 @@ QUrl TXFileDialog::getSaveFileUrl(QWidget *parent, const QString &caption, const
                                   const QList<QString> &supportedSchemes, QString directoryKey,
                                   QString filterKey)
 {
-    recallFilter(selectedFilter, filterKey);
-    const QUrl file =
-        QFileDialog::getSaveFileUrl(parent, caption, startUrl(dir, directoryKey), filter,
-                                    selectedFilter, options, supportedSchemes);
-    storeDirectory(directoryKey, textOf(file));
-    storeFilter(selectedFilter, filterKey);
+    const FileDialogMemory memory(directoryKey, filterKey, selectedFilter);
+    memory.recallFilter();
+    const QUrl file = QFileDialog::getSaveFileUrl(parent, caption, memory.start(dir), filter,
+                                                  selectedFilter, options, supportedSchemes);
+    memory.storeUrl(file);
+    memory.storeFilter();
     return file;
 }
 
