@@ -63,7 +63,10 @@ inline QString passwordOf(const Settings &settings)
 class RecordingDriver
 {
 public:
-    RecordingDriver() { QSqlDatabase::registerSqlDriver(name(), std::make_unique<Creator>(this).release()); }
+    RecordingDriver()
+    {
+        QSqlDatabase::registerSqlDriver(name(), std::make_unique<Creator>(this).release());
+    }
     ~RecordingDriver() { QSqlDatabase::registerSqlDriver(name(), nullptr); }
     Q_DISABLE_COPY_MOVE(RecordingDriver)
 
@@ -77,7 +80,8 @@ public:
     /// What open() answers.
     bool lets = true;
     /// Called by open().
-    std::function<void()> whileOpening = [] {};
+    std::function<void()> whileOpening = [] {
+    };
 
 private:
     static QString name() { return QStringLiteral("QMYSQL"); }
@@ -98,15 +102,15 @@ private:
         bool open(const QString &database, const QString &user, const QString &password,
                   const QString &host, int port, const QString &options) override
         {
-            recorder->opened = {{QStringLiteral("database"), database},
-                                {QStringLiteral("user"), user},
-                                {QStringLiteral("password"), password},
-                                {QStringLiteral("host"), host},
-                                {QStringLiteral("port"), port},
-                                {QStringLiteral("options"), options}};
+            recorder->opened = {
+                {QStringLiteral("database"), database}, {QStringLiteral("user"), user},
+                {QStringLiteral("password"), password}, {QStringLiteral("host"), host},
+                {QStringLiteral("port"), port},         {QStringLiteral("options"), options}};
             ++recorder->openCount;
             recorder->namesWhileOpen = QSqlDatabase::connectionNames();
-            recorder->whileOpening();
+            // It may replace itself.
+            const std::function<void()> call = recorder->whileOpening;
+            call();
             setOpen(recorder->lets);
             setOpenError(!recorder->lets);
             return recorder->lets;

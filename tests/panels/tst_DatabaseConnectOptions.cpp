@@ -20,8 +20,8 @@ private slots:
 namespace {
 
 const QString kMySql = QStringLiteral("QMYSQL");
-const QString kAllAdded = QStringLiteral(
-    ";MYSQL_OPT_RECONNECT=1;MYSQL_OPT_CONNECT_TIMEOUT=15;MYSQL_OPT_READ_TIMEOUT=15");
+const QString kAllAdded =
+    QStringLiteral(";MYSQL_OPT_RECONNECT=1;MYSQL_OPT_CONNECT_TIMEOUT=15;MYSQL_OPT_READ_TIMEOUT=15");
 const QString kReconnectAndRead =
     QStringLiteral(";MYSQL_OPT_RECONNECT=1;MYSQL_OPT_READ_TIMEOUT=15");
 

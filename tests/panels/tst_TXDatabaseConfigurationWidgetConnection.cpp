@@ -248,16 +248,10 @@ void TestTXDatabaseConfigurationWidgetConnection::anyNamesAreTaken_data()
                                 << "a;b=c;";
     QTest::newRow("other letters") << QString::fromUtf8("zoë") << QString::fromUtf8("pässwörd|")
                                    << QString::fromUtf8("Größen");
-    QTest::newRow("other scripts") << QString::fromUtf8("мия") << QString::fromUtf8("密碼 😀🔑")
-                                   << QString::fromUtf8("測定");
-    QTest::newRow("blanks u") << " a b "
-                            << "x"
-                            << "a";
-    QTest::newRow("blanks p") << "x"
+    QTest::newRow("other scripts")
+        << QString::fromUtf8("мия") << QString::fromUtf8("密碼 😀🔑") << QString::fromUtf8("測定");
+    QTest::newRow("blanks") << " a b"
                             << "  "
-                            << "a";
-    QTest::newRow("blanks d") << "x"
-                            << "x"
                             << " a b";
     QTest::newRow("no password") << "mia"
                                  << ""
