@@ -13,6 +13,8 @@
 #include <QUuid>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 const QLatin1String kDriverKey("Driver");
@@ -77,6 +79,8 @@ TXDatabaseConfigurationWidget::TXDatabaseConfigurationWidget(QWidget *parent)
 
 TXDatabaseConfigurationWidget::~TXDatabaseConfigurationWidget() = default;
 
+// By value: hosts are built against this signature.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool TXDatabaseConfigurationWidget::load(QHash<QString, QVariant> settings)
 {
     const QString driver = settings.value(kDriverKey).toString();
@@ -143,7 +147,7 @@ QHash<QString, QVariant> TXDatabaseConfigurationWidget::ask(const QString &title
     dialog.setWindowTitle(title);
     auto *layout = new QVBoxLayout(&dialog);
     auto *panel = new TXDatabaseConfigurationWidget(&dialog);
-    panel->load(settings);
+    panel->load(std::move(settings));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     connect(buttons, SIGNAL(accepted()), &dialog, SLOT(accept()));
     connect(buttons, SIGNAL(rejected()), &dialog, SLOT(reject()));
