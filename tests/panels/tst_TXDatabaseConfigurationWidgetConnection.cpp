@@ -240,16 +240,12 @@ void TestTXDatabaseConfigurationWidgetConnection::anyNamesAreTaken_data()
     QTest::addColumn<QString>("user");
     QTest::addColumn<QString>("password");
     QTest::addColumn<QString>("database");
-    QTest::newRow("quotes") << "o'neil \"m\""
-                            << "it's \"`\\"
-                            << "tom's `b`";
-    QTest::newRow("semicolons") << "a;b=1;"
-                                << ";x; -- =;"
-                                << "a;b=c;";
-    QTest::newRow("other letters") << QString::fromUtf8("zoë") << QString::fromUtf8("pässwörd|")
-                                   << QString::fromUtf8("Größen");
+    QTest::newRow("quotes and semicolons") << "o'neil; \"m\""
+                                           << ";it's=\"`\\; --"
+                                           << "tom's `b`;c=";
     QTest::newRow("other scripts")
-        << QString::fromUtf8("мия") << QString::fromUtf8("密碼 😀🔑") << QString::fromUtf8("測定");
+        << QString::fromUtf8("zoë мия") << QString::fromUtf8("pä|ß 密碼😀")
+        << QString::fromUtf8("Größen 測定");
     QTest::newRow("blanks") << " a b"
                             << "  "
                             << " a b";

@@ -12,7 +12,6 @@
 #include <limits>
 #include <memory>
 
-using DatabaseTest::Account;
 using DatabaseTest::child;
 using DatabaseTest::parametersOf;
 using DatabaseTest::passwordOf;

@@ -10,7 +10,6 @@
 
 #include <memory>
 
-using DatabaseTest::Account;
 using DatabaseTest::child;
 using DatabaseTest::RecordingDriver;
 using DatabaseTest::Settings;
