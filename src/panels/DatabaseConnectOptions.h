@@ -10,13 +10,22 @@
 class TXGUICOMMON_PRIVATE_EXPORT DatabaseConnectOptions
 {
 public:
-    /// How long a test of a MySQL or MariaDB server waits for the connection, unless the user's own
-    /// options tell.
-    static constexpr int kConnectTimeoutSeconds = 15;
+    /// How many seconds a test of a MySQL or MariaDB server waits for the connection, and after the
+    /// log-in for each answer, unless the user's own options tell.
+    static constexpr int kTimeoutSeconds = 15;
 
     DatabaseConnectOptions() = delete;
 
-    /// The user's options with those behind them that the driver needs: for "QMYSQL" that a lost
-    /// connection is made again, and a time-out where the user has set none.
+    /// The user's options as they are and behind them, each after a semicolon, what the driver of
+    /// that name needs. For "QMYSQL" that is, in this order:
+    /// - that a lost connection is made again,
+    /// - a connect time-out, unless the user has set one: it ends the wait for a server that takes
+    ///   no connection, does not greet or does not answer the log-in,
+    /// - a read time-out, unless the user has set one: it ends the wait for a server that has let
+    ///   the user in and falls silent then.
+    ///
+    /// For any other driver nothing is added. A time-out counts as set when the driver would end by
+    /// it: of several with the same name the last one, which must be a whole number above 0. Names
+    /// are case-sensitive, blanks around name and number do not count.
     [[nodiscard]] static QString forTest(const QString &driver, const QString &userOptions);
 };

@@ -3,13 +3,17 @@
 #include "DatabaseConnectOptions.h"
 #include "StoredSecret.h"
 #include "TXResources.h"
+#include "WholeNumber.h"
 #include "ui_TXDatabaseConfigurationWidget.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QSqlDatabase>
 #include <QUuid>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -30,6 +34,21 @@ QString clearPassword(const QHash<QString, QVariant> &parameters)
 {
     return QString::fromUtf8(StoredSecret::decipher(parameters.value(kPasswordKey).toString()));
 }
+
+/// A number beyond int would lose its upper half, and might look like a port then.
+int portIn(const QHash<QString, QVariant> &parameters)
+{
+    return WholeNumber::rounded(parameters.value(kPortKey).toDouble());
+}
+
+/// Shows a wait cursor as long as it lives, over whatever cursor the host has set.
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(WaitCursor)
+};
 
 bool canOpen(QSqlDatabase database, const QHash<QString, QVariant> &settings)
 {
@@ -60,6 +79,8 @@ TXDatabaseConfigurationWidget::TXDatabaseConfigurationWidget(QWidget *parent)
 
 TXDatabaseConfigurationWidget::~TXDatabaseConfigurationWidget() = default;
 
+// By value: hosts are built against this signature.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool TXDatabaseConfigurationWidget::load(QHash<QString, QVariant> settings)
 {
     const QString driver = settings.value(kDriverKey).toString();
@@ -99,6 +120,7 @@ bool TXDatabaseConfigurationWidget::isValid() const
     if (ui->internalDBRadio->isChecked()) {
         return true;
     }
+    const WaitCursor cursor;
     const QHash<QString, QVariant> tried = settings();
     QString name = QUuid::createUuid().toString();
     bool isOpen = false;
@@ -125,7 +147,7 @@ QHash<QString, QVariant> TXDatabaseConfigurationWidget::ask(const QString &title
     dialog.setWindowTitle(title);
     auto *layout = new QVBoxLayout(&dialog);
     auto *panel = new TXDatabaseConfigurationWidget(&dialog);
-    panel->load(settings);
+    panel->load(std::move(settings));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     connect(buttons, SIGNAL(accepted()), &dialog, SLOT(accept()));
     connect(buttons, SIGNAL(rejected()), &dialog, SLOT(reject()));
@@ -160,7 +182,7 @@ void TXDatabaseConfigurationWidget::showServer(const QString &database,
                                                const QHash<QString, QVariant> &parameters)
 {
     ui->hostEdit->setText(parameters.value(kHostKey).toString());
-    ui->portEdit->setValue(parameters.value(kPortKey).toInt());
+    ui->portEdit->setValue(portIn(parameters));
     ui->userEdit->setText(parameters.value(kUserKey).toString());
     // The field ignores an empty text, and the password of another account must not stay.
     ui->passwordEdit->clear();

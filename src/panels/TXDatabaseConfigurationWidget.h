@@ -38,9 +38,11 @@ public:
     explicit TXDatabaseConfigurationWidget(QWidget *parent = nullptr);
     ~TXDatabaseConfigurationWidget() override;
 
-    /// Shows the settings. Returns whether "Driver" is one of the two; any other one, and none,
-    /// shows as the internal database. Without "QMYSQL" the fields of the server keep what they
-    /// hold. A port out of range becomes the nearest end of it.
+    /// Shows the settings. Returns whether "Driver" is one of the two, letter for letter; any other
+    /// one, and none, shows as the internal database. Without "QMYSQL" the fields of the server
+    /// keep what they hold. With it all of them are replaced: a missing key, and a password that
+    /// another user or machine has enciphered, leaves its field empty. A port out of range becomes
+    /// the nearest end of it; one that is missing or no number becomes 1.
     bool load(QHash<QString, QVariant> settings);
 
     /// The settings as they stand in the controls, whether they work or not.
@@ -49,10 +51,14 @@ public:
     /// The settings if isValid() holds, otherwise an empty dictionary.
     [[nodiscard]] QHash<QString, QVariant> save() const;
 
-    /// Whether a connection can be opened with the settings; the internal database always can.
-    /// Blocks for as long as the server takes: for 15 seconds at most on one that does not answer,
-    /// unless the user's options set another connect time-out. No connection of QSqlDatabase is
-    /// left behind, and those of the host are not touched.
+    /// Whether a connection can be opened with the settings; the internal database always can, and
+    /// nothing is opened for it.
+    ///
+    /// Blocks for as long as the server takes, without running the event loop and under a wait
+    /// cursor: for 15 seconds on a server that is silent from some moment on, unless the user's
+    /// options set MYSQL_OPT_CONNECT_TIMEOUT and MYSQL_OPT_READ_TIMEOUT themselves. No connection
+    /// of QSqlDatabase is left behind, and those of the host are not touched. Qt prints a warning
+    /// about options that it does not know.
     [[nodiscard]] bool isValid() const;
 
     /// Enables the fields of the server when the server is chosen, disables them otherwise.
@@ -71,7 +77,8 @@ public slots:
     /// The same as refresh().
     void on_mysqlDBRadio_clicked();
 
-    /// Shows by a bullet whether a connection can be opened. The bullet stays until the next test.
+    /// Shows by a bullet whether isValid() holds. The bullet stays until the next test, also when
+    /// fields are edited or other settings are loaded.
     void on_testButton_clicked();
 
 private:
