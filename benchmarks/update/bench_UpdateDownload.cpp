@@ -109,7 +109,7 @@ double downloadByDialog(Place & /*place*/, qint64 size)
     dialog.updateInfoReceived(record, record);
     const GapMeter gaps;
     dialog.updateState(TXCheckForUpdateWidget::DownloadStarting);
-    run(&dialog, SIGNAL(stateChanged(TXCheckForUpdateWidget::State)),
+    run(&dialog, SIGNAL(stateChanged(State)),
         [&dialog] { return dialog.state() != TXCheckForUpdateWidget::Downloading; });
     return gaps.milliseconds();
 }

@@ -10,9 +10,9 @@
 class TXGUICOMMON_PRIVATE_EXPORT DatabaseConnectOptions
 {
 public:
-    /// How many seconds a test of a MySQL or MariaDB server waits for the connection, and after the
-    /// log-in for each answer, unless the user's own options tell.
-    static constexpr int kTimeoutSeconds = 15;
+    /// How many seconds a test of a MySQL or MariaDB server waits for the connection, unless the
+    /// user's own options tell.
+    static constexpr int kConnectTimeoutSeconds = 15;
 
     DatabaseConnectOptions() = delete;
 
@@ -20,9 +20,9 @@ public:
     /// that name needs. For "QMYSQL" that is, in this order:
     /// - that a lost connection is made again,
     /// - a connect time-out, unless the user has set one: it ends the wait for a server that takes
-    ///   no connection, does not greet or does not answer the log-in,
-    /// - a read time-out, unless the user has set one: it ends the wait for a server that has let
-    ///   the user in and falls silent then.
+    ///   no connection, does not greet or does not answer the log-in. It does not end that for a
+    ///   server that lets the user in and falls silent then; MYSQL_OPT_READ_TIMEOUT does, which the
+    ///   user may set.
     ///
     /// For any other driver nothing is added. A time-out counts as set when the driver would end by
     /// it: of several with the same name the last one, which must be a whole number above 0. Names

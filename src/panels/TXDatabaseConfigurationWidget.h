@@ -55,10 +55,10 @@ public:
     /// nothing is opened for it.
     ///
     /// Blocks for as long as the server takes, without running the event loop and under a wait
-    /// cursor: for 15 seconds on a server that is silent from some moment on, unless the user's
-    /// options set MYSQL_OPT_CONNECT_TIMEOUT and MYSQL_OPT_READ_TIMEOUT themselves. No connection
-    /// of QSqlDatabase is left behind, and those of the host are not touched. Qt prints a warning
-    /// about options that it does not know.
+    /// cursor: for 15 seconds on a server that does not answer up to the log-in, unless the user's
+    /// options set MYSQL_OPT_CONNECT_TIMEOUT themselves. No connection of QSqlDatabase is left
+    /// behind, and those of the host are not touched. Qt prints a warning about options that it
+    /// does not know.
     [[nodiscard]] bool isValid() const;
 
     /// Enables the fields of the server when the server is chosen, disables them otherwise.

@@ -73,7 +73,6 @@ protected:
 private slots:
     void serverThatNeverAcceptsEndsByTheAddedTimeout();
     void serverThatNeverGreetsEndsByTheAddedTimeout();
-    void serverThatIsMuteAfterTheLogInEndsByTheAddedTimeout();
     void ownTimeoutIsHonoured_data();
     void ownTimeoutIsHonoured();
     void lastOwnTimeoutCounts();
@@ -125,16 +124,6 @@ void TestTXDatabaseConfigurationWidgetMute::serverThatNeverGreetsEndsByTheAddedT
 
     verifyRefusedAfter(kAddedMilliseconds,
                        settingsFor(server.port(), {}, "MYSQL_OPT_CONNECT_TIMEOUT=0"));
-}
-
-void TestTXDatabaseConfigurationWidgetMute::serverThatIsMuteAfterTheLogInEndsByTheAddedTimeout()
-{
-    LocalScriptedServer server(onlyThis(greeting() + welcome()));
-    QVERIFY2(server.start(), qPrintable(server.error()));
-    announceMuteness();
-
-    verifyRefusedAfter(kAddedMilliseconds,
-                       settingsFor(server.port(), {}, "MYSQL_OPT_CONNECT_TIMEOUT=1"));
 }
 
 void TestTXDatabaseConfigurationWidgetMute::ownTimeoutIsHonoured_data()

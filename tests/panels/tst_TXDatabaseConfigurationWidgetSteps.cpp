@@ -17,8 +17,7 @@ using DatabaseTest::settingsFor;
 
 namespace {
 
-const QString kAdded =
-    QStringLiteral(";MYSQL_OPT_RECONNECT=1;MYSQL_OPT_CONNECT_TIMEOUT=15;MYSQL_OPT_READ_TIMEOUT=15");
+const QString kAdded = QStringLiteral(";MYSQL_OPT_RECONNECT=1;MYSQL_OPT_CONNECT_TIMEOUT=15");
 
 } // namespace
 
@@ -101,9 +100,7 @@ void TestTXDatabaseConfigurationWidgetSteps::extraOptionsStandBehindTheUsers_dat
     QTest::newRow("none") << "" << kAdded;
     QTest::newRow("some") << " A=1; b ;'c;'" << kAdded;
     QTest::newRow("connect time-out") << "MYSQL_OPT_CONNECT_TIMEOUT=1"
-                                      << ";MYSQL_OPT_RECONNECT=1;MYSQL_OPT_READ_TIMEOUT=15";
-    QTest::newRow("both") << "MYSQL_OPT_CONNECT_TIMEOUT=1;MYSQL_OPT_READ_TIMEOUT=2"
-                          << ";MYSQL_OPT_RECONNECT=1";
+                                      << ";MYSQL_OPT_RECONNECT=1";
 }
 
 void TestTXDatabaseConfigurationWidgetSteps::extraOptionsStandBehindTheUsers()

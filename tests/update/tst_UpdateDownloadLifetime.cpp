@@ -50,7 +50,7 @@ void TestUpdateDownloadLifetime::destroyedDialogLeavesAnUnfinishedFile()
     startDownload(*dialog);
     QVERIFY(waitForSize(5000));
     const QPointer<QNetworkAccessManager> manager = dialog->findChild<QNetworkAccessManager *>();
-    const QSignalSpy states(dialog.get(), SIGNAL(stateChanged(TXCheckForUpdateWidget::State)));
+    const QSignalSpy states(dialog.get(), SIGNAL(stateChanged(State)));
     const QSignalSpy refreshed(dialog.get(), SIGNAL(updateRefreshed(QVariantHash)));
     dialog.reset();
 
@@ -78,7 +78,7 @@ void TestUpdateDownloadLifetime::dialogMayBeDestroyedByItsOwnSignals_data()
     QTest::addColumn<QByteArray>("signal");
     QTest::addColumn<qint64>("cutAfter");
     QTest::addColumn<bool>("isFileDeleted");
-    const QByteArray state = SIGNAL(stateChanged(TXCheckForUpdateWidget::State));
+    const QByteArray state = SIGNAL(stateChanged(State));
     const QByteArray refreshed = SIGNAL(updateRefreshed(QVariantHash));
     QTest::newRow("end, state") << state << qint64(-1) << false;
     QTest::newRow("error of the network, state") << state << qint64(7000) << false;
