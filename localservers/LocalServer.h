@@ -10,7 +10,7 @@
 class QJsonObject;
 
 /// A real server on a free port of 127.0.0.1, run by a Python script of this folder in a process
-/// and a temporary folder of its own. Base of LocalMailServer, LocalFtpServer and LocalSftpServer.
+/// and a temporary folder of its own. Base of the servers here that are named Local….
 ///
 /// The process ends with stop(), with the object, and when the program that started it is gone,
 /// however that ended. A server can be started again; the port is another one then, and what

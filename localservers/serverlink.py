@@ -13,11 +13,14 @@ import threading
 LONGEST_LOG_LINE = 1000
 
 
-def begin():
-    """Returns the options, and from now on ends the process with its standard input."""
+def begin(before_end=None):
+    """Returns the options, and from now on ends the process with its standard input.
+
+    What is to be done before that end, if anything, is called on a thread of its own.
+    """
     logging.basicConfig(level=logging.ERROR)
     options = json.loads(sys.stdin.readline())
-    threading.Thread(target=_end_with_standard_input, daemon=True).start()
+    threading.Thread(target=_end_with_standard_input, args=(before_end,), daemon=True).start()
     return options
 
 
@@ -41,8 +44,10 @@ def silent():
     report("silent")
 
 
-def _end_with_standard_input():
+def _end_with_standard_input(before_end):
     # Not by sys.stdin: its lock, held here, would be missed at the interpreter's own end.
     while os.read(sys.stdin.fileno(), 4096):
         pass
+    if before_end:
+        before_end()
     os._exit(0)
