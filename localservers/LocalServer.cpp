@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kStartMilliseconds = 30000;
 constexpr int kEndMilliseconds = 3000;
+constexpr int kAnswerMilliseconds = 30000;
 
 /// Debian's Python: another one first on the PATH would not see the modules of the servers.
 const QString kPython = QStringLiteral("/usr/bin/python3");
@@ -116,6 +117,23 @@ QJsonObject LocalServer::options() const
 
 void LocalServer::handleEvent(const QJsonObject &) { }
 
+bool LocalServer::tell(const QJsonObject &message)
+{
+    if (!isRunning()) {
+        return false;
+    }
+    process.write(QJsonDocument(message).toJson(QJsonDocument::Compact) + '\n');
+    // A slot that hears of an event meanwhile may tell something too.
+    const int number = ++toldMessages;
+    const QDeadlineTimer deadline(kAnswerMilliseconds);
+    readLines();
+    while (takenMessages < number && isRunning() && !deadline.hasExpired()) {
+        process.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
+        readLines();
+    }
+    return takenMessages >= number;
+}
+
 void LocalServer::readEvents()
 {
     while (isRunning() && process.waitForReadyRead(0)) { }
@@ -184,6 +202,8 @@ void LocalServer::forgetLastRun()
     errorOutput.clear();
     loggedLines.clear();
     silent = false;
+    toldMessages = 0;
+    takenMessages = 0;
 }
 
 void LocalServer::takeEvent(const QJsonObject &event)
@@ -194,6 +214,8 @@ void LocalServer::takeEvent(const QJsonObject &event)
     } else if (event.contains(u"silent")) {
         silent = true;
         emit becameSilent();
+    } else if (event.contains(u"taken")) {
+        ++takenMessages;
     } else {
         handleEvent(event);
     }

@@ -85,6 +85,11 @@ protected:
     /// Called for each event of the script that the base does not know; the base does nothing.
     virtual void handleEvent(const QJsonObject &event);
 
+    /// Hands a message to the running script and blocks until the script has taken it, for 30
+    /// seconds at most. False when it does not run, ends meanwhile or is not done in time; an error
+    /// of the script's ends it and stands in error(). Emits what the script tells meanwhile.
+    [[nodiscard]] bool tell(const QJsonObject &message);
+
     /// Takes in what the script has told by now, without waiting.
     void readEvents();
 
@@ -109,4 +114,6 @@ private:
     QByteArray errorOutput;
     QStringList loggedLines;
     bool silent = false;
+    int toldMessages = 0;
+    int takenMessages = 0;
 };

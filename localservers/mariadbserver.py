@@ -143,7 +143,7 @@ def greets(port):
 
 def serve():
     children = Children()
-    options = serverlink.begin(children.end)
+    options = serverlink.begin(before_end=children.end)
     os.umask(0o077)
     for program in (INSTALLER, SERVER):
         if not os.access(program, os.X_OK):

@@ -3,24 +3,32 @@
 That program writes one line of JSON, the options, to the standard input and keeps it open as long
 as the server is wanted. The server prints its port as one line when it is ready, then one line of
 JSON for each event. Long texts go into files of the working folder, which is the server's own.
+
+Once the server is ready, further lines of JSON may come: messages, each answered by the event
+"taken" when it is in force.
 """
 import json
 import logging
 import os
 import sys
 import threading
+import traceback
 
 LONGEST_LOG_LINE = 1000
 
+_output = threading.Lock()
 
-def begin(before_end=None):
+
+def begin(take=lambda message: None, before_end=None):
     """Returns the options, and from now on ends the process with its standard input.
 
-    What is to be done before that end, if anything, is called on a thread of its own.
+    The messages that come are handed to take, and what is to be done before that end, if anything,
+    is called, both on a thread of their own.
     """
     logging.basicConfig(level=logging.ERROR)
     options = json.loads(sys.stdin.readline())
-    threading.Thread(target=_end_with_standard_input, args=(before_end,), daemon=True).start()
+    threading.Thread(
+        target=_follow_standard_input, args=(take, before_end), daemon=True).start()
     return options
 
 
@@ -30,8 +38,11 @@ def ready(port):
 
 
 def report(event, value=True):
-    """Tells one event."""
-    print(json.dumps({event: value}), flush=True)
+    """Tells one event. May be called by several threads."""
+    line = json.dumps({event: value}) + "\n"
+    with _output:
+        sys.stdout.write(line)
+        sys.stdout.flush()
 
 
 def log(line):
@@ -44,10 +55,23 @@ def silent():
     report("silent")
 
 
-def _end_with_standard_input(before_end):
-    # Not by sys.stdin: its lock, held here, would be missed at the interpreter's own end.
-    while os.read(sys.stdin.fileno(), 4096):
-        pass
+def _follow_standard_input(take, before_end):
+    try:
+        for line in _lines_of_standard_input():
+            take(json.loads(line))
+            report("taken")
+    except Exception:
+        # Whoever sent the message must not wait for its answer.
+        traceback.print_exc()
+        os._exit(1)
     if before_end:
         before_end()
     os._exit(0)
+
+
+def _lines_of_standard_input():
+    # Not by sys.stdin: its lock, held here, would be missed at the interpreter's own end.
+    rest = b""
+    while data := os.read(sys.stdin.fileno(), 65536):
+        *lines, rest = (rest + data).split(b"\n")
+        yield from lines

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonObject>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -12,6 +13,14 @@
 namespace {
 
 constexpr int kPatienceMilliseconds = 20000;
+
+/// A server that anybody may tell something.
+class TalkedToServer : public LocalServer
+{
+public:
+    using LocalServer::LocalServer;
+    using LocalServer::tell;
+};
 
 } // namespace
 
@@ -24,6 +33,9 @@ private slots:
     void brokenScriptTellsWhyInWords();
     void scriptGetsItsOptionsAndTellsEvents();
     void lateErrorOfTheScriptIsTold();
+    void scriptTakesMessagesInTheirOrder();
+    void messageIsInForceWhenItIsTaken();
+    void messageToAnEndingScriptIsNotTaken();
     void missingFolderIsToldInWords();
     void endWithoutStopIsTold_data();
     void endWithoutStopIsTold();
@@ -120,6 +132,54 @@ void TestLocalServer::lateErrorOfTheScriptIsTold()
     QVERIFY2(server.error().endsWith("the roof is on fire"), qPrintable(server.error()));
     QVERIFY(server.start());
     server.stop();
+}
+
+void TestLocalServer::scriptTakesMessagesInTheirOrder()
+{
+    TalkedToServer server(write("serverlink.begin(lambda message: serverlink.log(str(message)))\n"
+                                "serverlink.ready(7)\n"
+                                "time.sleep(60)\n"));
+    const QString longText(300000, u'x');
+    QVERIFY(!server.tell({}));
+    QVERIFY2(server.start(), qPrintable(server.error()));
+
+    QVERIFY(server.tell({{"first", 1}}));
+    QVERIFY(server.tell({{"long", longText}}));
+    QVERIFY(server.tell({}));
+
+    QCOMPARE(server.log(), QStringList({"{'first': 1}", "{'long': '" + longText.left(990), "{}"}));
+    QCOMPARE(server.error(), QString());
+    server.stop();
+    QVERIFY(!server.tell({}));
+    QVERIFY2(server.start(), qPrintable(server.error()));
+    QVERIFY(server.tell({{"again", true}}));
+    QCOMPARE(server.log(), QStringList("{'again': True}"));
+}
+
+void TestLocalServer::messageIsInForceWhenItIsTaken()
+{
+    const QString path = scripts.filePath(QStringLiteral("taken"));
+    TalkedToServer server(write("serverlink.begin(lambda message: open(message['path'], 'x'))\n"
+                                "serverlink.ready(7)\n"
+                                "time.sleep(60)\n"));
+    QVERIFY2(server.start(), qPrintable(server.error()));
+
+    QVERIFY(server.tell({{"path", path}}));
+
+    QVERIFY(QFile::exists(path));
+}
+
+void TestLocalServer::messageToAnEndingScriptIsNotTaken()
+{
+    TalkedToServer server(write("serverlink.begin(lambda message: message['missing'])\n"
+                                "serverlink.ready(7)\n"
+                                "time.sleep(60)\n"));
+    QVERIFY2(server.start(), qPrintable(server.error()));
+
+    QVERIFY(!server.tell({{"here", 1}}));
+
+    QVERIFY(!server.isRunning());
+    QVERIFY2(server.error().contains("KeyError: 'missing'"), qPrintable(server.error()));
 }
 
 void TestLocalServer::missingFolderIsToldInWords()
