@@ -2,6 +2,7 @@
 
 #include "AccessPage.h"
 #include "ControlsPage.h"
+#include "DatabasePage.h"
 #include "ErrorsPage.h"
 #include "FtpPage.h"
 #include "LogPage.h"
@@ -36,6 +37,7 @@ const QList<GalleryPageEntry> &galleryPages()
         {"controls", QT_TRANSLATE_NOOP("GalleryPages", "Controls"), make<ControlsPage>},
         {"mail", QT_TRANSLATE_NOOP("GalleryPages", "Mail"), make<MailPage>},
         {"ftp", QT_TRANSLATE_NOOP("GalleryPages", "FTP"), make<FtpPage>},
+        {"database", QT_TRANSLATE_NOOP("GalleryPages", "Database"), make<DatabasePage>},
         {"report", QT_TRANSLATE_NOOP("GalleryPages", "Report"), make<ReportPage>},
     };
     return pages;
