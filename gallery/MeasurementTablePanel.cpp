@@ -64,7 +64,7 @@ MeasurementTablePanel::MeasurementTablePanel(QWidget *parent)
     connect(filterBox, SIGNAL(valueChanged(double)), this, SLOT(filter()));
     connect(rowsBox, SIGNAL(currentIndexChanged(int)), this, SLOT(setRowsPerPage()));
     connect(removeButton, SIGNAL(clicked()), this, SLOT(removeRows()));
-    connect(navigator, SIGNAL(severalPages(bool)), navigator, SLOT(setEnabled(bool)));
+    connect(navigator, SIGNAL(severalPages(bool)), this, SLOT(showPageNumbers(bool)));
 }
 
 MeasurementTablePanel::~MeasurementTablePanel()
@@ -176,6 +176,13 @@ void MeasurementTablePanel::showAnswer(bool isDone, const QString &statement, qi
     refusal = isDone ? QString() : model->lastError().text();
     showAnswerText();
     showRemovable();
+}
+
+void MeasurementTablePanel::showPageNumbers(bool areSeveral)
+{
+    navigator->setEnabled(areSeveral);
+    // More digits than before need more room in the row.
+    navigator->updateGeometry();
 }
 
 void MeasurementTablePanel::showRemovable()

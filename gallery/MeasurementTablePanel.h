@@ -43,6 +43,7 @@ private slots:
     void setRowsPerPage();
     void removeRows();
     void showAnswer(bool isDone, const QString &statement, qint64 milliseconds);
+    void showPageNumbers(bool areSeveral);
     void showRemovable();
 
 private:

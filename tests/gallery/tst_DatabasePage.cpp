@@ -271,7 +271,6 @@ void TestDatabasePage::pagesAreTurned()
 
     QCOMPARE(pageBox().value(), 2);
     QCOMPARE(cell(0, 0), "100");
-    QVERIFY2(pageBox().width() >= pageBox().sizeHint().width(), "the pages are cut off");
 }
 
 void TestDatabasePage::filterShowsFewerRows()
@@ -449,6 +448,7 @@ void TestDatabasePage::pictureShowsAMiddlePage()
     QCOMPARE(pageBox().suffix(), "/10000");
     QCOMPARE(pageBox().value(), 5001);
     QCOMPARE(cell(0, 0), "500,000");
+    QTRY_VERIFY2(pageBox().width() >= pageBox().sizeHint().width(), "the pages are cut off");
     QCOMPARE(bullet().accessibleName(), "Connection succeeded");
     QCOMPARE(settings().topLevelItemCount(), 7);
 }
