@@ -9,6 +9,7 @@
 #include "MailPage.h"
 #include "PagesPage.h"
 #include "ReportPage.h"
+#include "UpdatePage.h"
 
 #include <QCoreApplication>
 
@@ -38,6 +39,7 @@ const QList<GalleryPageEntry> &galleryPages()
         {"mail", QT_TRANSLATE_NOOP("GalleryPages", "Mail"), make<MailPage>},
         {"ftp", QT_TRANSLATE_NOOP("GalleryPages", "FTP"), make<FtpPage>},
         {"database", QT_TRANSLATE_NOOP("GalleryPages", "Database"), make<DatabasePage>},
+        {"update", QT_TRANSLATE_NOOP("GalleryPages", "Update"), make<UpdatePage>},
         {"report", QT_TRANSLATE_NOOP("GalleryPages", "Report"), make<ReportPage>},
     };
     return pages;

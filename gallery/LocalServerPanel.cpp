@@ -104,6 +104,11 @@ void LocalServerPanel::addOption(QLabel *label, QWidget *option)
     options->insertLayout(place, parts);
 }
 
+void LocalServerPanel::hideFillIn()
+{
+    fillInButton->hide();
+}
+
 void LocalServerPanel::setEntries(QComboBox *box, const QStringList &texts)
 {
     if (box->count() == 0) {
