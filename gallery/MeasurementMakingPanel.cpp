@@ -94,9 +94,10 @@ void MeasurementMakingPanel::make()
         emit ended(false);
         return;
     }
+    const bool hadFocus = makeButton->hasFocus();
     maker->start(currentPlace, batches());
     showState();
-    if (!window()->focusWidget() || !window()->focusWidget()->isEnabled()) {
+    if (hadFocus) {
         cancelButton->setFocus();
     }
 }
@@ -165,7 +166,6 @@ bool MeasurementMakingPanel::findPlace()
 
 void MeasurementMakingPanel::showState()
 {
-    // In this order the focus does not wander through the window.
     cancelButton->setEnabled(isBusy());
     for (QWidget *part : {static_cast<QWidget *>(makeButton), static_cast<QWidget *>(amountBox),
                           static_cast<QWidget *>(browseButton)}) {

@@ -11,6 +11,7 @@
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLocale>
 #include <QPlainTextEdit>
@@ -98,7 +99,10 @@ void MeasurementTablePanel::close()
 {
     navigator->setModel(nullptr);
     navigator->setEnabled(false);
+    // The view would keep it.
+    const QItemSelectionModel *selection = view->selectionModel();
     view->setModel(nullptr);
+    delete selection;
     delete model;
     model = nullptr;
     connection.reset();
@@ -197,8 +201,9 @@ void MeasurementTablePanel::show(const QSqlDatabase &database)
             SLOT(showAnswer(bool, QString, qint64)));
     model->limit = rowsBox->currentData().toULongLong();
     model->setFilter(measurementFilter(filterBox->value()));
-    view->setModel(model);
+    // Before there is a model that would be sorted by it.
     view->horizontalHeader()->setSortIndicator(int(MeasurementColumn::Number), Qt::AscendingOrder);
+    view->setModel(model);
     view->setColumnWidth(int(MeasurementColumn::Patch), kPatchWidth);
     connect(view->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
             SLOT(showRemovable()));

@@ -1,7 +1,6 @@
 #include "DatabasePage.h"
 #include "DatabaseServerPanel.h"
 #include "DialogDriver.h"
-#include "LocalServer.h"
 #include "MeasurementMakingPanel.h"
 #include "MeasurementTablePanel.h"
 #include "PageChecks.h"
@@ -11,10 +10,13 @@
 #include "TXDBNavWidget.h"
 #include "TXDatabaseConfigurationWidget.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
-#include <QFileDialog>
+#include <QElapsedTimer>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSettings>
@@ -67,6 +69,8 @@ private slots:
     void folderThatCannotBeWrittenIsTold();
     void wheelChangesNothing();
     void pictureShowsAMiddlePage();
+    void pictureComesWithoutAServerToo();
+    void focusGoesToCancelAndBack();
     void textsFollowTheLanguage();
     void mnemonicsAreDistinct();
     void everyControlHasAName();
@@ -304,10 +308,12 @@ void TestDatabasePage::rowsPerPageKeepTheTopRow()
     make();
     pageBox().setValue(13);
     QCOMPARE(cell(0, 0), "1,200");
-    auto *rows = controlOf<QComboBox>(*page, QString());
-    for (QComboBox *box : page->findChildren<QComboBox *>()) {
+    QComboBox *rows = nullptr;
+    const auto boxes = page->findChildren<QComboBox *>();
+    for (QComboBox *box : boxes) {
         rows = box->findText("500") >= 0 ? box : rows;
     }
+    QVERIFY(rows);
 
     rows->setCurrentIndex(rows->findText("500"));
 
@@ -409,7 +415,8 @@ void TestDatabasePage::wheelChangesNothing()
 {
     make();
     QList<QWidget *> controls = {&pageBox(), page->findChild<QDoubleSpinBox *>()};
-    for (QComboBox *box : page->findChildren<QComboBox *>()) {
+    const auto boxes = page->findChildren<QComboBox *>();
+    for (QComboBox *box : boxes) {
         controls.append(box);
     }
     pageBox().setValue(5);
@@ -451,6 +458,38 @@ void TestDatabasePage::pictureShowsAMiddlePage()
     QTRY_VERIFY2(pageBox().width() >= pageBox().sizeHint().width(), "the pages are cut off");
     QCOMPARE(bullet().accessibleName(), "Connection succeeded");
     QCOMPARE(settings().topLevelItemCount(), 7);
+}
+
+void TestDatabasePage::pictureComesWithoutAServerToo()
+{
+    const QByteArray before = qgetenv("TMPDIR");
+    // Nothing can be made there, not even by the superuser.
+    qputenv("TMPDIR", "/proc");
+    making->setAmount(kFewRows);
+    QSignalSpy ready(page.get(), SIGNAL(becameReady()));
+
+    page->fillForPicture();
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+
+    QVERIFY(ready.count() == 1 || ready.wait(kPatienceMilliseconds));
+    QVERIFY(!server->isRunning());
+    QVERIFY(!server->error().isEmpty());
+    // The internal database instead, at its last page.
+    QCOMPARE(pageBox().value(), 100);
+}
+
+void TestDatabasePage::focusGoesToCancelAndBack()
+{
+    QAbstractButton *makeButton = PageTest::button(*page, "Make Table");
+    QSignalSpy ended(making, SIGNAL(ended(bool)));
+    making->setAmount(kFewRows);
+    makeButton->setFocus();
+
+    QTest::keyClick(makeButton, Qt::Key_Space);
+    QVERIFY(PageTest::button(*page, "Cancel")->hasFocus());
+    QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, kPatienceMilliseconds);
+
+    QVERIFY(makeButton->hasFocus());
 }
 
 void TestDatabasePage::textsFollowTheLanguage()
