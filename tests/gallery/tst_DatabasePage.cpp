@@ -483,7 +483,10 @@ void TestDatabasePage::focusGoesToCancelAndBack()
     QAbstractButton *makeButton = PageTest::button(*page, "Make Table");
     QSignalSpy ended(making, SIGNAL(ended(bool)));
     making->setAmount(kFewRows);
+    page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
     makeButton->setFocus();
+    QVERIFY(makeButton->hasFocus());
 
     QTest::keyClick(makeButton, Qt::Key_Space);
     QVERIFY(PageTest::button(*page, "Cancel")->hasFocus());
