@@ -2,12 +2,14 @@
 
 #include "AccessPage.h"
 #include "ControlsPage.h"
+#include "DatabasePage.h"
 #include "ErrorsPage.h"
 #include "FtpPage.h"
 #include "LogPage.h"
 #include "MailPage.h"
 #include "PagesPage.h"
 #include "ReportPage.h"
+#include "UpdatePage.h"
 
 #include <QCoreApplication>
 
@@ -36,6 +38,8 @@ const QList<GalleryPageEntry> &galleryPages()
         {"controls", QT_TRANSLATE_NOOP("GalleryPages", "Controls"), make<ControlsPage>},
         {"mail", QT_TRANSLATE_NOOP("GalleryPages", "Mail"), make<MailPage>},
         {"ftp", QT_TRANSLATE_NOOP("GalleryPages", "FTP"), make<FtpPage>},
+        {"database", QT_TRANSLATE_NOOP("GalleryPages", "Database"), make<DatabasePage>},
+        {"update", QT_TRANSLATE_NOOP("GalleryPages", "Update"), make<UpdatePage>},
         {"report", QT_TRANSLATE_NOOP("GalleryPages", "Report"), make<ReportPage>},
     };
     return pages;

@@ -1,13 +1,13 @@
 #include "LocalServerPanel.h"
 
 #include "LocalServer.h"
+#include "WaitCursor.h"
 
 #include "TXResources.h"
 #include "TXSwitchSlider.h"
 
 #include <QComboBox>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -26,17 +26,6 @@ QString shortened(const QString &reason)
     }
     return lines.first() + u'\n' + lines.last().trimmed();
 }
-
-/// Shows the wait cursor for as long as it exists.
-class WaitCursor
-{
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-
-    WaitCursor(const WaitCursor &) = delete;
-    WaitCursor &operator=(const WaitCursor &) = delete;
-};
 
 } // namespace
 
@@ -113,6 +102,11 @@ void LocalServerPanel::addOption(QLabel *label, QWidget *option)
     parts->addWidget(option);
     option->installEventFilter(this);
     options->insertLayout(place, parts);
+}
+
+void LocalServerPanel::hideFillIn()
+{
+    fillInButton->hide();
 }
 
 void LocalServerPanel::setEntries(QComboBox *box, const QStringList &texts)

@@ -74,6 +74,9 @@ protected:
     /// turn it.
     void addOption(QLabel *label, QWidget *option);
 
+    /// Takes the button away that asks for the server's data, where there is nothing to fill in.
+    void hideFillIn();
+
     /// The texts of the entries, in the order of the box; makes the entries when there are none.
     static void setEntries(QComboBox *box, const QStringList &texts);
 

@@ -1,0 +1,78 @@
+#include "UpdatePage.h"
+
+#include "GalleryPanel.h"
+#include "UpdateDialogPanel.h"
+#include "UpdateServicePanel.h"
+#include "UpdateSessionPanel.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+UpdatePage::UpdatePage(QWidget *parent)
+    : GalleryPage(parent)
+    , servicePanel(new UpdateServicePanel(this))
+    , dialogPanel(new UpdateDialogPanel(this))
+    , sessionPanel(new UpdateSessionPanel(this))
+{
+    setUpLayout();
+    const TXCheckForUpdateWidget *dialog = dialogPanel->dialog();
+    connect(servicePanel, SIGNAL(logged(QString)), sessionPanel, SLOT(addRequest(QString)));
+    connect(dialog, SIGNAL(stateChanged(TXCheckForUpdateWidget::State)), sessionPanel,
+            SLOT(addState(TXCheckForUpdateWidget::State)));
+    connect(dialog, SIGNAL(updateRefreshed(QVariantHash)), sessionPanel,
+            SLOT(addRelease(QVariantHash)));
+    connect(dialog, SIGNAL(stateChanged(TXCheckForUpdateWidget::State)), this,
+            SLOT(stateEntered(TXCheckForUpdateWidget::State)));
+    connect(dialog, SIGNAL(updateRefreshed(QVariantHash)), this, SLOT(checkEnded()));
+}
+
+QString UpdatePage::description() const
+{
+    return tr("The dialog in which a user looks for a newer release, downloads and installs it. "
+              "Switch on a real update service on this computer, choose what it offers, and check "
+              "for updates.");
+}
+
+void UpdatePage::fillForPicture()
+{
+    isFilling = true;
+    // Without a service the picture shows the failure.
+    servicePanel->setRunning(true);
+    dialogPanel->dialog()->checkUpdate();
+}
+
+QList<GalleryFurtherWindow> UpdatePage::furtherWindows()
+{
+    return {{QStringLiteral("dialog"), dialogPanel->dialog()}};
+}
+
+void UpdatePage::checkEnded()
+{
+    servicePanel->catchUp();
+    if (isFilling) {
+        isFilling = false;
+        emit becameReady();
+    }
+}
+
+/// A check that fails ends without a release.
+void UpdatePage::stateEntered(TXCheckForUpdateWidget::State state)
+{
+    if (state == TXCheckForUpdateWidget::ServiceError) {
+        checkEnded();
+    }
+}
+
+void UpdatePage::setUpLayout()
+{
+    auto *columns = new QHBoxLayout;
+    columns->setSpacing(GalleryPanel::kGap);
+    columns->addWidget(dialogPanel, 1);
+    columns->addWidget(sessionPanel, 1);
+
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(GalleryPanel::kGap);
+    rows->addWidget(servicePanel);
+    rows->addLayout(columns, 1);
+}

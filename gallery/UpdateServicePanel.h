@@ -1,0 +1,32 @@
+#pragma once
+
+#include "LocalServerPanel.h"
+#include "UpdateOffer.h"
+
+class QComboBox;
+
+/// Switches an update service on this computer on and off, with a choice of what it offers. While
+/// it runs it is the service of TXUpdateService.
+class UpdateServicePanel final : public LocalServerPanel
+{
+    Q_OBJECT
+
+public:
+    explicit UpdateServicePanel(QWidget *parent = nullptr);
+
+    /// From the beginning: a newer release. Counts at once.
+    void setOffer(UpdateOffer offer);
+
+protected:
+    [[nodiscard]] std::unique_ptr<LocalServer> makeServer() override;
+    void retranslate() override;
+
+private slots:
+    void tell();
+
+private:
+    [[nodiscard]] UpdateOffer offer() const;
+
+    QLabel *offerLabel;
+    QComboBox *offerBox;
+};
