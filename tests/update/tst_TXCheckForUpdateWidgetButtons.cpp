@@ -212,6 +212,8 @@ void TestTXCheckForUpdateWidgetButtons::downloadAndInstallAsks()
 
     // The wish to install counts when the file is there, and only after a Yes.
     if (answer == QMessageBox::Yes) {
+        // Nobody is there to download from, which must not come up in the midst of the question.
+        QTRY_COMPARE(dialog.state(), Dialog::ServiceError);
         expectQuestion(driver, kInstallQuestion, QMessageBox::No);
     }
     dialog.updateState(Dialog::ReadyToInstall);
