@@ -17,12 +17,11 @@ UpdatePage::UpdatePage(QWidget *parent)
     setUpLayout();
     const TXCheckForUpdateWidget *dialog = dialogPanel->dialog();
     connect(servicePanel, SIGNAL(logged(QString)), sessionPanel, SLOT(addRequest(QString)));
-    connect(dialog, SIGNAL(stateChanged(State)), sessionPanel,
-            SLOT(addState(TXCheckForUpdateWidget::State)));
+    connect(dialog, &TXCheckForUpdateWidget::stateChanged, sessionPanel,
+            &UpdateSessionPanel::addState);
     connect(dialog, SIGNAL(updateRefreshed(QVariantHash)), sessionPanel,
             SLOT(addRelease(QVariantHash)));
-    connect(dialog, SIGNAL(stateChanged(State)), this,
-            SLOT(stateEntered(TXCheckForUpdateWidget::State)));
+    connect(dialog, &TXCheckForUpdateWidget::stateChanged, this, &UpdatePage::stateEntered);
     connect(dialog, SIGNAL(updateRefreshed(QVariantHash)), this, SLOT(checkEnded()));
 }
 

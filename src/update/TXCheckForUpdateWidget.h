@@ -131,7 +131,9 @@ signals:
     /// transfer has failed. Not emitted for a check that failed.
     void updateRefreshed(QVariantHash info);
 
-    /// The dialog is about to enter another state: state() still tells the old one.
+    /// The dialog is about to enter another state: state() still tells the old one. A connection by
+    /// strings names it stateChanged(State), and so has the slot to call its parameter; a connection
+    /// by pointers to the functions does not care.
     void stateChanged(State state);
 
 public slots:
