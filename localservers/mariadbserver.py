@@ -145,6 +145,9 @@ def serve():
     children = Children()
     options = serverlink.begin(before_end=children.end)
     os.umask(0o077)
+    # A server deletes the temporary files of another one that it finds when it starts.
+    os.mkdir("tmp")
+    os.environ["TMPDIR"] = os.path.abspath("tmp")
     for program in (INSTALLER, SERVER):
         if not os.access(program, os.X_OK):
             sys.exit(program + " is missing; Debian's package mariadb-server-core has it")

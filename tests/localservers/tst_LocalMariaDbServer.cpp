@@ -127,6 +127,7 @@ private slots:
     void stopLeavesNoProcessAndAClosedPort();
     void startedAgainServerIsEmpty();
     void twoRunSideBySide();
+    void temporaryFilesAreItsOwn();
     void killedScriptLeavesNoDatabaseServer();
     void endOfTheDatabaseServerIsTold();
     void missingProgramIsToldInWords_data();
@@ -475,6 +476,17 @@ void TestLocalMariaDbServer::twoRunSideBySide()
     QCOMPARE(Client(second).logIn("tom", "cat"), 0);
     first.stop();
     QCOMPARE(Client(second).logIn("tom", "cat"), 0);
+}
+
+void TestLocalMariaDbServer::temporaryFilesAreItsOwn()
+{
+    LocalMariaDbServer server;
+    QVERIFY2(server.start(), qPrintable(server.error()));
+    Client client(server);
+    QCOMPARE(client.logIn(), 0);
+
+    const QString folder = QFileInfo(server.folder()).canonicalFilePath();
+    QCOMPARE(client.value("select @@tmpdir").toString(), QString(folder + QStringLiteral("/tmp")));
 }
 
 void TestLocalMariaDbServer::killedScriptLeavesNoDatabaseServer()
