@@ -20,7 +20,7 @@ FtpPage::FtpPage(QWidget *parent)
     FTPConfigurationWidget *configuration = configurationPanel->configuration();
     connect(serverPanel, SIGNAL(started()), this, SLOT(fillIn()));
     connect(serverPanel, SIGNAL(fillInWanted()), this, SLOT(fillIn()));
-    connect(serverPanel, SIGNAL(logged(QString)), sessionPanel, SLOT(addCommand(QString)));
+    connect(serverPanel, SIGNAL(logged(QString)), sessionPanel, SLOT(addReceived(QString)));
     connect(configuration, SIGNAL(changeFtpStatus(bool)), sessionPanel, SLOT(addFtpStatus(bool)));
     connect(configuration, SIGNAL(ftpConnectionStatus(FTPConfigurationWidget::FtpStatus)),
             sessionPanel, SLOT(addConnectionStatus(FTPConfigurationWidget::FtpStatus)));

@@ -16,7 +16,7 @@ UpdatePage::UpdatePage(QWidget *parent)
 {
     setUpLayout();
     const TXCheckForUpdateWidget *dialog = dialogPanel->dialog();
-    connect(servicePanel, SIGNAL(logged(QString)), sessionPanel, SLOT(addRequest(QString)));
+    connect(servicePanel, SIGNAL(logged(QString)), sessionPanel, SLOT(addReceived(QString)));
     connect(dialog, &TXCheckForUpdateWidget::stateChanged, sessionPanel,
             &UpdateSessionPanel::addState);
     connect(dialog, SIGNAL(updateRefreshed(QVariantHash)), sessionPanel,
