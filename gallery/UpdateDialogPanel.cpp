@@ -6,6 +6,7 @@
 #include "TXDisplayErrorMessageBox.h"
 #include "TXError.h"
 #include "TXFileDialog.h"
+#include "TXStringI18n.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -35,24 +36,49 @@ QVariantHash shortened(QVariantHash info)
     return info;
 }
 
+/// Tells why nothing is shown, with the folder in it.
+TXStringI18n message(const char *text, const QString &folder)
+{
+    return TXStringI18n("UpdateDialogPanel", text, nullptr, -1)
+        .arg(QDir::toNativeSeparators(folder));
+}
+
 } // namespace
 
 UpdateDialogPanel::UpdateDialogPanel(QWidget *parent)
     : GalleryPanel(parent)
     , updates(new TXCheckForUpdateWidget(QStringLiteral("TXGUICommon Gallery"), kProductNumber,
-                                         true, this))
+                                         false, this))
     , checkButton(new QPushButton(this))
     , folderButton(new QPushButton(this))
     , explanation(new QLabel(this))
     , view(new DictionaryView(this))
 {
+    // The gallery asks nobody without a click, however long it stands open.
+    updates->setAutoCheckPeriod(0);
     explanation->setWordWrap(true);
     view->setTypesShown(false);
     setUpLayout();
+    setServiceRunning(false);
     retranslate();
-    connect(checkButton, SIGNAL(clicked()), updates, SLOT(checkUpdate()));
+    connect(checkButton, SIGNAL(clicked()), this, SLOT(check()));
     connect(folderButton, SIGNAL(clicked()), this, SLOT(showFolder()));
     connect(updates, SIGNAL(updateRefreshed(QVariantHash)), this, SLOT(showRelease(QVariantHash)));
+}
+
+void UpdateDialogPanel::setServiceRunning(bool isRunning)
+{
+    checkButton->setEnabled(isRunning);
+}
+
+void UpdateDialogPanel::check()
+{
+    // The dialog writes only into a folder that is there.
+    QDir().mkpath(downloadFolder());
+    updates->checkUpdate();
+    // It may be open already, behind other windows.
+    updates->raise();
+    updates->activateWindow();
 }
 
 void UpdateDialogPanel::retranslate()
@@ -61,10 +87,11 @@ void UpdateDialogPanel::retranslate()
     setButtonText(checkButton, tr("Check for &Updates"));
     setButtonText(folderButton, tr("Show in F&older"));
     explanation->setText(
-        tr("\"Download and Install\" writes the file to \"%1\", \"Download\" to the folder that "
-           "you "
-           "choose. The file is a harmless text. \"Install\" opens it with the program that the "
-           "desktop has for it, and closes all windows of the gallery.")
+        tr("\"Download and Install\" writes the file to \"%1\", which a check makes where it is "
+           "missing, \"Download\" to the folder that you choose. The file is a harmless text. "
+           "\"Install\" opens it with the desktop's program for texts, and closes all windows of "
+           "the gallery. Where there is no such program, nothing happens: \"Show in Folder\" shows "
+           "the file.")
             .arg(QDir::toNativeSeparators(downloadFolder())));
 }
 
@@ -76,15 +103,21 @@ void UpdateDialogPanel::showRelease(const QVariantHash &info)
 
 void UpdateDialogPanel::showFolder()
 {
-    if (!TXFileDialog::showInGraphicalShell(shownPath())) {
-        TXError error;
-        error.domain = tr("Update");
-        error.setDescription(TXStringI18n("UpdateDialogPanel",
-                                          QT_TR_NOOP("No program shows the folder \"%1\"."),
-                                          nullptr, -1)
-                                 .arg(QDir::toNativeSeparators(shownPath())));
-        TXDisplayErrorMessageBox(error, ErroMessageBoxWarning, this);
+    const QFileInfo shown(shownPath());
+    const QString folder = shown.isDir() ? shown.filePath() : shown.path();
+    if (!shown.exists()) {
+        tell(message(QT_TR_NOOP("There is no folder \"%1\"."), shown.filePath()));
+    } else if (!TXFileDialog::showInGraphicalShell(shown.filePath())) {
+        tell(message(QT_TR_NOOP("No program shows the folder \"%1\"."), folder));
     }
+}
+
+void UpdateDialogPanel::tell(const TXStringI18n &text)
+{
+    TXError error;
+    error.domain = tr("Update");
+    error.setDescription(text);
+    TXDisplayErrorMessageBox(error, ErroMessageBoxWarning, this);
 }
 
 /// The downloaded file, or the folder when it is not there.

@@ -15,7 +15,7 @@ constexpr int kNotFound = 404;
 constexpr int kSlowLines = 8000;
 constexpr int kSlowPieces = 40;
 constexpr int kPauseMilliseconds = 100;
-constexpr qsizetype kLongDescriptionBytes = 1'000'000;
+constexpr qsizetype kLongDescriptionBytes = 10'000'000;
 
 QString tr(const char *text)
 {

@@ -10,7 +10,7 @@ enum class UpdateOffer {
     Slow, ///< the file takes some seconds
     Broken, ///< the connection breaks in the midst of the file
     WithoutFile, ///< nothing to download
-    LongDescription, ///< a megabyte of release notes
+    LongDescription, ///< ten megabytes of release notes
     Same, ///< the revision of this build
     Older,
     Empty, ///< an answer without content

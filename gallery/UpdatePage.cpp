@@ -17,6 +17,7 @@ UpdatePage::UpdatePage(QWidget *parent)
     setUpLayout();
     const TXCheckForUpdateWidget *dialog = dialogPanel->dialog();
     connect(servicePanel, SIGNAL(logged(QString)), sessionPanel, SLOT(addReceived(QString)));
+    connect(servicePanel, SIGNAL(runningChanged(bool)), dialogPanel, SLOT(setServiceRunning(bool)));
     connect(dialog, &TXCheckForUpdateWidget::stateChanged, sessionPanel,
             &UpdateSessionPanel::addState);
     connect(dialog, SIGNAL(updateRefreshed(QVariantHash)), sessionPanel,
@@ -34,14 +35,19 @@ QString UpdatePage::description() const
 
 void UpdatePage::fillForPicture()
 {
-    isFilling = true;
-    // Without a service the picture shows the failure.
     servicePanel->setRunning(true);
-    dialogPanel->dialog()->checkUpdate();
+    // Without the service the picture shows why, and nobody else is asked.
+    if (servicePanel->isRunning()) {
+        isFilling = true;
+        dialogPanel->dialog()->checkUpdate();
+    }
 }
 
 QList<GalleryFurtherWindow> UpdatePage::furtherWindows()
 {
+    if (!servicePanel->isRunning()) {
+        return {};
+    }
     return {{QStringLiteral("dialog"), dialogPanel->dialog()}};
 }
 

@@ -15,7 +15,16 @@ UpdateServicePanel::UpdateServicePanel(QWidget *parent)
     hideFillIn();
     retranslate();
     connect(this, SIGNAL(started()), this, SLOT(tell()));
+    connect(this, SIGNAL(started()), this, SLOT(announce()));
     connect(offerBox, SIGNAL(currentIndexChanged(int)), this, SLOT(tell()));
+}
+
+UpdateServicePanel::~UpdateServicePanel()
+{
+    // The service ends with the base, when there is nobody any more to announce it.
+    if (isRunning()) {
+        runningServer()->findChild<UpdateAuthorityChange *>()->disconnect(this);
+    }
 }
 
 void UpdateServicePanel::setOffer(UpdateOffer offer)
@@ -52,8 +61,15 @@ void UpdateServicePanel::tell()
     service->setDownloadReply(downloadReplyFor(offer()));
     const QString nobody = QStringLiteral("127.0.0.1:%1").arg(closedPort());
     delete service->findChild<UpdateAuthorityChange *>();
-    new UpdateAuthorityChange(offer() == UpdateOffer::NobodyThere ? nobody : service->authority(),
-                              service);
+    auto *change = new UpdateAuthorityChange(
+        offer() == UpdateOffer::NobodyThere ? nobody : service->authority(), service);
+    // It goes with the service, however that ends.
+    connect(change, SIGNAL(destroyed()), this, SLOT(announce()));
+}
+
+void UpdateServicePanel::announce()
+{
+    emit runningChanged(isRunning());
 }
 
 UpdateOffer UpdateServicePanel::offer() const

@@ -13,9 +13,14 @@ class UpdateServicePanel final : public LocalServerPanel
 
 public:
     explicit UpdateServicePanel(QWidget *parent = nullptr);
+    ~UpdateServicePanel() override;
 
     /// From the beginning: a newer release. Counts at once.
     void setOffer(UpdateOffer offer);
+
+signals:
+    /// The service takes requests, or has ended. May be emitted again for the same.
+    void runningChanged(bool isRunning);
 
 protected:
     [[nodiscard]] std::unique_ptr<LocalServer> makeServer() override;
@@ -23,6 +28,7 @@ protected:
 
 private slots:
     void tell();
+    void announce();
 
 private:
     [[nodiscard]] UpdateOffer offer() const;

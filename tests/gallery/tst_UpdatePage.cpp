@@ -1,142 +1,62 @@
-#include "DialogDriver.h"
-#include "PageChecks.h"
-#include "PageHelpers.h"
-#include "TestBase.h"
+#include "GalleryLanguages.h"
+#include "GallerySettings.h"
+#include "GalleryWindow.h"
 #include "UpdateAuthorityChange.h"
-#include "UpdatePage.h"
-#include "UpdateServicePanel.h"
+#include "UpdatePageTest.h"
 
-#include "TXCheckForUpdateWidget.h"
 #include "TXUpdateService.h"
 
-#include <QDesktopServices>
-#include <QDir>
-#include <QFile>
+#include <QComboBox>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
-#include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QStandardPaths>
-#include <QTreeWidget>
 #include <QUrl>
-
-#include <memory>
-
-using State = TXCheckForUpdateWidget::State;
+#include <QUrlQuery>
 
 Q_DECLARE_METATYPE(UpdateOffer)
 
 namespace {
 
-constexpr int kPatienceMilliseconds = 30000;
-
-QString downloads()
+/// What the service tells of this offer.
+QJsonObject told(UpdateOffer offer)
 {
-    return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+    return QJsonDocument::fromJson(checkReplyFor(offer).body).object();
 }
 
-QStringList downloadedFiles()
+/// The text as far as the page shows it.
+QString shownStart(const QString &text)
 {
-    return QDir(downloads()).entryList({QStringLiteral("TXGallery-*")}, QDir::Files);
+    return text.size() > 200 ? QString(text.left(200) + u'\u2026') : text;
 }
-
-/// Takes what the desktop would open.
-class Desktop : public QObject
-{
-    Q_OBJECT
-
-public:
-    Desktop() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open"); }
-    ~Desktop() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
-
-    QList<QUrl> opened;
-
-public slots:
-    void open(const QUrl &url) { opened.append(url); }
-};
 
 } // namespace
 
-class TestUpdatePage : public TestBase
+/// The page with its service, and what it shows of a check.
+class TestUpdatePage : public UpdatePageTest
 {
     Q_OBJECT
-
-protected:
-    void prepare() override;
-    void finish() override;
 
 private slots:
     void checkEndsInItsState_data();
     void checkEndsInItsState();
     void serviceIsTheLibrarysWhileItRuns();
+    void checksAreForTheRunningServiceOnly();
     void changesOfTheServiceMayGoInAnyOrder();
+    void dialogComesToTheFront();
+    void sameReleaseIsThatOfThisBuild();
+    void longNotesAreCut();
     void requestsAndSignalsAreListed();
     void releaseIsShownWithItsFile();
     void offerCountsAtOnce();
-    void downloadEndsWithInstalling();
-    void slowDownloadShowsItsProgress();
-    void brokenDownloadIsAFailure();
     void clearingEmptiesTheSession();
     void pictureShowsTheOffer();
     void pictureComesWithoutAServiceToo();
-    void pageMayGoDuringADownload();
     void textsFollowTheLanguage();
-    void mnemonicsAreDistinct();
-    void everyControlHasAName();
+    void mnemonicsAreNotShared();
+    void everyControlHasANameAndIsReachedByTab();
     void pageIsNotTooWide();
-
-private:
-    void check(UpdateOffer offer);
-    [[nodiscard]] QPushButton *inDialog(const char *name) const
-    {
-        return dialog->findChild<QPushButton *>(QLatin1String(name));
-    }
-    [[nodiscard]] QTreeWidget &release() const { return *page->findChild<QTreeWidget *>(); }
-    [[nodiscard]] QString valueOf(const QString &key) const
-    {
-        const auto found = release().findItems(key, Qt::MatchExactly);
-        return found.isEmpty() ? QString() : found.first()->text(2);
-    }
-    [[nodiscard]] QString lines(int list) const
-    {
-        return page->findChildren<QPlainTextEdit *>().at(list)->toPlainText();
-    }
-
-    std::unique_ptr<UpdatePage> page;
-    UpdateServicePanel *service = nullptr;
-    TXCheckForUpdateWidget *dialog = nullptr;
 };
-
-void TestUpdatePage::prepare()
-{
-    QVERIFY(QDir().mkpath(downloads()));
-    page = std::make_unique<UpdatePage>();
-    service = page->findChild<UpdateServicePanel *>();
-    dialog = page->findChild<TXCheckForUpdateWidget *>();
-    page->resize(845, 600);
-    page->show();
-}
-
-void TestUpdatePage::finish()
-{
-    page.reset();
-    const QStringList files = downloadedFiles();
-    for (const QString &file : files) {
-        QVERIFY(QFile::remove(downloads() + u'/' + file));
-    }
-}
-
-/// Clicks "Check for Updates" and waits for the end of the check.
-void TestUpdatePage::check(UpdateOffer offer)
-{
-    service->setRunning(true);
-    QVERIFY2(service->isRunning(), qPrintable(service->error()));
-    service->setOffer(offer);
-    DialogDriver::click(PageTest::button(*page, "Check for Updates"));
-    QVERIFY(dialog->isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(dialog->state() != State::Checking, kPatienceMilliseconds);
-}
 
 void TestUpdatePage::checkEndsInItsState_data()
 {
@@ -173,7 +93,9 @@ void TestUpdatePage::checkEndsInItsState()
         QCOMPARE(title.contains("Beta"), offer == UpdateOffer::Beta);
         QVERIFY(!title.contains("Finale"));
     }
-    QVERIFY(valueOf("Description").size() <= 201);
+    // A check that fails ends without a record.
+    const QJsonObject record = state == State::ServiceError ? QJsonObject() : told(offer);
+    QTRY_COMPARE(valueOf("Description"), shownStart(record["Description"].toString()));
 }
 
 void TestUpdatePage::serviceIsTheLibrarysWhileItRuns()
@@ -192,6 +114,23 @@ void TestUpdatePage::serviceIsTheLibrarysWhileItRuns()
     QCOMPARE(TXUpdateService::authority(), before);
 }
 
+void TestUpdatePage::checksAreForTheRunningServiceOnly()
+{
+    const auto *button = buttonOf(*page, "Check for Updates");
+    QVERIFY(!button->isEnabled());
+    QVERIFY(dialog->autoCheckPeriod() < 1);
+
+    switchOn();
+    QVERIFY(button->isEnabled());
+    service->setOffer(UpdateOffer::NobodyThere);
+    QVERIFY(button->isEnabled());
+    service->restart();
+    QVERIFY(button->isEnabled());
+
+    service->setRunning(false);
+    QVERIFY(!button->isEnabled());
+}
+
 void TestUpdatePage::changesOfTheServiceMayGoInAnyOrder()
 {
     const QString before = TXUpdateService::authority();
@@ -206,18 +145,53 @@ void TestUpdatePage::changesOfTheServiceMayGoInAnyOrder()
     QCOMPARE(TXUpdateService::authority(), before);
 }
 
+void TestUpdatePage::dialogComesToTheFront()
+{
+    check(UpdateOffer::Newer);
+    QTRY_VERIFY(dialog->isActiveWindow());
+    page->activateWindow();
+    QTRY_VERIFY(page->isActiveWindow());
+
+    check(UpdateOffer::Newer);
+
+    QTRY_VERIFY(dialog->isActiveWindow());
+}
+
+void TestUpdatePage::sameReleaseIsThatOfThisBuild()
+{
+    check(UpdateOffer::Same);
+
+    QTRY_VERIFY(requests().startsWith("GET /"));
+    const QUrlQuery asked(QUrl(requests().section(u' ', 1)).query());
+    QVERIFY(asked.hasQueryItem("Revision"));
+    QCOMPARE(told(UpdateOffer::Same)["Revision"].toInt(), asked.queryItemValue("Revision").toInt());
+}
+
+void TestUpdatePage::longNotesAreCut()
+{
+    constexpr qsizetype kMegabyte = 1'000'000;
+    QVERIFY(told(UpdateOffer::LongDescription)["Description"].toString().size() > 9 * kMegabyte);
+
+    check(UpdateOffer::LongDescription);
+
+    const QString notes = dialog->findChild<QLabel *>("descriptionLabel")->text();
+    QVERIFY(notes.contains("New in this release"));
+    QVERIFY(notes.size() < kMegabyte / 10);
+    QTRY_COMPARE(valueOf("Description").size(), 201);
+}
+
 void TestUpdatePage::requestsAndSignalsAreListed()
 {
     check(UpdateOffer::Newer);
 
-    QTRY_COMPARE(lines(1),
+    QTRY_COMPARE(emissions(),
                  "stateChanged(UpdateAvailable)\nupdateRefreshed({Revision: 10500, ...})");
-    QCOMPARE(lines(0), "GET /checkUpdate?OS=win64&ProductType=7&Revision=10452");
+    QCOMPARE(requests(), "GET /checkUpdate?OS=win64&ProductType=7&Revision=10452");
 
     check(UpdateOffer::Empty);
-    QTRY_VERIFY2(lines(1).endsWith("stateChanged(Checking)\nstateChanged(UpToDate)\n"
-                                   "updateRefreshed({})"),
-                 qPrintable(lines(1)));
+    QTRY_VERIFY2(emissions().endsWith("stateChanged(Checking)\nstateChanged(UpToDate)\n"
+                                      "updateRefreshed({})"),
+                 qPrintable(emissions()));
 }
 
 void TestUpdatePage::releaseIsShownWithItsFile()
@@ -243,76 +217,15 @@ void TestUpdatePage::offerCountsAtOnce()
     QCOMPARE(service->port(), port);
 }
 
-void TestUpdatePage::downloadEndsWithInstalling()
-{
-    Desktop desktop;
-    check(UpdateOffer::Newer);
-    DialogDriver driver;
-    driver.expectMessageBox(
-        [](QMessageBox &box) { DialogDriver::click(box, QDialogButtonBox::Yes); });
-    driver.expectMessageBox([](QMessageBox &box) {
-        QVERIFY(box.text().contains("The application will exit."));
-        DialogDriver::click(box, QDialogButtonBox::Yes);
-    });
-
-    DialogDriver::click(inDialog("downloadAndInstallButton"));
-
-    QTRY_COMPARE_WITH_TIMEOUT(desktop.opened.size(), 1, kPatienceMilliseconds);
-    QCOMPARE(downloadedFiles(), QStringList("TXGallery-2.0.txt"));
-    const QString path = downloads() + "/TXGallery-2.0.txt";
-    QCOMPARE(desktop.opened.first(), QUrl::fromLocalFile(path));
-    QFile file(path);
-    QVERIFY(file.open(QFile::ReadOnly));
-    QVERIFY(file.readAll().contains("harmless"));
-    // All windows close after it.
-    QTRY_VERIFY(!page->isVisible());
-    QVERIFY(lines(1).contains("stateChanged(Downloading)\nstateChanged(ReadyToInstall)"));
-}
-
-void TestUpdatePage::slowDownloadShowsItsProgress()
-{
-    check(UpdateOffer::Slow);
-    DialogDriver driver;
-    driver.expectMessageBox(
-        [](QMessageBox &box) { DialogDriver::click(box, QDialogButtonBox::Yes); });
-    driver.expectMessageBox(
-        [](QMessageBox &box) { DialogDriver::click(box, QDialogButtonBox::No); });
-    auto *bar = dialog->findChild<QProgressBar *>("downloadProgressBar");
-    QSignalSpy moved(bar, SIGNAL(valueChanged(int)));
-
-    DialogDriver::click(inDialog("downloadAndInstallButton"));
-    QTRY_COMPARE_WITH_TIMEOUT(int(dialog->state()), int(State::ReadyToInstall),
-                              kPatienceMilliseconds);
-
-    QVERIFY2(moved.count() > 5, qPrintable(QString::number(moved.count())));
-    QCOMPARE(QFileInfo(downloads() + "/TXGallery-2.0-slow.txt").size(),
-             valueOf("Filesize").toLongLong());
-    QTRY_VERIFY(inDialog("installButton")->isVisible());
-}
-
-void TestUpdatePage::brokenDownloadIsAFailure()
-{
-    check(UpdateOffer::Broken);
-    DialogDriver driver;
-    driver.expectMessageBox(
-        [](QMessageBox &box) { DialogDriver::click(box, QDialogButtonBox::Yes); });
-
-    DialogDriver::click(inDialog("downloadAndInstallButton"));
-
-    QTRY_COMPARE_WITH_TIMEOUT(int(dialog->state()), int(State::ServiceError),
-                              kPatienceMilliseconds);
-    QTRY_VERIFY(lines(1).endsWith("updateRefreshed({})"));
-}
-
 void TestUpdatePage::clearingEmptiesTheSession()
 {
     check(UpdateOffer::Newer);
-    QTRY_VERIFY(!lines(0).isEmpty());
+    QTRY_VERIFY(!requests().isEmpty());
 
-    DialogDriver::click(PageTest::button(*page, "Clear"));
+    DialogDriver::click(buttonOf(*page, "Clear"));
 
-    QVERIFY(lines(0).isEmpty());
-    QVERIFY(lines(1).isEmpty());
+    QVERIFY(requests().isEmpty());
+    QVERIFY(emissions().isEmpty());
 }
 
 void TestUpdatePage::pictureShowsTheOffer()
@@ -326,7 +239,7 @@ void TestUpdatePage::pictureShowsTheOffer()
     QVERIFY(ready.wait(kPatienceMilliseconds));
     QVERIFY(page->isReady());
     QCOMPARE(valueOf("Revision"), "10500");
-    QVERIFY(lines(0).startsWith("GET /checkUpdate"));
+    QVERIFY(requests().startsWith("GET /checkUpdate"));
     const QList<GalleryFurtherWindow> windows = page->furtherWindows();
     QCOMPARE(windows.size(), 1);
     QCOMPARE(windows.first().name, "dialog");
@@ -335,64 +248,64 @@ void TestUpdatePage::pictureShowsTheOffer()
 
 void TestUpdatePage::pictureComesWithoutAServiceToo()
 {
-    // A check without the local service goes to a port where nobody listens, not to the world.
-    const UpdateAuthorityChange closed("127.0.0.1:1", nullptr);
     const QByteArray before = qgetenv("TMPDIR");
     // Nothing can be made there, not even by the superuser.
     qputenv("TMPDIR", "/proc");
-    QSignalSpy ready(page.get(), SIGNAL(becameReady()));
 
     page->fillForPicture();
     before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
 
-    QVERIFY(ready.count() == 1 || ready.wait(kPatienceMilliseconds));
+    QVERIFY(page->isReady());
     QVERIFY(!service->isRunning());
     QVERIFY(!service->error().isEmpty());
-    QCOMPARE(int(dialog->state()), int(State::ServiceError));
-}
-
-void TestUpdatePage::pageMayGoDuringADownload()
-{
-    check(UpdateOffer::Slow);
-    DialogDriver driver;
-    driver.expectMessageBox(
-        [](QMessageBox &box) { DialogDriver::click(box, QDialogButtonBox::Yes); });
-    DialogDriver::click(inDialog("downloadAndInstallButton"));
-    QCOMPARE(int(dialog->state()), int(State::Downloading));
-
-    page.reset();
+    // Nobody in the world is asked instead.
+    QCOMPARE(emissions(), QString());
+    QVERIFY(!dialog->isVisible());
+    QVERIFY(page->furtherWindows().isEmpty());
 }
 
 void TestUpdatePage::textsFollowTheLanguage()
 {
-    PageTest::StarTranslator translator;
+    CapitalTranslator translator;
     QCoreApplication::installTranslator(&translator);
     QCoreApplication::sendPostedEvents();
 
-    QVERIFY(PageTest::button(*page, "*Check for Updates"));
-    QVERIFY(PageTest::button(*page, "*Show in Folder"));
+    // The folder in the explanation is no word of a language.
+    QStringList texts = smallTexts(*page, smallTexts(*dialog, {}));
+    QCOMPARE(texts.size(), 1);
+    QVERIFY(texts.first().contains(downloads()));
+    QString explanation = texts.first().remove(downloads());
+    QCOMPARE(explanation, explanation.toUpper());
+    const auto *offers = page->findChild<QComboBox *>();
+    QCOMPARE(offers->itemText(0), "NEWER RELEASE");
+    QCOMPARE(offers->itemText(offers->count() - 1), "NOBODY LISTENS");
 
     QCoreApplication::removeTranslator(&translator);
     QCoreApplication::sendPostedEvents();
-    QVERIFY(PageTest::button(*page, "Check for Updates"));
+    QVERIFY(buttonOf(*page, "Check for Updates"));
 }
 
-void TestUpdatePage::mnemonicsAreDistinct()
+void TestUpdatePage::mnemonicsAreNotShared()
 {
-    QStringList keys;
-    for (QWidget *panel : page->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        keys += PageTest::mnemonics(*panel);
-    }
-    keys += PageTest::mnemonicsOfTheHeader();
-    QVERIFY(keys.size() > 8);
+    GallerySettings settings;
+    settings.page = "update";
+    GalleryLanguages languages(QString{});
+    const GalleryWindow window(languages, settings);
 
-    QCOMPARE(keys.removeDuplicates(), 0);
+    QVERIFY(buttonOf(window, "Check for Updates"));
+    QCOMPARE(clashingMnemonics(window), QStringList());
 }
 
-void TestUpdatePage::everyControlHasAName()
+void TestUpdatePage::everyControlHasANameAndIsReachedByTab()
 {
-    service->setRunning(true);
+    page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
     QCOMPARE(namelessControls(*page), QStringList());
+    QCOMPARE(controlsOutOfReach(*page), QStringList());
+
+    switchOn();
+    QCOMPARE(namelessControls(*page), QStringList());
+    QCOMPARE(controlsOutOfReach(*page), QStringList());
 }
 
 void TestUpdatePage::pageIsNotTooWide()
