@@ -5,9 +5,10 @@
 #include <QFile>
 #include <QFileInfo>
 
-InstallerFile::InstallerFile(const QString &filePath, qint64 size)
+InstallerFile::InstallerFile(const QString &filePath, qint64 size, Beginning fileBeginning)
     : path(filePath)
     , expectedSize(size)
+    , beginning(fileBeginning)
 { }
 
 InstallerFile::Result InstallerFile::append(QIODevice &source, qint64 size)
@@ -20,49 +21,70 @@ InstallerFile::Result InstallerFile::append(QIODevice &source, qint64 size)
         return lose();
     }
     QFile file(path);
-    const auto place = isBegun ? QIODevice::ExistingOnly : QIODevice::NewOnly;
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | place)) {
+    if (!open(file)) {
         return openFailed();
     }
-    if (!isBegun) {
-        isBegun = true;
-        birth = file.fileTime(QFileDevice::FileBirthTime);
-    }
-    const bool isWritten =
-        isOurs(file) && write(file, source.read(qBound(qint64(0), size, kLargestPiece)));
-    return isWritten ? Result::Written : lose();
+    return isOurs(file) ? move(source, qBound(qint64(0), size, kLargestPiece), file) : lose();
 }
 
 bool InstallerFile::finish()
 {
     const bool isOnDisk = isBegun ? isOurs(QFile(path)) : !isOffered;
-    if (isLost || !isOnDisk || writtenSize < expectedSize) {
+    if (isLost || !isOnDisk || fileSize < expectedSize) {
         lose();
         return false;
     }
-    UnfinishedDownloads::remove(path);
+    if (isBegun) {
+        UnfinishedDownloads::remove(path);
+    }
     return true;
 }
 
 bool InstallerFile::isReadyToBegin()
 {
+    if (beginning == Beginning::AnyFile) {
+        return !path.isEmpty();
+    }
     // Checked before the file is remembered: what is there belongs to somebody else.
     const QFileInfo file(path);
     if (path.isEmpty() || file.isFile() || file.isSymLink()) {
         return false;
     }
-    if (!isRemembered) {
-        // Settings that cannot be written, as those of a host without a name, are no reason to go
-        // without the download.
-        UnfinishedDownloads::add(path);
-        isRemembered = true;
+    // At each try, since the entry tells when the file was made. Settings that cannot be written,
+    // as those of a host without a name, are no reason to go without the download.
+    UnfinishedDownloads::add(path);
+    isRemembered = true;
+    return true;
+}
+
+bool InstallerFile::open(QFile &file)
+{
+    const QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Append;
+    if (isBegun) {
+        return file.open(mode | QIODevice::ExistingOnly);
     }
+    const bool isNew = beginning == Beginning::NewFile;
+    if (!file.open(isNew ? mode | QIODevice::NewOnly : mode)) {
+        return false;
+    }
+    isBegun = true;
+    fileSize = file.size();
+    birth = file.fileTime(QFileDevice::FileBirthTime);
     return true;
 }
 
 bool InstallerFile::isOurs(const QFile &file) const
 {
-    return file.size() == writtenSize && file.fileTime(QFileDevice::FileBirthTime) == birth;
+    return file.size() == fileSize && file.fileTime(QFileDevice::FileBirthTime) == birth;
+}
+
+InstallerFile::Result InstallerFile::move(QIODevice &source, qint64 size, QFile &file)
+{
+    const QByteArray piece = source.read(size);
+    if (piece.isEmpty() && size > 0) {
+        return Result::NothingRead;
+    }
+    return write(file, piece) ? Result::Written : lose();
 }
 
 bool InstallerFile::write(QFile &file, const QByteArray &piece)
@@ -70,7 +92,7 @@ bool InstallerFile::write(QFile &file, const QByteArray &piece)
     const bool isTaken = file.write(piece) == piece.size();
     // Some file systems tell only here that there is no room.
     file.close();
-    writtenSize += piece.size();
+    fileSize += piece.size();
     return isTaken && file.error() == QFileDevice::NoError;
 }
 

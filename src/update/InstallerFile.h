@@ -10,27 +10,36 @@ class QIODevice;
 
 /// The file that one download is written to, piece by piece, opened and closed for each.
 ///
-/// What always holds:
+/// What always holds for a file that is to be a new one:
 /// - The first piece makes the file. One that is there already is never written to, nor does it
 ///   become known as unfinished.
 /// - The file is known to UnfinishedDownloads before it is made, and until finish() has found it
 ///   whole; also when the process is killed, as far as the settings can be written.
-/// - A later piece goes only into the file that the first one made, at its end as the last piece
+///
+/// What always holds:
+/// - A later piece goes only into the file that took the first one, at its end as the last piece
 ///   left it. A file that was deleted, replaced, cut or lengthened meanwhile loses the download: no
 ///   file is made without its beginning.
 /// - A piece that is not written whole, as on a full disk, loses the download. What is on disk
 ///   stays there, as unfinished.
 /// - A lost download takes nothing more and never becomes whole.
 ///
-/// The settings are written twice in the life of a file, not for each piece. Thread: that of the
-/// object.
+/// The settings are written for each try to make the file and when it is whole, not for each piece.
+/// Thread: that of the object.
 class TXGUICOMMON_PRIVATE_EXPORT InstallerFile
 {
 public:
+    /// Where the first piece goes.
+    enum class Beginning {
+        NewFile, ///< into a file that it makes
+        AnyFile, ///< to the end of the file that is there; into a new one without any
+    };
+
     /// What became of a piece.
     enum class Result {
         Written,
         NotOpened, ///< nothing has been read from the source; another try may succeed
+        NothingRead, ///< the source gave nothing of what it was asked for; it may do so later
         Failed, ///< the download is lost, now or earlier
     };
 
@@ -39,7 +48,8 @@ public:
 
     /// A download to this path, of so many bytes; 0 or less for an unknown number. Touches nothing.
     /// To an empty path nothing can be appended.
-    InstallerFile(const QString &path, qint64 expectedSize);
+    InstallerFile(const QString &path, qint64 expectedSize,
+                  Beginning beginning = Beginning::NewFile);
 
     /// Moves so many bytes from the source to the end of the file, or what the source has of them,
     /// or kLargestPiece.
@@ -53,14 +63,18 @@ public:
 
 private:
     [[nodiscard]] bool isReadyToBegin();
+    [[nodiscard]] bool open(QFile &file);
     [[nodiscard]] bool isOurs(const QFile &file) const;
     [[nodiscard]] bool write(QFile &file, const QByteArray &piece);
+    [[nodiscard]] Result move(QIODevice &source, qint64 size, QFile &file);
     [[nodiscard]] Result openFailed();
     Result lose();
 
     QString path;
     qint64 expectedSize;
-    qint64 writtenSize = 0;
+    Beginning beginning;
+    /// How long the file is when nobody else has touched it.
+    qint64 fileSize = 0;
     /// When the file was made, which tells it from another of the same size; invalid where the file
     /// system does not know.
     QDateTime birth;

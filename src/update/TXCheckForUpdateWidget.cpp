@@ -23,6 +23,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -51,7 +52,7 @@ TXCheckForUpdateWidget::TXCheckForUpdateWidget(QWidget *parent, bool checkAtStar
     : TXEmbeddableDialog(parent)
     , ui(std::make_unique<Ui::TXCheckForUpdateWidget>())
 {
-    setUpTimer();
+    setUpTitleAndTimer();
     productName = globalDetails->productName;
     productType = globalDetails->productType;
     setUp(checkAtStartup);
@@ -62,7 +63,7 @@ TXCheckForUpdateWidget::TXCheckForUpdateWidget(QString name, int type, bool chec
     : TXEmbeddableDialog(parent)
     , ui(std::make_unique<Ui::TXCheckForUpdateWidget>())
 {
-    setUpTimer();
+    setUpTitleAndTimer();
     setDetails(name, type);
     setUp(checkAtStartup);
     if (firstInstance == nullptr) {
@@ -150,17 +151,23 @@ QVariantHash TXCheckForUpdateWidget::revisionInfo(QVariantHash info)
 
 void TXCheckForUpdateWidget::setVisible(bool visible)
 {
+    const QPointer<TXCheckForUpdateWidget> guard(this);
     if (visible) {
         tryCheckUpdate();
     }
-    QDialog::setVisible(visible);
-    raise();
+    if (guard) {
+        QDialog::setVisible(visible);
+        raise();
+    }
 }
 
 void TXCheckForUpdateWidget::checkUpdate()
 {
+    const QPointer<TXCheckForUpdateWidget> guard(this);
     tryCheckUpdate();
-    QDialog::setVisible(true);
+    if (guard) {
+        QDialog::setVisible(true);
+    }
 }
 
 void TXCheckForUpdateWidget::tryCheckUpdate()
@@ -250,7 +257,7 @@ void TXCheckForUpdateWidget::onTimer()
     }
 }
 
-void TXCheckForUpdateWidget::setUpTimer()
+void TXCheckForUpdateWidget::setUpTitleAndTimer()
 {
     setWindowTitle(tr("Check for Updates"));
     timer = new QTimer(this);
@@ -267,9 +274,12 @@ void TXCheckForUpdateWidget::setUp(bool checkAtStartup)
 
 void TXCheckForUpdateWidget::setUpNetwork()
 {
-    networkManager = new QNetworkAccessManager(this);
-    connect(networkManager, SIGNAL(finished(QNetworkReply *)), this,
+    networkManager.reset(new QNetworkAccessManager(this), std::mem_fn(&QObject::deleteLater));
+    connect(networkManager.get(), SIGNAL(finished(QNetworkReply *)), this,
             SLOT(finished(QNetworkReply *)));
+    retryTimer = new QTimer(this);
+    retryTimer->setSingleShot(true);
+    connect(retryTimer, SIGNAL(timeout()), this, SLOT(retryWriting()));
     threadPool = new QThreadPool(this);
     threadPool->setMaxThreadCount(1);
 }
@@ -328,10 +338,10 @@ void TXCheckForUpdateWidget::enterChecking()
 
 void TXCheckForUpdateWidget::enterUpToDate()
 {
+    ui->scrollArea->hide();
     showResult({ui->okButton});
     ui->updateNameLabel->setText(
         ServiceText::line(tr("%1 is up to date.").arg(productName), *ui->updateNameLabel));
-    ui->scrollArea->hide();
 }
 
 void TXCheckForUpdateWidget::enterUpdateAvailable()
@@ -382,7 +392,9 @@ void TXCheckForUpdateWidget::showResult(std::initializer_list<QWidget *> shownIn
     }
     // The dialog changes and comes up by itself, while the user may be typing: what he types then
     // must not press a button that was not there before.
-    if (isWindow()) {
+    const QWidget *focused = focusWidget();
+    const bool isInRow = std::find(row.begin(), row.end(), focused) != row.end();
+    if (isWindow() && (focused == nullptr || isInRow)) {
         setFocus();
     }
 }
@@ -409,6 +421,8 @@ void TXCheckForUpdateWidget::examineOfferedFile()
     const QString path = update.value(ReleaseRecord::kPathKey).toString();
     const QFileInfo file(path);
     if (!file.isFile()) {
+        // What the user puts there from now on is his own.
+        UnfinishedDownloads::remove(path);
         QDialog::setVisible(true);
         return;
     }

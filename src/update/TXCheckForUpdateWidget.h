@@ -118,8 +118,9 @@ public:
     [[nodiscard]] QVariantHash revisionInfo(QVariantHash info);
 
     /// Makes this the running transfer; null for none. One that runs already is aborted, and the
-    /// path of the download forgotten with it, so that the new one ends in the error. The reply is
-    /// not owned; what it brings is never put behind a file that is there already.
+    /// path of the download forgotten with it, so that bytes of the new one end in the error. The
+    /// reply is not owned. What it brings goes to the end of the file at the path of the download,
+    /// which is made when there is none.
     void setCurrentReply(QNetworkReply *reply);
 
     /// Starts a check unless a transfer is running, when the dialog is to be shown; then shows or
@@ -132,8 +133,8 @@ signals:
     void updateRefreshed(QVariantHash info);
 
     /// The dialog is about to enter another state: state() still tells the old one. A connection by
-    /// strings names it stateChanged(State), and so has the slot to call its parameter; a connection
-    /// by pointers to the functions does not care.
+    /// strings names it stateChanged(State), and so has the slot to call its parameter; a
+    /// connection by pointers to the functions does not care.
     void stateChanged(State state);
 
 public slots:
@@ -155,8 +156,8 @@ public slots:
 
     /// Writes to disk what the sender, the reply of the running transfer, has received. What cannot
     /// be written since the file does not open stays in the reply and is tried again for two
-    /// seconds; a full disk and a file that somebody has changed end the transfer at once. Does
-    /// nothing for another sender.
+    /// seconds, or until the reply has finished, see finished(). A full disk and a file that
+    /// somebody has changed end the transfer at once. Does nothing for another sender.
     void downloading();
 
     /// Takes the answer to a check: as the service sent it, or empty for a failed check. Only
@@ -164,7 +165,8 @@ public slots:
     void updateInfoReceived(QVariantHash update, QVariantHash lastUpdate);
 
     /// Takes the end of a transfer: writes the rest and goes on to the installation, or to the
-    /// error when the reply failed or the file is not whole. Another reply than that of the running
+    /// error when the reply failed or the file is not whole. The rest has one try: a file that does
+    /// not open now is an error at once. Another reply than that of the running
     /// transfer is only deleted later; null does nothing.
     void finished(QNetworkReply *reply);
 
@@ -187,7 +189,7 @@ private slots:
     void retryWriting();
 
 private:
-    void setUpTimer();
+    void setUpTitleAndTimer();
     void setUp(bool checkAtStartup);
     void setUpForm();
     void setUpNetwork();
@@ -215,7 +217,8 @@ private:
     std::unique_ptr<Ui::TXCheckForUpdateWidget> ui;
     QVariantHash update;
     QVariantHash lastUpdate;
-    QNetworkAccessManager *networkManager = nullptr;
+    /// A child; the slots that its replies call hold it too.
+    std::shared_ptr<QNetworkAccessManager> networkManager;
     QString productName;
     int productType = -1;
     QString downloadPath;
@@ -228,8 +231,6 @@ private:
     QTimer *timer = nullptr;
     /// The file of the current reply, null without one.
     std::unique_ptr<InstallerFile> installerFile;
-    bool isRetryPending = false;
+    QTimer *retryTimer = nullptr;
     int remainingRetries = 0;
-    /// How many of the slots that the transfer calls are running.
-    int transferDepth = 0;
 };

@@ -22,31 +22,6 @@ constexpr qint64 kReplyBufferBytes = qint64(256) * 1024;
 constexpr int kRetryMilliseconds = 100;
 constexpr int kMostRetries = 20;
 
-/// Counts a slot that is running, as long as the object that it belongs to is there.
-class RunningSlot
-{
-public:
-    RunningSlot(const QObject *owner, int &depthOfOwner)
-        : guard(owner)
-        , depth(depthOfOwner)
-    {
-        ++depth;
-    }
-
-    ~RunningSlot()
-    {
-        if (guard) {
-            --depth;
-        }
-    }
-
-    Q_DISABLE_COPY_MOVE(RunningSlot)
-
-private:
-    QPointer<const QObject> guard;
-    int &depth;
-};
-
 } // namespace
 
 void TXCheckForUpdateWidget::startTransfer()
@@ -102,7 +77,7 @@ void TXCheckForUpdateWidget::setCurrentReply(QNetworkReply *reply)
 {
     if (currentReply) {
         const QPointer<TXCheckForUpdateWidget> guard(this);
-        const RunningSlot running(this, transferDepth);
+        const auto held = networkManager;
         currentReply->abort();
         if (!guard) {
             return;
@@ -110,13 +85,16 @@ void TXCheckForUpdateWidget::setCurrentReply(QNetworkReply *reply)
         downloadPath.clear();
     }
     currentReply = reply;
+    retryTimer->stop();
     remainingRetries = kMostRetries;
-    installerFile = std::make_unique<InstallerFile>(downloadPath, 0);
+    // Whoever has a reply of his own knows what is in the file.
+    installerFile =
+        std::make_unique<InstallerFile>(downloadPath, 0, InstallerFile::Beginning::AnyFile);
 }
 
 void TXCheckForUpdateWidget::updateDataTransferProgress(qint64 readBytes, qint64 totalBytes)
 {
-    const RunningSlot running(this, transferDepth);
+    const auto held = networkManager;
     ui->downloadProgressBar->setMaximum(static_cast<int>(totalBytes));
     ui->downloadProgressBar->setValue(static_cast<int>(readBytes));
 }
@@ -131,7 +109,6 @@ void TXCheckForUpdateWidget::downloading()
 
 void TXCheckForUpdateWidget::retryWriting()
 {
-    isRetryPending = false;
     if (currentReply && currentReply->bytesAvailable() > 0) {
         --remainingRetries;
         writeReceived();
@@ -140,13 +117,16 @@ void TXCheckForUpdateWidget::retryWriting()
 
 void TXCheckForUpdateWidget::writeReceived()
 {
-    const RunningSlot running(this, transferDepth);
+    const auto held = networkManager;
     switch (installerFile->append(*currentReply, currentReply->bytesAvailable())) {
     case InstallerFile::Result::Written:
         remainingRetries = kMostRetries;
         return;
     case InstallerFile::Result::NotOpened:
         writeLater();
+        return;
+    case InstallerFile::Result::NothingRead:
+        // As from compressed data whose next block is not there yet.
         return;
     case InstallerFile::Result::Failed:
         currentReply->abort();
@@ -159,9 +139,8 @@ void TXCheckForUpdateWidget::writeLater()
 {
     if (remainingRetries <= 0) {
         currentReply->abort();
-    } else if (!isRetryPending) {
-        isRetryPending = true;
-        QTimer::singleShot(kRetryMilliseconds, this, SLOT(retryWriting()));
+    } else if (!retryTimer->isActive()) {
+        retryTimer->start(kRetryMilliseconds);
     }
 }
 
@@ -170,7 +149,8 @@ bool TXCheckForUpdateWidget::writeRest()
 {
     while (currentReply->bytesAvailable() > 0) {
         const auto result = installerFile->append(*currentReply, currentReply->bytesAvailable());
-        // A file that cannot be opened now may never be, and this must come to an end.
+        // A file that cannot be opened now may never be, and a source that tells of bytes may never
+        // give them: this must come to an end.
         if (result != InstallerFile::Result::Written) {
             return false;
         }
@@ -188,7 +168,7 @@ void TXCheckForUpdateWidget::finished(QNetworkReply *reply)
         // The end of another one says nothing about the transfer that is running.
         return;
     }
-    const RunningSlot running(this, transferDepth);
+    const auto held = networkManager;
     const bool isWritten = !currentReply || writeRest();
     const bool isTransferred = reply->error() == QNetworkReply::NoError;
     const bool isWhole = isWritten && isTransferred && (!currentReply || installerFile->finish());
@@ -207,24 +187,26 @@ void TXCheckForUpdateWidget::finished(QNetworkReply *reply)
 void TXCheckForUpdateWidget::error()
 {
     const QPointer<TXCheckForUpdateWidget> guard(this);
-    const RunningSlot running(this, transferDepth);
+    const auto held = networkManager;
     updateState(ServiceError);
     if (guard) {
         emit updateRefreshed({});
     }
 }
 
-/// Called by the destructor. The reply goes with the manager that made it.
+/// Called by the destructor.
+///
+/// A slot that a reply calls may lead to here: by a slot of a signal of ours, or out of the
+/// question whether to install, whose event loop runs inside. The manager and its replies have to
+/// live until that slot returns, so each such slot holds the manager, and the last to let it go
+/// deletes it.
 void TXCheckForUpdateWidget::abandonTransfer()
 {
     if (currentReply) {
         currentReply->disconnect(this);
     }
     networkManager->disconnect(this);
-    if (transferDepth > 0) {
-        // Destroyed by a slot of a signal of ours, which stands in a signal of the reply: that one
-        // has to live until it returns.
+    if (networkManager.use_count() > 1) {
         networkManager->setParent(nullptr);
-        networkManager->deleteLater();
     }
 }

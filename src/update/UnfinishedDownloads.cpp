@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QStringList>
+#include <QVariant>
 
 namespace {
 
@@ -27,16 +28,22 @@ QString keyOf(const QString &name)
     return kGroup + u'/' + QString::fromLatin1(hash.toHex());
 }
 
-/// An entry that is no entry of ours counts as old and gone.
-bool isOldAndGone(const QStringList &entry)
+/// When the entry was made; invalid for an entry that is no entry of ours.
+QDateTime timeOf(const QVariant &entry)
 {
-    if (entry.size() != 2) {
-        return true;
-    }
-    const QDateTime made = QDateTime::fromString(entry.at(1), Qt::ISODate);
-    const qint64 age = made.secsTo(QDateTime::currentDateTimeUtc());
-    const bool isRecent = made.isValid() && qAbs(age) <= UnfinishedDownloads::kKeptSeconds;
-    return !isRecent && !QFileInfo::exists(entry.at(0));
+    return QDateTime::fromString(entry.toStringList().value(1), Qt::ISODate);
+}
+
+/// Whether both times are known and further apart than so many seconds.
+bool areApart(const QDateTime &first, const QDateTime &second, qint64 seconds)
+{
+    return first.isValid() && second.isValid() && qAbs(first.secsTo(second)) > seconds;
+}
+
+bool isOld(const QDateTime &made)
+{
+    return !made.isValid()
+        || areApart(made, QDateTime::currentDateTimeUtc(), UnfinishedDownloads::kKeptSeconds);
 }
 
 void dropOldEntries(QSettings &settings)
@@ -44,7 +51,7 @@ void dropOldEntries(QSettings &settings)
     settings.beginGroup(kGroup);
     const QStringList keys = settings.childKeys();
     for (const QString &key : keys) {
-        if (isOldAndGone(settings.value(key).toStringList())) {
+        if (isOld(timeOf(settings.value(key)))) {
             settings.remove(key);
         }
     }
@@ -55,7 +62,13 @@ void dropOldEntries(QSettings &settings)
 
 bool UnfinishedDownloads::contains(const QString &path)
 {
-    return !path.isEmpty() && QSettings().contains(keyOf(nameOf(path)));
+    const QString key = keyOf(nameOf(path));
+    const QSettings settings;
+    if (path.isEmpty() || !settings.contains(key)) {
+        return false;
+    }
+    const QDateTime birth = QFileInfo(path).birthTime();
+    return !areApart(birth, timeOf(settings.value(key)), kApartSeconds);
 }
 
 bool UnfinishedDownloads::add(const QString &path)
@@ -74,9 +87,10 @@ bool UnfinishedDownloads::add(const QString &path)
 
 void UnfinishedDownloads::remove(const QString &path)
 {
-    if (contains(path)) {
-        QSettings settings;
-        settings.remove(keyOf(nameOf(path)));
+    const QString key = keyOf(nameOf(path));
+    QSettings settings;
+    if (!path.isEmpty() && settings.contains(key)) {
+        settings.remove(key);
         settings.sync();
     }
 }

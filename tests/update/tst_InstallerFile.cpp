@@ -41,6 +41,18 @@ Result append(InstallerFile &file, QByteArray bytes)
     return file.append(source, bytes.size());
 }
 
+/// Tells of bytes and gives none.
+class EmptySource : public QIODevice
+{
+public:
+    EmptySource() { open(ReadOnly); }
+    qint64 bytesAvailable() const override { return 3; }
+
+protected:
+    qint64 readData(char * /*data*/, qint64 /*size*/) override { return 0; }
+    qint64 writeData(const char * /*data*/, qint64 /*size*/) override { return -1; }
+};
+
 /// No file of this process grows beyond so many bytes while it lives: as on a disk that is full.
 class FullDisk
 {
@@ -84,6 +96,12 @@ private slots:
     void changedFileIsNotWhole();
     void pieceStaysInTheSourceWhenTheFileCannotBeOpened_data();
     void pieceStaysInTheSourceWhenTheFileCannotBeOpened();
+    void fileIsRememberedAtEachTryToMakeIt();
+    void sourceMayGiveNothing();
+    void anyFileIsContinued();
+    void anyFileIsMadeWhenThereIsNone();
+    void changedAnyFileTakesNoFurtherPiece();
+    void continuedUnfinishedFileIsKnownUntilItsEnd();
     void fullDiskLosesTheDownload();
     void downloadGoesOnWithSettingsThatCannotBeWritten();
     void killedProcessLeavesTheFileKnown();
@@ -294,6 +312,77 @@ void TestInstallerFile::pieceStaysInTheSourceWhenTheFileCannotBeOpened()
     QCOMPARE(source.bytesAvailable(), 3);
     QVERIFY(!file.finish());
     QVERIFY(!UnfinishedDownloads::contains(path));
+}
+
+void TestInstallerFile::fileIsRememberedAtEachTryToMakeIt()
+{
+    const QString later = folder.filePath(QStringLiteral("later/installer.bin"));
+    InstallerFile file(later, 0);
+    QCOMPARE(append(file, "abc"), Result::NotOpened);
+    UnfinishedDownloads::remove(later);
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("later")));
+    QCOMPARE(append(file, "abc"), Result::Written);
+    QVERIFY(UnfinishedDownloads::contains(later));
+}
+
+void TestInstallerFile::sourceMayGiveNothing()
+{
+    EmptySource empty;
+    InstallerFile file(path(), 6);
+    QCOMPARE(file.append(empty, 3), Result::NothingRead);
+    QCOMPARE(append(file, "abc"), Result::Written);
+    QCOMPARE(file.append(empty, 3), Result::NothingRead);
+    QCOMPARE(append(file, "def"), Result::Written);
+    QVERIFY(file.finish());
+    QCOMPARE(contentOf(path()), QByteArray("abcdef"));
+}
+
+void TestInstallerFile::anyFileIsContinued()
+{
+    write(path(), "theirs");
+    InstallerFile file(path(), 0, InstallerFile::Beginning::AnyFile);
+    QCOMPARE(append(file, "abc"), Result::Written);
+    QVERIFY(!UnfinishedDownloads::contains(path()));
+    QCOMPARE(append(file, "def"), Result::Written);
+    QVERIFY(file.finish());
+    QCOMPARE(contentOf(path()), QByteArray("theirsabcdef"));
+}
+
+void TestInstallerFile::anyFileIsMadeWhenThereIsNone()
+{
+    InstallerFile file(path(), 0, InstallerFile::Beginning::AnyFile);
+    QCOMPARE(append(file, "abc"), Result::Written);
+    QVERIFY(!UnfinishedDownloads::contains(path()));
+    QVERIFY(file.finish());
+    QCOMPARE(contentOf(path()), QByteArray("abc"));
+    InstallerFile nowhere(QString(), 0, InstallerFile::Beginning::AnyFile);
+    QCOMPARE(append(nowhere, "abc"), Result::Failed);
+}
+
+void TestInstallerFile::changedAnyFileTakesNoFurtherPiece()
+{
+    write(path(), "theirs");
+    InstallerFile file(path(), 0, InstallerFile::Beginning::AnyFile);
+    QCOMPARE(append(file, "abc"), Result::Written);
+    ::change(path(), QStringLiteral("cut"));
+    QCOMPARE(append(file, "def"), Result::Failed);
+    QVERIFY(!file.finish());
+    QCOMPARE(contentOf(path()), QByteArray("th"));
+}
+
+void TestInstallerFile::continuedUnfinishedFileIsKnownUntilItsEnd()
+{
+    QVERIFY(UnfinishedDownloads::add(path()));
+    write(path(), "abc");
+    InstallerFile withoutAPiece(path(), 0, InstallerFile::Beginning::AnyFile);
+    QVERIFY(withoutAPiece.finish());
+    QVERIFY(UnfinishedDownloads::contains(path()));
+
+    InstallerFile file(path(), 0, InstallerFile::Beginning::AnyFile);
+    QCOMPARE(append(file, "def"), Result::Written);
+    QVERIFY(UnfinishedDownloads::contains(path()));
+    QVERIFY(file.finish());
+    QVERIFY(!UnfinishedDownloads::contains(path()));
 }
 
 void TestInstallerFile::fullDiskLosesTheDownload()

@@ -5,6 +5,8 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMetaEnum>
+#include <QMetaMethod>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
@@ -26,6 +28,22 @@ void typeInto(const Dialog &dialog)
     QTest::keyClick(dialog.windowHandle(), Qt::Key_Space);
 }
 
+/// The signatures of the dialog's own public methods of this type, in their order.
+QStringList signaturesOf(QMetaMethod::MethodType type)
+{
+    const QMetaObject &dialog = Dialog::staticMetaObject;
+    QStringList signatures;
+    for (int index = dialog.methodOffset(); index < dialog.methodCount(); ++index) {
+        const QMetaMethod method = dialog.method(index);
+        if (method.methodType() == type && method.access() == QMetaMethod::Public) {
+            signatures.append(QString::fromLatin1(method.methodSignature()));
+        }
+    }
+    return signatures;
+}
+
+const QString kBefore = QStringLiteral("as it was");
+
 } // namespace
 
 class TestTXCheckForUpdateWidgetForm : public TestBase
@@ -36,6 +54,11 @@ protected:
     void prepare() override { useNoService(); }
 
 private slots:
+    void signalsAndSlotsHaveTheirOrder_data();
+    void signalsAndSlotsHaveTheirOrder();
+    void statesHaveTheirOrder();
+    void labelsOfAStateAreSetOrStay_data();
+    void labelsOfAStateAreSetOrStay();
     void window();
     void pages();
     void checkingPage();
@@ -46,9 +69,81 @@ private slots:
     void enterPressesNothingButOk();
     void keysHitNoButtonOfAPageThatComesUp_data();
     void keysHitNoButtonOfAPageThatComesUp();
+    void notesKeepTheFocusWhenAStateIsRepeated();
     void embeddedPageLeavesTheFocusOfItsHost();
     void escapeClosesAlsoDuringATransfer();
 };
+
+void TestTXCheckForUpdateWidgetForm::signalsAndSlotsHaveTheirOrder_data()
+{
+    QTest::addColumn<QMetaMethod::MethodType>("type");
+    QTest::addColumn<QStringList>("signatures");
+    QTest::newRow("signals") << QMetaMethod::Signal
+                             << QStringList{"updateRefreshed(QVariantHash)", "stateChanged(State)"};
+    QTest::newRow("slots") << QMetaMethod::Slot
+                           << QStringList{"checkUpdate()",
+                                          "tryCheckUpdate()",
+                                          "on_downloadButton_clicked()",
+                                          "on_installButton_clicked()",
+                                          "updateDataTransferProgress(qlonglong,qlonglong)",
+                                          "downloading()",
+                                          "updateInfoReceived(QVariantHash,QVariantHash)",
+                                          "finished(QNetworkReply*)",
+                                          "error()",
+                                          "on_cancelButton_clicked()",
+                                          "on_okButton_clicked()",
+                                          "on_downloadAndInstallButton_clicked()",
+                                          "onTimer()"};
+}
+
+void TestTXCheckForUpdateWidgetForm::signalsAndSlotsHaveTheirOrder()
+{
+    QFETCH(QMetaMethod::MethodType, type);
+    QFETCH(QStringList, signatures);
+    QCOMPARE(signaturesOf(type), signatures);
+}
+
+void TestTXCheckForUpdateWidgetForm::statesHaveTheirOrder()
+{
+    const auto states = QMetaEnum::fromType<Dialog::State>();
+    const QByteArrayList names = {"Checking",         "UpToDate",    "UpdateAvailable",
+                                  "DownloadStarting", "Downloading", "ReadyToInstall",
+                                  "ServiceError"};
+    QCOMPARE(states.keyCount(), int(names.size()));
+    for (int index = 0; index < states.keyCount(); ++index) {
+        QCOMPARE(QByteArray(states.key(index)), names.at(index));
+        QCOMPARE(states.value(index), index);
+    }
+}
+
+void TestTXCheckForUpdateWidgetForm::labelsOfAStateAreSetOrStay_data()
+{
+    QTest::addColumn<TXCheckForUpdateWidget::State>("state");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("sentence");
+    const QString error = QStringLiteral("Impossible to connect to the Check for Updates service, "
+                                         "please check your Internet connection.");
+    QTest::newRow("Checking") << Dialog::Checking << kBefore << kBefore;
+    QTest::newRow("UpToDate") << Dialog::UpToDate << "A is up to date." << kBefore;
+    QTest::newRow("DownloadStarting") << Dialog::DownloadStarting << kBefore << kBefore;
+    QTest::newRow("Downloading") << Dialog::Downloading << kBefore << kBefore;
+    QTest::newRow("ReadyToInstall") << Dialog::ReadyToInstall << kBefore << kBefore;
+    QTest::newRow("ServiceError") << Dialog::ServiceError << kBefore << error;
+}
+
+void TestTXCheckForUpdateWidgetForm::labelsOfAStateAreSetOrStay()
+{
+    QFETCH(TXCheckForUpdateWidget::State, state);
+    QFETCH(QString, name);
+    QFETCH(QString, sentence);
+    Dialog dialog(QStringLiteral("A"), 1, false);
+    receive(dialog, newRelease());
+    part<QLabel>(dialog, "updateNameLabel")->setText(kBefore);
+    part<QLabel>(dialog, "shortDescLabel")->setText(kBefore);
+    dialog.updateState(state);
+    QCOMPARE(part<QLabel>(dialog, "updateNameLabel")->text(), name);
+    QCOMPARE(part<QLabel>(dialog, "shortDescLabel")->text(), sentence);
+}
 
 void TestTXCheckForUpdateWidgetForm::window()
 {
@@ -164,7 +259,6 @@ void TestTXCheckForUpdateWidgetForm::serviceTextIsNoMarkupOutsideTheNotes()
 void TestTXCheckForUpdateWidgetForm::enterPressesNothingButOk()
 {
     Dialog dialog;
-    dialog.checkUpdate();
     receive(dialog, newRelease());
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     QTest::keyClick(&dialog, Qt::Key_Return);
@@ -206,6 +300,23 @@ void TestTXCheckForUpdateWidgetForm::keysHitNoButtonOfAPageThatComesUp()
     QCOMPARE(dialog.focusWidget(), part<QPushButton>(dialog, "cancelButton"));
     QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
     QVERIFY(!dialog.isVisible());
+}
+
+void TestTXCheckForUpdateWidgetForm::notesKeepTheFocusWhenAStateIsRepeated()
+{
+    Dialog dialog;
+    receive(dialog, newRelease());
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *notes = part<QScrollArea>(dialog, "scrollArea");
+    notes->setFocus();
+    receive(dialog, newRelease());
+    QCOMPARE(dialog.focusWidget(), notes);
+    dialog.updateState(Dialog::Downloading);
+    QCOMPARE(dialog.focusWidget(), notes);
+
+    // They go, and nothing that could be pressed comes in their place.
+    dialog.updateState(Dialog::UpToDate);
+    QVERIFY(!qobject_cast<QPushButton *>(dialog.focusWidget()));
 }
 
 void TestTXCheckForUpdateWidgetForm::embeddedPageLeavesTheFocusOfItsHost()

@@ -5,6 +5,7 @@
 
 #include <QCloseEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -118,6 +119,8 @@ private slots:
     void answersOfTheServiceLeadTo();
     void windowButtonOnlyHidesDuringATransfer();
     void destructionWaitsForARunningCheck();
+    void mayBeDestroyedByItsOwnSignal_data();
+    void mayBeDestroyedByItsOwnSignal();
     void instanceIsTheFirstWithDetails();
     void dialogWithoutDetailsIsNoInstance();
     void firstDetailsBecomeTheGlobalOnes();
@@ -275,6 +278,24 @@ void TestTXCheckForUpdateWidgetLifecycle::destructionWaitsForARunningCheck()
     dialog.reset();
     QVERIFY(service.hasReleased());
     QVERIFY(!Dialog::instance());
+}
+
+void TestTXCheckForUpdateWidgetLifecycle::mayBeDestroyedByItsOwnSignal_data()
+{
+    QTest::addColumn<QByteArray>("call");
+    for (const char *call : {"show", "open", "checkUpdate", "tryCheckUpdate"}) {
+        QTest::newRow(call) << QByteArray(call);
+    }
+}
+
+void TestTXCheckForUpdateWidgetLifecycle::mayBeDestroyedByItsOwnSignal()
+{
+    QFETCH(QByteArray, call);
+    const QPointer<Dialog> dialog(new Dialog);
+    dialog->updateState(Dialog::UpToDate);
+    connect(dialog, &Dialog::stateChanged, this, [&] { delete dialog; });
+    QVERIFY(QMetaObject::invokeMethod(dialog, call.constData()));
+    QVERIFY(!dialog);
 }
 
 void TestTXCheckForUpdateWidgetLifecycle::instanceIsTheFirstWithDetails()

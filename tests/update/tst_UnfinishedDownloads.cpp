@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -56,9 +57,10 @@ private slots:
     void namesMayHoldAnything_data();
     void namesMayHoldAnything();
     void entryOfAFileAboutToBeMadeStays();
-    void oldEntryWhoseFileIsGoneIsDropped_data();
-    void oldEntryWhoseFileIsGoneIsDropped();
-    void oldEntryWhoseFileIsThereStays();
+    void oldEntryIsDropped_data();
+    void oldEntryIsDropped();
+    void fileMadeAtAnotherTimeIsNotMeant_data();
+    void fileMadeAtAnotherTimeIsNotMeant();
     void nonsenseInTheSettingsIsDropped();
     void numberInPlaceOfTheGroupDoesNoHarm();
     void otherProcessesDoNotOverwriteEachOther();
@@ -150,32 +152,60 @@ void TestUnfinishedDownloads::entryOfAFileAboutToBeMadeStays()
     QVERIFY(UnfinishedDownloads::contains(path));
 }
 
-void TestUnfinishedDownloads::oldEntryWhoseFileIsGoneIsDropped_data()
+void TestUnfinishedDownloads::oldEntryIsDropped_data()
 {
     QTest::addColumn<qint64>("seconds");
-    QTest::newRow("old") << UnfinishedDownloads::kKeptSeconds + 5;
-    QTest::newRow("from the future") << -UnfinishedDownloads::kKeptSeconds - 5;
+    QTest::addColumn<bool>("hasFile");
+    QTest::addColumn<bool>("isDropped");
+    constexpr qint64 kKept = UnfinishedDownloads::kKeptSeconds;
+    QTest::newRow("nearly old") << kKept - 60 << false << false;
+    QTest::newRow("old") << kKept + 5 << false << true;
+    QTest::newRow("old, file there") << kKept + 5 << true << true;
+    QTest::newRow("from the future") << -kKept - 5 << false << true;
 }
 
-void TestUnfinishedDownloads::oldEntryWhoseFileIsGoneIsDropped()
+void TestUnfinishedDownloads::oldEntryIsDropped()
 {
     QFETCH(qint64, seconds);
-    const QString path = folder.filePath(QStringLiteral("gone"));
+    QFETCH(bool, hasFile);
+    QFETCH(bool, isDropped);
+    const QString path = folder.filePath(QStringLiteral("old"));
+    QFile::remove(path);
+    if (hasFile) {
+        touch(path);
+    }
     QVERIFY(UnfinishedDownloads::add(path));
     age(seconds);
     QVERIFY(UnfinishedDownloads::add(folder.filePath(QStringLiteral("other"))));
-    QVERIFY(!UnfinishedDownloads::contains(path));
-    QCOMPARE(entryCount(), 1);
+    QCOMPARE(entryCount(), isDropped ? 1 : 2);
 }
 
-void TestUnfinishedDownloads::oldEntryWhoseFileIsThereStays()
+void TestUnfinishedDownloads::fileMadeAtAnotherTimeIsNotMeant_data()
 {
-    const QString path = folder.filePath(QStringLiteral("there"));
-    touch(path);
+    QTest::addColumn<qint64>("seconds");
+    QTest::addColumn<bool>("isMeant");
+    constexpr qint64 kApart = UnfinishedDownloads::kApartSeconds;
+    QTest::newRow("made together") << qint64(0) << true;
+    QTest::newRow("made soon after") << kApart - 30 << true;
+    QTest::newRow("made later") << kApart + 5 << false;
+    QTest::newRow("made before") << -kApart - 30 << false;
+}
+
+void TestUnfinishedDownloads::fileMadeAtAnotherTimeIsNotMeant()
+{
+    QFETCH(qint64, seconds);
+    QFETCH(bool, isMeant);
+    const QString path = folder.filePath(QStringLiteral("made"));
+    QFile::remove(path);
     QVERIFY(UnfinishedDownloads::add(path));
-    age(UnfinishedDownloads::kKeptSeconds * 400);
-    QVERIFY(UnfinishedDownloads::add(folder.filePath(QStringLiteral("other"))));
+    age(seconds);
+    // Without a file the entry alone counts.
     QVERIFY(UnfinishedDownloads::contains(path));
+    touch(path);
+    QVERIFY(QFileInfo(path).birthTime().isValid());
+    QCOMPARE(UnfinishedDownloads::contains(path), isMeant);
+    UnfinishedDownloads::remove(path);
+    QCOMPARE(entryCount(), 0);
 }
 
 void TestUnfinishedDownloads::nonsenseInTheSettingsIsDropped()

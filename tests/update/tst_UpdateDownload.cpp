@@ -1,7 +1,7 @@
 #include "UnfinishedDownloads.h"
 #include "UpdateDownloadHelpers.h"
 
-#include <QNetworkReply>
+#include <QCoreApplication>
 
 #include <limits>
 
@@ -22,11 +22,9 @@ private slots:
     void unfinishedFileOfTheRightSizeIsNotOffered();
     void hiddenDialogComesBackAtTheEnd();
     void lateResultDoesNotStopTheTransfer();
-    void endOfAnotherReplyEndsNothing();
-    void readyReadOfAnotherReplyIsLeftInIt();
-    void endWithoutATransferFollowsTheState_data();
-    void endWithoutATransferFollowsTheState();
-    void oddCallsDoNoHarm();
+    void answerOfAnEarlierCheckDoesNotStopTheTransfer();
+    void hostWithoutANameDownloads();
+    void whatTheUserPutsThereAfterAFailureIsHisOwn();
 };
 
 void TestUpdateDownload::installerArrivesWhole_data()
@@ -226,127 +224,66 @@ void TestUpdateDownload::lateResultDoesNotStopTheTransfer()
     QCOMPARE(bytesIn(installerPath()), LocalUpdateService::generatedBytes(0, 1000));
 }
 
-namespace {
-
-/// A reply of somebody else, with bytes to read.
-class ForeignReply : public QNetworkReply
+void TestUpdateDownload::answerOfAnEarlierCheckDoesNotStopTheTransfer()
 {
-    Q_OBJECT
-
-public:
-    explicit ForeignReply(QObject *parent, NetworkError error = NoError)
-        : QNetworkReply(parent)
-    {
-        setError(error, QString());
-        open(ReadOnly);
-    }
-
-    void abort() override { ++abortCount; }
-    qint64 bytesAvailable() const override
-    {
-        return content.size() + QNetworkReply::bytesAvailable();
-    }
-
-    int abortCount = 0;
-
-protected:
-    qint64 readData(char *data, qint64 size) override
-    {
-        const QByteArray piece = content.left(size);
-        content.remove(0, piece.size());
-        std::copy(piece.cbegin(), piece.cend(), data);
-        return piece.size();
-    }
-
-private:
-    QByteArray content = "foreign";
-};
-
-} // namespace
-
-void TestUpdateDownload::endOfAnotherReplyEndsNothing()
-{
+    LocalWebReply answer;
+    answer.body = "{\"Revision\": 1}";
+    answer.holdAfter = 0;
+    service->setCheckReply(answer);
     LocalWebReply reply = generated(1000);
     reply.holdAfter = 500;
     service->setDownloadReply(reply);
     Widget dialog(nullptr, false);
+    dialog.tryCheckUpdate();
+    QTRY_COMPARE(service->requests().size(), 1);
     startDownload(dialog);
     QVERIFY(waitForSize(500));
-    const QPointer<ForeignReply> foreign(new ForeignReply(this));
-    dialog.finished(foreign);
-    QTRY_VERIFY(!foreign);
     QCOMPARE(dialog.state(), Widget::Downloading);
     service->release();
-    QVERIFY(waitForEnd(dialog));
+
+    QTRY_COMPARE(dialog.state(), Widget::UpToDate);
+    QTRY_VERIFY(!UnfinishedDownloads::contains(installerPath()));
+    QCOMPARE(dialog.state(), Widget::UpToDate);
+    QCOMPARE(bytesIn(installerPath()), LocalUpdateService::generatedBytes(0, 1000));
+}
+
+void TestUpdateDownload::hostWithoutANameDownloads()
+{
+    service->setDownloadReply(generated(1000));
+    const QString organisation = QCoreApplication::organizationName();
+    QCoreApplication::setOrganizationName(QString());
+    const bool isRemembered = UnfinishedDownloads::add(downloads->filePath(QStringLiteral("x")));
+    Widget dialog(nullptr, false);
+    startDownload(dialog, 1000);
+    const bool isEnded = waitForEnd(dialog);
+    QCoreApplication::setOrganizationName(organisation);
+
+    QVERIFY(!isRemembered);
+    QVERIFY(isEnded);
     QCOMPARE(dialog.state(), Widget::ReadyToInstall);
     QCOMPARE(bytesIn(installerPath()), LocalUpdateService::generatedBytes(0, 1000));
 }
 
-void TestUpdateDownload::readyReadOfAnotherReplyIsLeftInIt()
+void TestUpdateDownload::whatTheUserPutsThereAfterAFailureIsHisOwn()
 {
     LocalWebReply reply = generated(1000);
-    reply.holdAfter = 500;
+    reply.cutAfter = 500;
     service->setDownloadReply(reply);
     Widget dialog(nullptr, false);
-    startDownload(dialog);
-    QVERIFY(waitForSize(500));
-    ForeignReply foreign(nullptr);
-    connect(&foreign, SIGNAL(readyRead()), &dialog, SLOT(downloading()));
-    emit foreign.readyRead();
-    QCOMPARE(foreign.bytesAvailable(), 7);
-    QCOMPARE(QFileInfo(installerPath()).size(), 500);
-}
-
-void TestUpdateDownload::endWithoutATransferFollowsTheState_data()
-{
-    QTest::addColumn<Widget::State>("before");
-    QTest::addColumn<bool>("isFailed");
-    QTest::addColumn<Widget::State>("after");
-    for (const auto state : {Widget::UpToDate, Widget::Downloading, Widget::ServiceError}) {
-        const auto good = state == Widget::Downloading ? Widget::ReadyToInstall : state;
-        QTest::addRow("%d, good", state) << state << false << good;
-        QTest::addRow("%d, failed", state) << state << true << Widget::ServiceError;
-    }
-}
-
-void TestUpdateDownload::endWithoutATransferFollowsTheState()
-{
-    QFETCH(Widget::State, before);
-    QFETCH(bool, isFailed);
-    QFETCH(Widget::State, after);
-    Widget dialog(nullptr, false);
-    dialog.updateState(before);
-    const auto error = isFailed ? QNetworkReply::HostNotFoundError : QNetworkReply::NoError;
-    const QPointer<ForeignReply> reply(new ForeignReply(this, error));
-    dialog.finished(reply);
-    QCOMPARE(dialog.state(), after);
-    QTRY_VERIFY(!reply);
-}
-
-void TestUpdateDownload::oddCallsDoNoHarm()
-{
-    Widget dialog(nullptr, false);
-    dialog.updateState(Widget::UpToDate);
-    dialog.downloading();
-    dialog.finished(nullptr);
-    dialog.setCurrentReply(nullptr);
-    QCOMPARE(dialog.state(), Widget::UpToDate);
-
-    // Bytes that have no file to go to end in the error, and not in a loop.
-    dialog.updateState(Widget::Downloading);
-    auto *foreign = new ForeignReply(this);
-    dialog.setCurrentReply(foreign);
-    dialog.finished(foreign);
+    startDownload(dialog, 1000);
+    QVERIFY(waitForEnd(dialog));
     QCOMPARE(dialog.state(), Widget::ServiceError);
+    QVERIFY(UnfinishedDownloads::contains(installerPath()));
+    QVERIFY(QFile::remove(installerPath()));
+    const QVariantHash record = offerOfSize(1000);
+    dialog.updateInfoReceived(record, record);
+    QCOMPARE(dialog.state(), Widget::UpdateAvailable);
 
-    // A reply that its owner has deleted is no reply any more.
-    auto *deleted = new ForeignReply(this);
-    dialog.setCurrentReply(deleted);
-    delete deleted;
-    ForeignReply other(nullptr);
-    dialog.setCurrentReply(&other);
-    dialog.setCurrentReply(nullptr);
-    QCOMPARE(other.abortCount, 1);
+    const QByteArray whole(1000, 'u');
+    writeFile(installerPath(), whole);
+    dialog.updateInfoReceived(record, record);
+    QCOMPARE(dialog.state(), Widget::ReadyToInstall);
+    QCOMPARE(bytesIn(installerPath()), whole);
 }
 
 int main(int argc, char **argv)

@@ -1,6 +1,9 @@
+#include "DialogDriver.h"
 #include "UnfinishedDownloads.h"
 #include "UpdateDownloadHelpers.h"
 
+#include <QEvent>
+#include <QMessageBox>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QPointer>
@@ -39,6 +42,7 @@ private slots:
     void dialogMayBeDestroyedByItsOwnSignals();
     void dialogMayBeDestroyedWhenASecondTransferStarts();
     void dialogMayBeDestroyedWhileItWaitsForTheFile();
+    void dialogMayBeDestroyedWhileTheEndOfATransferAsks();
 };
 
 void TestUpdateDownloadLifetime::destroyedDialogLeavesAnUnfinishedFile()
@@ -133,6 +137,31 @@ void TestUpdateDownloadLifetime::dialogMayBeDestroyedWhileItWaitsForTheFile()
     const auto *reply = dialog->findChild<QNetworkReply *>();
     QTRY_VERIFY(reply->bytesAvailable() > 0);
     dialog.reset();
+}
+
+void TestUpdateDownloadLifetime::dialogMayBeDestroyedWhileTheEndOfATransferAsks()
+{
+    service->setDownloadReply(generated(9000));
+    const QPointer<Widget> dialog(new Widget(nullptr, false));
+    const QPointer<QNetworkAccessManager> manager = dialog->findChild<QNetworkAccessManager *>();
+    const QVariantHash record = offerOfSize(9000);
+    dialog->updateInfoReceived(record, record);
+    DialogDriver driver;
+    driver.expectMessageBox(
+        [](QMessageBox &box) { DialogDriver::click(box.button(QMessageBox::Yes)); });
+    bool didManagerStay = false;
+    driver.expectMessageBox([&](QMessageBox &box) {
+        delete dialog;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        didManagerStay = !manager.isNull();
+        DialogDriver::click(box.button(QMessageBox::No));
+    });
+    dialog->on_downloadAndInstallButton_clicked();
+
+    QTRY_VERIFY(!dialog);
+    QTRY_VERIFY(!manager);
+    // It was telling of the end of the transfer all the while.
+    QVERIFY(didManagerStay);
 }
 
 int main(int argc, char **argv)
