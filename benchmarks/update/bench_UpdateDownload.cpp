@@ -29,6 +29,26 @@ constexpr qint64 kWarmUpBytes = 16 * kMegabyte;
 
 const QString kFileName = QStringLiteral("installer.bin");
 
+QtMessageHandler printAll = nullptr;
+
+/// Prints all but what the platform without a screen says of each window that comes up.
+void printImportant(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support "))) {
+        printAll(type, context, text);
+    }
+}
+
+/// While it lives the table of results is not torn by those words.
+class QuietPlatform
+{
+public:
+    QuietPlatform() { printAll = qInstallMessageHandler(printImportant); }
+    ~QuietPlatform() { qInstallMessageHandler(printAll); }
+
+    Q_DISABLE_COPY_MOVE(QuietPlatform)
+};
+
 /// The longest time in which this thread took no event.
 class GapMeter : public QObject
 {
@@ -136,6 +156,7 @@ double downloadByLoop(Place &place, qint64 /*size*/)
 template<double (*download)(Place &, qint64)>
 void measure(benchmark::State &state)
 {
+    const QuietPlatform quiet;
     const qint64 size = state.range(0) * kMegabyte;
     Place place;
     if (!place.start()) {
