@@ -7,7 +7,12 @@ namespace {
 
 QString storedText(const QString &key)
 {
-    const QString text = QSettings().value(key).toString();
+    return QSettings().value(key).toString();
+}
+
+QString storedPlace(const QString &key)
+{
+    const QString text = storedText(key);
     // Qt warns of every name with a NUL that it is to look for.
     return text.left(text.indexOf(QChar::Null));
 }
@@ -38,7 +43,7 @@ QString FileDialogMemory::start(const QString &dir) const
     if (directoryKey.isEmpty() || !QSettings().contains(directoryKey)) {
         return dir;
     }
-    const QString remembered = storedText(directoryKey);
+    const QString remembered = storedPlace(directoryKey);
     const QFileInfo proposal(dir);
     return proposal.isDir() ? remembered : remembered + u'/' + proposal.fileName();
 }

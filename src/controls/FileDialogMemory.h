@@ -9,8 +9,9 @@
 /// application's QSettings.
 ///
 /// A folder without a key, and a filter without a key or without a place for it, are neither
-/// recalled nor stored. Other values than texts read as what QVariant makes of them; a text with a
-/// NUL ends there. A value that is no place at all is harmless: Qt's dialog opens elsewhere.
+/// recalled nor stored. Other values than texts read as what QVariant makes of them. A stored
+/// filter is taken as it is; a stored place ends at a NUL, and one that is no place at all is
+/// harmless: Qt's dialog opens elsewhere.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_PRIVATE_EXPORT FileDialogMemory

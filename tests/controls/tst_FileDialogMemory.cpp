@@ -25,7 +25,9 @@ private slots:
     void rememberedTextThatIsNoUrlStartsNowhere();
     void valuesOfOtherTypesReadAsTexts_data();
     void valuesOfOtherTypesReadAsTexts();
-    void textsEndAtANul();
+    void placesEndAtANul();
+    void filterIsRecalledAsItIs_data();
+    void filterIsRecalledAsItIs();
     void storesUrlsEncodedWithoutUserAndPort();
     void storesTheAbsoluteFolderOfAFile();
     void storesNothingForAnEmptyResult();
@@ -195,16 +197,29 @@ void FileDialogMemoryTest::valuesOfOtherTypesReadAsTexts()
     QTEST(FileDialogMemory(key).start(existing), "start");
 }
 
-void FileDialogMemoryTest::textsEndAtANul()
+void FileDialogMemoryTest::placesEndAtANul()
 {
     remember(key, QByteArray("/last\0/more", 11));
     QCOMPARE(FileDialogMemory(key).start(existing), QStringLiteral("/last"));
     QCOMPARE(FileDialogMemory(key).start(QStringLiteral("a.txt")), QStringLiteral("/last/a.txt"));
+}
 
+void FileDialogMemoryTest::filterIsRecalledAsItIs_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("NUL") << QString(QLatin1String("*.txt\0*.pdf", 11));
+    QTest::newRow("NUL first") << QString(QLatin1String("\0*.pdf", 6));
+    QTest::newRow("newline") << "a\n(*.txt) ";
+    QTest::newRow("letters") << QStringLiteral("Übersicht (*.ü)");
+}
+
+void FileDialogMemoryTest::filterIsRecalledAsItIs()
+{
+    QFETCH(const QString, stored);
+    remember(filterKey, stored);
     QString filter;
-    remember(filterKey, QString(QLatin1String("*.txt\0*.pdf", 11)));
     FileDialogMemory({}, filterKey, &filter).recallFilter();
-    QCOMPARE(filter, QStringLiteral("*.txt"));
+    QCOMPARE(filter, stored);
 }
 
 void FileDialogMemoryTest::storesUrlsEncodedWithoutUserAndPort()
