@@ -8,6 +8,7 @@
 constexpr wchar_t kRecordName[] = L"TXExplorerRecord";
 constexpr wchar_t kRecordedEvent[] = L"TXExplorerRecorded";
 constexpr wchar_t kMayEndEvent[] = L"TXExplorerMayEnd";
+constexpr wchar_t kEndsEvent[] = L"TXExplorerEnds";
 
 /// A variable of the test's environment, and what it is set to.
 constexpr wchar_t kVariable[] = L"TX_EXPLORER_TEST";

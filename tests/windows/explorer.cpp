@@ -2,8 +2,8 @@
 
 #include <cwchar>
 
-// A file manager that opens no window: it records how it was started, says so, and ends when it
-// may.
+// A file manager that opens no window: it records how it was started, says so, waits until it may
+// end, and says that too.
 
 namespace {
 
@@ -29,6 +29,7 @@ int wmain()
     const HANDLE memory = OpenFileMappingW(FILE_MAP_ALL_ACCESS, FALSE, kRecordName);
     const HANDLE recorded = OpenEventW(EVENT_MODIFY_STATE, FALSE, kRecordedEvent);
     const HANDLE mayEnd = OpenEventW(SYNCHRONIZE, FALSE, kMayEndEvent);
+    const HANDLE ends = OpenEventW(EVENT_MODIFY_STATE, FALSE, kEndsEvent);
     auto *record = static_cast<ExplorerRecord *>(
         MapViewOfFile(memory, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(ExplorerRecord)));
     if (record == nullptr) {
@@ -36,5 +37,5 @@ int wmain()
     }
     fillIn(*record);
     SetEvent(recorded);
-    return WaitForSingleObject(mayEnd, 60000) == WAIT_OBJECT_0 ? 0 : 1;
+    return WaitForSingleObject(mayEnd, 60000) == WAIT_OBJECT_0 && SetEvent(ends) ? 0 : 1;
 }

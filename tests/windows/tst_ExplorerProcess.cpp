@@ -58,6 +58,7 @@ public:
                                     sizeof(ExplorerRecord), kRecordName))
         , recorded(CreateEventW(nullptr, FALSE, FALSE, kRecordedEvent))
         , mayEnd(CreateEventW(nullptr, FALSE, FALSE, kMayEndEvent))
+        , ends(CreateEventW(nullptr, FALSE, FALSE, kEndsEvent))
         , record(static_cast<ExplorerRecord *>(
               MapViewOfFile(memory, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(ExplorerRecord))))
     {
@@ -66,7 +67,8 @@ public:
     }
 
     /// Starts the program and gives what it recorded while it still runs. Should the start wait for
-    /// the end, nothing ever comes back: the program waits to be told that it may end.
+    /// the end, nothing ever comes back: the program waits to be told that it may end. It has taken
+    /// that when this returns, so that the next start's program finds no word that is not its own.
     const ExplorerRecord &start(const std::wstring &path, bool isFolder)
     {
         record->commandLine[0] = 0;
@@ -74,6 +76,7 @@ public:
         check(WaitForSingleObject(recorded, 60000) == WAIT_OBJECT_0,
               "the start comes back while the program runs");
         SetEvent(mayEnd);
+        check(WaitForSingleObject(ends, 60000) == WAIT_OBJECT_0, "the program ends when it may");
         return *record;
     }
 
@@ -81,6 +84,7 @@ private:
     HANDLE memory;
     HANDLE recorded;
     HANDLE mayEnd;
+    HANDLE ends;
     ExplorerRecord *record;
 };
 
