@@ -1,20 +1,16 @@
 #include "FileManagerRequest.h"
 
 #include "FolderProgram.h"
+#include "SessionBus.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QFileInfo>
-#include <QPointer>
-#include <QThreadPool>
 #include <QUrl>
 
-#include <chrono>
-#include <future>
 #include <limits>
-#include <memory>
 
 namespace {
 
@@ -32,9 +28,8 @@ QDBusMessage askBus(const QDBusConnection &bus, const QString &method,
     return bus.call(call, QDBus::Block, kBusMilliseconds);
 }
 
-bool isServiceThere()
+bool isServiceThere(const QDBusConnection &bus)
 {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
         return false;
     }
@@ -44,29 +39,6 @@ bool isServiceThere()
     }
     const QDBusReply<QStringList> startable = askBus(bus, QStringLiteral("ListActivatableNames"));
     return startable.value().contains(kService);
-}
-
-/// The one thread that talks to the bus until it is known to be well: the first connection blocks
-/// for as long as a mute bus likes.
-QThreadPool *busThread()
-{
-    static QPointer<QThreadPool> pool;
-    if (!pool) {
-        pool = new QThreadPool(QCoreApplication::instance());
-        pool->setMaxThreadCount(1);
-    }
-    return pool;
-}
-
-/// Does not block for longer than a second, and not at all while an earlier question hangs.
-bool isServiceThereInTime()
-{
-    const auto answer = std::make_shared<std::promise<bool>>();
-    std::future<bool> isThere = answer->get_future();
-    return busThread()->tryStart([answer] { answer->set_value(isServiceThere()); })
-        && isThere.wait_for(std::chrono::milliseconds(kBusMilliseconds))
-        == std::future_status::ready
-        && isThere.get();
 }
 
 } // namespace
@@ -81,7 +53,8 @@ FileManagerRequest::FileManagerRequest(const QDBusPendingCall &call, const QStri
 
 bool FileManagerRequest::send(const QString &absolutePath)
 {
-    if (!isServiceThereInTime()) {
+    const QDBusConnection bus = SessionBus::connection();
+    if (!isServiceThere(bus)) {
         return false;
     }
     QDBusMessage call = QDBusMessage::createMethodCall(
@@ -92,8 +65,7 @@ bool FileManagerRequest::send(const QString &absolutePath)
     call << QStringList(url.toString(QUrl::FullyEncoded)) << QString();
     // Without a limit: a file manager that is slow shows the file in the end, and a second window
     // must not come before it.
-    const QDBusPendingCall pending =
-        QDBusConnection::sessionBus().asyncCall(call, std::numeric_limits<int>::max());
+    const QDBusPendingCall pending = bus.asyncCall(call, std::numeric_limits<int>::max());
     new FileManagerRequest(pending, absolutePath, QCoreApplication::instance());
     return true;
 }

@@ -16,7 +16,8 @@ class FileManagerRequest : public QDBusPendingCallWatcher
 
 public:
     /// Asks the service to show the folder, or the file selected in its folder. False when there is
-    /// no bus, no such service, or no word of it within a second; no file manager was asked then.
+    /// no bus, no such service, or no word of the bus within a second; no file manager was asked
+    /// then.
     static bool send(const QString &absolutePath);
 
 private slots:

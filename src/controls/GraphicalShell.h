@@ -16,9 +16,13 @@ public:
     /// program that does it; tells whether it was started, or asked.
     ///
     /// On Windows that is the Explorer. Elsewhere it is the file manager that serves the desktop on
-    /// its message bus; where there is none, or no bus, or the bus is silent for a second, or the
+    /// the message bus of the session. Where there is none, or no bus, or the bus is silent, or the
     /// file manager answers with an error later, the program "xdg-open" opens the folder without
     /// selecting anything. A relative path counts from the current folder. False there for an empty
     /// path, for one with a NUL, and when there is neither.
+    ///
+    /// A bus that is well is asked in milliseconds, at each call anew. For one that is silent the
+    /// first call blocks for a second. Those after it do not wait, but use the bus again once it
+    /// has found its voice.
     static bool show(const QString &path);
 };

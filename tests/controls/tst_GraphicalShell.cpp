@@ -7,12 +7,17 @@
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QElapsedTimer>
+#include <QLocalServer>
 
 #include <optional>
 
 namespace {
 
 constexpr int kMostBlockedMilliseconds = 3000;
+constexpr int kNotBlockedMilliseconds = 900;
+
+constexpr char kAddressVariable[] = "DBUS_SESSION_BUS_ADDRESS";
+constexpr char kRuntimeVariable[] = "XDG_RUNTIME_DIR";
 
 const QString kService = QStringLiteral("org.freedesktop.FileManager1");
 const QString kFileManagerConnection = QStringLiteral("file manager");
@@ -56,26 +61,36 @@ private slots:
     void relativePathIsMadeAbsolute();
     void namesAreFullyEncoded_data();
     void namesAreFullyEncoded();
+    void busIsFoundAtItsAddress_data();
+    void busIsFoundAtItsAddress();
+    void busIsFoundBehindAMuteOne();
+    void busIsFoundInTheRuntimeFolder_data();
+    void busIsFoundInTheRuntimeFolder();
+    void callsInQuickSuccessionAllArrive();
     void silentFileManagerIsNotWaitedFor();
     void refusedFileOpensTheFolder();
     void fileManagerThatEndsOpensTheFolder();
     void missingServiceOpensTheFolder();
     void serviceThatDoesNotStartOpensTheFolder();
     void silentBusOpensTheFolderInTime();
+    void busThatTalksAgainIsAskedAgain();
 
 private:
     void prepare() override;
     void finish() override;
     void startFileManager();
+    void checkThatTheFileManagerIsAsked();
 
     LocalMessageBus bus;
     std::optional<FakeFileManager> manager;
     std::optional<FakeFolderProgram> program;
     QTemporaryDir home;
+    QByteArray runtimeFolder;
 };
 
 void GraphicalShellTest::initTestCase()
 {
+    runtimeFolder = qgetenv(kRuntimeVariable);
     QVERIFY(bus.start());
 }
 
@@ -89,6 +104,8 @@ void GraphicalShellTest::prepare()
 void GraphicalShellTest::finish()
 {
     QDBusConnection::disconnectFromBus(kFileManagerConnection);
+    qputenv(kAddressVariable, bus.address().toUtf8());
+    qputenv(kRuntimeVariable, runtimeFolder);
     program.reset();
     manager.reset();
 }
@@ -166,6 +183,84 @@ void GraphicalShellTest::namesAreFullyEncoded()
     QTEST(uris.first(), "uri");
 }
 
+void GraphicalShellTest::checkThatTheFileManagerIsAsked()
+{
+    startFileManager();
+    QVERIFY(TXFileDialog::showInGraphicalShell(home.path()));
+    QTRY_COMPARE(manager->calls.size(), 1);
+    QCOMPARE(program->calls(), QStringList());
+}
+
+void GraphicalShellTest::busIsFoundAtItsAddress_data()
+{
+    const QString socket = bus.socket();
+    QString encoded = QString::fromLatin1(socket.toUtf8().toHex('%'));
+    encoded.prepend(u'%');
+    QTest::addColumn<QString>("address");
+    QTest::newRow("path") << "unix:path=" + socket;
+    QTest::newRow("further entries") << "unix:a=b,path=" + socket + ",c=d";
+    QTest::newRow("abstract") << bus.abstractAddress();
+    QTest::newRow("percent-encoded") << "unix:path=" + encoded;
+    QTest::newRow("after a missing one") << "unix:path=/not/there;unix:path=" + socket;
+    QTest::newRow("before a missing one") << "unix:path=" + socket + ";unix:path=/not/there";
+    QTest::newRow("after other transports")
+        << "tcp:host=127.0.0.1,port=1;autolaunch:;unix:;" + bus.address();
+    QTest::newRow("after nonsense") << ";,;=;unix:path;%;" + bus.address();
+}
+
+void GraphicalShellTest::busIsFoundAtItsAddress()
+{
+    QFETCH(const QString, address);
+    qputenv(kAddressVariable, address.toUtf8());
+    checkThatTheFileManagerIsAsked();
+}
+
+void GraphicalShellTest::busIsFoundBehindAMuteOne()
+{
+    QLocalServer mute;
+    QVERIFY(mute.listen(home.filePath(QStringLiteral("mute"))));
+    const QString address = QStringLiteral("unix:path=") + mute.fullServerName();
+    qputenv(kAddressVariable, (address + u';' + bus.address()).toUtf8());
+    startFileManager();
+    // The mute one takes the time of the first call.
+    QVERIFY(TXFileDialog::showInGraphicalShell(home.path()));
+    QVERIFY(TXFileDialog::showInGraphicalShell(home.filePath(QStringLiteral("a.txt"))));
+    QTRY_VERIFY(!manager->calls.isEmpty()
+                && manager->calls.last().member() == QStringLiteral("ShowItems"));
+}
+
+void GraphicalShellTest::busIsFoundInTheRuntimeFolder_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("plain") << "plain";
+    QTest::newRow("to be encoded") << QStringLiteral("a, b;c=%20~ü");
+}
+
+void GraphicalShellTest::busIsFoundInTheRuntimeFolder()
+{
+    QFETCH(const QString, name);
+    const QString folder = home.filePath(name);
+    QVERIFY(QFile::link(QFileInfo(bus.socket()).path(), folder));
+    qputenv(kRuntimeVariable, QFile::encodeName(folder));
+    qunsetenv(kAddressVariable);
+    checkThatTheFileManagerIsAsked();
+    // An empty variable is as good as none.
+    qputenv(kAddressVariable, "");
+    QVERIFY(TXFileDialog::showInGraphicalShell(home.path()));
+    QTRY_COMPARE(manager->calls.size(), 2);
+}
+
+void GraphicalShellTest::callsInQuickSuccessionAllArrive()
+{
+    constexpr int kCalls = 200;
+    startFileManager();
+    for (int call = 0; call < kCalls; ++call) {
+        QVERIFY(TXFileDialog::showInGraphicalShell(home.path()));
+    }
+    QTRY_COMPARE(manager->calls.size(), kCalls);
+    QCOMPARE(program->calls(), QStringList());
+}
+
 void GraphicalShellTest::silentFileManagerIsNotWaitedFor()
 {
     manager->answers = false;
@@ -224,6 +319,24 @@ void GraphicalShellTest::silentBusOpensTheFolderInTime()
     bus.goOn();
     QVERIFY2(blocked < kMostBlockedMilliseconds, qPrintable(QString::number(blocked)));
     QTRY_COMPARE(program->calls(), FakeFolderProgram::callFor(home.path()));
+}
+
+void GraphicalShellTest::busThatTalksAgainIsAskedAgain()
+{
+    bus.hold();
+    QVERIFY(TXFileDialog::showInGraphicalShell(home.path()));
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(TXFileDialog::showInGraphicalShell(home.path()));
+    const qint64 blocked = clock.elapsed();
+    bus.goOn();
+    QVERIFY2(blocked < kNotBlockedMilliseconds, qPrintable(QString::number(blocked)));
+    QTRY_COMPARE(program->calls().size(), 2);
+    // The bus takes its connections in their order, so that it has answered what waits.
+    startFileManager();
+    QVERIFY(TXFileDialog::showInGraphicalShell(home.path()));
+    QTRY_COMPARE(manager->calls.size(), 1);
+    QCOMPARE(program->calls().size(), 2);
 }
 
 int main(int argc, char **argv)

@@ -11,6 +11,9 @@ private slots:
     void folderIsOpenedByTheProgram_data();
     void folderIsOpenedByTheProgram();
     void fileOpensItsFolder();
+    void addressOfNoBusOpensTheFolder_data();
+    void addressOfNoBusOpensTheFolder();
+    void missingAddressOpensTheFolder();
     void nothingIsStartedWithoutTheProgram();
     void pathThatCannotBeStartsNothing();
 
@@ -52,6 +55,48 @@ void GraphicalShellWithoutBusTest::fileOpensItsFolder()
     FakeFolderProgram program;
     QVERIFY(program.install());
     QVERIFY(TXFileDialog::showInGraphicalShell(home.filePath(QStringLiteral("gone.txt"))));
+    QTRY_COMPARE(program.calls(), FakeFolderProgram::callFor(home.path()));
+}
+
+void GraphicalShellWithoutBusTest::addressOfNoBusOpensTheFolder_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::newRow("closed port") << "tcp:host=127.0.0.1,port=1";
+    QTest::newRow("started on demand") << "autolaunch:";
+    QTest::newRow("program") << "unixexec:path=/bin/false";
+    QTest::newRow("word") << "bus";
+    QTest::newRow("separators") << ":;,=;:,=";
+    QTest::newRow("no socket") << "unix:";
+    QTest::newRow("no path") << "unix:path";
+    QTest::newRow("empty path") << "unix:path=";
+    QTest::newRow("empty name") << "unix:abstract=";
+    QTest::newRow("unknown name") << "unix:abstract=no bus";
+    QTest::newRow("folder") << "unix:path=/";
+    QTest::newRow("relative path") << "unix:path=bus";
+    QTest::newRow("NUL") << "unix:path=%00";
+    QTest::newRow("broken encoding") << "unix:path=/%zz%";
+    QTest::newRow("no UTF-8") << "unix:path=/%ff";
+    QTest::newRow("long path") << "unix:path=/" + QString(100000, u'x');
+    QTest::newRow("long name") << "unix:abstract=" + QString(100000, u'x');
+    QTest::newRow("many") << QStringLiteral("unix:path=/not/there;").repeated(1000);
+}
+
+void GraphicalShellWithoutBusTest::addressOfNoBusOpensTheFolder()
+{
+    QFETCH(const QString, address);
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address.toUtf8());
+    FakeFolderProgram program;
+    QVERIFY(program.install());
+    QVERIFY(TXFileDialog::showInGraphicalShell(home.path()));
+    QTRY_COMPARE(program.calls(), FakeFolderProgram::callFor(home.path()));
+}
+
+void GraphicalShellWithoutBusTest::missingAddressOpensTheFolder()
+{
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    FakeFolderProgram program;
+    QVERIFY(program.install());
+    QVERIFY(TXFileDialog::showInGraphicalShell(home.path()));
     QTRY_COMPARE(program.calls(), FakeFolderProgram::callFor(home.path()));
 }
 

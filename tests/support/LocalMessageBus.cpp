@@ -16,6 +16,7 @@ const QString kConfiguration = QStringLiteral(R"(<!DOCTYPE busconfig PUBLIC
 <busconfig>
   <type>session</type>
   <listen>unix:path=%1/bus</listen>
+  <listen>unix:abstract=%1/abstract</listen>
   <auth>EXTERNAL</auth>
   <servicedir>%1/services</servicedir>
   <policy context="default">
@@ -23,6 +24,7 @@ const QString kConfiguration = QStringLiteral(R"(<!DOCTYPE busconfig PUBLIC
     <allow eavesdrop="true"/>
     <allow own="*"/>
   </policy>
+  <limit name="max_replies_per_connection">50000</limit>
 </busconfig>
 )");
 
@@ -52,8 +54,24 @@ bool LocalMessageBus::start()
     if (!daemon.waitForReadyRead(kStartMilliseconds)) {
         return false;
     }
-    busAddress = QString::fromUtf8(daemon.readLine()).trimmed();
-    return qputenv("DBUS_SESSION_BUS_ADDRESS", busAddress.toUtf8());
+    // It prints the address of each socket that it listens at, in no order that it tells.
+    return daemon.readLine().contains(';')
+        && qputenv("DBUS_SESSION_BUS_ADDRESS", address().toUtf8());
+}
+
+QString LocalMessageBus::address() const
+{
+    return QStringLiteral("unix:path=") + socket();
+}
+
+QString LocalMessageBus::abstractAddress() const
+{
+    return QStringLiteral("unix:abstract=%1/abstract").arg(folder.path());
+}
+
+QString LocalMessageBus::socket() const
+{
+    return folder.filePath(QStringLiteral("bus"));
 }
 
 void LocalMessageBus::hold()

@@ -30,7 +30,13 @@ public:
     [[nodiscard]] bool start();
 
     /// For connections beside that to the session bus.
-    [[nodiscard]] QString address() const { return busAddress; }
+    [[nodiscard]] QString address() const;
+
+    /// The address of a second socket of the same bus, one without a file.
+    [[nodiscard]] QString abstractAddress() const;
+
+    /// The file of the socket, "bus" in a folder of its own.
+    [[nodiscard]] QString socket() const;
 
     /// Lets the bus hold its breath: it takes connections and messages and is silent.
     void hold();
@@ -43,5 +49,4 @@ private:
 
     QTemporaryDir folder;
     QProcess daemon;
-    QString busAddress;
 };
