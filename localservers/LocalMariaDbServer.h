@@ -6,8 +6,9 @@
 /// "payroll", is closed to that user (error 1044). Nobody else is let in (error 1045).
 ///
 /// Clients connect to 127.0.0.1 by TCP; there is no Unix socket, so the host "localhost" leads
-/// nowhere. The data folder is made anew at each start(), which takes about 0.8 seconds; what was
-/// stored is lost with stop(). Settings count from the next start() on.
+/// nowhere. The data folder is made anew at each start(), which takes about half a second; what was
+/// stored is lost with stop(). Settings count from the next start() on. There are no help texts
+/// (HELP) and no database "sys".
 ///
 /// log() stays empty, see statements(). Needs Debian's package mariadb-server-core; start() fails
 /// with words about it when it is missing.
@@ -20,12 +21,12 @@ public:
 
     /// Who is let in; "mia" with "s3cret" from the beginning. Any characters will do, but U+0000.
     /// The name must have 1 to 128 characters, else start() fails; the password may be empty. It
-    /// stands in no log, on no command line, and in no file once start() has returned.
+    /// stands in no log, on no command line and in no file.
     void setUser(const QString &name, const QString &password);
 
     /// The user's database; "measurements" from the beginning. The name must have 1 to 64
     /// characters, not end with a space, not be "payroll" and not be one of the server's own
-    /// ("mysql", "sys", "information_schema", "performance_schema"), else start() fails.
+    /// ("mysql", "information_schema", "performance_schema"), else start() fails.
     void setDatabase(const QString &name);
 
     /// What clients have sent since start(), oldest first: an element for each statement, as it was

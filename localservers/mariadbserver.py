@@ -6,6 +6,7 @@ the file "server.log", its process stands in "server.pid". What clients send sta
 mysql.general_log, whose file has a line for each row.
 """
 import os
+import shutil
 import signal
 import socket
 import subprocess
@@ -14,24 +15,38 @@ import threading
 
 import serverlink
 
-INSTALLER = "/usr/bin/mariadb-install-db"
 SERVER = "/usr/sbin/mariadbd"
-FIRST_STATEMENTS = "first.sql"
+SYSTEM_TABLES = "/usr/share/mysql"
 
-# Small, and careless about a power cut: nothing is to outlive the run.
+# What of Debian's installer is needed here: without the help texts and the "sys" views, which take
+# longer than all else.
+SYSTEM_SCRIPTS = ("mysql_system_tables.sql", "mysql_performance_tables.sql",
+                  "mysql_system_tables_data.sql")
+
+# How a server begins to tell that it crashed.
+CRASH = "got signal"
+
+# Small, and careless about a power cut: nothing is to outlive the run. The kernel's queues for
+# asynchronous writing are few, and many servers may run at a time.
 STORAGE = ["--innodb-buffer-pool-size=16M", "--innodb-log-file-size=4M",
-           "--innodb-flush-method=nosync", "--sync-frm=0"]
+           "--innodb-flush-method=nosync", "--innodb-use-native-aio=0", "--sync-frm=0"]
 
-# The superuser has to say that he means it. The installer would change owners in the system's
-# folders for the long form, and hands the short one on.
-RUN_AS = ["-uroot"] if os.getuid() == 0 else []
+# The superuser has to say that he means it.
+RUN_AS = ["--user=root"] if os.getuid() == 0 else []
 
-# Runs a program that is killed when this process is gone, however that ended. The program takes
-# connections from the socket that comes as the standard input: so its port is never free for
-# somebody else between looking for one and listening.
-LAUNCHER = ["/usr/bin/setpriv", "--pdeathsig", "KILL", "/bin/sh", "-c",
-            '[ "$PPID" = "$0" ] || exit; unset NOTIFY_SOCKET;'
-            ' export LISTEN_FDS=1 LISTEN_PID=$$; exec "$@" 3<&0 </dev/null', str(os.getpid())]
+
+def launcher(last_words):
+    """Runs a program that is killed when this process is gone, however that ended."""
+    return ["/usr/bin/setpriv", "--pdeathsig", "KILL", "/bin/sh", "-c",
+            '[ "$PPID" = "$0" ] || exit; ' + last_words, str(os.getpid())]
+
+
+LAUNCHER = launcher('exec "$@"')
+
+# This one takes connections from the socket that comes as the standard input: so its port is never
+# free for somebody else between looking for one and listening.
+LISTENING_LAUNCHER = launcher('unset NOTIFY_SOCKET; export LISTEN_FDS=1 LISTEN_PID=$$;'
+                              ' exec "$@" 3<&0 </dev/null')
 
 
 class Children:
@@ -78,11 +93,10 @@ def line(statement):
     return "EXECUTE IMMEDIATE CONVERT(0x" + statement.encode().hex() + " USING utf8mb4);\n"
 
 
-def write_first_statements(options):
-    # Not on a command line, where everybody could read the password.
+def first_statements(options):
     user = text(options["user"]) + "@'127.0.0.1'"
     statements = (
-        # The installer's administrators, who would be let in without a password.
+        # Administrators of the system's tables, who would be let in without a password.
         "DELETE FROM mysql.global_priv WHERE User = 'root'",
         "FLUSH PRIVILEGES",
         "CREATE DATABASE " + name(options["database"]) + " CHARACTER SET utf8mb4",
@@ -92,28 +106,54 @@ def write_first_statements(options):
         # As it is made, the table would lose the characters that take four bytes.
         "ALTER TABLE mysql.general_log"
         " MODIFY argument MEDIUMTEXT CHARACTER SET utf8mb4 NOT NULL")
-    with open(FIRST_STATEMENTS, "w", encoding="ascii") as file:
-        file.write("SET NAMES utf8mb4;\n" + "".join(map(line, statements)))
+    return "SET NAMES utf8mb4;\n" + "".join(map(line, statements))
+
+
+def system_statements():
+    """What makes the server's own tables."""
+    parts = ["CREATE DATABASE mysql;\nUSE mysql;\nSET @auth_root_socket = NULL;\n"]
+    for script in SYSTEM_SCRIPTS:
+        with open(os.path.join(SYSTEM_TABLES, script), encoding="utf-8") as file:
+            parts.append(file.read())
+    return "".join(parts)
+
+
+def words(file):
+    with open(file, encoding="utf-8", errors="replace") as said:
+        return said.read()
 
 
 def errors(file):
-    """What the server has to complain about, or its last words."""
-    with open(file, encoding="utf-8", errors="replace") as said:
-        lines = said.read().splitlines()
+    """What the server has to complain about, or its last words; all of them when it crashed."""
+    said = words(file)
+    if CRASH in said:
+        return said
+    lines = said.splitlines()
     # The words about a failed first statement have no brackets.
     marked = [one for one in lines if "[ERROR]" in one or one.startswith("ERROR:")]
     return "\n".join(marked or lines[-5:])
 
 
-def make_data(children):
+def run_installer(children, statements):
+    """Makes the data folder anew; returns how the installer ended."""
+    shutil.rmtree("data", ignore_errors=True)
+    os.mkdir("data")
     with open("install.log", "wb") as said:
         installer = children.start(
-            [INSTALLER, "--no-defaults", *RUN_AS, "--datadir=" + os.path.abspath("data"),
-             "--force", "--skip-name-resolve", "--skip-test-db",
-             "--auth-root-authentication-method=normal",
-             "--extra-file=" + FIRST_STATEMENTS, *STORAGE],
-            stdin=subprocess.DEVNULL, stdout=said, stderr=said)
-    if installer.wait() != 0 and not children.is_over:
+            LAUNCHER + [SERVER, "--no-defaults", *RUN_AS, "--bootstrap", "--log-warnings=0",
+                        "--datadir=" + os.path.abspath("data"), "--skip-name-resolve", *STORAGE],
+            stdin=subprocess.PIPE, stdout=said, stderr=said)
+    # Not on a command line and in no file, where others could read the password.
+    installer.communicate(statements.encode())
+    return installer.returncode
+
+
+def make_data(children, statements):
+    result = run_installer(children, statements)
+    if result < 0 or (result > 0 and CRASH in words("install.log")):
+        # Not the statements' fault: a machine that is short of something.
+        result = run_installer(children, statements)
+    if result != 0 and not children.is_over:
         sys.exit("no data folder could be made:\n" + errors("install.log"))
 
 
@@ -123,11 +163,11 @@ def run_server(children):
         listener.bind(("127.0.0.1", 0))
         listener.listen(128)
         server = children.start(
-            LAUNCHER + [SERVER, "--no-defaults", *RUN_AS, "--datadir=" + os.path.abspath("data"),
-                        "--pid-file=" + os.path.abspath("server.pid"), "--socket=",
-                        "--skip-name-resolve", "--skip-log-bin",
-                        "--general-log", "--log-output=TABLE",
-                        "--character-set-server=utf8mb4", *STORAGE],
+            LISTENING_LAUNCHER + [
+                SERVER, "--no-defaults", *RUN_AS, "--datadir=" + os.path.abspath("data"),
+                "--pid-file=" + os.path.abspath("server.pid"), "--socket=",
+                "--skip-name-resolve", "--skip-log-bin", "--general-log", "--log-output=TABLE",
+                "--character-set-server=utf8mb4", *STORAGE],
             stdin=listener, stdout=said, stderr=said)
         return server, listener.getsockname()[1]
 
@@ -148,12 +188,10 @@ def serve():
     # A server deletes the temporary files of another one that it finds when it starts.
     os.mkdir("tmp")
     os.environ["TMPDIR"] = os.path.abspath("tmp")
-    for program in (INSTALLER, SERVER):
-        if not os.access(program, os.X_OK):
-            sys.exit(program + " is missing; Debian's package mariadb-server-core has it")
-    write_first_statements(options)
-    make_data(children)
-    os.remove(FIRST_STATEMENTS)
+    for needed in (SERVER, SYSTEM_TABLES):
+        if not os.access(needed, os.X_OK):
+            sys.exit(needed + " is missing; Debian's package mariadb-server-core has it")
+    make_data(children, system_statements() + first_statements(options))
     server, port = run_server(children)
     if greets(port):
         serverlink.ready(port)

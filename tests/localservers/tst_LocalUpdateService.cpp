@@ -1,109 +1,33 @@
-#include "CurlClient.h"
 #include "LocalUpdateService.h"
+
 #include "ProcessTable.h"
 #include "TestBase.h"
+#include "UpdateServiceClient.h"
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QSignalSpy>
-#include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QTemporaryDir>
-#include <QUrl>
 
-#include <memory>
-#include <vector>
-
-namespace {
-
-using ReplyPointer = std::unique_ptr<QNetworkReply>;
-
-constexpr int kPatienceMilliseconds = 20000;
-constexpr qint64 kMegabyte = 1024 * 1024;
-
-LocalWebReply replyWith(const QByteArray &body)
-{
-    LocalWebReply reply;
-    reply.body = body;
-    return reply;
-}
-
-LocalWebReply replyOfSize(qint64 size)
-{
-    LocalWebReply reply;
-    reply.generatedSize = size;
-    return reply;
-}
-
-/// One service and clients of it, new for each test.
-struct Exchange
-{
-    LocalUpdateService service;
-    QNetworkAccessManager manager;
-
-    [[nodiscard]] ReplyPointer get(const QByteArray &target)
-    {
-        const QByteArray url = "https://" + service.authority().toLatin1() + target;
-        ReplyPointer reply(manager.get(QNetworkRequest(QUrl::fromEncoded(url))));
-        reply->ignoreSslErrors();
-        return reply;
-    }
-};
-
-bool finishes(QNetworkReply *reply)
-{
-    return QTest::qWaitFor([reply]() { return reply->isFinished(); }, kPatienceMilliseconds);
-}
-
-size_t dropBytes(const char *, size_t size, size_t count, void *)
-{
-    return size * count;
-}
-
-int statusOf(const QNetworkReply *reply)
-{
-    return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-}
-
-} // namespace
+using UpdateServiceClient::Exchange;
+using UpdateServiceClient::finishes;
+using UpdateServiceClient::kMegabyte;
+using UpdateServiceClient::kPatienceMilliseconds;
+using UpdateServiceClient::ReplyPointer;
+using UpdateServiceClient::replyWith;
+using UpdateServiceClient::statusOf;
 
 class TestLocalUpdateService : public TestBase
 {
     Q_OBJECT
 
 private slots:
-    void answersByPath_data();
-    void answersByPath();
     void requestIsToldAsOnTheWire();
     void requestIsLoggedBeforeTheAnswer();
     void certificateCanBeTrusted();
-    void statusAndBodyAreSentAsTheyAre_data();
-    void statusAndBodyAreSentAsTheyAre();
-    void locationLeadsOn();
-    void headAsksForNoBody();
-    void bodyOfManyMegabytesArrives();
-    void generatedBodyHoldsThePattern_data();
-    void generatedBodyHoldsThePattern();
-    void bodyWithoutLengthEndsWithTheConnection();
-    void cutEndsTheTransferAfterItsPlace_data();
-    void cutEndsTheTransferAfterItsPlace();
-    void cutBeyondTheBodyDoesNothing();
-    void cutFollowsHold();
-    void cutWithoutLengthResetsTheConnection();
-    void piecesComeOneByOne();
-    void endlessBodyRepeatsItself_data();
-    void endlessBodyRepeatsItself();
-    void endlessNothingIsNothing();
-    void heldReplyGoesOnWhenReleased_data();
-    void heldReplyGoesOnWhenReleased();
     void releaseCountsForRequestsBefore();
-    void heldDownloadBlocksNoCheck();
-    void manyTransfersRunAtOnce();
     void silentServiceAnswersNothing();
-    void replyChangesForTheNextRequest();
     void replyIsKeptByTheNextRun();
     void goneClientLeavesNoError_data();
     void goneClientLeavesNoError();
@@ -112,40 +36,10 @@ private slots:
     void missingFolderIsToldInWords();
 };
 
-void TestLocalUpdateService::answersByPath_data()
-{
-    QTest::addColumn<QByteArray>("target");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("body");
-    QTest::newRow("check") << QByteArray("/checkUpdate") << 200 << QByteArray("{}");
-    QTest::newRow("query") << QByteArray("/checkUpdate?a=/download") << 200 << QByteArray("{}");
-    QTest::newRow("download") << QByteArray("/download") << 404 << QByteArray();
-    QTest::newRow("below") << QByteArray("/checkUpdate/") << 404 << QByteArray();
-    QTest::newRow("other case") << QByteArray("/checkupdate") << 404 << QByteArray();
-    QTest::newRow("root") << QByteArray("/") << 404 << QByteArray();
-}
-
-void TestLocalUpdateService::answersByPath()
-{
-    QFETCH(QByteArray, target);
-    QFETCH(int, status);
-    QFETCH(QByteArray, body);
-    Exchange exchange;
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get(target);
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(statusOf(reply.get()), status);
-    QVERIFY(status == 404 || reply->readAll() == body);
-    QCOMPARE(exchange.service.log(), QStringList("GET " + QString::fromLatin1(target)));
-    QCOMPARE(exchange.service.error(), QString());
-}
-
 void TestLocalUpdateService::requestIsToldAsOnTheWire()
 {
-    Exchange exchange;
-    LocalUpdateService &service = exchange.service;
+    LocalUpdateService service;
+    Exchange exchange(service);
     QCOMPARE(service.authority(), QStringLiteral("127.0.0.1:0"));
     QVERIFY2(service.start(), qPrintable(service.error()));
     QCOMPARE(service.authority(), QStringLiteral("127.0.0.1:%1").arg(service.port()));
@@ -177,8 +71,8 @@ void TestLocalUpdateService::requestIsToldAsOnTheWire()
 
 void TestLocalUpdateService::requestIsLoggedBeforeTheAnswer()
 {
-    Exchange exchange;
-    LocalUpdateService &service = exchange.service;
+    LocalUpdateService service;
+    Exchange exchange(service);
     LocalWebReply mute;
     mute.isSilent = true;
     service.setCheckReply(mute);
@@ -193,8 +87,8 @@ void TestLocalUpdateService::requestIsLoggedBeforeTheAnswer()
 
 void TestLocalUpdateService::certificateCanBeTrusted()
 {
-    Exchange exchange;
-    LocalUpdateService &service = exchange.service;
+    LocalUpdateService service;
+    Exchange exchange(service);
     QCOMPARE(service.certificateFile(), QString());
     QVERIFY2(service.start(), qPrintable(service.error()));
     QNetworkRequest request(QUrl("https://" + service.authority() + "/checkUpdate"));
@@ -215,319 +109,10 @@ void TestLocalUpdateService::certificateCanBeTrusted()
     QCOMPARE(service.error(), QString());
 }
 
-void TestLocalUpdateService::statusAndBodyAreSentAsTheyAre_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("body");
-    QTest::newRow("nothing") << 200 << QByteArray();
-    QTest::newRow("any bytes") << 200 << QByteArray("a\0\r\n\xff", 5);
-    QTest::newRow("refusal with a body") << 403 << QByteArray("go away");
-    QTest::newRow("broken service") << 500 << QByteArray("{\"Filename\": \"x\"}");
-    QTest::newRow("status without a name") << 299 << QByteArray("x");
-    QTest::newRow("status without a body") << 204 << QByteArray();
-}
-
-void TestLocalUpdateService::statusAndBodyAreSentAsTheyAre()
-{
-    QFETCH(int, status);
-    QFETCH(QByteArray, body);
-    Exchange exchange;
-    LocalWebReply given = replyWith(body);
-    given.status = status;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(statusOf(reply.get()), status);
-    QCOMPARE(reply->readAll(), body);
-    QCOMPARE(reply->hasRawHeader("Content-Length"), status != 204);
-    QVERIFY(!reply->hasRawHeader("Location"));
-}
-
-void TestLocalUpdateService::locationLeadsOn()
-{
-    Exchange exchange;
-    LocalWebReply elsewhere;
-    elsewhere.status = 302;
-    elsewhere.location = "/checkUpdate?from=download";
-    exchange.service.setDownloadReply(elsewhere);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->readAll(), QByteArray("{}"));
-    QCOMPARE(exchange.service.log(),
-             QStringList({"GET /download", "GET /checkUpdate?from=download"}));
-}
-
-void TestLocalUpdateService::headAsksForNoBody()
-{
-    Exchange exchange;
-    exchange.service.setDownloadReply(replyOfSize(5 * kMegabyte));
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-    QNetworkRequest request(QUrl("https://" + exchange.service.authority() + "/download"));
-
-    const ReplyPointer reply(exchange.manager.head(request));
-    reply->ignoreSslErrors();
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->error(), QNetworkReply::NoError);
-    QCOMPARE(reply->rawHeader("Content-Length").toLongLong(), 5 * kMegabyte);
-    QCOMPARE(reply->readAll(), QByteArray());
-    QCOMPARE(exchange.service.requests()[0].method, QStringLiteral("HEAD"));
-}
-
-void TestLocalUpdateService::bodyOfManyMegabytesArrives()
-{
-    Exchange exchange;
-    const QByteArray body = QByteArray("0123456789abcde").repeated(1000000);
-    exchange.service.setDownloadReply(replyWith(body));
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-
-    QVERIFY(finishes(reply.get()));
-    QVERIFY(reply->readAll() == body);
-}
-
-void TestLocalUpdateService::generatedBodyHoldsThePattern_data()
-{
-    QTest::addColumn<qint64>("size");
-    QTest::newRow("nothing") << qint64(0);
-    QTest::newRow("one byte") << qint64(1);
-    QTest::newRow("one pattern and a byte") << qint64(252);
-    QTest::newRow("megabytes") << 10 * kMegabyte + 7;
-}
-
-void TestLocalUpdateService::generatedBodyHoldsThePattern()
-{
-    QFETCH(qint64, size);
-    Exchange exchange;
-    LocalWebReply given = replyOfSize(size);
-    given.body = "not this";
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->rawHeader("Content-Length").toLongLong(), size);
-    const QByteArray body = reply->readAll();
-    QVERIFY(body == LocalUpdateService::generatedBytes(0, size));
-    QVERIFY(body.mid(249) == LocalUpdateService::generatedBytes(249, qMax(0LL, size - 249)));
-}
-
-void TestLocalUpdateService::bodyWithoutLengthEndsWithTheConnection()
-{
-    Exchange exchange;
-    LocalWebReply given = replyOfSize(3 * kMegabyte + 1);
-    given.tellsLength = false;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->error(), QNetworkReply::NoError);
-    QVERIFY(!reply->hasRawHeader("Content-Length"));
-    QVERIFY(reply->readAll() == LocalUpdateService::generatedBytes(0, 3 * kMegabyte + 1));
-}
-
-void TestLocalUpdateService::cutEndsTheTransferAfterItsPlace_data()
-{
-    QTest::addColumn<qint64>("place");
-    QTest::newRow("before the body") << qint64(0);
-    QTest::newRow("first byte") << qint64(1);
-    QTest::newRow("middle") << 3 * kMegabyte + 5;
-    QTest::newRow("last byte but one") << 5 * kMegabyte - 1;
-}
-
-void TestLocalUpdateService::cutEndsTheTransferAfterItsPlace()
-{
-    QFETCH(qint64, place);
-    Exchange exchange;
-    LocalWebReply given = replyOfSize(5 * kMegabyte);
-    given.cutAfter = place;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->error(), QNetworkReply::RemoteHostClosedError);
-    QCOMPARE(statusOf(reply.get()), 200);
-    QCOMPARE(reply->rawHeader("Content-Length").toLongLong(), 5 * kMegabyte);
-    QVERIFY(reply->readAll() == LocalUpdateService::generatedBytes(0, place));
-    QCOMPARE(exchange.service.error(), QString());
-}
-
-void TestLocalUpdateService::cutBeyondTheBodyDoesNothing()
-{
-    Exchange exchange;
-    LocalWebReply given = replyWith("12345");
-    given.cutAfter = 6;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->error(), QNetworkReply::NoError);
-    QCOMPARE(reply->readAll(), QByteArray("12345"));
-}
-
-void TestLocalUpdateService::cutFollowsHold()
-{
-    Exchange exchange;
-    LocalWebReply given = replyWith("12345");
-    given.cutAfter = 3;
-    given.holdAfter = 3;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-    QTRY_COMPARE_WITH_TIMEOUT(reply->bytesAvailable(), 3, kPatienceMilliseconds);
-    const ReplyPointer meanwhile = exchange.get("/checkUpdate");
-    QVERIFY(finishes(meanwhile.get()));
-    QVERIFY(!reply->isFinished());
-    exchange.service.release();
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->error(), QNetworkReply::RemoteHostClosedError);
-    QCOMPARE(reply->readAll(), QByteArray("123"));
-}
-
-void TestLocalUpdateService::cutWithoutLengthResetsTheConnection()
-{
-    LocalUpdateService service;
-    LocalWebReply given = replyWith("12345");
-    given.cutAfter = 3;
-    given.tellsLength = false;
-    service.setDownloadReply(given);
-    QVERIFY2(service.start(), qPrintable(service.error()));
-    // Qt's client takes a reset for the end, too.
-    CurlClient client("https", service.port());
-    const QByteArray url = "https://" + service.authority().toLatin1() + "/download";
-    client.set(CURLOPT_URL, url.constData());
-    client.set(CURLOPT_SSL_VERIFYPEER, 0L);
-    client.set(CURLOPT_NOBODY, 0L);
-    client.set(CURLOPT_WRITEFUNCTION, dropBytes);
-
-    QCOMPARE(client.run(), int(CURLE_RECV_ERROR));
-    QCOMPARE(service.error(), QString());
-}
-
-void TestLocalUpdateService::piecesComeOneByOne()
-{
-    constexpr int kPauseMilliseconds = 100;
-    Exchange exchange;
-    LocalWebReply given = replyWith("abcdefgh");
-    given.pieceSize = 3;
-    given.pauseMilliseconds = kPauseMilliseconds;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-    QElapsedTimer clock;
-    clock.start();
-
-    const ReplyPointer reply = exchange.get("/download");
-    QSignalSpy arrived(reply.get(), SIGNAL(readyRead()));
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->readAll(), QByteArray("abcdefgh"));
-    // Three pieces with two pauses between them; a busy machine may hand over two at once.
-    QVERIFY(clock.elapsed() >= 2 * kPauseMilliseconds);
-    QVERIFY(arrived.count() <= 3);
-}
-
-void TestLocalUpdateService::endlessBodyRepeatsItself_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<qint64>("generatedSize");
-    QTest::newRow("short") << QByteArray("0123456") << qint64(-1);
-    QTest::newRow("long") << QByteArray("x").repeated(1500000).append("end") << qint64(-1);
-    QTest::newRow("generated") << QByteArray() << qint64(300001);
-}
-
-void TestLocalUpdateService::endlessBodyRepeatsItself()
-{
-    QFETCH(QByteArray, body);
-    QFETCH(qint64, generatedSize);
-    Exchange exchange;
-    LocalWebReply given = replyWith(body);
-    given.generatedSize = generatedSize;
-    given.endless = true;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-    const QByteArray once =
-        generatedSize < 0 ? body : LocalUpdateService::generatedBytes(0, generatedSize);
-
-    const ReplyPointer reply = exchange.get("/download");
-
-    QTRY_VERIFY_WITH_TIMEOUT(reply->bytesAvailable() > 8 * kMegabyte, kPatienceMilliseconds);
-    QVERIFY(!reply->isFinished());
-    QVERIFY(!reply->hasRawHeader("Content-Length"));
-    const QByteArray start = reply->read(8 * kMegabyte);
-    const QByteArray expected = once.repeated(8 * kMegabyte / once.size() + 1);
-    QVERIFY(start == expected.left(start.size()));
-    reply->abort();
-}
-
-void TestLocalUpdateService::endlessNothingIsNothing()
-{
-    Exchange exchange;
-    LocalWebReply given;
-    given.endless = true;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->error(), QNetworkReply::NoError);
-    QCOMPARE(reply->readAll(), QByteArray());
-}
-
-void TestLocalUpdateService::heldReplyGoesOnWhenReleased_data()
-{
-    QTest::addColumn<qint64>("place");
-    QTest::addColumn<bool>("tellsLength");
-    QTest::newRow("before the body") << qint64(0) << true;
-    QTest::newRow("middle") << kMegabyte + 1 << true;
-    QTest::newRow("before the end") << 2 * kMegabyte << false;
-}
-
-void TestLocalUpdateService::heldReplyGoesOnWhenReleased()
-{
-    QFETCH(qint64, place);
-    QFETCH(bool, tellsLength);
-    Exchange exchange;
-    LocalWebReply given = replyOfSize(2 * kMegabyte);
-    given.holdAfter = place;
-    given.tellsLength = tellsLength;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer reply = exchange.get("/download");
-    QTRY_COMPARE_WITH_TIMEOUT(statusOf(reply.get()), 200, kPatienceMilliseconds);
-    QTRY_COMPARE_WITH_TIMEOUT(reply->bytesAvailable(), place, kPatienceMilliseconds);
-    const ReplyPointer meanwhile = exchange.get("/checkUpdate");
-    QVERIFY(finishes(meanwhile.get()));
-    QCOMPARE(reply->bytesAvailable(), place);
-    QVERIFY(!reply->isFinished());
-    exchange.service.release();
-
-    QVERIFY(finishes(reply.get()));
-    QCOMPARE(reply->error(), QNetworkReply::NoError);
-    QVERIFY(reply->readAll() == LocalUpdateService::generatedBytes(0, 2 * kMegabyte));
-}
-
 void TestLocalUpdateService::releaseCountsForRequestsBefore()
 {
-    Exchange exchange;
-    LocalUpdateService &service = exchange.service;
+    LocalUpdateService service;
+    Exchange exchange(service);
     service.release();
     LocalWebReply given = replyWith("12345");
     given.holdAfter = 2;
@@ -549,52 +134,10 @@ void TestLocalUpdateService::releaseCountsForRequestsBefore()
     QVERIFY(!second->isFinished());
 }
 
-void TestLocalUpdateService::heldDownloadBlocksNoCheck()
-{
-    Exchange exchange;
-    LocalWebReply given = replyOfSize(kMegabyte);
-    given.holdAfter = 10;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-
-    const ReplyPointer download = exchange.get("/download");
-    QTRY_COMPARE_WITH_TIMEOUT(download->bytesAvailable(), 10, kPatienceMilliseconds);
-    const ReplyPointer check = exchange.get("/checkUpdate");
-
-    QVERIFY(finishes(check.get()));
-    QCOMPARE(check->readAll(), QByteArray("{}"));
-    QVERIFY(!download->isFinished());
-}
-
-void TestLocalUpdateService::manyTransfersRunAtOnce()
-{
-    Exchange exchange;
-    LocalWebReply given = replyOfSize(kMegabyte);
-    given.holdAfter = 10;
-    exchange.service.setDownloadReply(given);
-    QVERIFY2(exchange.service.start(), qPrintable(exchange.service.error()));
-    // A manager takes six connections to a host at most.
-    std::vector<ReplyPointer> replies;
-    for (int number = 0; number < 6; ++number) {
-        replies.push_back(exchange.get("/download?" + QByteArray::number(number)));
-    }
-
-    for (const ReplyPointer &reply : replies) {
-        QTRY_COMPARE_WITH_TIMEOUT(reply->bytesAvailable(), 10, kPatienceMilliseconds);
-    }
-    exchange.service.release();
-
-    for (const ReplyPointer &reply : replies) {
-        QVERIFY(finishes(reply.get()));
-        QVERIFY(reply->readAll() == LocalUpdateService::generatedBytes(0, kMegabyte));
-    }
-    QCOMPARE(exchange.service.requests().size(), 6);
-}
-
 void TestLocalUpdateService::silentServiceAnswersNothing()
 {
-    Exchange exchange;
-    LocalUpdateService &service = exchange.service;
+    LocalUpdateService service;
+    Exchange exchange(service);
     LocalWebReply mute;
     mute.isSilent = true;
     service.setCheckReply(mute);
@@ -618,34 +161,10 @@ void TestLocalUpdateService::silentServiceAnswersNothing()
     QCOMPARE(service.error(), QString());
 }
 
-void TestLocalUpdateService::replyChangesForTheNextRequest()
-{
-    Exchange exchange;
-    LocalUpdateService &service = exchange.service;
-    LocalWebReply held = replyWith("before");
-    held.holdAfter = 3;
-    service.setCheckReply(held);
-    QVERIFY2(service.start(), qPrintable(service.error()));
-
-    const ReplyPointer before = exchange.get("/checkUpdate");
-    QTRY_COMPARE_WITH_TIMEOUT(before->bytesAvailable(), 3, kPatienceMilliseconds);
-    for (int number = 0; number < 50; ++number) {
-        const QByteArray body = QByteArray::number(number).repeated(number);
-        service.setCheckReply(replyWith(body));
-        const ReplyPointer after = exchange.get("/checkUpdate");
-        QVERIFY(finishes(after.get()));
-        QCOMPARE(after->readAll(), body);
-    }
-    service.release();
-
-    QVERIFY(finishes(before.get()));
-    QCOMPARE(before->readAll(), QByteArray("before"));
-}
-
 void TestLocalUpdateService::replyIsKeptByTheNextRun()
 {
-    Exchange exchange;
-    LocalUpdateService &service = exchange.service;
+    LocalUpdateService service;
+    Exchange exchange(service);
     QVERIFY2(service.start(), qPrintable(service.error()));
     service.setCheckReply(replyWith("while running"));
     service.stop();
@@ -673,8 +192,8 @@ void TestLocalUpdateService::goneClientLeavesNoError()
 {
     QFETCH(qint64, holdAfter);
     QFETCH(bool, isSilent);
-    Exchange exchange;
-    LocalUpdateService &service = exchange.service;
+    LocalUpdateService service;
+    Exchange exchange(service);
     LocalWebReply given = replyWith("endless");
     given.endless = true;
     given.holdAfter = holdAfter;
@@ -698,8 +217,8 @@ void TestLocalUpdateService::goneClientLeavesNoError()
 
 void TestLocalUpdateService::stopEndsARunningTransferAtOnce()
 {
-    Exchange exchange;
-    LocalUpdateService &service = exchange.service;
+    LocalUpdateService service;
+    Exchange exchange(service);
     LocalWebReply endless = replyWith("endless");
     endless.endless = true;
     service.setDownloadReply(endless);
