@@ -25,10 +25,8 @@ class TXDBNavWidget;
 /// The name of the table stands in the count as the model has it: a name that needs quotes is given
 /// to the model with its quotes, else there is nothing to count.
 ///
-/// A number that the user types counts with Return or when the field is left, so that the pages 1
-/// and 15 are not selected on the way to page 150. Arrows and wheel count at once.
-///
-/// Turning the page selects, which drops what was changed in the model and not submitted.
+/// Turning the page selects at once, at each digit that the user types, too. It drops what was
+/// changed in the model and not submitted.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT TXDBNavWidget : public QWidget

@@ -36,13 +36,15 @@ public:
     explicit TXSqlTableModel(QObject *parent = nullptr, const QSqlDatabase &database = {});
 
     /// Sets the table, without rows until the first select(); the filter and the sorting go.
-    /// `offset` and `limit` stay. A name that cannot be read as one is an empty one: lastError()
-    /// tells why, and select() fails.
+    /// `offset` and `limit` stay. A name with a semicolon that the database does not take as one
+    /// name counts as empty: lastError() tells why, and select() fails.
     void setTable(const QString &table) override;
 
     /// Sets the condition that rows must meet, the part of a statement after WHERE; empty for all
     /// rows. Once rows have been selected, selects the page of the new filter. Emits
-    /// filterChanged() thereafter when the filter is another one. `offset` stays.
+    /// filterChanged() thereafter when the filter is another one. `offset` stays. No semicolon
+    /// belongs at its end: with a `limit` the page follows there, and the database refuses the
+    /// statement.
     void setFilter(const QString &filter) override;
 
     /// Gets the page anew, all of its rows. False, with the reason in lastError(), when the

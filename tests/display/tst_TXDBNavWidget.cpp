@@ -26,31 +26,15 @@ private slots:
     void modelIsRefreshedAtOnceWithoutBeingSelected();
     void shownPageFollowsFromTheOffset_data();
     void shownPageFollowsFromTheOffset();
-    void turnedPageSelects_data();
-    void turnedPageSelects();
-    void typedPageCountsOnce();
-    void arrowsTurnThePageAtOnce();
     void settersWriteIntoTheModelOnly();
     void selectIsTheModels();
     void limitShowsWithTheNextRefresh();
-    void refreshAndPageTurnCostTheirStatements();
-    void largePageIsNotCountedByPortions_data();
-    void largePageIsNotCountedByPortions();
-    void shrunkTableShowsItsLastPage_data();
-    void shrunkTableShowsItsLastPage();
-    void rowsRemovedOnALatePage_data();
-    void rowsRemovedOnALatePage();
-    void oldMaximumHoldsWhileThePageIsSet();
-    void severalPagesIsToldAtEveryRefresh();
-    void updateStopsAtTheRowsOfTheLastRefresh();
-    void insertedAndRevertedRowsRefresh();
-    void otherFilterKeepsTheOffset_data();
-    void otherFilterKeepsTheOffset();
-    void otherFilterCostsOneCount();
     void nullModelKeepsTheNumbers();
     void otherModelTakesOver();
     void sameModelIsConnectedOnce();
     void deletedModelIsNoModel();
+    void fieldGrowsWithItsText_data();
+    void fieldGrowsWithItsText();
     void standsBesideATable_data();
     void standsBesideATable();
 };
@@ -207,71 +191,6 @@ void TestTXDBNavWidget::shownPageFollowsFromTheOffset()
     QCOMPARE(model.rowCount(), offset < 100 ? 0 : 100);
 }
 
-void TestTXDBNavWidget::turnedPageSelects_data()
-{
-    PagedTable::addDatabases();
-}
-
-void TestTXDBNavWidget::turnedPageSelects()
-{
-    const auto connection = connect(130);
-    Model model(*connection, 50);
-    Navigator navigator;
-    navigator.setModel(&model);
-    QVERIFY(navigator.select());
-
-    navigator.spinBox()->setValue(3);
-    QCOMPARE(model.offset, 100U);
-    QCOMPARE(navigator.offset(), 100U);
-    QCOMPARE(model.rowCount(), 30);
-    QCOMPARE(model.index(0, PagedTable::Id).data().toInt(), 101);
-
-    navigator.spinBox()->setValue(2);
-    QCOMPARE(model.offset, 50U);
-    QCOMPARE(model.index(49, PagedTable::Id).data().toInt(), 100);
-
-    // Turning a page is no refresh.
-    QCOMPARE(navigator.told().size(), 1);
-}
-
-void TestTXDBNavWidget::typedPageCountsOnce()
-{
-    const auto connection = connect(2000, false);
-    Model model(*connection, 1);
-    Navigator navigator;
-    navigator.setModel(&model);
-    navigator.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&navigator));
-    navigator.spinBox()->setFocus();
-    navigator.spinBox()->selectAll();
-    const QSignalSpy resets(&model, &TXSqlTableModel::modelReset);
-
-    QTest::keyClicks(navigator.spinBox(), QStringLiteral("1500"));
-    QCOMPARE(resets.count(), 0);
-    QTest::keyClick(navigator.spinBox(), Qt::Key_Return);
-
-    QCOMPARE(resets.count(), 1);
-    QCOMPARE(model.offset, 1499U);
-    QCOMPARE(navigator.text(), QStringLiteral("1500/2000"));
-}
-
-void TestTXDBNavWidget::arrowsTurnThePageAtOnce()
-{
-    const auto connection = connect(10, false);
-    Model model(*connection, 3);
-    Navigator navigator;
-    navigator.setModel(&model);
-
-    QTest::keyClick(navigator.spinBox(), Qt::Key_Up);
-    QCOMPARE(model.ids(), QList<int>({4, 5, 6}));
-
-    QTest::keyClick(navigator.spinBox(), Qt::Key_PageUp);
-    QCOMPARE(model.ids(), QList<int>({10}));
-
-    QTest::keyClick(navigator.spinBox(), Qt::Key_Down);
-    QCOMPARE(model.ids(), QList<int>({7, 8, 9}));
-}
-
 void TestTXDBNavWidget::settersWriteIntoTheModelOnly()
 {
     const auto connection = connect(10, false);
@@ -322,243 +241,6 @@ void TestTXDBNavWidget::limitShowsWithTheNextRefresh()
 
     navigator.refresh();
     QCOMPARE(navigator.text(), QStringLiteral("1/2"));
-}
-
-void TestTXDBNavWidget::refreshAndPageTurnCostTheirStatements()
-{
-    const auto connection = connect(1000, true);
-    Model model(*connection, 300);
-    Navigator navigator;
-    forgetStatements();
-
-    navigator.setModel(&model);
-    QCOMPARE(statements(PagedTable::kCount), 1);
-    QCOMPARE(statements(PagedTable::kSelect), 0);
-
-    navigator.refresh();
-    QCOMPARE(statements(PagedTable::kCount), 2);
-
-    navigator.spinBox()->setValue(3);
-    QCOMPARE(statements(PagedTable::kCount), 2);
-    QCOMPARE(statements(PagedTable::kSelect), 1);
-
-    QVERIFY(navigator.select());
-    QCOMPARE(statements(PagedTable::kCount), 2);
-    QCOMPARE(statements(PagedTable::kSelect), 2);
-    QCOMPARE(statements(""), 4);
-}
-
-void TestTXDBNavWidget::largePageIsNotCountedByPortions_data()
-{
-    PagedTable::addDatabases();
-}
-
-void TestTXDBNavWidget::largePageIsNotCountedByPortions()
-{
-    const auto connection = connect(3000);
-    Model model(*connection, 2000);
-    Navigator navigator;
-    navigator.setModel(&model);
-    forgetStatements();
-
-    QVERIFY(navigator.select());
-    navigator.spinBox()->setValue(2);
-    connection->run(QStringLiteral("DROP TABLE samples"));
-    QVERIFY(!navigator.select());
-
-    QCOMPARE(navigator.told().size(), 1);
-    QCOMPARE(connection->isMariaDb() ? statements(PagedTable::kCount) : 0, 0);
-}
-
-void TestTXDBNavWidget::shrunkTableShowsItsLastPage_data()
-{
-    PagedTable::addDatabases();
-}
-
-void TestTXDBNavWidget::shrunkTableShowsItsLastPage()
-{
-    const auto connection = connect(450);
-    Model model(*connection, 100);
-    Navigator navigator;
-    navigator.setModel(&model);
-    navigator.spinBox()->setValue(5);
-    QCOMPARE(model.rowCount(), 50);
-    connection->run(QStringLiteral("DELETE FROM samples WHERE id > 150"));
-
-    navigator.refresh();
-
-    QCOMPARE(navigator.text(), QStringLiteral("2/2"));
-    QCOMPARE(navigator.spinBox()->maximum(), 2);
-    QCOMPARE(model.offset, 100U);
-    QCOMPARE(model.rowCount(), 50);
-    QCOMPARE(model.index(49, PagedTable::Id).data().toInt(), 150);
-
-    connection->run(QStringLiteral("DELETE FROM samples"));
-    navigator.refresh();
-    QCOMPARE(navigator.text(), QStringLiteral("1/1"));
-    QCOMPARE(model.offset, 0U);
-    QCOMPARE(model.rowCount(), 0);
-    QCOMPARE(navigator.told(), QList<bool>({true, true, false}));
-}
-
-void TestTXDBNavWidget::rowsRemovedOnALatePage_data()
-{
-    PagedTable::addDatabases();
-}
-
-void TestTXDBNavWidget::rowsRemovedOnALatePage()
-{
-    const auto connection = connect(7);
-    Model model(*connection, 3);
-    model.setEditStrategy(QSqlTableModel::OnManualSubmit);
-    Navigator navigator;
-    navigator.setModel(&model);
-    navigator.spinBox()->setValue(3);
-    QCOMPARE(model.ids(), QList<int>({7}));
-
-    QVERIFY(model.removeRow(0));
-    QVERIFY(model.submitAll());
-    QCOMPARE(model.rowCount(), 0);
-    // The model tells of nothing that happens in the database.
-    QCOMPARE(navigator.text(), QStringLiteral("3/3"));
-
-    navigator.refresh();
-    QCOMPARE(navigator.text(), QStringLiteral("2/2"));
-    QCOMPARE(model.ids(), QList<int>({4, 5, 6}));
-}
-
-// The value is set before the maximum: a table that has grown takes two refreshes.
-void TestTXDBNavWidget::oldMaximumHoldsWhileThePageIsSet()
-{
-    const auto connection = connect(10, false);
-    Model model(*connection, 5);
-    Navigator navigator;
-    navigator.setModel(&model);
-    QVERIFY(navigator.select());
-    QCOMPARE(navigator.text(), QStringLiteral("1/2"));
-
-    navigator.setLimit(2);
-    navigator.setOffset(8);
-    navigator.refresh();
-
-    QCOMPARE(navigator.text(), QStringLiteral("2/5"));
-    QCOMPARE(model.offset, 2U);
-    QCOMPARE(model.ids(), QList<int>({3, 4}));
-}
-
-void TestTXDBNavWidget::severalPagesIsToldAtEveryRefresh()
-{
-    const auto connection = connect(10, false);
-    Model model(*connection, 5);
-    Navigator navigator;
-    navigator.setModel(&model);
-
-    navigator.refresh();
-    navigator.refresh();
-    navigator.setLimit(10);
-    navigator.refresh();
-    navigator.refresh();
-
-    QCOMPARE(navigator.told(), QList<bool>({true, true, true, false, false}));
-}
-
-void TestTXDBNavWidget::updateStopsAtTheRowsOfTheLastRefresh()
-{
-    const auto connection = connect(10, false);
-    Model model(*connection, 2);
-    Navigator navigator;
-    navigator.setModel(&model);
-    navigator.spinBox()->setValue(4);
-    QCOMPARE(model.offset, 6U);
-    navigator.setLimit(5);
-
-    navigator.update();
-    QCOMPARE(model.offset, 10U);
-    QCOMPARE(model.rowCount(), 0);
-
-    navigator.setLimit(std::numeric_limits<qulonglong>::max() / 3 + 1);
-    navigator.update();
-    QCOMPARE(model.offset, 10U);
-
-    navigator.setLimit(0);
-    navigator.update();
-    QCOMPARE(model.offset, 0U);
-    QCOMPARE(model.rowCount(), 10);
-}
-
-void TestTXDBNavWidget::insertedAndRevertedRowsRefresh()
-{
-    const auto connection = connect(10, false);
-    Model model(*connection, 5);
-    model.setEditStrategy(QSqlTableModel::OnManualSubmit);
-    Navigator navigator;
-    navigator.setModel(&model);
-    QVERIFY(navigator.select());
-    connection->run(QStringLiteral("INSERT INTO samples VALUES (11, 'x', 0)"));
-
-    QVERIFY(model.insertRow(0));
-    QCOMPARE(navigator.text(), QStringLiteral("1/3"));
-    QCOMPARE(navigator.told().size(), 2);
-
-    connection->run(QStringLiteral("DELETE FROM samples WHERE id = 11"));
-    model.revertAll();
-    QCOMPARE(navigator.text(), QStringLiteral("1/2"));
-    QCOMPARE(navigator.told().size(), 3);
-    QCOMPARE(model.ids(), QList<int>({1, 2, 3, 4, 5}));
-}
-
-void TestTXDBNavWidget::otherFilterKeepsTheOffset_data()
-{
-    PagedTable::addDatabases();
-}
-
-void TestTXDBNavWidget::otherFilterKeepsTheOffset()
-{
-    const auto connection = connect(30);
-    Model model(*connection, 5);
-    Navigator navigator;
-    navigator.setModel(&model);
-    navigator.spinBox()->setValue(3);
-    QCOMPARE(model.offset, 10U);
-
-    model.setFilter(QStringLiteral("id > 10"));
-    QCOMPARE(model.offset, 10U);
-    QCOMPARE(navigator.text(), QStringLiteral("3/4"));
-    QCOMPARE(model.ids(), QList<int>({21, 22, 23, 24, 25}));
-
-    model.setFilter(QStringLiteral("id > 23"));
-    QCOMPARE(model.offset, 5U);
-    QCOMPARE(navigator.text(), QStringLiteral("2/2"));
-    QCOMPARE(model.ids(), QList<int>({29, 30}));
-
-    model.setFilter(QStringLiteral("id > 100"));
-    QCOMPARE(navigator.text(), QStringLiteral("1/1"));
-    QCOMPARE(model.offset, 0U);
-
-    model.setFilter(QString());
-    QCOMPARE(navigator.text(), QStringLiteral("1/6"));
-    QCOMPARE(model.ids(), QList<int>({1, 2, 3, 4, 5}));
-    QCOMPARE(navigator.told(), QList<bool>({true, true, true, false, true}));
-}
-
-void TestTXDBNavWidget::otherFilterCostsOneCount()
-{
-    const auto connection = connect(30, true);
-    Model model(*connection, 5);
-    Navigator navigator;
-    navigator.setModel(&model);
-    navigator.spinBox()->setValue(3);
-    forgetStatements();
-
-    model.setFilter(QStringLiteral("id > 10"));
-    QCOMPARE(statements(PagedTable::kCount), 1);
-    QCOMPARE(statements(PagedTable::kSelect), 1);
-
-    // The page is another one now, and selected again.
-    model.setFilter(QStringLiteral("id > 23"));
-    QCOMPARE(statements(PagedTable::kCount), 2);
-    QCOMPARE(statements(PagedTable::kSelect), 3);
-    QCOMPARE(statements(""), 5);
 }
 
 void TestTXDBNavWidget::nullModelKeepsTheNumbers()
@@ -646,6 +328,51 @@ void TestTXDBNavWidget::deletedModelIsNoModel()
     Model next(*connection, 5);
     navigator.setModel(&next);
     QCOMPARE(navigator.text(), QStringLiteral("1/2"));
+}
+
+void TestTXDBNavWidget::fieldGrowsWithItsText_data()
+{
+    QTest::addColumn<bool>("isTurned");
+    QTest::addColumn<bool>("isHidden");
+    QTest::newRow("first page") << false << false;
+    QTest::newRow("page in the middle") << true << false;
+    QTest::newRow("first page, hidden meanwhile") << false << true;
+    QTest::newRow("page in the middle, hidden meanwhile") << true << true;
+}
+
+void TestTXDBNavWidget::fieldGrowsWithItsText()
+{
+    QFETCH(bool, isTurned);
+    QFETCH(bool, isHidden);
+    const auto connection = connect(10000, false);
+    Model model(*connection, 10000);
+    QWidget window;
+    auto *page = new QWidget(&window);
+    (new QHBoxLayout(&window))->addWidget(page);
+    auto *row = new QHBoxLayout(page);
+    auto *navigator = new Navigator;
+    row->addWidget(navigator);
+    row->addStretch();
+    navigator->setModel(&model);
+    QCOMPARE(navigator->text(), QStringLiteral("1/1"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const int before = navigator->spinBox()->width();
+
+    page->setHidden(isHidden);
+    model.limit = 1;
+    navigator->refresh();
+    if (isTurned) {
+        navigator->spinBox()->setValue(5001);
+    }
+    page->show();
+
+    QTRY_VERIFY(navigator->spinBox()->width() >= navigator->spinBox()->sizeHint().width());
+    QVERIFY(navigator->spinBox()->width() > before);
+    QCOMPARE(navigator->text(),
+             isTurned ? QStringLiteral("5001/10000") : QStringLiteral("1/10000"));
+    const auto *field = navigator->spinBox()->findChild<QLineEdit *>();
+    QVERIFY(field->width() > field->fontMetrics().horizontalAdvance(QStringLiteral("5001/10000")));
 }
 
 void TestTXDBNavWidget::standsBesideATable_data()

@@ -18,7 +18,6 @@ class TestTXDBNavWidgetBadInput : public PagedTable::Test
 private slots:
     void failedCountIsOnePage_data();
     void failedCountIsOnePage();
-    void countRunsOneStatement_data();
     void countRunsOneStatement();
     void semicolonInALiteralIsCounted_data();
     void semicolonInALiteralIsCounted();
@@ -84,15 +83,11 @@ void TestTXDBNavWidgetBadInput::failedCountIsOnePage()
     QCOMPARE(model.ids(), QList<int>({1, 2, 3}));
 }
 
-void TestTXDBNavWidgetBadInput::countRunsOneStatement_data()
-{
-    PagedTable::addDatabases();
-}
-
-// The model is not asked here: it selects only after a select().
+// The model is not asked here: it selects only after a select(). On the server, whose driver would
+// run both; that of SQLite refuses by itself.
 void TestTXDBNavWidgetBadInput::countRunsOneStatement()
 {
-    const auto connection = connect(10);
+    const auto connection = connect(10, true);
     Model model(*connection, 3);
     Navigator navigator;
     navigator.setModel(&model);
