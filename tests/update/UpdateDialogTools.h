@@ -3,12 +3,14 @@
 #include "TXCheckForUpdateWidget.h"
 #include "TXUpdateService.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 #include <QString>
 #include <QTest>
 #include <QVariantHash>
+#include <QWidget>
 
 /// What several tests of the update dialog have in common.
 namespace UpdateDialogTools {
@@ -30,6 +32,22 @@ Widget *part(const QWidget &dialog, const char *name)
         qFatal("the form has no %s", name);
     }
     return widget;
+}
+
+/// The parts of the form that the states show and hide.
+inline constexpr const char *kWidgets[] = {
+    "updateNameLabel",          "shortDescLabel", "scrollArea",   "downloadButton",
+    "downloadAndInstallButton", "installButton",  "cancelButton", "okButton",
+    "downloadProgressBar"};
+
+/// Which of kWidgets are hidden: a letter each, "s" for shown and "h" for hidden.
+inline QByteArray shownWidgets(const Dialog &dialog)
+{
+    QByteArray shown;
+    for (const char *name : kWidgets) {
+        shown.append(part<QWidget>(dialog, name)->isHidden() ? 'h' : 's');
+    }
+    return shown;
 }
 
 /// A release newer than this build, with an installer of 5 bytes.

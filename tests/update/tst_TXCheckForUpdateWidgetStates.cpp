@@ -1,25 +1,22 @@
 #include "DialogDriver.h"
 #include "TestBase.h"
-#include "UnfinishedDownloads.h"
 #include "UpdateDialogTools.h"
 
-#include <QFileInfo>
 #include <QLabel>
 #include <QMetaEnum>
 #include <QPushButton>
-#include <QScreen>
 #include <QSignalSpy>
 #include <QStackedWidget>
 
 using UpdateDialogTools::clearDownloads;
 using UpdateDialogTools::Dialog;
-using UpdateDialogTools::installerPath;
+using UpdateDialogTools::kWidgets;
 using UpdateDialogTools::newRelease;
 using UpdateDialogTools::newReleaseWith;
 using UpdateDialogTools::part;
 using UpdateDialogTools::receive;
+using UpdateDialogTools::shownWidgets;
 using UpdateDialogTools::useNoService;
-using UpdateDialogTools::writeFile;
 
 namespace {
 
@@ -29,11 +26,6 @@ constexpr Dialog::State kStates[] = {
 
 const char *const kErrorText = "Impossible to connect to the Check for Updates service, please "
                                "check your Internet connection.";
-
-const char *const kWidgets[] = {
-    "updateNameLabel",          "shortDescLabel", "scrollArea",   "downloadButton",
-    "downloadAndInstallButton", "installButton",  "cancelButton", "okButton",
-    "downloadProgressBar"};
 
 /// A row of the table: one letter a widget of kWidgets, "s" for shown, "h" for hidden, "." for as
 /// it was; then the page and whether the dialog is shown.
@@ -56,15 +48,6 @@ const Look kLooks[] = {{Dialog::Checking, ".........", "CheckUpdatePage", false}
 QString nameOf(Dialog::State state)
 {
     return QString::fromLatin1(QMetaEnum::fromType<Dialog::State>().valueToKey(state));
-}
-
-QByteArray shownWidgets(const Dialog &dialog)
-{
-    QByteArray shown;
-    for (const char *name : kWidgets) {
-        shown.append(part<QWidget>(dialog, name)->isHidden() ? 'h' : 's');
-    }
-    return shown;
 }
 
 void setAllHidden(const Dialog &dialog, bool isHidden)
@@ -118,23 +101,8 @@ private slots:
     void releaseTitle_data();
     void releaseTitle();
     void errorTextStaysAndTheNameStaysHidden();
-    void resultLeadsTo_data();
-    void resultLeadsTo();
-    void onlyTheReceivedSecondArgumentTellsAFailure();
-    void failedCheckRefreshesNothing();
-    void refreshedTellsTheCompletedRecordAfterTheState();
     void resultIsTakenInEveryState_data();
     void resultIsTakenInEveryState();
-    void aLaterResultReplacesTheRecord();
-    void completeFileIsReadyWithoutTheOffer();
-    void fileOfAnotherSizeIsDeletedAndOffered_data();
-    void fileOfAnotherSizeIsDeletedAndOffered();
-    void emptyFileIsCompleteWithoutAFilesize();
-    void unfinishedFileNeverCountsAsComplete();
-    void folderInTheWayIsLeftAlone();
-    void recordOfWrongTypesIsTaken_data();
-    void recordOfWrongTypesIsTaken();
-    void completeFileAsksToInstallWhenThatWasWanted();
     void checkingForgetsTheWishToInstall();
 };
 
@@ -392,72 +360,6 @@ void TestTXCheckForUpdateWidgetStates::errorTextStaysAndTheNameStaysHidden()
     }
 }
 
-void TestTXCheckForUpdateWidgetStates::resultLeadsTo_data()
-{
-    QTest::addColumn<QVariantHash>("result");
-    QTest::addColumn<TXCheckForUpdateWidget::State>("state");
-    const auto revision = [](const QVariant &value) {
-        return QVariantHash{{QStringLiteral("Revision"), value}};
-    };
-    QTest::newRow("failure") << QVariantHash() << Dialog::ServiceError;
-    QTest::newRow("nothing usable")
-        << QVariantHash{{QStringLiteral("empty"), QStringLiteral("nodata")}} << Dialog::UpToDate;
-    QTest::newRow("no revision") << QVariantHash{{QStringLiteral("a"), 1}} << Dialog::UpToDate;
-    QTest::newRow("older") << revision(10451) << Dialog::UpToDate;
-    QTest::newRow("equal") << revision(10452) << Dialog::UpToDate;
-    QTest::newRow("newer") << revision(10453) << Dialog::UpdateAvailable;
-    QTest::newRow("newer as text") << revision(QStringLiteral("10453")) << Dialog::UpdateAvailable;
-    QTest::newRow("largest") << revision(INT_MAX) << Dialog::UpdateAvailable;
-    QTest::newRow("negative") << revision(-20000) << Dialog::UpToDate;
-    QTest::newRow("no number") << revision(QStringLiteral("newest")) << Dialog::UpToDate;
-    QTest::newRow("a list") << revision(QVariantList{99999}) << Dialog::UpToDate;
-}
-
-void TestTXCheckForUpdateWidgetStates::resultLeadsTo()
-{
-    QFETCH(QVariantHash, result);
-    QFETCH(TXCheckForUpdateWidget::State, state);
-    Dialog dialog;
-    receive(dialog, result);
-    QCOMPARE(dialog.state(), state);
-    QCOMPARE(dialog.isVisible(), state == Dialog::UpdateAvailable);
-}
-
-void TestTXCheckForUpdateWidgetStates::onlyTheReceivedSecondArgumentTellsAFailure()
-{
-    Dialog dialog;
-    dialog.updateInfoReceived(newRelease(), {});
-    QCOMPARE(dialog.state(), Dialog::ServiceError);
-    dialog.updateInfoReceived({}, newRelease());
-    QCOMPARE(dialog.state(), Dialog::UpToDate);
-}
-
-void TestTXCheckForUpdateWidgetStates::failedCheckRefreshesNothing()
-{
-    Dialog dialog;
-    QSignalSpy refreshed(&dialog, &Dialog::updateRefreshed);
-    receive(dialog, {});
-    QCOMPARE(refreshed.size(), 0);
-}
-
-void TestTXCheckForUpdateWidgetStates::refreshedTellsTheCompletedRecordAfterTheState()
-{
-    Dialog dialog;
-    QVariantHash told;
-    Dialog::State stateThen = Dialog::Checking;
-    connect(&dialog, &Dialog::updateRefreshed, &dialog, [&](const QVariantHash &info) {
-        told = info;
-        stateThen = dialog.state();
-    });
-    receive(dialog, newRelease());
-    QCOMPARE(stateThen, Dialog::UpdateAvailable);
-    QCOMPARE(told.value(QStringLiteral("Path")).toString(), installerPath());
-    QVERIFY(told.value(QStringLiteral("Url")).toString().startsWith(u"https://127.0.0.1:1/dow"));
-    receive(dialog, {{QStringLiteral("empty"), QStringLiteral("nodata")}});
-    QCOMPARE(told, QVariantHash());
-    QCOMPARE(stateThen, Dialog::UpToDate);
-}
-
 void TestTXCheckForUpdateWidgetStates::resultIsTakenInEveryState_data()
 {
     QTest::addColumn<TXCheckForUpdateWidget::State>("state");
@@ -475,134 +377,6 @@ void TestTXCheckForUpdateWidgetStates::resultIsTakenInEveryState()
     receive(dialog, newReleaseWith("Version", QStringLiteral("3.2")));
     QCOMPARE(dialog.state(), Dialog::UpdateAvailable);
     QVERIFY(part<QLabel>(dialog, "shortDescLabel")->text().startsWith(u"Patch Reader 3.2"));
-}
-
-void TestTXCheckForUpdateWidgetStates::aLaterResultReplacesTheRecord()
-{
-    Dialog dialog;
-    receive(dialog, newRelease());
-    receive(dialog, {{QStringLiteral("Revision"), 10500}});
-    QCOMPARE(part<QLabel>(dialog, "updateNameLabel")->text(), QString());
-    QCOMPARE(part<QLabel>(dialog, "descriptionLabel")->text(), QString());
-    QVERIFY(part<QPushButton>(dialog, "downloadButton")->isHidden());
-}
-
-void TestTXCheckForUpdateWidgetStates::completeFileIsReadyWithoutTheOffer()
-{
-    writeFile(installerPath(), "12345");
-    Dialog dialog;
-    QList<QPair<Dialog::State, bool>> seen;
-    connect(&dialog, &Dialog::stateChanged, &dialog, [&](Dialog::State next) {
-        seen.append({next, dialog.isVisible()});
-    });
-    receive(dialog, newRelease());
-    QCOMPARE(seen,
-             (QList<QPair<Dialog::State, bool>>{{Dialog::UpdateAvailable, false},
-                                                {Dialog::ReadyToInstall, false}}));
-    QCOMPARE(dialog.state(), Dialog::ReadyToInstall);
-    QCOMPARE(shownWidgets(dialog), QByteArray("ssshhsshh"));
-    QVERIFY(dialog.isVisible());
-    QVERIFY(QFile::exists(installerPath()));
-}
-
-void TestTXCheckForUpdateWidgetStates::fileOfAnotherSizeIsDeletedAndOffered_data()
-{
-    QTest::addColumn<QVariant>("fileSize");
-    QTest::newRow("larger") << QVariant(6);
-    QTest::newRow("smaller") << QVariant(4);
-    QTest::newRow("missing") << QVariant();
-    QTest::newRow("negative") << QVariant(-5);
-    QTest::newRow("text") << QVariant(QStringLiteral("five"));
-    QTest::newRow("beyond 32 bits") << QVariant(Q_INT64_C(4294967301));
-}
-
-void TestTXCheckForUpdateWidgetStates::fileOfAnotherSizeIsDeletedAndOffered()
-{
-    QFETCH(QVariant, fileSize);
-    writeFile(installerPath(), "12345");
-    Dialog dialog;
-    receive(dialog, newReleaseWith("Filesize", fileSize));
-    QCOMPARE(dialog.state(), Dialog::UpdateAvailable);
-    QVERIFY(!QFile::exists(installerPath()));
-    QVERIFY(dialog.isVisible());
-}
-
-void TestTXCheckForUpdateWidgetStates::emptyFileIsCompleteWithoutAFilesize()
-{
-    writeFile(installerPath(), "");
-    QVariantHash release = newRelease();
-    release.remove(QStringLiteral("Filesize"));
-    Dialog dialog;
-    receive(dialog, release);
-    QCOMPARE(dialog.state(), Dialog::ReadyToInstall);
-}
-
-void TestTXCheckForUpdateWidgetStates::unfinishedFileNeverCountsAsComplete()
-{
-    writeFile(installerPath(), "12345");
-    QVERIFY(UnfinishedDownloads::add(installerPath()));
-    Dialog dialog;
-    receive(dialog, newRelease());
-    QCOMPARE(dialog.state(), Dialog::UpdateAvailable);
-    QVERIFY(!QFile::exists(installerPath()));
-
-    // What the user puts there himself afterwards is another file.
-    writeFile(installerPath(), "12345");
-    receive(dialog, newRelease());
-    QCOMPARE(dialog.state(), Dialog::ReadyToInstall);
-}
-
-void TestTXCheckForUpdateWidgetStates::folderInTheWayIsLeftAlone()
-{
-    QVERIFY(QDir().mkpath(installerPath()));
-    Dialog dialog;
-    receive(dialog, newRelease());
-    QCOMPARE(dialog.state(), Dialog::UpdateAvailable);
-    QVERIFY(QFileInfo(installerPath()).isDir());
-    QVERIFY(dialog.isVisible());
-}
-
-void TestTXCheckForUpdateWidgetStates::recordOfWrongTypesIsTaken_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::newRow("number") << QVariant(1e300);
-    QTest::newRow("list") << QVariant(QVariantList{1, 2});
-    QTest::newRow("hash") << QVariant(QVariantHash{{QStringLiteral("a"), 1}});
-    QTest::newRow("null") << QVariant();
-    QTest::newRow("bytes") << QVariant(QByteArray("\0\xff\0", 3));
-    QTest::newRow("flag") << QVariant(true);
-    QTest::newRow("control characters") << QVariant(QString(QChar(0)) + QStringLiteral("\n\r\t"));
-}
-
-void TestTXCheckForUpdateWidgetStates::recordOfWrongTypesIsTaken()
-{
-    QFETCH(QVariant, value);
-    QVariantHash release;
-    const QVariantHash whole = newRelease();
-    for (auto entry = whole.begin(); entry != whole.end(); ++entry) {
-        release.insert(entry.key(), value);
-    }
-    release.insert(QStringLiteral("Revision"), 20000);
-    Dialog dialog;
-    receive(dialog, release);
-    QCOMPARE(dialog.state(), Dialog::UpdateAvailable);
-    QVERIFY(dialog.width() <= dialog.screen()->availableGeometry().width());
-}
-
-void TestTXCheckForUpdateWidgetStates::completeFileAsksToInstallWhenThatWasWanted()
-{
-    Dialog dialog;
-    receive(dialog, newRelease());
-    writeFile(installerPath(), "12345");
-    DialogDriver driver;
-    driver.expectMessageBox(
-        [](QMessageBox &box) { DialogDriver::click(box.button(QMessageBox::Yes)); });
-    driver.expectMessageBox([](QMessageBox &box) {
-        QVERIFY(box.text().startsWith(u"Do you want to install"));
-        DialogDriver::click(box.button(QMessageBox::No));
-    });
-    part<QPushButton>(dialog, "downloadAndInstallButton")->click();
-    QCOMPARE(dialog.state(), Dialog::ReadyToInstall);
 }
 
 void TestTXCheckForUpdateWidgetStates::checkingForgetsTheWishToInstall()
