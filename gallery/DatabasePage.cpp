@@ -13,8 +13,10 @@
 
 namespace {
 
+/// 100,000 rows: a picture with a million would take most of the time that it may.
+constexpr int kAmountOfPicture = 1;
 /// In the midst of the table.
-constexpr qulonglong kRowOfPicture = 500'000;
+constexpr qulonglong kRowOfPicture = 50'000;
 
 } // namespace
 
@@ -49,6 +51,7 @@ void DatabasePage::fillForPicture()
     serverPanel->setRunning(true);
     configuration->on_testButton_clicked();
     settingsPanel->saveSettings();
+    makingPanel->setAmount(kAmountOfPicture);
     makingPanel->make();
 }
 
@@ -60,6 +63,7 @@ void DatabasePage::retranslate()
 void DatabasePage::fillIn()
 {
     configuration->load(serverPanel->exampleSettings());
+    settingsPanel->clear();
 }
 
 void DatabasePage::tableEnded(bool isMade)

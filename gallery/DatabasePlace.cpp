@@ -2,22 +2,40 @@
 
 #include "TXDataCrypt.h"
 
+#include <QStringList>
 #include <QUuid>
 
 namespace {
 
 constexpr int kConnectTimeoutSeconds = 15;
+const QString kConnectTimeout = QStringLiteral("MYSQL_OPT_CONNECT_TIMEOUT");
 
 QString decipher(const QString &cipher)
 {
     return QString::fromUtf8(TXDataCrypt::decrypt(cipher.toUtf8(), nullptr));
 }
 
-/// The last of several values counts: the user's time-out goes before ours.
+/// By which the driver would go: of several the last one. 0 when it would wait without end.
+int connectTimeoutOf(const QString &options)
+{
+    int seconds = 0;
+    const QStringList parts = options.split(u';');
+    for (const QString &part : parts) {
+        if (part.section(u'=', 0, 0).trimmed() == kConnectTimeout && part.contains(u'=')) {
+            seconds = part.section(u'=', 1).trimmed().toInt();
+        }
+    }
+    return seconds;
+}
+
+/// The user's options and what the gallery needs behind them: the last of several values counts.
 QString completed(const QString &options)
 {
-    return QStringLiteral("MYSQL_OPT_CONNECT_TIMEOUT=%1;").arg(kConnectTimeoutSeconds) + options
-        + QStringLiteral(";MYSQL_OPT_RECONNECT=1");
+    QString all = options + QStringLiteral(";MYSQL_OPT_RECONNECT=1");
+    if (connectTimeoutOf(options) <= 0) {
+        all += QStringLiteral(";%1=%2").arg(kConnectTimeout).arg(kConnectTimeoutSeconds);
+    }
+    return all;
 }
 
 } // namespace

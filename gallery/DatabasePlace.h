@@ -23,7 +23,7 @@ struct DatabasePlace
 
     /// The server of a dictionary of TXDatabaseConfigurationWidget. A lost connection is made
     /// again, and connecting takes 15 seconds at most unless the dictionary's options tell another
-    /// limit.
+    /// limit, a number of seconds above 0.
     [[nodiscard]] static DatabasePlace onServer(const QHash<QString, QVariant> &settings);
 };
 

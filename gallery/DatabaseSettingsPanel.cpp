@@ -61,12 +61,18 @@ void DatabaseSettingsPanel::saveSettings()
     show(saved.isEmpty() ? Content::NotSaved : Content::Saved, saved);
 }
 
+void DatabaseSettingsPanel::clear()
+{
+    show(Content::Nothing, {});
+}
+
 void DatabaseSettingsPanel::retranslate()
 {
     setTitle(tr("Settings and dialog"));
     setButtonText(settingsButton, tr("S&how Settings"));
     setButtonText(saveButton, tr("Sav&e"));
     setButtonText(askButton, tr("As&k..."));
+    view->setAccessibleName(tr("Settings of the database"));
     showContent();
 }
 

@@ -29,6 +29,9 @@ public slots:
     /// tried.
     void saveSettings();
 
+    /// Shows nothing: what is shown belongs to settings that are no more.
+    void clear();
+
 protected:
     void retranslate() override;
 

@@ -88,7 +88,10 @@ void DictionaryView::addEntry(const QString &key, const QVariant &value, bool is
 void DictionaryView::retranslate()
 {
     setHeaderLabels({tr("Key"), tr("Type"), tr("Value")});
-    setAccessibleName(tr("Settings"));
+    if (accessibleName() == standardName) {
+        standardName = tr("Settings");
+        setAccessibleName(standardName);
+    }
 }
 
 void DictionaryView::fitHeight()

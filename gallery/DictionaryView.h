@@ -9,6 +9,9 @@
 
 /// Shows a settings dictionary as a host would store it: key, type and value, sorted by key. Values
 /// read as in a file of settings, the parts of a list of texts with commas between them.
+///
+/// Its accessible name is "Settings" in the user's language, until its owner gives it another one,
+/// which is the owner's to translate.
 class DictionaryView : public QTreeWidget
 {
     Q_OBJECT
@@ -32,4 +35,7 @@ private:
     void addEntry(const QString &key, const QVariant &value, bool isBold);
     void retranslate();
     void fitHeight();
+
+    // As it was set here, not by the owner.
+    QString standardName;
 };

@@ -2,12 +2,12 @@
 
 #include "LocalServer.h"
 #include "WaitCursor.h"
+#include "WheelGuard.h"
 
 #include "TXResources.h"
 #include "TXSwitchSlider.h"
 
 #include <QComboBox>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -100,7 +100,8 @@ void LocalServerPanel::addOption(QLabel *label, QWidget *option)
         parts->addWidget(label);
     }
     parts->addWidget(option);
-    option->installEventFilter(this);
+    // A turn of the wheel while scrolling past would restart the server at each step.
+    WheelGuard::protect(option);
     options->insertLayout(place, parts);
 }
 
@@ -117,17 +118,6 @@ void LocalServerPanel::setEntries(QComboBox *box, const QStringList &texts)
     for (int i = 0; i < texts.size(); ++i) {
         box->setItemText(i, texts[i]);
     }
-}
-
-bool LocalServerPanel::eventFilter(QObject *object, QEvent *event)
-{
-    if (event->type() == QEvent::Wheel) {
-        // A turn of the wheel while scrolling past must not restart the server at each step. Left
-        // to the page, which scrolls on.
-        event->ignore();
-        return true;
-    }
-    return GalleryPanel::eventFilter(object, event);
 }
 
 void LocalServerPanel::retranslate()

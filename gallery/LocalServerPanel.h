@@ -40,8 +40,8 @@ public:
     void catchUp();
 
 public slots:
-    /// Turns the switch. Blocks until the server takes connections, some tenths of a second as a
-    /// rule.
+    /// Turns the switch. Blocks until the server takes connections: some tenths of a second as a
+    /// rule, about a second for a database server, which makes its data folder first.
     void setRunning(bool isWanted);
 
     /// Starts a running server again, at another port, for options that have changed. No effect
@@ -79,9 +79,6 @@ protected:
 
     /// The texts of the entries, in the order of the box; makes the entries when there are none.
     static void setEntries(QComboBox *box, const QStringList &texts);
-
-    /// Keeps the wheel from the options.
-    bool eventFilter(QObject *object, QEvent *event) override;
 
     void retranslate() override;
 

@@ -6,9 +6,13 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kWholePercent = 100;
+/// The index takes about as long as one in so many batches.
+constexpr int kBatchesPerStepOfIndex = 5;
 
 } // namespace
 
@@ -56,6 +60,8 @@ void MeasurementMaker::run(const DatabasePlace &place, int batches)
         QSqlDatabase database = connection.database();
         if (database.open()) {
             makeTable(database, batches);
+        } else if (isCancelled) {
+            lastEnding = Ending::Cancelled;
         } else {
             reason = database.lastError().text();
         }
@@ -70,32 +76,53 @@ void MeasurementMaker::run(const DatabasePlace &place, int batches)
 
 void MeasurementMaker::makeTable(const QSqlDatabase &database, int batches)
 {
-    if (database.driverName() == QStringLiteral("QSQLITE")
-        && !execute(database, QStringLiteral("PRAGMA synchronous = OFF"))) {
+    // Not even begun: what is there stays.
+    if (isCancelled) {
+        lastEnding = Ending::Cancelled;
         return;
     }
-    for (const QString &statement : measurementBeginning()) {
+    const bool isFilled = fillTable(database, batches);
+    if (isFilled && !isCancelled) {
+        lastEnding = Ending::Made;
+    } else if (execute(database, measurementRemoval()) && isFilled) {
+        lastEnding = Ending::Cancelled;
+    }
+}
+
+/// False when the database refuses; true, with whatever is there by then, when cancelled.
+bool MeasurementMaker::fillTable(const QSqlDatabase &database, int batches)
+{
+    QStringList beginning = measurementBeginning();
+    if (database.driverName() == QStringLiteral("QSQLITE")) {
+        beginning.prepend(QStringLiteral("PRAGMA synchronous = OFF"));
+    }
+    for (const QString &statement : qAsConst(beginning)) {
         if (!execute(database, statement)) {
-            return;
+            return false;
         }
     }
+    const int steps = batches + std::max(1, batches / kBatchesPerStepOfIndex);
     for (int batch = 0; batch < batches && !isCancelled; ++batch) {
         if (!execute(database, measurementBatch(batch))) {
-            return;
+            return false;
         }
-        emit progressed(kWholePercent * (batch + 1) / batches);
+        emit progressed(kWholePercent * (batch + 1) / steps);
     }
-    const bool isWhole = !isCancelled;
-    if (execute(database, isWhole ? measurementIndex() : measurementRemoval())) {
-        lastEnding = isWhole ? Ending::Made : Ending::Cancelled;
+    if (isCancelled) {
+        return true;
     }
+    const bool isIndexed = execute(database, measurementIndex());
+    if (isIndexed) {
+        emit progressed(kWholePercent);
+    }
+    return isIndexed;
 }
 
 bool MeasurementMaker::execute(const QSqlDatabase &database, const QString &statement)
 {
     QSqlQuery query(database);
     const bool isDone = query.exec(statement);
-    if (!isDone) {
+    if (!isDone && reason.isEmpty()) {
         reason = query.lastError().text();
     }
     return isDone;

@@ -9,7 +9,6 @@
 
 #include <QComboBox>
 #include <QDir>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -45,6 +44,7 @@ MeasurementMakingPanel::MeasurementMakingPanel(TXDatabaseConfigurationWidget *co
     , cancelButton(new QPushButton(this))
     , progressBar(new QProgressBar(this))
     , endingLabel(new QLabel(this))
+    , serverLabel(new QLabel(this))
 {
     folderEdit->setReadOnly(true);
     folderLabel->setBuddy(folderEdit);
@@ -57,6 +57,8 @@ MeasurementMakingPanel::MeasurementMakingPanel(TXDatabaseConfigurationWidget *co
     progressBar->setRange(0, kWholePercent);
     endingLabel->setWordWrap(true);
     endingLabel->setTextFormat(Qt::PlainText);
+    serverLabel->setWordWrap(true);
+    serverLabel->setForegroundRole(QPalette::PlaceholderText);
     setUpLayout();
     retranslate();
     connect(browseButton, SIGNAL(clicked()), this, SLOT(browse()));
@@ -105,6 +107,12 @@ void MeasurementMakingPanel::make()
 void MeasurementMakingPanel::cancel()
 {
     maker->cancel();
+    // The button is of no use any more, but the focus stays in the panel.
+    if (cancelButton->hasFocus()) {
+        folderEdit->setFocus();
+        isFocusLent = true;
+    }
+    showState();
 }
 
 void MeasurementMakingPanel::retranslate()
@@ -119,6 +127,8 @@ void MeasurementMakingPanel::retranslate()
     setButtonText(makeButton, tr("&Make Table"));
     setButtonText(cancelButton, tr("&Cancel"));
     progressBar->setAccessibleName(tr("Progress"));
+    serverLabel->setText(tr("On a server the table \"%1\" is dropped, made anew and left there.")
+                             .arg(measurementTable()));
     showState();
 }
 
@@ -134,12 +144,17 @@ void MeasurementMakingPanel::browse()
 
 void MeasurementMakingPanel::endMaking()
 {
-    const bool hadFocus = cancelButton->hasFocus();
+    const bool isMade = maker->ending() == MeasurementMaker::Ending::Made;
+    const bool hadFocus = cancelButton->hasFocus() || (isFocusLent && folderEdit->hasFocus());
+    isFocusLent = false;
+    if (!isMade) {
+        file.reset();
+    }
     showState();
     if (hadFocus) {
         makeButton->setFocus();
     }
-    emit ended(maker->ending() == MeasurementMaker::Ending::Made);
+    emit ended(isMade);
 }
 
 /// By the settings of the moment. False when no file can be made for the internal database.
@@ -166,21 +181,20 @@ bool MeasurementMakingPanel::findPlace()
 
 void MeasurementMakingPanel::showState()
 {
-    cancelButton->setEnabled(isBusy());
-    for (QWidget *part : {static_cast<QWidget *>(makeButton), static_cast<QWidget *>(amountBox),
-                          static_cast<QWidget *>(browseButton)}) {
-        part->setEnabled(!isBusy());
-    }
+    cancelButton->setEnabled(isBusy() && !maker->isCancelling());
+    makeButton->setEnabled(!isBusy());
+    amountBox->setEnabled(!isBusy());
+    browseButton->setEnabled(!isBusy());
     endingLabel->setText(endingText());
 }
 
 QString MeasurementMakingPanel::endingText() const
 {
     if (isBusy()) {
-        return tr("Under way...");
+        return maker->isCancelling() ? tr("Cancelling...") : tr("Under way...");
     }
     if (!fileFailure.isEmpty()) {
-        return tr("There is no table: %1").arg(fileFailure);
+        return tr("No table was made: %1").arg(fileFailure);
     }
     const QLocale shown = locale();
     const double seconds = double(maker->milliseconds()) / kMillisecondsPerSecond;
@@ -188,9 +202,9 @@ QString MeasurementMakingPanel::endingText() const
     case MeasurementMaker::Ending::Made:
         return tr("Made in %1 s.").arg(shown.toString(seconds, 'f', 1));
     case MeasurementMaker::Ending::Cancelled:
-        return tr("Cancelled, there is no table.");
+        return tr("Cancelled: no table was made.");
     case MeasurementMaker::Ending::Failed:
-        return tr("There is no table: %1").arg(maker->error());
+        return tr("No table was made: %1").arg(maker->error());
     case MeasurementMaker::Ending::None:
         break;
     }
@@ -219,6 +233,7 @@ void MeasurementMakingPanel::setUpLayout()
     auto *rows = new QVBoxLayout(this);
     setGaps(rows);
     rows->addLayout(folderRow);
+    rows->addWidget(serverLabel);
     rows->addLayout(makeRow);
     rows->addWidget(endingLabel);
 }

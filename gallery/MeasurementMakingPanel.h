@@ -15,8 +15,8 @@ class QProgressBar;
 class TXDatabaseConfigurationWidget;
 
 /// Makes the table of measurements where the library's database panel tells: on the server of its
-/// settings, or in a file of SQLite for the internal database, which is removed when the next one
-/// is made and when the panel goes.
+/// settings, or in a file of SQLite for the internal database, which is removed when it does not
+/// hold a whole table, when the next one is made, and when the panel goes.
 class MeasurementMakingPanel final : public GalleryPanel
 {
     Q_OBJECT
@@ -33,14 +33,14 @@ public:
 
     [[nodiscard]] bool isBusy() const;
 
-    /// Where the table of the last run lies.
+    /// Where the table of the last run lies, if it was made.
     [[nodiscard]] DatabasePlace place() const { return currentPlace; }
 
 public slots:
     /// Makes the table. No effect while one is made.
     void make();
 
-    /// Ends the making, without a table.
+    /// Ends the making, without a table; see MeasurementMaker::cancel().
     void cancel();
 
 signals:
@@ -75,6 +75,9 @@ private:
     QPushButton *cancelButton;
     QProgressBar *progressBar;
     QLabel *endingLabel;
+    QLabel *serverLabel;
+    // From the button for cancelling, while that is of no use.
+    bool isFocusLent = false;
     std::unique_ptr<QTemporaryFile> file;
     DatabasePlace currentPlace;
     // Why there is no file for the table.

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -20,6 +21,20 @@ constexpr int kDecimals = 2;
 MeasurementColumn columnOf(int section)
 {
     return static_cast<MeasurementColumn>(section);
+}
+
+/// Short, but with seconds, which the short time of most languages leaves out: behind the minutes,
+/// with the sign that stands before those.
+QString dateText(const QDateTime &date)
+{
+    static const QRegularExpression minutes(QStringLiteral("([^\\w']*)mm"));
+    const QLocale locale;
+    QString timeFormat = locale.timeFormat(QLocale::ShortFormat);
+    if (!timeFormat.contains(u's')) {
+        timeFormat.replace(minutes, QStringLiteral("\\1mm\\1ss"));
+    }
+    return locale.toString(date.date(), QLocale::ShortFormat) + u' '
+        + locale.toString(date.time(), timeFormat);
 }
 
 } // namespace
@@ -89,26 +104,57 @@ Qt::ItemFlags MeasurementModel::flags(const QModelIndex &index) const
     return TXSqlTableModel::flags(index) & ~Qt::ItemIsEditable;
 }
 
+bool MeasurementModel::isSortable(int column)
+{
+    return columnOf(column) == MeasurementColumn::Number
+        || columnOf(column) == MeasurementColumn::DeltaE;
+}
+
+void MeasurementModel::sort(int column, Qt::SortOrder order)
+{
+    if (isSortable(column)) {
+        TXSqlTableModel::sort(column, order);
+    }
+}
+
 bool MeasurementModel::removePageRows(const QList<int> &rows)
 {
     if (!database().transaction()) {
+        setLastError(connectionError());
         return false;
     }
-    const bool isMarked =
+    const bool areMarked =
         std::all_of(rows.begin(), rows.end(), [this](int row) { return removeRow(row); });
-    const bool isDone = isMarked && submitAll() && database().commit();
-    if (!isDone) {
+    if (!areMarked || !submitAll()) {
         const QSqlError reason = lastError();
         database().rollback();
         revertAll();
         setLastError(reason);
+        return false;
     }
-    return isDone;
+    if (!database().commit()) {
+        const QSqlError reason = connectionError();
+        database().rollback();
+        // The page has been got without the rows already.
+        select();
+        setLastError(reason);
+        return false;
+    }
+    return true;
 }
 
 void MeasurementModel::retranslate()
 {
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+/// What the database has said of a transaction. Drivers say nothing when there is no connection.
+QSqlError MeasurementModel::connectionError() const
+{
+    const QSqlError told = database().lastError();
+    return told.isValid() ? told
+                          : QSqlError(tr("There is no connection to the database."), QString(),
+                                      QSqlError::ConnectionError);
 }
 
 QVariant MeasurementModel::displayed(const QModelIndex &index) const
@@ -123,8 +169,7 @@ QVariant MeasurementModel::displayed(const QModelIndex &index) const
     case MeasurementColumn::Patch:
         return value;
     case MeasurementColumn::Measured:
-        return QLocale().toString(QDateTime::fromSecsSinceEpoch(value.toLongLong(), Qt::UTC),
-                                  QLocale::ShortFormat);
+        return dateText(QDateTime::fromSecsSinceEpoch(value.toLongLong(), Qt::UTC));
     default:
         return QLocale().toString(value.toDouble(), 'f', kDecimals);
     }

@@ -21,8 +21,16 @@ public:
                                       int role = Qt::DisplayRole) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
 
+    /// Whether the database has the rows in the order of this column at hand: the number and the
+    /// difference have an index. By another column it would sort the whole table for each page,
+    /// which takes seconds with a million rows.
+    [[nodiscard]] static bool isSortable(int column);
+
+    /// Gets the page anew in another order. No effect for a column that is not sortable.
+    void sort(int column, Qt::SortOrder order) override;
+
     /// Removes these rows of the page from the database, all or none, and gets the page anew. False
-    /// when the database refuses; lastError() then tells why.
+    /// when the database refuses or cannot be reached; lastError() then tells why.
     [[nodiscard]] bool removePageRows(const QList<int> &rows);
 
     /// Shows the headers in the language of the moment.
@@ -34,6 +42,7 @@ signals:
     void selected(bool isDone, const QString &statement, qint64 milliseconds);
 
 private:
+    [[nodiscard]] QSqlError connectionError() const;
     [[nodiscard]] QVariant displayed(const QModelIndex &index) const;
     [[nodiscard]] QColor colour(int row) const;
 };

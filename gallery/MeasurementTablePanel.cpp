@@ -2,12 +2,14 @@
 
 #include "MeasurementModel.h"
 #include "MeasurementStatements.h"
+#include "WaitCursor.h"
 #include "WheelGuard.h"
 
 #include "TXDBNavWidget.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QElapsedTimer>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -17,11 +19,15 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSignalBlocker>
+#include <QSpinBox>
 #include <QSqlError>
 #include <QTableView>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -32,8 +38,8 @@ constexpr double kDeltaEStep = 0.5;
 constexpr int kViewHeight = 260;
 constexpr int kPatchWidth = 150;
 constexpr int kRowMargins = 8;
-constexpr int kStatementLines = 2;
-constexpr int kStatementMargins = 12;
+/// With a filter; one less without.
+constexpr int kStatementLines = 4;
 
 } // namespace
 
@@ -49,6 +55,7 @@ MeasurementTablePanel::MeasurementTablePanel(QWidget *parent)
     , statementLabel(new QLabel(this))
     , statementEdit(new QPlainTextEdit(this))
     , answerLabel(new QLabel(this))
+    , sortingLabel(new QLabel(this))
 {
     filterBox->setRange(0, kLargestDeltaE);
     filterBox->setSingleStep(kDeltaEStep);
@@ -59,6 +66,9 @@ MeasurementTablePanel::MeasurementTablePanel(QWidget *parent)
     }
     rowsBox->setCurrentIndex(kFirstRowsPerPage);
     setUpView();
+    setUpHeader();
+    setUpStatement();
+    guardFromWheel();
     setUpLayout();
     close();
     retranslate();
@@ -125,6 +135,7 @@ void MeasurementTablePanel::retranslate()
     setButtonText(removeButton, tr("&Remove Rows"));
     view->setAccessibleName(tr("Measurements"));
     statementLabel->setText(tr("Stateme&nt:"));
+    sortingLabel->setText(tr("A click on No. or \u0394E sorts: these columns have an index."));
     if (model) {
         model->retranslate();
     }
@@ -133,24 +144,55 @@ void MeasurementTablePanel::retranslate()
 
 void MeasurementTablePanel::filter()
 {
-    if (model) {
-        // Another filter begins at its first row.
-        navigator->setOffset(0);
-        model->setFilter(measurementFilter(filterBox->value()));
-        navigator->select();
+    if (!model) {
+        return;
     }
+    const WaitCursor cursor;
+    QElapsedTimer timer;
+    timer.start();
+    // Another filter begins at its first row.
+    navigator->setOffset(0);
+    // Selects the page and lets the navigator count, which selects once more where it has to go
+    // back to page 1.
+    model->setFilter(measurementFilter(filterBox->value()));
+    showDuration(timer);
 }
 
 void MeasurementTablePanel::setRowsPerPage()
 {
     const auto rows = rowsBox->currentData().toULongLong();
-    if (model && rows > 0) {
-        // The row at the top stays in the page.
-        navigator->setLimit(rows);
-        navigator->setOffset(navigator->offset() / rows * rows);
-        navigator->refresh();
-        navigator->select();
+    if (!model || rows == 0) {
+        return;
     }
+    const WaitCursor cursor;
+    QElapsedTimer timer;
+    timer.start();
+    // The row at the top stays in the page.
+    const qulonglong first = navigator->offset() / rows * rows;
+    navigator->setLimit(rows);
+    turnTo(first);
+    const auto *pageBox = navigator->findChild<QSpinBox *>();
+    if (pageBox && qulonglong(pageBox->value()) != first / rows + 1) {
+        // A page beyond the last one that there was before: that one is known by now.
+        turnTo(first);
+    }
+    showDuration(timer);
+}
+
+void MeasurementTablePanel::sort(int column, Qt::SortOrder order)
+{
+    if (!model) {
+        return;
+    }
+    if (!MeasurementModel::isSortable(column)) {
+        QHeaderView *header = view->horizontalHeader();
+        const QSignalBlocker blocker(header);
+        header->setSortIndicator(sortedColumn, sortOrder);
+        return;
+    }
+    sortedColumn = column;
+    sortOrder = order;
+    model->sort(column, order);
 }
 
 void MeasurementTablePanel::removeRows()
@@ -163,6 +205,9 @@ void MeasurementTablePanel::removeRows()
     for (const QModelIndex &index : selected) {
         rows.append(index.row());
     }
+    const WaitCursor cursor;
+    QElapsedTimer timer;
+    timer.start();
     const int first = *std::min_element(rows.begin(), rows.end());
     if (!model->removePageRows(rows)) {
         refusal = model->lastError().text();
@@ -171,10 +216,12 @@ void MeasurementTablePanel::removeRows()
     }
     navigator->refresh();
     view->setCurrentIndex(model->index(std::min(first, model->rowCount() - 1), 0));
+    showDuration(timer);
 }
 
 void MeasurementTablePanel::showAnswer(bool isDone, const QString &statement, qint64 milliseconds)
 {
+    isSelected = true;
     statementEdit->setPlainText(statement);
     answerMilliseconds = milliseconds;
     refusal = isDone ? QString() : model->lastError().text();
@@ -196,19 +243,52 @@ void MeasurementTablePanel::showRemovable()
 
 void MeasurementTablePanel::show(const QSqlDatabase &database)
 {
+    const WaitCursor cursor;
+    QElapsedTimer timer;
+    timer.start();
+    sortedColumn = int(MeasurementColumn::Number);
+    sortOrder = Qt::AscendingOrder;
+    // Before there is a model that would be sorted by it.
+    view->horizontalHeader()->setSortIndicator(sortedColumn, sortOrder);
     model = new MeasurementModel(database, this);
-    connect(model, SIGNAL(selected(bool, QString, qint64)), this,
-            SLOT(showAnswer(bool, QString, qint64)));
     model->limit = rowsBox->currentData().toULongLong();
     model->setFilter(measurementFilter(filterBox->value()));
-    // Before there is a model that would be sorted by it.
-    view->horizontalHeader()->setSortIndicator(int(MeasurementColumn::Number), Qt::AscendingOrder);
     view->setModel(model);
     view->setColumnWidth(int(MeasurementColumn::Patch), kPatchWidth);
+    connectModel();
+    isSelected = false;
+    navigator->setModel(model);
+    if (!isSelected) {
+        navigator->select();
+    }
+    showDuration(timer);
+}
+
+void MeasurementTablePanel::connectModel()
+{
+    connect(model, SIGNAL(selected(bool, QString, qint64)), this,
+            SLOT(showAnswer(bool, QString, qint64)));
     connect(view->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
             SLOT(showRemovable()));
-    navigator->setModel(model);
-    navigator->select();
+}
+
+/// Counts the pages and selects that of the row, once.
+void MeasurementTablePanel::turnTo(qulonglong row)
+{
+    isSelected = false;
+    navigator->setOffset(row);
+    // Selects by itself where the page has another number.
+    navigator->refresh();
+    if (!isSelected) {
+        navigator->select();
+    }
+}
+
+/// How long all of it took that a choice of the user needed, the counting too.
+void MeasurementTablePanel::showDuration(const QElapsedTimer &timer)
+{
+    answerMilliseconds = timer.elapsed();
+    showAnswerText();
 }
 
 void MeasurementTablePanel::showAnswerText()
@@ -230,12 +310,42 @@ void MeasurementTablePanel::setUpView()
     view->setTabKeyNavigation(false);
     view->verticalHeader()->hide();
     view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowMargins);
-    view->horizontalHeader()->setStretchLastSection(true);
     view->setMinimumHeight(kViewHeight);
-    view->setSortingEnabled(true);
     auto *removeKey = new QShortcut(QKeySequence(QKeySequence::Delete), view);
     removeKey->setContext(Qt::WidgetShortcut);
     connect(removeKey, SIGNAL(activated()), this, SLOT(removeRows()));
+}
+
+/// In the place of the view's own sorting, which offers every column.
+void MeasurementTablePanel::setUpHeader()
+{
+    QHeaderView *header = view->horizontalHeader();
+    header->setStretchLastSection(true);
+    header->setSectionsClickable(true);
+    header->setSortIndicatorShown(true);
+    connect(header, SIGNAL(sortIndicatorChanged(int, Qt::SortOrder)), this,
+            SLOT(sort(int, Qt::SortOrder)));
+}
+
+void MeasurementTablePanel::setUpStatement()
+{
+    statementEdit->setReadOnly(true);
+    statementEdit->setTabChangesFocus(true);
+    statementEdit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    const double margins =
+        2 * (statementEdit->document()->documentMargin() + statementEdit->frameWidth());
+    statementEdit->setFixedHeight(kStatementLines * statementEdit->fontMetrics().lineSpacing()
+                                  + int(std::ceil(margins)));
+}
+
+void MeasurementTablePanel::guardFromWheel()
+{
+    WheelGuard::protect(filterBox);
+    WheelGuard::protect(rowsBox);
+    const auto boxes = navigator->findChildren<QAbstractSpinBox *>();
+    for (QAbstractSpinBox *box : boxes) {
+        WheelGuard::protect(box);
+    }
 }
 
 void MeasurementTablePanel::setUpLayout()
@@ -243,20 +353,21 @@ void MeasurementTablePanel::setUpLayout()
     filterLabel->setBuddy(filterBox);
     rowsLabel->setBuddy(rowsBox);
     statementLabel->setBuddy(statementEdit);
-    statementEdit->setReadOnly(true);
-    statementEdit->setTabChangesFocus(true);
-    statementEdit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    statementEdit->setFixedHeight(kStatementLines * statementEdit->fontMetrics().lineSpacing()
-                                  + kStatementMargins);
-    answerLabel->setWordWrap(true);
-    answerLabel->setTextFormat(Qt::PlainText);
-    WheelGuard::protect(filterBox);
-    WheelGuard::protect(rowsBox);
-    const auto boxes = navigator->findChildren<QAbstractSpinBox *>();
-    for (QAbstractSpinBox *box : boxes) {
-        WheelGuard::protect(box);
-    }
 
+    auto *statementRow = new QHBoxLayout;
+    statementRow->addWidget(statementLabel, 0, Qt::AlignTop);
+    statementRow->addWidget(statementEdit, 1);
+
+    auto *rows = new QVBoxLayout(this);
+    setGaps(rows);
+    rows->addLayout(makeChoices());
+    rows->addWidget(view, 1);
+    rows->addLayout(statementRow);
+    rows->addLayout(makeAnswerRow());
+}
+
+QLayout *MeasurementTablePanel::makeChoices()
+{
     auto *choices = new QHBoxLayout;
     choices->addWidget(filterLabel);
     choices->addWidget(filterBox);
@@ -267,15 +378,16 @@ void MeasurementTablePanel::setUpLayout()
     choices->addWidget(navigator);
     choices->addStretch();
     choices->addWidget(removeButton);
+    return choices;
+}
 
-    auto *statementRow = new QHBoxLayout;
-    statementRow->addWidget(statementLabel, 0, Qt::AlignTop);
-    statementRow->addWidget(statementEdit, 1);
-
-    auto *rows = new QVBoxLayout(this);
-    setGaps(rows);
-    rows->addLayout(choices);
-    rows->addWidget(view, 1);
-    rows->addLayout(statementRow);
-    rows->addWidget(answerLabel);
+QLayout *MeasurementTablePanel::makeAnswerRow()
+{
+    answerLabel->setWordWrap(true);
+    answerLabel->setTextFormat(Qt::PlainText);
+    sortingLabel->setForegroundRole(QPalette::PlaceholderText);
+    auto *row = new QHBoxLayout;
+    row->addWidget(answerLabel, 1);
+    row->addWidget(sortingLabel, 0, Qt::AlignTop);
+    return row;
 }

@@ -8,13 +8,15 @@
 class MeasurementModel;
 class QComboBox;
 class QDoubleSpinBox;
+class QElapsedTimer;
 class QLabel;
 class QPlainTextEdit;
 class QTableView;
 class TXDBNavWidget;
 
 /// Pages through the table of measurements with TXDBNavWidget: with a filter, sorted by a click on
-/// a header, rows removed by a key or a button. Tells what the database was asked for each page.
+/// the header of a column that has an index, rows removed by a key or a button. Tells what the
+/// database was asked for each page, and how long all took that it was asked for.
 class MeasurementTablePanel final : public GalleryPanel
 {
     Q_OBJECT
@@ -41,6 +43,7 @@ protected:
 private slots:
     void filter();
     void setRowsPerPage();
+    void sort(int column, Qt::SortOrder order);
     void removeRows();
     void showAnswer(bool isDone, const QString &statement, qint64 milliseconds);
     void showPageNumbers(bool areSeveral);
@@ -48,9 +51,17 @@ private slots:
 
 private:
     void show(const QSqlDatabase &database);
+    void connectModel();
+    void turnTo(qulonglong row);
+    void showDuration(const QElapsedTimer &timer);
     void showAnswerText();
     void setUpView();
+    void setUpHeader();
+    void setUpStatement();
+    void guardFromWheel();
     void setUpLayout();
+    [[nodiscard]] QLayout *makeChoices();
+    [[nodiscard]] QLayout *makeAnswerRow();
 
     QLabel *filterLabel;
     QDoubleSpinBox *filterBox;
@@ -62,9 +73,14 @@ private:
     QLabel *statementLabel;
     QPlainTextEdit *statementEdit;
     QLabel *answerLabel;
+    QLabel *sortingLabel;
     std::unique_ptr<DatabaseConnection> connection;
     MeasurementModel *model = nullptr;
     // What the database has told last: how long it took, or its words when it refused.
     qint64 answerMilliseconds = -1;
     QString refusal;
+    // Since the last counting of the pages began.
+    bool isSelected = false;
+    int sortedColumn = 0;
+    Qt::SortOrder sortOrder = Qt::AscendingOrder;
 };

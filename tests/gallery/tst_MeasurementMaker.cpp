@@ -1,9 +1,11 @@
 #include "ClosedPort.h"
+#include "DatabaseConnectOptions.h"
 #include "DatabasePlace.h"
 #include "LocalMariaDbServer.h"
 #include "MeasurementMaker.h"
 #include "MeasurementModel.h"
 #include "MeasurementStatements.h"
+#include "SilentServer.h"
 #include "TestBase.h"
 
 #include "TXDataCrypt.h"
@@ -49,11 +51,18 @@ private slots:
     void nextRunReplacesTheTable();
     void cancelledRunLeavesNoTable();
     void failureIsToldInWords();
+    void failureLeavesNoPartOfATable();
+    void cancelledWhileConnectingIsCancelled();
     void makerMayGoDuringARun();
     void serverIsEnteredByTheSettings();
+    void connectingEndsAsItDoesInAConnectionTest_data();
+    void connectingEndsAsItDoesInAConnectionTest();
     void modelShowsRowsAsPeopleReadThem();
     void removalTakesTheRowsFromTheDatabase();
     void refusedRemovalTakesNone();
+    void refusedCommitTakesNone();
+    void removalWithoutAConnectionIsRefusedInWords();
+    void otherColumnsAreNotSorted();
     void filterIsMadeOfANumber();
 
 private:
@@ -95,7 +104,9 @@ void TestMeasurementMaker::tableHasItsRowsInBothDatabases()
 
     QVERIFY2(maker.ending() == Ending::Made, qPrintable(maker.error()));
     QVERIFY(maker.milliseconds() > 0);
-    QCOMPARE(progressed.count(), 3);
+    // One for each batch and one for the index.
+    QCOMPARE(progressed.count(), 4);
+    QVERIFY(progressed.at(2).first().toInt() < 100);
     QCOMPARE(progressed.last().first().toInt(), 100);
     const DatabaseConnection connection(where);
     QSqlDatabase database = connection.database();
@@ -174,6 +185,47 @@ void TestMeasurementMaker::failureIsToldInWords()
     QVERIFY(!maker.error().isEmpty());
 }
 
+void TestMeasurementMaker::failureLeavesNoPartOfATable()
+{
+    {
+        const DatabaseConnection connection(place());
+        QVERIFY(connection.database().open());
+        QSqlQuery query(connection.database());
+        QVERIFY(query.exec("CREATE TABLE other (id INTEGER)"));
+        // The name that the index is to have.
+        QVERIFY(query.exec("CREATE INDEX txgallery_delta_e ON other (id)"));
+    }
+    MeasurementMaker maker;
+
+    make(maker, place(), 1);
+
+    QVERIFY(maker.ending() == Ending::Failed);
+    QVERIFY2(maker.error().contains("already exists"), qPrintable(maker.error()));
+    const DatabaseConnection connection(place());
+    QSqlDatabase database = connection.database();
+    QVERIFY(database.open());
+    QCOMPARE(database.tables(), QStringList("other"));
+}
+
+void TestMeasurementMaker::cancelledWhileConnectingIsCancelled()
+{
+    const SilentServer silent;
+    MeasurementMaker maker;
+    QSignalSpy finished(&maker, SIGNAL(finished()));
+    maker.start({"QMYSQL", "measurements", "127.0.0.1", silent.port(), "mia", "s3cret",
+                 "MYSQL_OPT_CONNECT_TIMEOUT=1"},
+                1);
+
+    QVERIFY(!maker.isCancelling());
+    maker.cancel();
+    QVERIFY(maker.isCancelling());
+
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, kPatienceMilliseconds);
+    QVERIFY(maker.ending() == Ending::Cancelled);
+    QCOMPARE(maker.error(), QString());
+    QVERIFY(!maker.isCancelling());
+}
+
 void TestMeasurementMaker::makerMayGoDuringARun()
 {
     const QStringList before = QSqlDatabase::connectionNames();
@@ -203,14 +255,40 @@ void TestMeasurementMaker::serverIsEnteredByTheSettings()
 
     QCOMPARE(where.password, "s3cret");
     QCOMPARE(where.port, int(closedPort()));
-    // The later one of two time-outs counts.
-    QCOMPARE(where.options,
-             "MYSQL_OPT_CONNECT_TIMEOUT=15;MYSQL_OPT_CONNECT_TIMEOUT=2;MYSQL_OPT_RECONNECT=1");
+    QCOMPARE(where.options, "MYSQL_OPT_CONNECT_TIMEOUT=2;MYSQL_OPT_RECONNECT=1");
     MeasurementMaker maker;
     make(maker, where, 1);
     QVERIFY(maker.ending() == Ending::Failed);
     QVERIFY(!maker.error().isEmpty());
     QVERIFY(!maker.error().contains("s3cret"));
+}
+
+void TestMeasurementMaker::connectingEndsAsItDoesInAConnectionTest_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::newRow("none") << "";
+    QTest::newRow("another") << "CLIENT_COMPRESS";
+    QTest::newRow("two seconds") << "MYSQL_OPT_CONNECT_TIMEOUT=2";
+    QTest::newRow("no limit") << "MYSQL_OPT_CONNECT_TIMEOUT=0";
+    QTest::newRow("no limit in the end")
+        << "MYSQL_OPT_CONNECT_TIMEOUT=2;MYSQL_OPT_CONNECT_TIMEOUT=0";
+    QTest::newRow("a limit in the end")
+        << "MYSQL_OPT_CONNECT_TIMEOUT=0; MYSQL_OPT_CONNECT_TIMEOUT = 2";
+    QTest::newRow("below zero") << "MYSQL_OPT_CONNECT_TIMEOUT=-1";
+    QTest::newRow("no number") << "MYSQL_OPT_CONNECT_TIMEOUT=soon";
+    QTest::newRow("no value") << "MYSQL_OPT_CONNECT_TIMEOUT";
+    QTest::newRow("other case") << "mysql_opt_connect_timeout=2";
+}
+
+void TestMeasurementMaker::connectingEndsAsItDoesInAConnectionTest()
+{
+    QFETCH(QString, options);
+
+    const QHash<QString, QVariant> parameters = {{"Options", options}};
+    const DatabasePlace where =
+        DatabasePlace::onServer({{"Driver", "QMYSQL"}, {"Parameters", parameters}});
+
+    QCOMPARE(where.options, DatabaseConnectOptions::forTest("QMYSQL", options));
 }
 
 void TestMeasurementMaker::modelShowsRowsAsPeopleReadThem()
@@ -232,9 +310,19 @@ void TestMeasurementMaker::modelShowsRowsAsPeopleReadThem()
     QCOMPARE(model.index(0, 1).data().toString(), "Dark skin");
     QVERIFY(model.index(0, 1).data(Qt::DecorationRole).value<QColor>().isValid());
     QVERIFY(!model.index(0, 2).data(Qt::DecorationRole).isValid());
+    const QLocale before;
     // 1200 half minutes after six o'clock.
     const QDateTime date(QDate(2025, 1, 1), QTime(16, 0), Qt::UTC);
-    QCOMPARE(model.index(0, 6).data().toString(), QLocale().toString(date, QLocale::ShortFormat));
+    QCOMPARE(model.index(0, 6).data().toString(),
+             QLocale().toString(date.date(), QLocale::ShortFormat) + " 16:00:00");
+    QVERIFY(model.index(1, 6).data().toString().contains(":00:30"));
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    const QString inEnglish = model.index(1, 6).data().toString();
+    QLocale::setDefault(QLocale(QLocale::German));
+    const QString inGerman = model.index(1, 6).data().toString();
+    QLocale::setDefault(before);
+    QCOMPARE(inEnglish, "1/1/25 4:00:30 PM");
+    QCOMPARE(inGerman, "01.01.25 16:00:30");
     QCOMPARE(model.headerData(5, Qt::Horizontal).toString(), "\u0394E");
     QVERIFY(!(model.flags(model.index(0, 0)) & Qt::ItemIsEditable));
     QCOMPARE(selected.count(), 1);
@@ -282,6 +370,65 @@ void TestMeasurementMaker::refusedRemovalTakesNone()
     QVERIFY(!model.isDirty());
     QCOMPARE(answer(connection.database(), "SELECT COUNT(*) FROM " + measurementTable()).toInt(),
              kMeasurementBatchRows);
+}
+
+void TestMeasurementMaker::refusedCommitTakesNone()
+{
+    MeasurementMaker maker;
+    make(maker, place(), 1);
+    const DatabaseConnection connection(place());
+    QVERIFY(connection.database().open());
+    QSqlQuery query(connection.database());
+    QVERIFY(query.exec("PRAGMA foreign_keys = ON"));
+    QVERIFY(query.exec("CREATE TABLE notes (id INTEGER REFERENCES " + measurementTable()
+                       + " (id) DEFERRABLE INITIALLY DEFERRED)"));
+    QVERIFY(query.exec("INSERT INTO notes VALUES (1)"));
+    MeasurementModel model(connection.database());
+    model.limit = 100;
+    QVERIFY(model.select());
+
+    QVERIFY(!model.removePageRows({0, 1}));
+
+    QVERIFY2(model.lastError().text().contains("FOREIGN KEY"),
+             qPrintable(model.lastError().text()));
+    QCOMPARE(model.index(0, 0).data().toString(), "0");
+    QCOMPARE(answer(connection.database(), "SELECT COUNT(*) FROM " + measurementTable()).toInt(),
+             kMeasurementBatchRows);
+}
+
+void TestMeasurementMaker::removalWithoutAConnectionIsRefusedInWords()
+{
+    MeasurementMaker maker;
+    make(maker, place(), 1);
+    const DatabaseConnection connection(place());
+    QVERIFY(connection.database().open());
+    MeasurementModel model(connection.database());
+    model.limit = 100;
+    QVERIFY(model.select());
+    connection.database().close();
+
+    QVERIFY(!model.removePageRows({0}));
+
+    QVERIFY(!model.lastError().text().trimmed().isEmpty());
+}
+
+void TestMeasurementMaker::otherColumnsAreNotSorted()
+{
+    MeasurementMaker maker;
+    make(maker, place(), 1);
+    const DatabaseConnection connection(place());
+    QVERIFY(connection.database().open());
+    MeasurementModel model(connection.database());
+    model.limit = 100;
+    QVERIFY(model.select());
+    QSignalSpy selected(&model, SIGNAL(selected(bool, QString, qint64)));
+
+    model.sort(int(MeasurementColumn::Lightness), Qt::DescendingOrder);
+    QCOMPARE(selected.count(), 0);
+
+    model.sort(int(MeasurementColumn::Number), Qt::DescendingOrder);
+    QCOMPARE(selected.count(), 1);
+    QCOMPARE(model.index(0, 0).data().toString(), "9,999");
 }
 
 void TestMeasurementMaker::filterIsMadeOfANumber()
