@@ -17,9 +17,7 @@
 
 using UpdateDialogTools::clearDownloads;
 using UpdateDialogTools::Dialog;
-using UpdateDialogTools::newRelease;
 using UpdateDialogTools::part;
-using UpdateDialogTools::receive;
 using UpdateDialogTools::useNoService;
 
 namespace {
