@@ -213,7 +213,7 @@ void TXCheckForUpdateWidget::on_downloadAndInstallButton_clicked()
     const QString question = tr("%1 will be installed on your computer.\n"
                                 "Please make sure to have administrator rights before attempting "
                                 "the software update.")
-                                 .arg(ServiceText::line(ReleaseRecord::title(update), *this));
+                                 .arg(ServiceText::line(ReleaseRecord::title(update)));
     const QPointer<TXCheckForUpdateWidget> guard(this);
     if (PlainMessageBox::confirm(tr("Installing Update"), question) && guard) {
         installAfterDownload = true;
@@ -340,8 +340,7 @@ void TXCheckForUpdateWidget::enterUpToDate()
 {
     ui->scrollArea->hide();
     showResult({ui->okButton});
-    ui->updateNameLabel->setText(
-        ServiceText::line(tr("%1 is up to date.").arg(productName), *ui->updateNameLabel));
+    ServiceText::showLine(tr("%1 is up to date.").arg(productName), *ui->updateNameLabel);
 }
 
 void TXCheckForUpdateWidget::enterUpdateAvailable()
@@ -407,8 +406,8 @@ void TXCheckForUpdateWidget::showOffer()
         showResult({ui->cancelButton});
     }
     const QString name = update.value(ReleaseRecord::kProductNameKey).toString();
-    ui->updateNameLabel->setText(ServiceText::line(name, *ui->updateNameLabel));
-    const QString title = ServiceText::line(ReleaseRecord::title(update), *ui->shortDescLabel);
+    ServiceText::showLine(name, *ui->updateNameLabel);
+    const QString title = ServiceText::line(ReleaseRecord::title(update));
     ui->shortDescLabel->setText(tr("%1 is available.").arg(title));
     ui->shortDescLabel->show();
     ServiceText::showNotes(update.value(ReleaseRecord::kDescriptionKey).toString(),

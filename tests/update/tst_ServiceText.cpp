@@ -1,3 +1,4 @@
+#include "RichNotes.h"
 #include "ServiceText.h"
 
 #include "LocalUpdateService.h"
@@ -12,6 +13,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QTemporaryDir>
+#include <QTextDocument>
 #include <QUrl>
 
 using UpdateDialogTools::clearDownloads;
@@ -26,8 +28,9 @@ namespace {
 constexpr qsizetype kTenMegabytes = 10000000;
 constexpr QChar kEllipsis(0x2026);
 
-// Far more than it takes, and far less than the same text takes when it is not cut.
+// The last net: what is expensive is told by the kind and the length of what is shown.
 constexpr qint64 kPatienceMilliseconds = 2000;
+constexpr qsizetype kLongestPlainCharacters = 60001;
 
 QString repeated(const QString &text, qsizetype size)
 {
@@ -41,13 +44,35 @@ QImage redPicture()
     return picture;
 }
 
-QString redPictureAsUrl()
+QByteArray asPng(const QImage &picture)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    redPicture().save(&buffer, "PNG");
-    return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64());
+    picture.save(&buffer, "PNG");
+    return bytes;
+}
+
+QByteArray whitePng(int side)
+{
+    QImage picture(side, side, QImage::Format_Mono);
+    picture.fill(1);
+    return asPng(picture);
+}
+
+/// A picture within the notes.
+QString imageTag(const QByteArray &png)
+{
+    return QStringLiteral("<img src=\"data:image/png;base64,%1\">")
+        .arg(QString::fromLatin1(png.toBase64()));
+}
+
+/// Shows the notes in a label as the dialog does.
+void showNotes(const QString &notes, QLabel &label)
+{
+    label.setWordWrap(true);
+    ServiceText::prepareForNotes(label);
+    ServiceText::showNotes(notes, label);
 }
 
 /// The notes as they are painted.
@@ -112,28 +137,36 @@ protected:
     void finish() override { QApplication::setPalette(lightPalette); }
 
 private slots:
-    void shortNotesStayAsTheyAre_data();
-    void shortNotesStayAsTheyAre();
+    void ordinaryNotesStayAsTheyAre_data();
+    void ordinaryNotesStayAsTheyAre();
+    void longPlainNotesStayWhole_data();
+    void longPlainNotesStayWhole();
     void longNotesEndInAnEllipsis_data();
     void longNotesEndInAnEllipsis();
-    void languagesWithCombiningMarksAreNotCutEarly();
-    void notesAreCutOutsideOfTags_data();
-    void notesAreCutOutsideOfTags();
     void notesAreCutBesideSurrogates();
+    void laboriousNotesAreShownAsWords_data();
+    void laboriousNotesAreShownAsWords();
+    void longRichNotesLoseNoWord();
+    void wordsAreThoseOfTheNotes_data();
+    void wordsAreThoseOfTheNotes();
     void hostileNotesAreShownWithoutDelay_data();
     void hostileNotesAreShownWithoutDelay();
     void picturesFromOutsideStayEmpty_data();
     void picturesFromOutsideStayEmpty();
     void remotePicturesAreNotAskedFor();
     void picturesInTheTextAreShown();
+    void largeOrBrokenPicturesAreNotShown_data();
+    void largeOrBrokenPicturesAreNotShown();
     void inkIsDarkInEveryPalette_data();
     void inkIsDarkInEveryPalette();
     void linksAreLegibleInEveryPalette_data();
     void linksAreLegibleInEveryPalette();
     void longNotesScroll();
-    void lineThatFitsStaysAsItIs();
-    void longLineIsElided_data();
-    void longLineIsElided();
+    void lineStaysLetterForLetter_data();
+    void lineStaysLetterForLetter();
+    void longLineIsCut_data();
+    void longLineIsCut();
+    void clippedLineHasAToolTip();
     void longNamesLeaveTheDialogOnTheScreen_data();
     void longNamesLeaveTheDialogOnTheScreen();
 
@@ -141,82 +174,89 @@ private:
     QPalette lightPalette;
 };
 
-void TestServiceText::shortNotesStayAsTheyAre_data()
+void TestServiceText::ordinaryNotesStayAsTheyAre_data()
+{
+    QTest::addColumn<QString>("notes");
+    const auto row = [](const char *name, const QString &notes) {
+        QTest::newRow(name) << notes;
+    };
+    row("rich", QStringLiteral("<h1>3.1</h1><ul><li>a<li>b</ul><a href='x'>y</a><br/><hr />"));
+    row("table", QStringLiteral("<table><tr><td colspan=2 rowspan='2'>a</table>"));
+    row("six tables",
+        QStringLiteral("<table border=1><tr><td>a<td>b</tr><tr><td>c<td>d</tr></table>")
+            .repeated(6));
+    row("numbers in words",
+        QStringLiteral(
+            "<p>Size: 10240 KB, width=5000</p><a href=\"https://a.example?id=12345\">b</a>"));
+    row("styled",
+        QStringLiteral("<!DOCTYPE HTML><style>p, li { white-space: pre-wrap; }</style><p "
+                       "style=\" margin-top:12px; -qt-block-indent:0; text-indent:0px; "
+                       "color:#102030; font-family:'Sans Serif'; font-size:9.5pt\">x</p>"));
+    row("padded",
+        QStringLiteral("<table width=\"100%\" cellpadding=\"4\" style=\"margin: 0 8px; "
+                       "border: 1px solid #ccc\"><tr><td width=120>x</table>"));
+    row("200 items",
+        QStringLiteral("<ul>%1</ul>")
+            .arg(
+                QStringLiteral("<li>Reads patches faster than before, in x</li>\n").repeated(200)));
+    row("picture", imageTag(whitePng(900)));
+    QTextDocument document;
+    document.setHtml(QStringLiteral("<h2>a</h2><ul><li><b>b</b></ul><table><tr><td>c</table>"));
+    row("written by Qt", document.toHtml());
+}
+
+void TestServiceText::ordinaryNotesStayAsTheyAre()
+{
+    QFETCH(QString, notes);
+    QLabel label;
+    showNotes(notes, label);
+    QCOMPARE(label.text(), notes);
+    QCOMPARE(label.textFormat(), Qt::RichText);
+}
+
+void TestServiceText::longPlainNotesStayWhole_data()
 {
     QTest::addColumn<QString>("notes");
     QTest::newRow("empty") << QString();
-    QTest::newRow("plain") << QStringLiteral("Fixed: a < b, c & d\n\nMore.");
-    QTest::newRow("rich") << QStringLiteral("<h1>3.1</h1><ul><li>a<li>b</ul><a href='x'>y</a>");
-    QTest::newRow("table") << QStringLiteral("<table><tr><td colspan=2>a</table>");
-    QTest::newRow("numbers in words") << QStringLiteral(
-        "<p>Size: 10240 KB, width=5000</p><a href=\"https://a.example?id=12345\">b</a>");
-    QTest::newRow("styled") << QStringLiteral(
-        "<style>p, li { white-space: pre-wrap; }</style><p style=\"margin-top:12px; "
-        "font-size:9pt\"><img src=\"a.png\" width=\"640\" height=\"480\">x</p>");
-    QTest::newRow("open tag") << QStringLiteral("<p");
-    QTest::newRow("long") << repeated(QStringLiteral("Reads patches faster. "), 11000);
-    QTest::newRow("long and rich")
-        << repeated(QStringLiteral("<p>Reads <b>patches</b> faster than before, in all "
-                                   "formats.</p>"),
-                    5000);
+    QTest::newRow("angles") << QStringLiteral("Fixed: a < b, c & d\n\nMore.");
+    QTest::newRow("words") << repeated(QStringLiteral("Reads patches faster. "), 50000);
+    QTest::newRow("items") << repeated(QStringLiteral("- Reads patches faster than before, in "
+                                                      "all of the formats.\n"),
+                                       30000);
+    QTest::newRow("Hindi") << repeated(QString::fromUtf8("हिन्दी में संस्करण "), 5000);
+    QTest::newRow("Chinese") << repeated(QString::fromUtf8("更新"), 14000);
 }
 
-void TestServiceText::shortNotesStayAsTheyAre()
+void TestServiceText::longPlainNotesStayWhole()
 {
     QFETCH(QString, notes);
-    QCOMPARE(ServiceText::shortened(notes), notes);
+    QLabel label;
+    showNotes(notes, label);
+    QCOMPARE(label.text(), notes);
+    QCOMPARE(label.textFormat(), Qt::PlainText);
 }
 
 void TestServiceText::longNotesEndInAnEllipsis_data()
 {
     QTest::addColumn<QString>("piece");
-    QTest::newRow("plain") << QStringLiteral("Reads patches faster. ");
-    QTest::newRow("word") << QStringLiteral("x");
-    QTest::newRow("lines") << QStringLiteral("a\n");
-    QTest::newRow("rich") << QStringLiteral("<p>Reads <b>patches</b> faster.</p>");
+    QTest::addColumn<int>("longest");
+    QTest::newRow("plain") << QStringLiteral("Reads patches faster. ") << 60001;
+    QTest::newRow("word") << QStringLiteral("x") << 60001;
+    QTest::newRow("lines") << QStringLiteral("a\n") << 6001;
+    QTest::newRow("Chinese") << QString::fromUtf8("更新") << 15001;
+    QTest::newRow("marks") << QString(QChar(0x301)) << 400;
 }
 
 void TestServiceText::longNotesEndInAnEllipsis()
 {
     QFETCH(QString, piece);
+    QFETCH(int, longest);
     const QString notes = repeated(piece, kTenMegabytes);
     const QString shown = ServiceText::shortened(notes);
-    QVERIFY(shown.size() <= 12001);
+    QVERIFY(shown.size() <= longest);
     QVERIFY(shown.size() > 300);
     QVERIFY(shown.endsWith(kEllipsis));
     QVERIFY(notes.startsWith(shown.chopped(1)));
-}
-
-void TestServiceText::languagesWithCombiningMarksAreNotCutEarly()
-{
-    const QString hindi = repeated(QString::fromUtf8("हिन्दी में संस्करण "), 5000);
-    QCOMPARE(ServiceText::shortened(hindi), hindi);
-}
-
-void TestServiceText::notesAreCutOutsideOfTags_data()
-{
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("cut");
-    const QString text = QStringLiteral("<p>Notes</p>");
-    const QString filling(30000, u'x');
-    QTest::newRow("tag") << text << QString(QStringLiteral("<a href=\"") + filling);
-    QTest::newRow("first tag") << QString() << QString(QStringLiteral("<a href=\"") + filling);
-    QTest::newRow("six tables") << QString(text + QStringLiteral("<table>").repeated(5))
-                                << QStringLiteral("<TABLE><tr><td>x");
-    QTest::newRow("cell of many columns")
-        << QString(text + QStringLiteral("<table><tr>")) << QStringLiteral("<td colspan=100000>x");
-    QTest::newRow("cell of many rows")
-        << QString(text + QStringLiteral("<table><tr>")) << QStringLiteral("<td ROWSPAN = '999'>x");
-    QTest::newRow("cell of hidden size") << QString(text + QStringLiteral("<table><tr>"))
-                                         << QStringLiteral("<td colspan=\"&#57;99\">x");
-    QTest::newRow("entity") << QString(QString(11996, u'x')) << QString("&amp;" + filling);
-}
-
-void TestServiceText::notesAreCutOutsideOfTags()
-{
-    QFETCH(QString, before);
-    QFETCH(QString, cut);
-    QCOMPARE(ServiceText::shortened(before + cut), QString(before + kEllipsis));
 }
 
 void TestServiceText::notesAreCutBesideSurrogates()
@@ -226,7 +266,108 @@ void TestServiceText::notesAreCutBesideSurrogates()
         const QString shown = ServiceText::shortened(start + smile.repeated(20000));
         QVERIFY(shown.chopped(1).endsWith(smile));
         QVERIFY(shown.isValidUtf16());
+        const QString line = ServiceText::line(start + smile.repeated(500));
+        QVERIFY(line.chopped(1).endsWith(smile));
+        QVERIFY(line.isValidUtf16());
     }
+}
+
+void TestServiceText::laboriousNotesAreShownAsWords_data()
+{
+    QTest::addColumn<QString>("markup");
+    const auto cell = [](const char *tag) {
+        QTest::newRow(tag) << QStringLiteral("<table><tr>%1").arg(QLatin1String(tag));
+    };
+    cell("<td colspan=99999>");
+    cell("<td colspan=+99999>");
+    cell("<td colspan = \t+99999>");
+    cell("<td colspan=\" +99999\">");
+    cell("<td title=\"{}\" colspan=99999>");
+    cell("<td title=\">\" colspan=99999>");
+    cell("<td title='>' ROWSPAN = '999'>");
+    cell("<td colspan=\"&#57;99\">");
+    cell("<td \"colspan\"=99999>");
+    cell("<td col&#115;pan=99999>");
+    cell("< td colspan=99999>");
+    cell("<\"td\" colspan=99999>");
+    cell("<td title='\\'>' colspan=99999>");
+    cell("<td / title=\"><td colspan=99999>\">");
+    cell("<td width=1e9>");
+    cell("<td width=+9999>");
+    cell("<td height=\"&#57;999\">");
+    cell("<td><table><tr><td>");
+    for (const char *rules :
+         {"margin-top:10000px", "margin-top:-10000px", "margin-top:+10000px", "margin-top:1e9px",
+          "margin-top:1\\30 000px", "margin-top:1/**/0000px", "mar&#103;in-top:9px",
+          "font-size:1000pt", "font-size: 999pt", "font: bold 999px serif", "line-height: 9",
+          "font:999px/999 serif", "line-height:999"}) {
+        QTest::addRow("attribute %s", rules)
+            << QStringLiteral("<p style=\"%1\">").arg(QLatin1String(rules));
+        QTest::addRow("rule %s", rules)
+            << QStringLiteral("<style>p { %1 }</style><p>").arg(QLatin1String(rules));
+    }
+    QTest::newRow("many tags") << QStringLiteral("<b>").repeated(1001);
+    QTest::newRow("many cells") << QString("<table>" + QStringLiteral("<tr><td>").repeated(90));
+    QTest::newRow("many spans") << QString("<table><tr>"
+                                           + QStringLiteral("<td colspan=99>").repeated(2));
+    QTest::newRow("many rules") << QStringLiteral("<style>%1</style><p>")
+                                       .arg(QStringLiteral("p { color: red }").repeated(200));
+}
+
+void TestServiceText::laboriousNotesAreShownAsWords()
+{
+    QFETCH(QString, markup);
+    const QString notes = QStringLiteral("<p>Reads <b>patches</b></p>%1 &amp; more");
+    QLabel label;
+    showNotes(notes.arg(markup), label);
+    QCOMPARE(label.textFormat(), Qt::PlainText);
+    QVERIFY2(label.text().startsWith(u"Reads patches\n"), qPrintable(label.text()));
+    QVERIFY2(label.text().endsWith(u"& more"), qPrintable(label.text()));
+    QVERIFY(label.text().size() < 60);
+    showNotes(notes.arg(QStringLiteral("<p>")), label);
+    QCOMPARE(label.textFormat(), Qt::RichText);
+}
+
+void TestServiceText::longRichNotesLoseNoWord()
+{
+    QString notes = QStringLiteral("<h1>Changes</h1><ul>");
+    QString words = QStringLiteral("Changes");
+    for (int item = 0; item < 500; ++item) {
+        const QString text =
+            QStringLiteral("Item %1 reads patches faster than before, and more").arg(item);
+        notes += QStringLiteral("<li>%1</li>\n").arg(text);
+        words += u'\n' + text;
+    }
+    QVERIFY(notes.size() > 30000);
+    QLabel label;
+    showNotes(notes, label);
+    QCOMPARE(label.text(), words);
+}
+
+void TestServiceText::wordsAreThoseOfTheNotes_data()
+{
+    QTest::addColumn<QString>("notes");
+    QTest::addColumn<QString>("words");
+    const auto row = [](const char *name, const char *notes, const char *words) {
+        QTest::newRow(name) << QString::fromUtf8(notes) << QString::fromUtf8(words);
+    };
+    row("inline", "<p>a<b>b</b><i>c</i></p>", "abc");
+    row("blocks", "<p>a</p>\n<p>b<br>c</p>", "a\nb\nc");
+    row("cells", "<table><tr><td>a</td><td>b</td></tr><tr><td>c</table>", "a b \nc");
+    row("entities", "<p>&lt;b&gt; &amp; &euro; &#x41;", "<b> & € A");
+    row("style", "<style>p { color: red }</style><title>t</title><p>a", "a");
+    row("remark", "<p>a<!-- <b>x</b> -->b", "ab");
+    row("angles", "<p>a < b and c <5, d > e <z, <p>f", "a < b and c <5, d > e <z, \nf");
+    row("open quote", "<p>a</p><a href=\"x>b</a> c", "a\nb c");
+    row("open tag", "<p>a <p", "a <p");
+    row("prepared", "<pre>a\n  b</pre>", "a\n  b");
+    row("picture", "<p>a<img src=a.png>b", "ab");
+}
+
+void TestServiceText::wordsAreThoseOfTheNotes()
+{
+    QFETCH(QString, notes);
+    QTEST(RichNotes::words(notes), "words");
 }
 
 void TestServiceText::hostileNotesAreShownWithoutDelay_data()
@@ -258,8 +399,28 @@ void TestServiceText::hostileNotesAreShownWithoutDelay_data()
     QTest::newRow("style rules") << QString(
         QStringLiteral("<style>p { color: red; margin-top: 1000000px }</style>")
         + repeated(QStringLiteral("<p>x"), kTenMegabytes));
-    QTest::newRow("tables of huge cells")
-        << QStringLiteral("<table><tr><td colspan=99999>x</table>").repeated(100);
+    for (const char *tag : {"<td colspan=99999>", "<td colspan=+99999>",
+                            "<td title=\">\" colspan=99999>", "<td title=\"{}\" colspan=99999>"}) {
+        QTest::newRow(tag)
+            << QStringLiteral("<table><tr>%1x</table>").arg(QLatin1String(tag)).repeated(60);
+    }
+    row("length in a tag", QStringLiteral("width"));
+    row("open quotes", QStringLiteral("<a b=\"'"));
+    row("prepared", QStringLiteral("<pre>"));
+    row("prepared lines", QStringLiteral("<pre>x</pre>"));
+    row("spaces", QStringLiteral("<p>&nbsp;"));
+    row("empty lines", QStringLiteral("<br>"));
+    row("open remark", QStringLiteral("<!--"));
+    // What is just allowed.
+    QTest::newRow("wide cells") << QString("<table>"
+                                           + QStringLiteral("<tr><td colspan=9>").repeated(14));
+    QTest::newRow("large letters")
+        << QString("<p style='font-size:99pt'>" + QStringLiteral("x ").repeated(9000));
+    QTest::newRow("high paragraphs of three digits")
+        << QStringLiteral("<p style='margin-top:999em'>x").repeated(400);
+    QTest::newRow("large font") << QString("<font size=+999>"
+                                           + QStringLiteral("x ").repeated(9000));
+    QTest::newRow("900 items") << QString("<ul>" + QStringLiteral("<li>").repeated(900));
 }
 
 void TestServiceText::hostileNotesAreShownWithoutDelay()
@@ -274,6 +435,9 @@ void TestServiceText::hostileNotesAreShownWithoutDelay()
     const QImage picture = PixelProbe(dialog).image();
     qInfo("%lld ms", clock.elapsed());
     QVERIFY(clock.elapsed() < kPatienceMilliseconds);
+    const auto *label = part<QLabel>(dialog, "descriptionLabel");
+    const bool isRich = label->textFormat() == Qt::RichText;
+    QVERIFY(label->text().size() <= (isRich ? 20000 : kLongestPlainCharacters));
     QVERIFY(dialog.width() <= dialog.screen()->availableGeometry().width());
     QVERIFY(dialog.height() <= dialog.screen()->availableGeometry().height());
 }
@@ -307,7 +471,7 @@ void TestServiceText::picturesFromOutsideStayEmpty()
         newReleaseWith("Description",
                        QStringLiteral("<p>Faster <img src=\"%1\">and &lt;b&gt;</p>").arg(path)));
     const QString shown = part<QLabel>(dialog, "descriptionLabel")->text();
-    QVERIFY2(shown.contains(u"Faster and &lt;b&gt;"), qPrintable(shown));
+    QVERIFY2(shown.contains(u"Faster and <b>"), qPrintable(shown));
 }
 
 void TestServiceText::remotePicturesAreNotAskedFor()
@@ -327,9 +491,31 @@ void TestServiceText::remotePicturesAreNotAskedFor()
 void TestServiceText::picturesInTheTextAreShown()
 {
     Dialog dialog;
-    const QString notes = QStringLiteral("<img src=\"%1\">").arg(redPictureAsUrl());
-    receive(dialog, newReleaseWith("Description", notes));
+    receive(dialog, newReleaseWith("Description", imageTag(asPng(redPicture()))));
     QVERIFY(hasRed(paintedNotes(dialog)));
+}
+
+void TestServiceText::largeOrBrokenPicturesAreNotShown_data()
+{
+    QTest::addColumn<QString>("picture");
+    QTest::newRow("huge") << imageTag(whitePng(5600));
+    QTest::newRow("large together") << imageTag(whitePng(900)).repeated(2);
+    QByteArray broken = whitePng(900);
+    // Within the picture's compressed data.
+    broken.truncate(broken.size() / 2);
+    QTest::newRow("broken") << imageTag(broken);
+    QTest::newRow("no picture") << imageTag(QByteArray("x"));
+    QTest::newRow("percent") << QStringLiteral("<img src=\"data:image/png;base64,%41\">");
+    QTest::newRow("vector") << QStringLiteral("<img src=\"data:image/svg+xml,<svg/>\">");
+}
+
+void TestServiceText::largeOrBrokenPicturesAreNotShown()
+{
+    QFETCH(QString, picture);
+    QLabel label;
+    showNotes(QStringLiteral("<p>a</p>") + picture, label);
+    QCOMPARE(label.textFormat(), Qt::PlainText);
+    QCOMPARE(label.text(), "a");
 }
 
 void TestServiceText::inkIsDarkInEveryPalette_data()
@@ -402,33 +588,50 @@ void TestServiceText::longNotesScroll()
     QCOMPARE(dialog.height(), 324);
 }
 
-void TestServiceText::lineThatFitsStaysAsItIs()
+void TestServiceText::lineStaysLetterForLetter_data()
 {
-    const QLabel place;
-    const QString text = QStringLiteral("  Patch  Reader <b>3</b> & more ");
-    QCOMPARE(ServiceText::line(text, place), text);
-    QCOMPARE(ServiceText::line(QString(), place), QString());
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("markup") << QStringLiteral("  Patch  Reader <b>3</b> & more ");
+    QTest::newRow("wider than the screen") << QString(500, u'W');
 }
 
-void TestServiceText::longLineIsElided_data()
+void TestServiceText::lineStaysLetterForLetter()
+{
+    QFETCH(QString, text);
+    QCOMPARE(ServiceText::line(text), text);
+    Dialog dialog;
+    receive(dialog, newReleaseWith("ProductName", text));
+    QCOMPARE(part<QLabel>(dialog, "updateNameLabel")->text(), text);
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(dialog.width() <= dialog.screen()->availableGeometry().width());
+}
+
+void TestServiceText::longLineIsCut_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("words") << repeated(QStringLiteral("Patch Reader "), kTenMegabytes);
     QTest::newRow("word") << QString(kTenMegabytes, u'x');
     QTest::newRow("lines") << repeated(QStringLiteral("a\n"), kTenMegabytes);
-    QTest::newRow("narrow letters") << QString(501, u'i');
+    QTest::newRow("one too many") << QString(501, u'i');
 }
 
-void TestServiceText::longLineIsElided()
+void TestServiceText::longLineIsCut()
 {
     QFETCH(QString, text);
-    const QLabel place;
-    const QString line = ServiceText::line(text, place);
-    QVERIFY(line.endsWith(kEllipsis));
-    QVERIFY(line.size() > 20);
-    QVERIFY(!line.contains(u'\n'));
-    QVERIFY(place.fontMetrics().horizontalAdvance(line)
-            <= place.screen()->availableGeometry().width());
+    const QString start = QString(text).left(500).replace(u'\n', u' ');
+    QCOMPARE(ServiceText::line(text), QString(start + kEllipsis));
+}
+
+void TestServiceText::clippedLineHasAToolTip()
+{
+    QLabel label;
+    const QString name = QStringLiteral("Tovra Patch Reader <b>3</b>");
+    ServiceText::showLine(name.repeated(10), label);
+    QVERIFY(label.toolTip().contains(u"&lt;b&gt;"));
+    ServiceText::showLine(name, label);
+    QCOMPARE(label.toolTip(), QString());
+    QVERIFY(label.minimumWidth() >= label.fontMetrics().horizontalAdvance(name));
 }
 
 void TestServiceText::longNamesLeaveTheDialogOnTheScreen_data()
