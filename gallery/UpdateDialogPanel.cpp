@@ -86,6 +86,7 @@ void UpdateDialogPanel::retranslate()
     setTitle(tr("Update dialog"));
     setButtonText(checkButton, tr("Check for &Updates"));
     setButtonText(folderButton, tr("Show in F&older"));
+    view->setAccessibleName(tr("Release"));
     explanation->setText(
         tr("\"Download and Install\" writes the file to \"%1\", which a check makes where it is "
            "missing, \"Download\" to the folder that you choose. The file is a harmless text. "
