@@ -23,14 +23,13 @@ QSqlDatabase measurements()
         QSqlDatabase added = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
         added.setDatabaseName(QStringLiteral(":memory:"));
         added.open();
-        QSqlQuery(QStringLiteral("CREATE TABLE measurements (id INTEGER PRIMARY KEY, name TEXT, "
-                                 "lightness REAL)"),
-                  added);
-        QSqlQuery(QStringLiteral("INSERT INTO measurements WITH RECURSIVE numbers(n) AS (SELECT 1 "
-                                 "UNION ALL SELECT n + 1 FROM numbers WHERE n < %1) "
-                                 "SELECT n, 'sample ' || n, n % 1000 / 10.0 FROM numbers")
-                      .arg(kRows),
-                  added);
+        QSqlQuery query(added);
+        query.exec(QStringLiteral("CREATE TABLE measurements (id INTEGER PRIMARY KEY, name TEXT, "
+                                  "lightness REAL)"));
+        query.exec(QStringLiteral("INSERT INTO measurements WITH RECURSIVE numbers(n) AS (SELECT 1 "
+                                  "UNION ALL SELECT n + 1 FROM numbers WHERE n < %1) "
+                                  "SELECT n, 'sample ' || n, n % 1000 / 10.0 FROM numbers")
+                       .arg(kRows));
         return added;
     }();
     return database;

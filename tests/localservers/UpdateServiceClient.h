@@ -16,7 +16,7 @@ namespace UpdateServiceClient {
 using ReplyPointer = std::unique_ptr<QNetworkReply>;
 
 constexpr int kPatienceMilliseconds = 20000;
-constexpr qint64 kMegabyte = 1024 * 1024;
+constexpr qint64 kMegabyte = qint64(1024) * 1024;
 
 /// A service's reply with this body.
 inline LocalWebReply replyWith(const QByteArray &body)

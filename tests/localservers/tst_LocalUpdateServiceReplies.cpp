@@ -316,7 +316,7 @@ void TestLocalUpdateServiceReplies::piecesComeOneByOne()
     QVERIFY(finishes(reply.get()));
     QCOMPARE(reply->readAll(), QByteArray("abcdefgh"));
     // Three pieces with two pauses between them; a busy machine may hand over two at once.
-    QVERIFY(clock.elapsed() >= 2 * kPauseMilliseconds);
+    QVERIFY(clock.elapsed() >= 2LL * kPauseMilliseconds);
     QVERIFY(arrived.count() <= 3);
 }
 
@@ -422,8 +422,10 @@ void TestLocalUpdateServiceReplies::manyTransfersRunAtOnce()
     given.holdAfter = 10;
     service.setDownloadReply(given);
     // A manager takes six connections to a host at most.
+    constexpr int kTransfers = 6;
     std::vector<ReplyPointer> replies;
-    for (int number = 0; number < 6; ++number) {
+    replies.reserve(kTransfers);
+    for (int number = 0; number < kTransfers; ++number) {
         replies.push_back(exchange.get("/download?" + QByteArray::number(number)));
     }
 

@@ -31,19 +31,19 @@ const char *const kErrorText = "Impossible to connect to the Check for Updates s
 /// it was; then the page and whether the dialog is shown.
 struct Look
 {
-    Dialog::State state;
     const char *widgets;
     const char *page;
+    Dialog::State state;
     bool isShown;
 };
 
-const Look kLooks[] = {{Dialog::Checking, ".........", "CheckUpdatePage", false},
-                       {Dialog::UpToDate, "..hhhhhsh", "UpdateFoundPage", false},
-                       {Dialog::UpdateAvailable, ".sssshshh", "UpdateFoundPage", true},
-                       {Dialog::DownloadStarting, "...hhhhhs", "UpdateFoundPage", false},
-                       {Dialog::Downloading, "...hhhhhs", "UpdateFoundPage", true},
-                       {Dialog::ReadyToInstall, "...hhsshh", "UpdateFoundPage", true},
-                       {Dialog::ServiceError, "h.hhhhhhh", "UpdateFoundPage", false}};
+const Look kLooks[] = {{".........", "CheckUpdatePage", Dialog::Checking, false},
+                       {"..hhhhhsh", "UpdateFoundPage", Dialog::UpToDate, false},
+                       {".sssshshh", "UpdateFoundPage", Dialog::UpdateAvailable, true},
+                       {"...hhhhhs", "UpdateFoundPage", Dialog::DownloadStarting, false},
+                       {"...hhhhhs", "UpdateFoundPage", Dialog::Downloading, true},
+                       {"...hhsshh", "UpdateFoundPage", Dialog::ReadyToInstall, true},
+                       {"h.hhhhhhh", "UpdateFoundPage", Dialog::ServiceError, false}};
 
 QString nameOf(Dialog::State state)
 {
