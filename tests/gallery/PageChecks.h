@@ -41,6 +41,29 @@ Control *controlOf(const QWidget &page, const QString &accessibleName)
     return nullptr;
 }
 
+/// The label of this text, written without "&", or null.
+inline QLabel *labelOf(const QWidget &page, const QString &text)
+{
+    const auto labels = page.findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->text().remove(QLatin1Char('&')) == text) {
+            return label;
+        }
+    }
+    return nullptr;
+}
+
+/// The texts of all labels, a line for each.
+inline QString allTexts(const QWidget &page)
+{
+    QStringList texts;
+    const auto labels = page.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        texts.append(label->text());
+    }
+    return texts.join(QLatin1Char('\n'));
+}
+
 /// Whether the user can read this text in a label of the page.
 inline bool isRead(const QWidget &page, const QString &text)
 {

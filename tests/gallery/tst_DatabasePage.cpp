@@ -22,7 +22,6 @@
 #include <QTemporaryDir>
 #include <QWheelEvent>
 
-#include <algorithm>
 #include <memory>
 
 namespace {
@@ -75,11 +74,7 @@ private:
     }
     [[nodiscard]] QComboBox &rowsBox() const
     {
-        const auto boxes = page->findChildren<QComboBox *>();
-        const auto found = std::find_if(boxes.begin(), boxes.end(), [](const QComboBox *box) {
-            return box->findText("500") >= 0;
-        });
-        return **found;
+        return *qobject_cast<QComboBox *>(labelOf(*page, "Rows per page:")->buddy());
     }
     void clickOnHeader(int column)
     {
@@ -91,15 +86,6 @@ private:
     [[nodiscard]] QString cell(int row, int column) const
     {
         return table().model()->index(row, column).data().toString();
-    }
-    [[nodiscard]] QString allTexts() const
-    {
-        QStringList texts;
-        const auto labels = page->findChildren<QLabel *>();
-        for (const QLabel *label : labels) {
-            texts.append(label->text());
-        }
-        return texts.join('\n');
     }
 
     std::unique_ptr<DatabasePage> page;
@@ -129,7 +115,7 @@ void TestDatabasePage::make(int amount)
     making->setAmount(amount);
     DialogDriver::click(buttonOf(*page, "Make Table"));
     QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, kPatienceMilliseconds);
-    QVERIFY2(ended.first().first().toBool(), qPrintable(allTexts()));
+    QVERIFY2(ended.first().first().toBool(), qPrintable(allTexts(*page)));
     QVERIFY(table().model());
 }
 
@@ -228,7 +214,7 @@ void TestDatabasePage::folderThatCannotBeWrittenIsTold()
 
     QCOMPARE(ended.count(), 1);
     QVERIFY(!ended.first().first().toBool());
-    QVERIFY(allTexts().contains("No table was made: "));
+    QVERIFY(allTexts(*page).contains("No table was made: "));
 }
 
 void TestDatabasePage::wheelChangesNothing()
