@@ -1,15 +1,18 @@
 #include "GalleryPages.h"
 
 #include "AccessPage.h"
+#include "ColourDifferencePage.h"
 #include "ControlsPage.h"
 #include "DatabasePage.h"
 #include "ErrorsPage.h"
 #include "FtpPage.h"
+#include "ImagesPage.h"
 #include "LogPage.h"
 #include "MailPage.h"
 #include "PagesPage.h"
 #include "ReportPage.h"
 #include "UpdatePage.h"
+#include "VariantPage.h"
 
 #include <QCoreApplication>
 
@@ -41,6 +44,10 @@ const QList<GalleryPageEntry> &galleryPages()
         {"database", QT_TRANSLATE_NOOP("GalleryPages", "Database"), make<DatabasePage>},
         {"update", QT_TRANSLATE_NOOP("GalleryPages", "Update"), make<UpdatePage>},
         {"report", QT_TRANSLATE_NOOP("GalleryPages", "Report"), make<ReportPage>},
+        {"variant", QT_TRANSLATE_NOOP("GalleryPages", "Variant"), make<VariantPage>},
+        {"images", QT_TRANSLATE_NOOP("GalleryPages", "Images"), make<ImagesPage>},
+        {"difference", QT_TRANSLATE_NOOP("GalleryPages", "Colour difference"),
+         make<ColourDifferencePage>},
     };
     return pages;
 }

@@ -1,7 +1,8 @@
 #include "TXSwitchSlider.h"
 
+#include "FocusFrame.h"
+
 #include <QMouseEvent>
-#include <QStyleOptionFocusRect>
 #include <QStyleOptionSlider>
 #include <QStylePainter>
 
@@ -72,11 +73,7 @@ void TXSwitchSlider::paintEvent(QPaintEvent *)
     // The style sheet has one look for all states.
     painter.setOpacity(isEnabled() ? 1.0 : kDisabledOpacity);
     painter.drawComplexControl(QStyle::CC_Slider, slider);
-    if (hasFocus() && slider.state.testFlag(QStyle::State_KeyboardFocusChange)) {
-        QStyleOptionFocusRect frame;
-        frame.initFrom(this);
-        painter.drawPrimitive(QStyle::PE_FrameFocusRect, frame);
-    }
+    FocusFrame::paint(painter, *this, rect());
 }
 
 void TXSwitchSlider::resizeEvent(QResizeEvent *event)

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+class QPainter;
+class QRect;
+class QWidget;
+
+/// The frame that shows a keyboard user where the focus is, on widgets that paint themselves.
+///
+/// Thread: the GUI thread.
+namespace FocusFrame {
+
+/// True when the widget has the focus and the keyboard is what the user works with; after a click
+/// no frame is wanted.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT bool isWanted(const QWidget &widget);
+
+/// Draws the frame of the widget's style around the area when it is wanted. The painter may be
+/// scaled or clipped; it is left as it was.
+TXGUICOMMON_PRIVATE_EXPORT void paint(QPainter &painter, const QWidget &widget, const QRect &area);
+
+} // namespace FocusFrame

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+#include <QLabel>
+
+/// A label for a picture that keeps its proportions at any size of the label: the margins around
+/// the contents take up what is too wide or too high.
+///
+/// Call setScaledContents(true) for a picture that grows and shrinks with the label; it is off at
+/// first, as in QLabel. To zoom and compare pictures take TXImageViewer.
+///
+/// Thread: the GUI thread.
+class TXGUICOMMON_EXPORT TXAspectRatioPixmapLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// A label without a picture.
+    explicit TXAspectRatioPixmapLabel(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
+
+    /// Shows the picture; a null pixmap clears the label and keeps the margins. Hides the function
+    /// of QLabel, which is not virtual: called through that one, the margins follow the picture
+    /// before.
+    void setPixmap(const QPixmap &pixmap);
+
+    /// Sets the margins for the present size. Nothing without a picture or without a size.
+    void updateMargins();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    int pixmapWidth = 0;
+    int pixmapHeight = 0;
+};

@@ -1,0 +1,134 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+#include <QList>
+#include <QPixmap>
+#include <QPoint>
+#include <QPointF>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+/// Compares pictures of one size side by side: each has a zone of its own, from left to right, and
+/// all show the same part at the same scale.
+///
+///     viewer->setPixmaps({original, print});
+///     viewer->setMouseMarker(crosshair, QPoint(-1, -1));
+///     connect(viewer, &TXImageViewer::hover, this, &Window::showColourUnderMouse);
+///
+/// Dragging with any button moves the pictures, the wheel zooms by two. The keys: arrows move by a
+/// tenth of a zone, with Control by a pixel; + and - zoom; 0 and Home fit; 1 shows a pixel of the
+/// picture as one of the screen. They do what the same functions do, so that each tells
+/// scaleChanged().
+///
+/// Sizes and places are device-independent pixels. "Picture pixels" count from the top left of the
+/// first picture, by whose size all are laid out; pictures of other sizes start at the same place
+/// and may be cut off.
+///
+/// To show one picture in a form, a QLabel or TXAspectRatioPixmapLabel will do; for scenes of many
+/// things take a QGraphicsView.
+///
+/// Thread: the GUI thread.
+class TXGUICOMMON_EXPORT TXImageViewer : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Scales that follow from the sizes of the viewer and the first picture.
+    enum Scaling {
+        /// The whole first picture fits into its zone.
+        ScaleFit,
+        /// The part of the viewer's width that a zone has: 0.5 with two pictures.
+        ScaleShare,
+        /// 1.0.
+        ScaleNatural,
+    };
+    Q_ENUM(Scaling)
+
+    /// What a factor is to be.
+    enum Relation {
+        /// The new scale itself.
+        Absolute,
+        /// Multiplied with the present scale.
+        Relative,
+    };
+    Q_ENUM(Relation)
+
+    /// What a host paints over each zone: painter, number of the zone, whether the painter stands
+    /// in picture pixels (true) or in the viewer's (false), the place of the picture's top left
+    /// corner in the viewer, and the scale. Called twice a zone at each paint, clipped to the zone.
+    /// It may leave the painter in any state but must not end it.
+    using Overlay = std::function<void(QPainter *, int, bool, QPointF, double)>;
+
+    /// A viewer without pictures.
+    explicit TXImageViewer(QWidget *parent = nullptr);
+    ~TXImageViewer() override;
+
+    /// The pictures, one a zone; empty at first.
+    [[nodiscard]] QList<QPixmap> pixmaps() const;
+    /// Shows one picture; see setPixmaps().
+    void setPixmap(const QPixmap &pixmap);
+    /// Shows pictures in their order. The first ones of a viewer are fitted; later ones keep scale
+    /// and position, unless the last scaling was ScaleFit or ScaleShare, which is then done again.
+    void setPixmaps(const QList<QPixmap> &pixmaps);
+
+    /// Viewer pixels by picture pixel; -1 before the first picture.
+    [[nodiscard]] double scale() const;
+    /// Sets the scale, held to the limits. Emits scaleChanged(), also when it stays the same.
+    void scale(double factor, Relation relation);
+    /// Sets the scale of scaleHint(), for which the limits give way. ScaleFit and ScaleShare hold
+    /// when the size or the pictures change, until another scale is set by a function; the wheel
+    /// does not end them. Emits scaleChanged().
+    void scale(Scaling scaling);
+    /// The scale that this scaling comes to now.
+    [[nodiscard]] double scaleHint(Scaling scaling);
+    /// The limits, in any order; 1/128 and 16 at first. A scale outside moves to the nearer limit,
+    /// with scaleChanged(). A negative limit turns zooming by the wheel off. A limit that is not a
+    /// number leaves both as they are.
+    void setScaleLimits(double a, double b);
+
+    /// How far the picture's centre stands from that of its zone, in picture pixels.
+    [[nodiscard]] QPointF position() const;
+    /// Moves the pictures. A position that would leave a gap beside a picture, or move one that is
+    /// smaller than its zone, is brought back when the viewer paints.
+    void setPosition(QPointF position);
+
+    /// A small picture that is drawn in all zones at once where the mouse is in one of them, with
+    /// its hot spot there. A negative coordinate of the hot spot means the middle. A null pixmap
+    /// takes the marker away.
+    void setMouseMarker(QPixmap marker, QPoint hotSpot);
+
+    /// Sets what is painted over the zones; an empty function takes it away.
+    void setOverlay(Overlay overlay);
+
+signals:
+    /// The mouse was moved, pressed or released over the viewer, or has left it. `localPos` is in
+    /// viewer pixels, `zoneIndex` -1 outside of all zones, `pixmapCoord` in picture pixels. The
+    /// last row and column of a picture count as outside. On leaving: (0, 0), no button, not
+    /// inside, zone -1.
+    void hover(const QPointF &localPos, Qt::MouseButton button, Qt::MouseButtons buttons,
+               Qt::KeyboardModifiers modifiers, bool isInside, int zoneIndex, QPoint pixmapCoord);
+
+    /// The scale was set, by a function, the wheel, a key or a change of size; not always to
+    /// another one.
+    void scaleChanged(float scale);
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    struct View;
+
+    void emitHover(const QMouseEvent &event);
+    void drawZone(QPainter &painter, int index);
+
+    std::unique_ptr<View> view;
+};

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+#include <QList>
+#include <QVariant>
+#include <QWidget>
+
+class QLabel;
+
+/// Shows any value that a QVariant holds, lists and dictionaries within one another too, as one
+/// line of coloured text, which the user folds open level by level.
+///
+///     auto *viewer = new TXVariantViewer(this);
+///     viewer->setValue(TXJSONSerializer::deserialize(reply));
+///
+/// It is a widget of widgets: each level that is open holds a key and a viewer for each of its
+/// entries. For a table of values, or a tree of many thousand rows, take an item view.
+///
+/// A click on a closed viewer opens it, a click on its left margin closes it. The keyboard moves
+/// from viewer to viewer: Up and Down, Home and End; Right and Left go in and out, opening and
+/// closing; Space and Return open and close; the keys for "copy" and for the context menu act on
+/// the viewer that has the focus. A whole tree of viewers is one stop of the Tab key.
+///
+/// The colours of the text are made for light backgrounds; in a dark application give the viewer,
+/// or the scroll area around it, a light palette.
+///
+/// Thread: the GUI thread.
+class TXGUICOMMON_EXPORT TXVariantViewer : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(bool expandable READ isExpandable)
+    Q_PROPERTY(bool hoverEffects READ hoverEffects WRITE setHoverEffects)
+    Q_PROPERTY(bool expanded READ isExpanded WRITE setExpanded)
+    Q_PROPERTY(bool preview READ hasPreview WRITE setPreview)
+
+public:
+    /// Entries of a level that are made at once. The others follow by a button below the last one.
+    static constexpr int kEntriesAtOnce = 5000;
+
+    /// A closed viewer with the invalid value, which it shows as "null".
+    explicit TXVariantViewer(QWidget *parent = nullptr);
+    ~TXVariantViewer() override;
+
+    /// The text of a value as HTML, as the viewer shows it within its span of monospaced text.
+    /// Without `preview` the text of a list or a dictionary is empty. Costs time in proportion to
+    /// the text, at any depth.
+    static QString variantToHtml(QVariant value, bool preview);
+
+    /// True when this viewer, the root of its tree, lights the viewer under the mouse, in whose
+    /// place the root's flag stands for the others; false at first.
+    [[nodiscard]] Q_INVOKABLE bool hoverEffects() const;
+
+    /// True for lists and dictionaries that hold something.
+    [[nodiscard]] Q_INVOKABLE bool isExpandable() const;
+
+    /// True while the entries show in place of the line of text.
+    [[nodiscard]] Q_INVOKABLE bool isExpanded() const;
+
+    /// Opens or closes; see expand() and collapse().
+    Q_INVOKABLE void setExpanded(bool expanded);
+
+    /// Shows a row for each entry in place of the line of text: dictionaries in the order of their
+    /// keys. Rows that are there already are made anew. Nothing when there is nothing to expand.
+    /// Emits resized().
+    Q_INVOKABLE void expand();
+
+    /// Shows the line of text in place of the entries; what was open among them is forgotten.
+    /// Nothing when there is nothing to expand. Emits resized().
+    Q_INVOKABLE void collapse();
+
+    /// Whether lists and dictionaries show what they hold in their line of text; true at first.
+    [[nodiscard]] Q_INVOKABLE bool hasPreview() const;
+
+    /// Stored for the next setValue(); what is shown stays as it is. Viewers of the entries take it
+    /// over when they are made.
+    Q_INVOKABLE void setPreview(bool preview);
+
+    /// Lights this viewer when the root has hover effects.
+    void hover();
+    /// Gives the viewer the palette of its parent again.
+    void unhover();
+    /// The mouse is over a viewer within this one: the light goes there.
+    void childEntered();
+    /// The mouse is over this viewer itself again.
+    void childLeaved();
+
+    /// Paints the fold box and, when open, the bracket beside the entries, in the size of the font.
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    /// Offers to copy the value: lists, dictionaries, true, false and null as JSON, all else as its
+    /// text.
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+signals:
+    /// The room that the viewer wants may have changed: after setValue(), expand() and collapse(),
+    /// here and in the viewers within.
+    void resized();
+
+public slots:
+    /// Shows the value, closed. Emits resized(), and when the viewer was open once more before.
+    void setValue(QVariant value);
+
+    /// Sets the flag that counts on the root of a tree of viewers only. False gives the viewer the
+    /// palette of its parent again.
+    void setHoverEffects(bool enabled = true);
+
+private:
+    void addMapEntries();
+    void addListEntries();
+    [[nodiscard]] TXVariantViewer *makeChildViewer(const QVariant &childValue);
+    void removeEntries();
+    void setLeftMargin(int pixels);
+    void takeParentPalette();
+    [[nodiscard]] TXVariantViewer *parentViewer() const;
+
+    QVariant value;
+    QLabel *label;
+    QList<QWidget *> childWidgets;
+    bool expanded = false;
+    bool hoverEffectsWanted = false;
+    bool preview = true;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+#include <QString>
+
+class QVariant;
+
+/// What a user can take out of a viewer of a value.
+///
+/// Thread: the GUI thread.
+namespace VariantCopyAction {
+
+/// What the action is called for this value, in the language of the moment.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString text(const QVariant &value);
+
+/// Puts the value on the clipboard as text. What JSON cannot hold leaves the clipboard as it is;
+/// then the result is false.
+TXGUICOMMON_PRIVATE_EXPORT bool copy(const QVariant &value);
+
+} // namespace VariantCopyAction

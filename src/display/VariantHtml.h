@@ -1,0 +1,22 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+#include <QString>
+
+class QVariant;
+
+/// Values as coloured text in HTML.
+///
+/// Thread: any.
+namespace VariantHtml {
+
+/// The text of the value, with what it holds when it is a list or a dictionary, unless `preview` is
+/// false. One buffer, time in proportion to the text; the depth costs no stack.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString fromVariant(const QVariant &value, bool preview);
+
+/// Puts a text between the tags that make it monospaced: the line of a viewer, or a key.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString line(const QString &html);
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString key(const QString &key);
+
+} // namespace VariantHtml
