@@ -1,30 +1,13 @@
 #include "TXImageViewer.h"
 
-#include <QCursor>
+#include "ImageView.h"
+
 #include <QMouseEvent>
-#include <QPainter>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-
-/// What the viewer knows of its pictures and where they stand.
-struct TXImageViewer::View
-{
-    QList<QPixmap> pixmaps;
-    QRectF imageRect;
-    QPointF lastMousePos;
-    QPointF position;
-    double scale = -1.0;
-    double minScale = 0.0078125;
-    double maxScale = 16.0;
-    bool dragging = false;
-    QPixmap mouseMarker;
-    QPoint mouseMarkerHotSpot;
-    Overlay overlay;
-    int scalingMode = 0;
-};
 
 TXImageViewer::TXImageViewer(QWidget *parent)
     : QWidget(parent)
@@ -177,25 +160,4 @@ void TXImageViewer::emitHover(const QMouseEvent &event)
 {
     emit hover(event.position(), event.button(), event.buttons(), event.modifiers(), false, -1,
                QPoint());
-}
-
-void TXImageViewer::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, view->scale < 1.0);
-    for (int i = 0; i < view->pixmaps.size(); ++i) {
-        drawZone(painter, i);
-    }
-}
-
-void TXImageViewer::drawZone(QPainter &painter, int index)
-{
-    const double zoneWidth = double(width()) / double(view->pixmaps.size());
-    const QRectF zone(index * zoneWidth, 0.0, zoneWidth, height());
-    painter.setClipRect(zone, Qt::ReplaceClip);
-    painter.translate(zone.center());
-    painter.scale(view->scale, view->scale);
-    painter.translate(view->position + view->imageRect.topLeft());
-    painter.drawPixmap(QPointF(), view->pixmaps[index]);
-    painter.resetTransform();
 }
