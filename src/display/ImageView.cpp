@@ -7,24 +7,32 @@
 
 namespace {
 
-/// Where a number is expected to be found among evenly spaced ones, and its neighbours, as the
-/// division may fall to either side of a border.
+/// The first and the last zone that are worth a look.
 struct Candidates
 {
     int first = 0;
     int last = -1;
 };
 
+/// The zone that the division gives and its neighbours, as the quotient may fall to either side of
+/// a border.
 Candidates zonesNear(double x, double zoneWidth, qsizetype zones)
 {
     const int middle = WholeNumber::truncated(std::clamp(x / zoneWidth, 0.0, double(zones)));
     return {std::max(middle - 1, 0), std::min(middle + 1, int(zones) - 1)};
 }
 
-/// Toward the present one where the wanted number is none.
 double numberOr(double wanted, double present)
 {
     return std::isnan(wanted) ? present : wanted;
+}
+
+/// What painting makes of a coordinate of the position: no edge of a picture inside its zone, and a
+/// picture that is smaller than the zone in the middle.
+double held(double coordinate, double pictureLength, double zoneLength, double scale)
+{
+    const double limit = (pictureLength - zoneLength / scale) / 2.0;
+    return limit > 0.0 ? std::clamp(coordinate, -limit, limit) : 0.0;
 }
 
 } // namespace
@@ -43,7 +51,7 @@ QRectF TXImageViewer::View::zone(qsizetype index, const QSize &viewerSize) const
 
 int TXImageViewer::View::zoneAt(const QPointF &place, const QSize &viewerSize) const
 {
-    if (std::isnan(place.x()) || viewerSize.isEmpty()) {
+    if (std::isnan(place.x()) || std::isnan(place.y()) || viewerSize.isEmpty()) {
         return -1;
     }
     const Candidates near = zonesNear(place.x(), zone(0, viewerSize).width(), pixmaps.size());
@@ -76,6 +84,15 @@ TXImageViewer::View::PixelUnderMouse TXImageViewer::View::pixelAt(const QPointF 
     return pixel;
 }
 
+std::optional<QPoint> TXImageViewer::View::pixelUnderMouse(const QSize &viewerSize) const
+{
+    if (!mousePlace) {
+        return std::nullopt;
+    }
+    const PixelUnderMouse pixel = pixelAt(*mousePlace, viewerSize);
+    return pixel.isInside ? std::optional(pixel.pixmapCoord) : std::nullopt;
+}
+
 bool TXImageViewer::View::isInside(const QPoint &pixmapCoord) const
 {
     return pixmapCoord.x() >= 0 && pixmapCoord.x() < imageRect.width() - 1.0 && pixmapCoord.y() >= 0
@@ -85,4 +102,24 @@ bool TXImageViewer::View::isInside(const QPoint &pixmapCoord) const
 void TXImageViewer::View::moveTo(const QPointF &wanted)
 {
     position = {numberOr(wanted.x(), position.x()), numberOr(wanted.y(), position.y())};
+}
+
+void TXImageViewer::View::moveBy(const QPointF &viewerDistance)
+{
+    // Coordinate by coordinate: the operator for points takes no divisor of 0.
+    moveTo(position + QPointF(viewerDistance.x() / scale, viewerDistance.y() / scale));
+}
+
+void TXImageViewer::View::scrollBy(const QPointF &viewerDistance, const QSize &viewerSize)
+{
+    holdPosition(viewerSize);
+    moveBy(-viewerDistance);
+    holdPosition(viewerSize);
+}
+
+void TXImageViewer::View::holdPosition(const QSize &viewerSize)
+{
+    const QSizeF room = zone(0, viewerSize).size();
+    position = {held(position.x(), imageRect.width(), room.width(), scale),
+                held(position.y(), imageRect.height(), room.height(), scale)};
 }
