@@ -47,8 +47,9 @@ class TXGUICOMMON_EXPORT TXImageViewer : public QWidget
     Q_OBJECT
 
 public:
-    /// Scales that follow from the sizes of the viewer and the first picture.
-    enum Scaling {
+    /// Scales that follow from the sizes of the viewer and the first picture. Any other number
+    /// means ScaleNatural.
+    enum Scaling : int {
         /// The whole first picture fits into its zone.
         ScaleFit,
         /// The part of the viewer's width that a zone has: 0.5 with two pictures.
@@ -58,8 +59,8 @@ public:
     };
     Q_ENUM(Scaling)
 
-    /// What a factor is to be.
-    enum Relation {
+    /// What a factor is to be. Any other number means Relative.
+    enum Relation : int {
         /// The new scale itself.
         Absolute,
         /// Multiplied with the present scale.
