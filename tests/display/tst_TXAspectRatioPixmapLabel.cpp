@@ -74,16 +74,19 @@ void TestTXAspectRatioPixmapLabel::marginsTakeUpWhatIsTooMuch_data()
     add("too wide", {40, 20}, {300, 100}, {50, 0, 50, 0});
     add("too high, odd rest", {40, 20}, {200, 161}, {0, 30, 0, 30});
     add("too wide, odd rest", {40, 20}, {301, 100}, {50, 0, 50, 0});
-    // 2 * 100 / 3 is 66, and half of 34 is 17; not divided down first it would be 16.
-    add("too high, fraction cut off", {3, 2}, {100, 100}, {0, 17, 0, 17});
-    add("too wide, fraction cut off", {2, 3}, {100, 100}, {17, 0, 17, 0});
+    // 2 * 101 / 3 is 67, and half of 33 is 16; halved one by one, 50 - 33 would be 17.
+    add("too high, fractions cut off", {3, 2}, {101, 100}, {0, 16, 0, 16});
+    add("too wide, fractions cut off", {2, 3}, {100, 101}, {16, 0, 16, 0});
     add("fraction below a pixel", {40, 20}, {201, 100}, {0, 0, 0, 0});
     add("far too high", {30000, 1}, {100, 100}, {0, 50, 0, 50});
     add("far too wide", {1, 30000}, {100, 100}, {50, 0, 50, 0});
     add("one pixel", {1, 1}, {1, 1}, {0, 0, 0, 0});
-    // The products of these pass the range of int.
-    add("large and too high", {2000, 1999}, {2000000, 2000000}, {0, 500, 0, 500});
-    add("large and too wide", {1999, 2000}, {2000000, 2000000}, {500, 0, 500, 0});
+    // Of these, one product or both pass the range of int.
+    add("large and too high", {1075, 1073}, {2000000, 2000000}, {0, 1860, 0, 1860});
+    add("large and too wide", {1073, 1075}, {2000000, 2000000}, {1860, 0, 1860, 0});
+    add("most that a widget keeps", {2, 1}, {2, 65535}, {0, 32767, 0, 32767});
+    add("more than a widget keeps, high", {2, 1}, {2, 100000}, {0, 32767, 0, 32767});
+    add("more than a widget keeps, wide", {1, 2}, {100000, 2}, {32767, 0, 32767, 0});
     add("large, exactly filled", {2000, 1999}, {2000000, 1999000}, {0, 0, 0, 0});
 }
 

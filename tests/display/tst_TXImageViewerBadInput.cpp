@@ -73,6 +73,8 @@ private slots:
     void emptyListOnANewViewerMakesTheScaleInfinite();
     void firstPictureWithoutASizeMakesTheScaleInfinite();
     void viewerWithoutASizeKeepsItsScaleForAPictureWithoutOne();
+    void oneLengthOfNothingGivesAHint_data();
+    void oneLengthOfNothingGivesAHint();
     void viewerWithoutASizeIsFittedLater();
     void viewerWithoutASizeHasNoZone_data();
     void viewerWithoutASizeHasNoZone();
@@ -246,6 +248,26 @@ void TestTXImageViewerBadInput::viewerWithoutASizeKeepsItsScaleForAPictureWithou
     QCOMPARE(viewer->scale(), 1.0);
     useAll(*viewer);
     QVERIFY(isOfNumbers(*viewer));
+}
+
+void TestTXImageViewerBadInput::oneLengthOfNothingGivesAHint_data()
+{
+    QTest::addColumn<QSize>("viewerSize");
+    QTest::addColumn<QPixmap>("pixmap");
+    QTest::addColumn<double>("hint");
+    QTest::newRow("no width, no picture") << QSize(0, 300) << QPixmap() << kInfinite;
+    QTest::newRow("no height, no picture") << QSize(400, 0) << QPixmap() << kInfinite;
+    QTest::newRow("no width") << QSize(0, 300) << picture(20, 10) << 0.0;
+    QTest::newRow("no height") << QSize(400, 0) << picture(20, 10) << 0.0;
+}
+
+void TestTXImageViewerBadInput::oneLengthOfNothingGivesAHint()
+{
+    QFETCH(const QSize, viewerSize);
+    QFETCH(const QPixmap, pixmap);
+    viewer->resize(viewerSize);
+    viewer->setPixmap(pixmap);
+    QTEST(viewer->scaleHint(TXImageViewer::ScaleFit), "hint");
 }
 
 void TestTXImageViewerBadInput::viewerWithoutASizeIsFittedLater()

@@ -135,6 +135,14 @@ void TestTXImageViewerMouse::hoverFollowsThePosition()
     moveMouse(*viewer, {301.0, 150.0});
     QCOMPARE(Hover(hovered.at(1)).pixel, QPoint(99, 40));
     QVERIFY(!Hover(hovered.at(1)).isInside);
+    viewer->setPosition({0.75, 0.0});
+    moveMouse(*viewer, {0.0, 150.0});
+    QCOMPARE(Hover(hovered.at(2)).pixel, QPoint(0, 40));
+    QVERIFY(Hover(hovered.at(2)).isInside);
+    viewer->setPosition({2.75, 0.0});
+    moveMouse(*viewer, {0.0, 150.0});
+    QCOMPARE(Hover(hovered.at(3)).pixel, QPoint(-2, 40));
+    QVERIFY(!Hover(hovered.at(3)).isInside);
 }
 
 void TestTXImageViewerMouse::hoverNeedsMoreThanOneRowAndColumn_data()
