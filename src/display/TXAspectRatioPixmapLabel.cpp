@@ -2,6 +2,21 @@
 
 #include <QPixmap>
 
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+/// Half of what is too much, on either side.
+int marginFor(qint64 tooMuch)
+{
+    // A QWidget keeps margins as short, and would take larger ones for negative.
+    constexpr qint64 kMost = std::numeric_limits<short>::max();
+    return static_cast<int>(std::min(tooMuch / 2, kMost));
+}
+
+} // namespace
+
 TXAspectRatioPixmapLabel::TXAspectRatioPixmapLabel(QWidget *parent, Qt::WindowFlags flags)
     : QLabel(parent, flags)
 { }
@@ -25,10 +40,10 @@ void TXAspectRatioPixmapLabel::updateMargins()
     const qint64 w = width();
     const qint64 h = height();
     if (ph * w <= pw * h) {
-        const int margin = static_cast<int>((h - ph * w / pw) / 2);
+        const int margin = marginFor(h - ph * w / pw);
         setContentsMargins(0, margin, 0, margin);
     } else {
-        const int margin = static_cast<int>((w - pw * h / ph) / 2);
+        const int margin = marginFor(w - pw * h / ph);
         setContentsMargins(margin, 0, margin, 0);
     }
 }

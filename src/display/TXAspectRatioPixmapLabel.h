@@ -24,7 +24,9 @@ public:
     /// before.
     void setPixmap(const QPixmap &pixmap);
 
-    /// Sets the margins for the present size. Nothing without a picture or without a size.
+    /// Sets the margins for the present size: equal ones on the two sides where there is too much
+    /// room, rounded down and at most the 32767 that a QWidget can keep, none on the others. Does
+    /// nothing without a picture or in a label without width or height.
     void updateMargins();
 
 protected:

@@ -11,6 +11,8 @@
 #include <functional>
 #include <memory>
 
+class ImageViewerAccessible;
+
 /// Compares pictures of one size side by side: each has a zone of its own, from left to right, and
 /// all show the same part at the same scale.
 ///
@@ -18,10 +20,19 @@
 ///     viewer->setMouseMarker(crosshair, QPoint(-1, -1));
 ///     connect(viewer, &TXImageViewer::hover, this, &Window::showColourUnderMouse);
 ///
-/// Dragging with any button moves the pictures, the wheel zooms by two. The keys: arrows move by a
-/// tenth of a zone, with Control by a pixel; + and - zoom; 0 and Home fit; 1 shows a pixel of the
-/// picture as one of the screen. They do what the same functions do, so that each tells
-/// scaleChanged().
+/// Dragging with any button moves the pictures, the wheel zooms by two: in when it is turned away
+/// from the user, else out. With the focus (Tab or a click; Qt::StrongFocus) the keys are:
+/// - arrows show what lies a tenth of a zone further that way, with Control a viewer pixel; they
+///   stop at the edges of the pictures;
+/// - + and = zoom in by two, - zooms out by two, as the wheel does;
+/// - 0 and Home fit, as scale(ScaleFit); 1 is scale(ScaleNatural).
+///
+/// Other keys, and these with Alt or Meta, or but for the arrows with Control, go on to the parent.
+/// So do the arrows while there are no pictures, and what zooms when the wheel is turned off.
+///
+/// Assistive tools see a graphic whose value is the scale, which they may set; its text tells the
+/// scale in percent and the colours of the pixel under the mouse in each picture. Its name is
+/// accessibleName(), or a general one.
 ///
 /// Sizes and places are device-independent pixels. "Picture pixels" count from the top left of the
 /// first picture, by whose size all are laid out; pictures of other sizes start at the same place
@@ -36,8 +47,9 @@ class TXGUICOMMON_EXPORT TXImageViewer : public QWidget
     Q_OBJECT
 
 public:
-    /// Scales that follow from the sizes of the viewer and the first picture.
-    enum Scaling {
+    /// Scales that follow from the sizes of the viewer and the first picture. Any other number
+    /// means ScaleNatural.
+    enum Scaling : int {
         /// The whole first picture fits into its zone.
         ScaleFit,
         /// The part of the viewer's width that a zone has: 0.5 with two pictures.
@@ -47,8 +59,8 @@ public:
     };
     Q_ENUM(Scaling)
 
-    /// What a factor is to be.
-    enum Relation {
+    /// What a factor is to be. Any other number means Relative.
+    enum Relation : int {
         /// The new scale itself.
         Absolute,
         /// Multiplied with the present scale.
@@ -70,34 +82,44 @@ public:
     [[nodiscard]] QList<QPixmap> pixmaps() const;
     /// Shows one picture; see setPixmaps().
     void setPixmap(const QPixmap &pixmap);
-    /// Shows pictures in their order. The first ones of a viewer are fitted; later ones keep scale
-    /// and position, unless the last scaling was ScaleFit or ScaleShare, which is then done again.
+    /// Shows pictures in their order. When the last scaling was ScaleFit or ScaleShare, it is done
+    /// again; so the wheel's scale is lost. Otherwise they keep the scale, and are fitted if there
+    /// is none yet or an infinite one. The position stays. An empty list shows nothing; on a new
+    /// viewer, it makes the scale and its upper limit infinite.
     void setPixmaps(const QList<QPixmap> &pixmaps);
 
-    /// Viewer pixels by picture pixel; -1 before the first picture.
+    /// Viewer pixels by picture pixel; -1 before the first picture. May be infinite, never
+    /// not-a-number.
     [[nodiscard]] double scale() const;
-    /// Sets the scale, held to the limits. Emits scaleChanged(), also when it stays the same.
+    /// Sets the scale to the factor (Absolute) or the scale times the factor (Relative), held to
+    /// the limits. Emits scaleChanged(), also when it stays the same. Does nothing at all when the
+    /// factor or the product is not a number.
     void scale(double factor, Relation relation);
     /// Sets the scale of scaleHint(), for which the limits give way. ScaleFit and ScaleShare hold
     /// when the size or the pictures change, until another scale is set by a function; the wheel
-    /// does not end them. Emits scaleChanged().
+    /// does not end them. Emits scaleChanged(). A hint that is not a number leaves the scale as it
+    /// is, until the next change of size or pictures.
     void scale(Scaling scaling);
-    /// The scale that this scaling comes to now.
+    /// The scale that this scaling comes to now. Without a first picture that has a size, ScaleFit
+    /// is infinite. Not a number where two lengths of 0 are divided: ScaleShare in a viewer without
+    /// width, and ScaleFit of a null picture in one without either length.
     [[nodiscard]] double scaleHint(Scaling scaling);
     /// The limits, in any order; 1/128 and 16 at first. A scale outside moves to the nearer limit,
-    /// with scaleChanged(). A negative limit turns zooming by the wheel off. A limit that is not a
-    /// number leaves both as they are.
+    /// with scaleChanged(); the -1 before the first picture as well, which is then not fitted by
+    /// itself. A negative limit turns zooming by the wheel and keys off. Limits may be 0 or
+    /// infinite; one that is not a number leaves both as they are.
     void setScaleLimits(double a, double b);
 
     /// How far the picture's centre stands from that of its zone, in picture pixels.
     [[nodiscard]] QPointF position() const;
     /// Moves the pictures. A position that would leave a gap beside a picture, or move one that is
-    /// smaller than its zone, is brought back when the viewer paints.
+    /// smaller than its zone, is brought back when the viewer paints. A coordinate that is not a
+    /// number stays as it was.
     void setPosition(QPointF position);
 
     /// A small picture that is drawn in all zones at once where the mouse is in one of them, with
-    /// its hot spot there. A negative coordinate of the hot spot means the middle. A null pixmap
-    /// takes the marker away.
+    /// its hot spot there. A negative coordinate of the hot spot means half the marker's length,
+    /// rounded down. A null pixmap takes the marker away.
     void setMouseMarker(QPixmap marker, QPoint hotSpot);
 
     /// Sets what is painted over the zones; an empty function takes it away.
@@ -105,9 +127,11 @@ public:
 
 signals:
     /// The mouse was moved, pressed or released over the viewer, or has left it. `localPos` is in
-    /// viewer pixels, `zoneIndex` -1 outside of all zones, `pixmapCoord` in picture pixels. The
-    /// last row and column of a picture count as outside. On leaving: (0, 0), no button, not
-    /// inside, zone -1.
+    /// viewer pixels with their fractions; the rest is worked out for the nearest whole one.
+    /// `zoneIndex` is -1 outside of all zones, on a border that of the left one; `pixmapCoord` in
+    /// picture pixels, (0, 0) outside of all zones, and at most what an int holds. `isInside` tells
+    /// whether it lies in the first picture, of which the last row and column count as outside.
+    /// On leaving: (0, 0), no buttons, no modifiers, not inside, zone -1, pixel (0, 0).
     void hover(const QPointF &localPos, Qt::MouseButton button, Qt::MouseButtons buttons,
                Qt::KeyboardModifiers modifiers, bool isInside, int zoneIndex, QPoint pixmapCoord);
 
@@ -123,11 +147,20 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    friend class ImageViewerAccessible;
     struct View;
 
+    [[nodiscard]] bool isZoomedByUser() const;
+    void showAtScale(double scale);
+    void zoomBy(double factor);
+    void repeatScaling();
+    [[nodiscard]] bool panByKey(const QKeyEvent &event);
+    [[nodiscard]] bool zoomByKey(const QKeyEvent &event);
     void emitHover(const QMouseEvent &event);
+    void tellOfPixel();
     void drawZone(QPainter &painter, int index);
 
     std::unique_ptr<View> view;
