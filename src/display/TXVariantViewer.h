@@ -6,7 +6,12 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <memory>
+
+class QGridLayout;
 class QLabel;
+class VariantEntries;
+class VariantMoreButton;
 
 /// Shows any value that a QVariant holds, lists and dictionaries within one another too, as one
 /// line of coloured text, which the user folds open level by level.
@@ -108,10 +113,18 @@ public slots:
     void setHoverEffects(bool enabled = true);
 
 private:
-    void addMapEntries();
-    void addListEntries();
+    friend class VariantMoreButton;
+
+    void showLine();
+    void addMoreEntries();
+    void addEntries();
+    void addEntry();
+    void placeMoreButton();
+    void removeMoreButton();
+    void addWidget(QWidget *widget, int row, int column);
     [[nodiscard]] TXVariantViewer *makeChildViewer(const QVariant &childValue);
     void removeEntries();
+    [[nodiscard]] QGridLayout *grid() const;
     void setLeftMargin(int pixels);
     void takeParentPalette();
     [[nodiscard]] TXVariantViewer *parentViewer() const;
@@ -122,4 +135,8 @@ private:
     bool expanded = false;
     bool hoverEffectsWanted = false;
     bool preview = true;
+    /// What of an open level has no row yet; null when all have.
+    std::unique_ptr<VariantEntries> entries;
+    /// Stands below the rows while `entries` has some left, else null.
+    VariantMoreButton *moreButton = nullptr;
 };
