@@ -20,12 +20,12 @@ QVariant document(int nodes)
 {
     QVariantList records;
     for (int i = 0; i < nodes / kNodesPerRecord; ++i) {
-        const QVariantList place {i * 0.5, i * 0.25, QVariant()};
-        records.append(QVariantMap {{QStringLiteral("id"), i},
-                                    {QStringLiteral("name"), QStringLiteral("sample <%1>").arg(i)},
-                                    {QStringLiteral("place"), place},
-                                    {QStringLiteral("isReference"), i % 2 == 0},
-                                    {QStringLiteral("note"), QStringLiteral("a & b")}});
+        const QVariantList place{i * 0.5, i * 0.25, QVariant()};
+        records.append(QVariantMap{{QStringLiteral("id"), i},
+                                   {QStringLiteral("name"), QStringLiteral("sample <%1>").arg(i)},
+                                   {QStringLiteral("place"), place},
+                                   {QStringLiteral("isReference"), i % 2 == 0},
+                                   {QStringLiteral("note"), QStringLiteral("a & b")}});
     }
     return records;
 }
@@ -83,8 +83,8 @@ void previewText(benchmark::State &state)
 
 void escapedPieces(benchmark::State &state)
 {
-    const QString whole = TXVariantViewer::variantToHtml(
-        document(static_cast<int>(state.range(0))), true);
+    const QString whole =
+        TXVariantViewer::variantToHtml(document(static_cast<int>(state.range(0))), true);
     const QList<Piece> pieces = piecesOf(whole);
     QString html;
     for (auto step : state) {
@@ -177,8 +177,8 @@ public:
         auto *root = new QStandardItem(QStringLiteral("{"));
         const QVariantMap map = level(entries);
         for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
-            root->appendRow({new QStandardItem(entry.key()),
-                             new QStandardItem(entry.value().toString())});
+            root->appendRow(
+                {new QStandardItem(entry.key()), new QStandardItem(entry.value().toString())});
         }
         model.setColumnCount(2);
         model.appendRow(root);

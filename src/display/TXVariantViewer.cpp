@@ -168,10 +168,14 @@ void TXVariantViewer::addEntries()
     // Else each child that shows up lays out all those before it. Hiding this viewer meanwhile
     // would do as well, but takes the focus from it and the light of the mouse.
     layout()->setEnabled(false);
+    // Else Qt looks at all of them for each whether it came up under the mouse.
+    const bool isTransparent = testAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
     for (int made = 0; made < kEntriesAtOnce && entries->left() > 0; ++made) {
         addEntry();
     }
     placeMoreButton();
+    setAttribute(Qt::WA_TransparentForMouseEvents, isTransparent);
     layout()->setEnabled(true);
     layout()->activate();
 }
@@ -198,9 +202,21 @@ void TXVariantViewer::addWidget(QWidget *widget, int row, int column)
 {
     grid()->addWidget(widget, row, column);
     childWidgets.append(widget);
-    // It shows up below what can be seen: else all would be painted here, one upon the other.
+    showOutOfView(widget);
+}
+
+void TXVariantViewer::showOutOfView(QWidget *widget)
+{
+    // A widget that is shown asks to be painted, in view or not, and painting compares each that
+    // asked with all of its siblings. So none asks until the layout has moved it into view.
     widget->move(0, height());
+    auto *child = qobject_cast<TXVariantViewer *>(widget);
+    QWidget *inner = child != nullptr ? child->label : widget;
+    inner->setAttribute(Qt::WA_DontShowOnScreen);
+    widget->setAttribute(Qt::WA_DontShowOnScreen);
     widget->show();
+    widget->setAttribute(Qt::WA_DontShowOnScreen, false);
+    inner->setAttribute(Qt::WA_DontShowOnScreen, false);
 }
 
 void TXVariantViewer::placeMoreButton()
@@ -246,8 +262,7 @@ void TXVariantViewer::removeEntries()
         setFocus(Qt::OtherFocusReason);
     }
     // From the front of the layout: removeWidget() looks through all of it for each.
-    while (const std::unique_ptr<QLayoutItem> item {layout()->takeAt(0)}) {
-    }
+    while (const std::unique_ptr<QLayoutItem> item{layout()->takeAt(0)}) { }
     for (QWidget *widget : std::as_const(childWidgets)) {
         widget->deleteLater();
         // Else it would stay in the picture, and under the mouse, until it is deleted.

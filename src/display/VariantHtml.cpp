@@ -83,8 +83,7 @@ class Writer
 public:
     explicit Writer(bool isPreview)
         : preview(isPreview)
-    {
-    }
+    { }
 
     QString write(const QVariant &value)
     {
@@ -128,7 +127,7 @@ private:
             beginMap(value.toMap());
         } else if (preview && type == QMetaType::QVariantList) {
             html.append(kOpenList);
-            open.emplace_back(OpenList {value.toList()});
+            open.emplace_back(OpenList{value.toList()});
         } else if (preview && type == QMetaType::QStringList) {
             appendStrings(value.toStringList());
         } else {
@@ -139,7 +138,7 @@ private:
     void beginMap(const QVariantMap &map)
     {
         html.append(kOpenMap);
-        open.emplace_back(OpenMap {map, map.cbegin()});
+        open.emplace_back(OpenMap{map, map.cbegin()});
     }
 
     /// A list of strings whole, without a variant for each.

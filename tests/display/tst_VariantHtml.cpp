@@ -67,8 +67,8 @@ QVariant nested(int depth)
 {
     QVariant value = 1;
     for (int level = 0; level < depth; ++level) {
-        value = level % 2 == 0 ? QVariant(QVariantList {value})
-                               : QVariant(QVariantMap {{QStringLiteral("k"), value}});
+        value = level % 2 == 0 ? QVariant(QVariantList{value})
+                               : QVariant(QVariantMap{{QStringLiteral("k"), value}});
     }
     return value;
 }
@@ -173,7 +173,7 @@ void TestVariantHtml::nullOfATypeFollowsTheFirstRuleThatFits()
 
     QCOMPARE(VariantHtml::fromVariant(value, true), expected);
     QCOMPARE(VariantHtml::fromVariant(value, false), expected);
-    QCOMPARE(html(QVariantList {value}), list({expected}));
+    QCOMPARE(html(QVariantList{value}), list({expected}));
 }
 
 void TestVariantHtml::otherTypesArePlainText_data()
@@ -182,8 +182,8 @@ void TestVariantHtml::otherTypesArePlainText_data()
     QTest::addColumn<QString>("expected");
 
     QTest::newRow("uint") << QVariant(7U) << "7";
-    QTest::newRow("unsigned long long") << QVariant(std::numeric_limits<qulonglong>::max())
-                                        << "18446744073709551615";
+    QTest::newRow("unsigned long long")
+        << QVariant(std::numeric_limits<qulonglong>::max()) << "18446744073709551615";
     QTest::newRow("float") << QVariant(0.5F) << "0.5";
     QTest::newRow("short") << QVariant::fromValue(short(3)) << "3";
     QTest::newRow("long") << QVariant::fromValue(3L) << "3";
@@ -195,13 +195,13 @@ void TestVariantHtml::otherTypesArePlainText_data()
         << "2024-02-29T01:02:03.000Z";
     QTest::newRow("address") << QVariant(QUrl(QStringLiteral("https://tovra.example/a&b")))
                              << "https://tovra.example/a&b";
-    QTest::newRow("identifier")
-        << QVariant(QUuid(QStringLiteral("{67c8770b-44f1-410a-ab9a-f9b5446f13ee}")))
-        << "{67c8770b-44f1-410a-ab9a-f9b5446f13ee}";
+    QTest::newRow("identifier") << QVariant(
+        QUuid(QStringLiteral("{67c8770b-44f1-410a-ab9a-f9b5446f13ee}")))
+                                << "{67c8770b-44f1-410a-ab9a-f9b5446f13ee}";
     QTest::newRow("size") << QVariant(QSize(1, 2)) << "";
-    QTest::newRow("list of numbers") << QVariant::fromValue(QList<int> {1, 2}) << "";
+    QTest::newRow("list of numbers") << QVariant::fromValue(QList<int>{1, 2}) << "";
     QTest::newRow("list of texts and numbers")
-        << QVariant::fromValue(QMap<QString, int> {{QStringLiteral("a"), 1}}) << "";
+        << QVariant::fromValue(QMap<QString, int>{{QStringLiteral("a"), 1}}) << "";
 }
 
 void TestVariantHtml::otherTypesArePlainText()
@@ -220,7 +220,7 @@ void TestVariantHtml::containerHoldsItsEntries_data()
 
     const QString one = red(QStringLiteral("1"));
     const QString two = red(QStringLiteral("2"));
-    const QVariantMap unsorted {{QStringLiteral("b"), 2}, {QStringLiteral("a"), 1}};
+    const QVariantMap unsorted{{QStringLiteral("b"), 2}, {QStringLiteral("a"), 1}};
     QVariantHash hash;
     QStringList sorted;
     for (char16_t letter = u'a'; letter <= u'z'; ++letter) {
@@ -232,24 +232,24 @@ void TestVariantHtml::containerHoldsItsEntries_data()
     QTest::newRow("empty strings") << QVariant(QStringList()) << list({});
     QTest::newRow("empty map") << QVariant(QVariantMap()) << map({});
     QTest::newRow("empty hash") << QVariant(QVariantHash()) << map({});
-    QTest::newRow("one element") << QVariant(QVariantList {1}) << list({one});
-    QTest::newRow("invalid element") << QVariant(QVariantList {1, QVariant(), 2})
-                                     << list({one, kNull, two});
-    QTest::newRow("strings") << QVariant(QStringList {QStringLiteral("a"), QStringLiteral("<")})
+    QTest::newRow("one element") << QVariant(QVariantList{1}) << list({one});
+    QTest::newRow("invalid element")
+        << QVariant(QVariantList{1, QVariant(), 2}) << list({one, kNull, two});
+    QTest::newRow("strings") << QVariant(QStringList{QStringLiteral("a"), QStringLiteral("<")})
                              << list({green(QStringLiteral("a")), green(QStringLiteral("&lt;"))});
     QTest::newRow("map by key") << QVariant(unsorted)
                                 << map({QStringLiteral("a: ") + one, QStringLiteral("b: ") + two});
     QTest::newRow("hash by key") << QVariant(hash) << map(sorted);
     QTest::newRow("capitals first")
-        << QVariant(QVariantMap {{QStringLiteral("a"), 1}, {QStringLiteral("B"), 2}})
+        << QVariant(QVariantMap{{QStringLiteral("a"), 1}, {QStringLiteral("B"), 2}})
         << map({QStringLiteral("B: ") + two, QStringLiteral("a: ") + one});
-    QTest::newRow("markup in a key") << QVariant(QVariantMap {{QStringLiteral("<\"&>"), 1}})
+    QTest::newRow("markup in a key") << QVariant(QVariantMap{{QStringLiteral("<\"&>"), 1}})
                                      << map({QStringLiteral("&lt;&quot;&amp;&gt;: ") + one});
-    QTest::newRow("empty key") << QVariant(QVariantMap {{QString(), 1}})
+    QTest::newRow("empty key") << QVariant(QVariantMap{{QString(), 1}})
                                << map({QStringLiteral(": ") + one});
     QTest::newRow("within one another")
-        << QVariant(QVariantList {QVariantHash {{QStringLiteral("a"), QStringList {QString()}}},
-                                  QVariantList {QVariantList(), 1}, 2})
+        << QVariant(QVariantList{QVariantHash{{QStringLiteral("a"), QStringList{QString()}}},
+                                 QVariantList{QVariantList(), 1}, 2})
         << list({map({QStringLiteral("a: ") + list({green({})})}), list({list({}), one}), two});
 }
 
@@ -270,28 +270,25 @@ void TestVariantHtml::childrenStandLast_data()
     const QString one = red(QStringLiteral("1"));
     const QString first = QStringLiteral("a: ") + one;
     const QString last = QStringLiteral("z: ") + one;
-    const QVariantMap leaf {{QStringLiteral("children"), 1}, {QStringLiteral("z"), 1}};
+    const QVariantMap leaf{{QStringLiteral("children"), 1}, {QStringLiteral("z"), 1}};
 
-    QTest::newRow("in the middle") << QVariantMap {{QStringLiteral("a"), 1},
-                                                   {QStringLiteral("children"), 1},
-                                                   {QStringLiteral("z"), 1}}
+    QTest::newRow("in the middle") << QVariantMap{{QStringLiteral("a"), 1},
+                                                  {QStringLiteral("children"), 1},
+                                                  {QStringLiteral("z"), 1}}
                                    << map({first, last, children + one});
     QTest::newRow("first") << leaf << map({last, children + one});
-    QTest::newRow("last") << QVariantMap {{QStringLiteral("a"), 1}, {QStringLiteral("children"), 1}}
+    QTest::newRow("last") << QVariantMap{{QStringLiteral("a"), 1}, {QStringLiteral("children"), 1}}
                           << map({first, children + one});
-    QTest::newRow("alone") << QVariantMap {{QStringLiteral("children"), 1}}
-                           << map({children + one});
-    QTest::newRow("without value") << QVariantMap {{QStringLiteral("children"), QVariant()}}
-                                   << map({children + kNull});
-    QTest::newRow("other letters") << QVariantMap {{QStringLiteral("Children"), 1},
-                                                   {QStringLiteral("a"), 1}}
-                                   << map({QStringLiteral("Children: ") + one, first});
+    QTest::newRow("alone") << QVariantMap{{QStringLiteral("children"), 1}} << map({children + one});
+    QTest::newRow("without value")
+        << QVariantMap{{QStringLiteral("children"), QVariant()}} << map({children + kNull});
+    QTest::newRow("other letters")
+        << QVariantMap{{QStringLiteral("Children"), 1}, {QStringLiteral("a"), 1}}
+        << map({QStringLiteral("Children: ") + one, first});
     QTest::newRow("within children")
-        << QVariantMap {{QStringLiteral("children"), QVariantList {leaf, leaf}},
-                        {QStringLiteral("z"), 1}}
-        << map({last,
-                children
-                    + list({map({last, children + one}), map({last, children + one})})});
+        << QVariantMap{{QStringLiteral("children"), QVariantList{leaf, leaf}},
+                       {QStringLiteral("z"), 1}}
+        << map({last, children + list({map({last, children + one}), map({last, children + one})})});
 }
 
 void TestVariantHtml::childrenStandLast()
@@ -312,11 +309,11 @@ void TestVariantHtml::containerWithoutPreviewIsEmpty_data()
 {
     QTest::addColumn<QVariant>("value");
 
-    QTest::newRow("list") << QVariant(QVariantList {1, 2});
-    QTest::newRow("strings") << QVariant(QStringList {QStringLiteral("a"), QStringLiteral("b")});
+    QTest::newRow("list") << QVariant(QVariantList{1, 2});
+    QTest::newRow("strings") << QVariant(QStringList{QStringLiteral("a"), QStringLiteral("b")});
     QTest::newRow("no strings") << QVariant(QStringList());
-    QTest::newRow("map") << QVariant(QVariantMap {{QStringLiteral("a"), 1}});
-    QTest::newRow("hash") << QVariant(QVariantHash {{QStringLiteral("a"), 1}});
+    QTest::newRow("map") << QVariant(QVariantMap{{QStringLiteral("a"), 1}});
+    QTest::newRow("hash") << QVariant(QVariantHash{{QStringLiteral("a"), 1}});
 }
 
 void TestVariantHtml::containerWithoutPreviewIsEmpty()
@@ -329,19 +326,19 @@ void TestVariantHtml::containerWithoutPreviewIsEmpty()
 void TestVariantHtml::onlyStringOfAListShowsWithoutPreview()
 {
     // What QVariant::toString() makes of such a list.
-    QCOMPARE(VariantHtml::fromVariant(QStringList {QStringLiteral("<a>")}, false),
+    QCOMPARE(VariantHtml::fromVariant(QStringList{QStringLiteral("<a>")}, false),
              QStringLiteral("<a>"));
 }
 
 void TestVariantHtml::customTypeShowsWhatItConvertsTo()
 {
-    const QVariant lightness = QVariant::fromValue(Lightness {50.0});
+    const QVariant lightness = QVariant::fromValue(Lightness{50.0});
     QCOMPARE(html(lightness), QString());
-    QCOMPARE(html(QVariant::fromValue(Silent {})), QString());
+    QCOMPARE(html(QVariant::fromValue(Silent{})), QString());
 
     QVERIFY((QMetaType::registerConverter<Lightness, QString>(&Lightness::toText)));
     QCOMPARE(html(lightness), QStringLiteral("<L> 50"));
-    QCOMPARE(html(QVariantList {lightness, QVariant::fromValue(Silent {})}),
+    QCOMPARE(html(QVariantList{lightness, QVariant::fromValue(Silent{})}),
              list({QStringLiteral("<L> 50"), QString()}));
     QMetaType::unregisterConverterFunction(QMetaType::fromType<Lightness>(),
                                            QMetaType::fromType<QString>());
@@ -349,7 +346,7 @@ void TestVariantHtml::customTypeShowsWhatItConvertsTo()
 
 void TestVariantHtml::viewerGivesTheSameText()
 {
-    const QVariant value = QVariantList {1, QStringLiteral("a")};
+    const QVariant value = QVariantList{1, QStringLiteral("a")};
 
     QCOMPARE(TXVariantViewer::variantToHtml(value, true), html(value));
     QCOMPARE(TXVariantViewer::variantToHtml(value, false), QString());
@@ -383,9 +380,9 @@ void TestVariantHtml::escapingIsThatOfQt()
     QFETCH(QString, text);
 
     QCOMPARE(html(text), green(text.toHtmlEscaped()));
-    QCOMPARE(html(QStringList {text, text}),
+    QCOMPARE(html(QStringList{text, text}),
              list({green(text.toHtmlEscaped()), green(text.toHtmlEscaped())}));
-    QCOMPARE(html(QVariantMap {{text, 1}}),
+    QCOMPARE(html(QVariantMap{{text, 1}}),
              map({text.toHtmlEscaped() + QStringLiteral(": ") + red(QStringLiteral("1"))}));
 }
 
