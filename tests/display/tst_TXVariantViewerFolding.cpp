@@ -439,7 +439,7 @@ void TestTXVariantViewerFolding::valueMayChangeWithinAClick()
         }
     });
 
-    click(clicked, 5);
+    QTest::mousePress(clicked, Qt::LeftButton, {}, {5, 5});
 
     QVERIFY(calls > 1);
     QVERIFY(!viewer.isExpandable());
