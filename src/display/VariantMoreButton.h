@@ -15,7 +15,7 @@ class TXGUICOMMON_PRIVATE_EXPORT VariantMoreButton : public QPushButton
     Q_OBJECT
 
 public:
-    explicit VariantMoreButton(TXVariantViewer *viewer);
+    explicit VariantMoreButton(TXVariantViewer *owner);
 
     /// Puts the numbers into the text.
     void announce(qsizetype next, qsizetype all);
