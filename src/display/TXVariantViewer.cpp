@@ -1,8 +1,10 @@
 #include "TXVariantViewer.h"
 
 #include "VariantCopyAction.h"
+#include "VariantEntries.h"
 #include "VariantHtml.h"
 #include "VariantLabel.h"
+#include "VariantMoreButton.h"
 
 #include <QContextMenuEvent>
 #include <QGridLayout>
@@ -16,16 +18,6 @@ constexpr int kClosedMarginPixels = 14;
 constexpr int kOpenMarginPixels = 21;
 constexpr double kDesignFontHeight = 15.0;
 
-bool isMap(const QVariant &value)
-{
-    return value.typeId() == QMetaType::QVariantMap || value.typeId() == QMetaType::QVariantHash;
-}
-
-bool isList(const QVariant &value)
-{
-    return value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList;
-}
-
 } // namespace
 
 TXVariantViewer::TXVariantViewer(QWidget *parent)
@@ -33,10 +25,10 @@ TXVariantViewer::TXVariantViewer(QWidget *parent)
     , label(new VariantLabel(this))
 {
     setAutoFillBackground(true);
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(0);
-    grid->addWidget(label);
+    auto *cells = new QGridLayout(this);
+    cells->setContentsMargins(0, 0, 0, 0);
+    cells->setSpacing(0);
+    cells->addWidget(label);
     setValue(QVariant());
 }
 
@@ -58,8 +50,19 @@ bool TXVariantViewer::hoverEffects() const
 
 bool TXVariantViewer::isExpandable() const
 {
-    return (isList(value) && !value.toList().isEmpty())
-        || (isMap(value) && !value.toMap().isEmpty());
+    // Each is asked as the type that it is: converting would copy the whole container.
+    switch (value.typeId()) {
+    case QMetaType::QVariantList:
+        return !value.toList().isEmpty();
+    case QMetaType::QStringList:
+        return !value.toStringList().isEmpty();
+    case QMetaType::QVariantMap:
+        return !value.toMap().isEmpty();
+    case QMetaType::QVariantHash:
+        return !value.toHash().isEmpty();
+    default:
+        return false;
+    }
 }
 
 bool TXVariantViewer::isExpanded() const
@@ -91,6 +94,10 @@ void TXVariantViewer::setValue(QVariant newValue)
     if (expanded) {
         collapse();
     }
+    if (expanded) {
+        // A slot on resized() has opened it again.
+        showLine();
+    }
     value = std::move(newValue);
     label->setText(VariantHtml::line(VariantHtml::fromVariant(value, preview)));
     setLeftMargin(isExpandable() ? kClosedMarginPixels : 0);
@@ -117,12 +124,9 @@ void TXVariantViewer::expand()
     removeEntries();
     label->setVisible(false);
     layout()->removeWidget(label);
-    if (isMap(value)) {
-        addMapEntries();
-    } else {
-        addListEntries();
-    }
     setLeftMargin(kOpenMarginPixels);
+    entries = std::make_unique<VariantEntries>(value);
+    addEntries();
     expanded = true;
     update();
     emit resized();
@@ -133,41 +137,112 @@ void TXVariantViewer::collapse()
     if (!isExpandable()) {
         return;
     }
-    removeEntries();
-    label->show();
-    layout()->addWidget(label);
-    setLeftMargin(kClosedMarginPixels);
-    expanded = false;
+    showLine();
     update();
     emit resized();
 }
 
-void TXVariantViewer::addMapEntries()
+void TXVariantViewer::showLine()
 {
-    auto *grid = static_cast<QGridLayout *>(layout());
-    int row = 0;
-    const QVariantMap map = value.toMap();
-    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
-        auto *key = new VariantLabel(this);
-        key->setText(VariantHtml::key(entry.key()));
-        key->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        grid->addWidget(key, row, 0);
-        childWidgets.append(key);
-        TXVariantViewer *child = makeChildViewer(entry.value());
-        grid->addWidget(child, row, 1);
-        child->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-        childWidgets.append(child);
-        ++row;
-    }
+    removeEntries();
+    label->show();
+    grid()->addWidget(label, 0, 0);
+    setLeftMargin(kClosedMarginPixels);
+    expanded = false;
 }
 
-void TXVariantViewer::addListEntries()
+void TXVariantViewer::addMoreEntries()
 {
-    const QVariantList list = value.toList();
-    for (const QVariant &element : list) {
-        TXVariantViewer *child = makeChildViewer(element);
-        layout()->addWidget(child);
-        childWidgets.append(child);
+    const qsizetype firstNew = childWidgets.size();
+    const bool hadFocus = moreButton->hasFocus();
+    addEntries();
+    if (hadFocus && moreButton == nullptr) {
+        childWidgets.at(firstNew)->setFocus(Qt::OtherFocusReason);
+    }
+    update();
+    emit resized();
+}
+
+void TXVariantViewer::addEntries()
+{
+    // Else each child that shows up lays out all those before it. Hiding this viewer meanwhile
+    // would do as well, but takes the focus from it and the light of the mouse.
+    layout()->setEnabled(false);
+    // Else Qt looks at all of them for each whether it came up under the mouse.
+    const bool isTransparent = testAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (int made = 0; made < kEntriesAtOnce && entries->left() > 0; ++made) {
+        addEntry();
+    }
+    placeMoreButton();
+    setAttribute(Qt::WA_TransparentForMouseEvents, isTransparent);
+    layout()->setEnabled(true);
+    layout()->activate();
+}
+
+void TXVariantViewer::addEntry()
+{
+    const int row = static_cast<int>(entries->readCount());
+    if (!entries->hasKeys()) {
+        // The place is named, the one where a new layout goes on below the label. Left to count by
+        // itself the layout grows with each unfolding, and makes two columns after a dictionary.
+        addWidget(makeChildViewer(entries->takeValue()), row + 1, 0);
+        return;
+    }
+    auto *key = new VariantLabel(this);
+    key->setText(VariantHtml::key(entries->key()));
+    key->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    addWidget(key, row, 0);
+    TXVariantViewer *child = makeChildViewer(entries->takeValue());
+    addWidget(child, row, 1);
+    child->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+}
+
+void TXVariantViewer::addWidget(QWidget *widget, int row, int column)
+{
+    grid()->addWidget(widget, row, column);
+    childWidgets.append(widget);
+    showOutOfView(widget);
+}
+
+void TXVariantViewer::showOutOfView(QWidget *widget)
+{
+    // A widget that is shown asks to be painted, in view or not, and painting compares each that
+    // asked with all of its siblings. So none asks until the layout has moved it into view.
+    widget->move(0, height());
+    auto *child = qobject_cast<TXVariantViewer *>(widget);
+    QWidget *inner = child != nullptr ? child->label : widget;
+    inner->setAttribute(Qt::WA_DontShowOnScreen);
+    widget->setAttribute(Qt::WA_DontShowOnScreen);
+    widget->show();
+    widget->setAttribute(Qt::WA_DontShowOnScreen, false);
+    inner->setAttribute(Qt::WA_DontShowOnScreen, false);
+}
+
+void TXVariantViewer::placeMoreButton()
+{
+    if (entries->left() == 0) {
+        removeMoreButton();
+        return;
+    }
+    if (moreButton == nullptr) {
+        moreButton = new VariantMoreButton(this);
+    }
+    moreButton->announce(qMin<qsizetype>(kEntriesAtOnce, entries->left()), entries->count());
+    const int row = static_cast<int>(entries->readCount()) + 1;
+    grid()->addWidget(moreButton, row, 0, 1, entries->hasKeys() ? 2 : 1, Qt::AlignLeft);
+    QWidget::setTabOrder(childWidgets.constLast(), moreButton);
+    moreButton->show();
+}
+
+void TXVariantViewer::removeMoreButton()
+{
+    entries.reset();
+    if (moreButton != nullptr) {
+        layout()->removeWidget(moreButton);
+        moreButton->hide();
+        moreButton->deleteLater();
+        moreButton = nullptr;
     }
 }
 
@@ -182,11 +257,24 @@ TXVariantViewer *TXVariantViewer::makeChildViewer(const QVariant &childValue)
 
 void TXVariantViewer::removeEntries()
 {
+    QWidget *focused = window()->focusWidget();
+    if (focused != nullptr && isAncestorOf(focused)) {
+        setFocus(Qt::OtherFocusReason);
+    }
+    // From the front of the layout: removeWidget() looks through all of it for each.
+    while (const std::unique_ptr<QLayoutItem> item{layout()->takeAt(0)}) { }
     for (QWidget *widget : std::as_const(childWidgets)) {
         widget->deleteLater();
-        layout()->removeWidget(widget);
+        // Else it would stay in the picture, and under the mouse, until it is deleted.
+        widget->hide();
     }
     childWidgets.clear();
+    removeMoreButton();
+}
+
+QGridLayout *TXVariantViewer::grid() const
+{
+    return static_cast<QGridLayout *>(layout());
 }
 
 void TXVariantViewer::setLeftMargin(int pixels)

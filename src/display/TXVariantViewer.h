@@ -6,7 +6,12 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <memory>
+
+class QGridLayout;
 class QLabel;
+class VariantEntries;
+class VariantMoreButton;
 
 /// Shows any value that a QVariant holds, lists and dictionaries within one another too, as one
 /// line of coloured text, which the user folds open level by level.
@@ -43,8 +48,8 @@ public:
     ~TXVariantViewer() override;
 
     /// The text of a value as HTML, as the viewer shows it within its span of monospaced text.
-    /// Without `preview` the text of a list or a dictionary is empty. Costs time in proportion to
-    /// the text, at any depth.
+    /// Without `preview` a list or a dictionary gives what QVariant::toString() does: nothing, and
+    /// of a list of one string the string. Costs time in proportion to the text, at any depth.
     static QString variantToHtml(QVariant value, bool preview);
 
     /// True when this viewer, the root of its tree, lights the viewer under the mouse, in whose
@@ -61,12 +66,14 @@ public:
     Q_INVOKABLE void setExpanded(bool expanded);
 
     /// Shows a row for each entry in place of the line of text: dictionaries in the order of their
-    /// keys. Rows that are there already are made anew. Nothing when there is nothing to expand.
-    /// Emits resized().
+    /// keys. Of more than kEntriesAtOnce entries the first come, and below them a button that adds
+    /// as many again. Rows that are there already are made anew. Nothing when there is nothing to
+    /// expand. Emits resized().
     Q_INVOKABLE void expand();
 
-    /// Shows the line of text in place of the entries; what was open among them is forgotten.
-    /// Nothing when there is nothing to expand. Emits resized().
+    /// Shows the line of text in place of the entries; what was open among them is forgotten. When
+    /// one of them has the keyboard focus this viewer takes it. Nothing when there is nothing to
+    /// expand. Emits resized().
     Q_INVOKABLE void collapse();
 
     /// Whether lists and dictionaries show what they hold in their line of text; true at first.
@@ -95,8 +102,8 @@ public:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 signals:
-    /// The room that the viewer wants may have changed: after setValue(), expand() and collapse(),
-    /// here and in the viewers within.
+    /// The room that the viewer wants may have changed: after setValue(), expand(), collapse() and
+    /// the button for more entries, here and in the viewers within. A slot may change the value.
     void resized();
 
 public slots:
@@ -108,10 +115,19 @@ public slots:
     void setHoverEffects(bool enabled = true);
 
 private:
-    void addMapEntries();
-    void addListEntries();
+    friend class VariantMoreButton;
+
+    void showLine();
+    void addMoreEntries();
+    void addEntries();
+    void addEntry();
+    void showOutOfView(QWidget *widget);
+    void placeMoreButton();
+    void removeMoreButton();
+    void addWidget(QWidget *widget, int row, int column);
     [[nodiscard]] TXVariantViewer *makeChildViewer(const QVariant &childValue);
     void removeEntries();
+    [[nodiscard]] QGridLayout *grid() const;
     void setLeftMargin(int pixels);
     void takeParentPalette();
     [[nodiscard]] TXVariantViewer *parentViewer() const;
@@ -122,4 +138,8 @@ private:
     bool expanded = false;
     bool hoverEffectsWanted = false;
     bool preview = true;
+    /// What of an open level has no row yet; null when all have.
+    std::unique_ptr<VariantEntries> entries;
+    /// Stands below the rows while `entries` has some left, else null.
+    VariantMoreButton *moreButton = nullptr;
 };

@@ -3,6 +3,8 @@
 #include <QMetaType>
 #include <QVariant>
 
+#include <utility>
+#include <variant>
 #include <vector>
 
 namespace {
@@ -19,7 +21,7 @@ constexpr QLatin1String kOpenReal("<span style=\"color: #800080\">");
 constexpr QLatin1String kOpenWord("<span style=\"color: #000080\">");
 constexpr QLatin1String kClose("</span>");
 constexpr QLatin1String kKeyEnd(": ");
-const QString kChildrenKey = QStringLiteral("children");
+constexpr QLatin1String kChildrenKey("children");
 
 /// Like QString::toHtmlEscaped(), without a copy.
 void appendEscaped(QString &html, QStringView text)
@@ -50,186 +52,163 @@ void appendEscaped(QString &html, QStringView text)
     html.append(text.sliced(plainStart));
 }
 
-void appendEscaped(QString &html, QLatin1String start, const QVariant &value, QLatin1String end)
+void appendEscaped(QString &html, QLatin1String start, QStringView text, QLatin1String end)
 {
     html.append(start);
-    appendEscaped(html, value.toString());
+    appendEscaped(html, text);
     html.append(end);
 }
 
-bool isList(int type)
-{
-    return type == QMetaType::QVariantList || type == QMetaType::QStringList;
-}
-
-bool isMap(int type)
-{
-    return type == QMetaType::QVariantMap || type == QMetaType::QVariantHash;
-}
-
-/// A value that is neither a list nor a dictionary, or is shown without what it holds.
-void appendScalar(QString &html, const QVariant &value)
-{
-    switch (value.typeId()) {
-    case QMetaType::QString:
-    case QMetaType::QByteArray:
-        appendEscaped(html, kOpenString, value, kCloseString);
-        return;
-    case QMetaType::Int:
-    case QMetaType::LongLong:
-        appendEscaped(html, kOpenInteger, value, kClose);
-        return;
-    case QMetaType::Double:
-        appendEscaped(html, kOpenReal, value, kClose);
-        return;
-    case QMetaType::Bool:
-        appendEscaped(html, kOpenWord, value, kClose);
-        return;
-    default:
-        break;
-    }
-    if (value.isNull() || !value.isValid()) {
-        html.append(kOpenWord).append(QLatin1String("null")).append(kClose);
-    } else {
-        html.append(value.toString());
-    }
-}
-
-/// A list or a dictionary of which some entries are written.
-struct OpenContainer
+/// A list of which some elements are written.
+struct OpenList
 {
     QVariantList list;
-    qsizetype nextElement = 0;
-    QVariantMap map;
-    QVariantMap::const_iterator nextEntry;
-    bool isMap = false;
-    bool isEmptySoFar = true;
-    bool isChildrenPending = false;
+    qsizetype next = 0;
+    bool isFirst = true;
 };
 
-/// Writes values; the containers that are open at a time stand on a stack of its own.
+/// A dictionary of which some entries are written. The entry "children" is held back to the end.
+struct OpenMap
+{
+    QVariantMap map;
+    QVariantMap::const_iterator next;
+    const QVariant *children = nullptr;
+    bool isFirst = true;
+};
+
+/// Writes values. Lists and dictionaries within one another wait on a stack of its own, as values
+/// may be nested deeper than functions may.
 class Writer
 {
 public:
+    explicit Writer(bool isPreview)
+        : preview(isPreview)
+    { }
+
     QString write(const QVariant &value)
     {
         begin(value);
-        while (!stack.empty()) {
-            goOn();
+        while (!open.empty()) {
+            std::visit([this](auto &container) { goOn(container); }, open.back());
         }
         return html;
     }
 
 private:
+    /// All of a plain value; of what holds others the beginning.
     void begin(const QVariant &value)
     {
-        const int type = value.typeId();
-        if (value.isNull()) {
-            appendScalar(html, value);
-        } else if (isMap(type)) {
-            beginMap(value.toMap());
-        } else if (isList(type)) {
-            beginList(value.toList());
-        } else {
-            appendScalar(html, value);
+        switch (value.typeId()) {
+        case QMetaType::QString:
+        case QMetaType::QByteArray:
+            appendEscaped(html, kOpenString, value.toString(), kCloseString);
+            return;
+        case QMetaType::Int:
+        case QMetaType::LongLong:
+            appendEscaped(html, kOpenInteger, value.toString(), kClose);
+            return;
+        case QMetaType::Double:
+            appendEscaped(html, kOpenReal, value.toString(), kClose);
+            return;
+        case QMetaType::Bool:
+            appendEscaped(html, kOpenWord, value.toString(), kClose);
+            return;
+        default:
+            beginOther(value);
         }
     }
 
-    void beginList(const QVariantList &list)
+    void beginOther(const QVariant &value)
     {
-        html.append(kOpenList);
-        OpenContainer container;
-        container.list = list;
-        stack.push_back(std::move(container));
+        const int type = value.typeId();
+        if (value.isNull()) {
+            html.append(kOpenWord).append(QLatin1String("null")).append(kClose);
+        } else if (preview && (type == QMetaType::QVariantMap || type == QMetaType::QVariantHash)) {
+            beginMap(value.toMap());
+        } else if (preview && type == QMetaType::QVariantList) {
+            html.append(kOpenList);
+            open.emplace_back(OpenList{value.toList()});
+        } else if (preview && type == QMetaType::QStringList) {
+            appendStrings(value.toStringList());
+        } else {
+            html.append(value.toString());
+        }
     }
 
     void beginMap(const QVariantMap &map)
     {
         html.append(kOpenMap);
-        OpenContainer container;
-        container.isMap = true;
-        container.map = map;
-        container.isChildrenPending = map.contains(kChildrenKey);
-        stack.push_back(std::move(container));
-        stack.back().nextEntry = stack.back().map.cbegin();
+        open.emplace_back(OpenMap{map, map.cbegin()});
     }
 
-    void goOn()
+    /// A list of strings whole, without a variant for each.
+    void appendStrings(const QStringList &strings)
     {
-        if (stack.back().isMap) {
-            goOnWithMap();
-        } else {
-            goOnWithList();
+        html.append(kOpenList);
+        bool isFirst = true;
+        for (const QString &string : strings) {
+            appendSeparator(isFirst);
+            appendEscaped(html, kOpenString, string, kCloseString);
         }
+        html.append(kCloseList);
     }
 
-    void goOnWithList()
+    /// Writes one more element, or the end. `container` may be gone after begin() or end().
+    void goOn(OpenList &container)
     {
-        OpenContainer &container = stack.back();
-        if (container.nextElement == container.list.size()) {
+        if (container.next == container.list.size()) {
             end(kCloseList);
             return;
         }
-        appendSeparator();
-        const QVariant element = container.list.at(container.nextElement++);
-        begin(element);
+        appendSeparator(container.isFirst);
+        begin(container.list.at(container.next++));
     }
 
-    void goOnWithMap()
+    /// Writes one more entry, or the end, in the same way.
+    void goOn(OpenMap &container)
     {
-        OpenContainer &container = stack.back();
-        if (container.nextEntry != container.map.cend()
-            && container.nextEntry.key() == kChildrenKey) {
-            ++container.nextEntry;
+        if (container.next != container.map.cend() && container.next.key() == kChildrenKey) {
+            container.children = &container.next.value();
+            ++container.next;
         }
-        if (container.nextEntry != container.map.cend()) {
-            const auto entry = container.nextEntry++;
-            beginEntry(entry.key(), entry.value());
-        } else if (container.isChildrenPending) {
-            container.isChildrenPending = false;
-            const QVariant children = container.map.value(kChildrenKey);
-            beginEntry(kChildrenKey, children);
+        if (container.next != container.map.cend()) {
+            const auto entry = container.next++;
+            appendSeparator(container.isFirst);
+            appendEscaped(html, entry.key());
+            html.append(kKeyEnd);
+            begin(entry.value());
+        } else if (container.children != nullptr) {
+            appendSeparator(container.isFirst);
+            html.append(kChildrenKey).append(kKeyEnd);
+            begin(*std::exchange(container.children, nullptr));
         } else {
             end(kCloseMap);
         }
     }
 
-    void beginEntry(const QString &key, const QVariant &value)
+    void appendSeparator(bool &isFirst)
     {
-        appendSeparator();
-        appendEscaped(html, key);
-        html.append(kKeyEnd);
-        begin(value);
-    }
-
-    void appendSeparator()
-    {
-        if (!stack.back().isEmptySoFar) {
+        if (!std::exchange(isFirst, false)) {
             html.append(kSeparator);
         }
-        stack.back().isEmptySoFar = false;
     }
 
     void end(QLatin1String bracket)
     {
         html.append(bracket);
-        stack.pop_back();
+        open.pop_back();
     }
 
     QString html;
-    std::vector<OpenContainer> stack;
+    std::vector<std::variant<OpenList, OpenMap>> open;
+    bool preview;
 };
 
 } // namespace
 
 QString VariantHtml::fromVariant(const QVariant &value, bool preview)
 {
-    if (preview) {
-        return Writer().write(value);
-    }
-    QString html;
-    appendScalar(html, value);
-    return html;
+    return Writer(preview).write(value);
 }
 
 QString VariantHtml::line(const QString &html)

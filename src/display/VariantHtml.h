@@ -11,8 +11,9 @@ class QVariant;
 /// Thread: any.
 namespace VariantHtml {
 
-/// The text of the value, with what it holds when it is a list or a dictionary, unless `preview` is
-/// false. One buffer, time in proportion to the text; the depth costs no stack.
+/// The text of the value. A list or a dictionary shows what it holds, or without `preview` what
+/// QVariant::toString() makes of it: nothing, and of a list of one string the string. One buffer,
+/// time in proportion to the text; the depth costs no stack.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString fromVariant(const QVariant &value, bool preview);
 
 /// Puts a text between the tags that make it monospaced: the line of a viewer, or a key.
