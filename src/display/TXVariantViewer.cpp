@@ -1,20 +1,14 @@
 #include "TXVariantViewer.h"
 
-#include "VariantCopyAction.h"
 #include "VariantHtml.h"
 #include "VariantLabel.h"
 
-#include <QContextMenuEvent>
 #include <QGridLayout>
-#include <QMenu>
-#include <QMouseEvent>
-#include <QPainter>
 
 namespace {
 
 constexpr int kClosedMarginPixels = 14;
 constexpr int kOpenMarginPixels = 21;
-constexpr double kDesignFontHeight = 15.0;
 
 bool isMap(const QVariant &value)
 {
@@ -194,88 +188,7 @@ void TXVariantViewer::setLeftMargin(int pixels)
     layout()->setContentsMargins(pixels, 0, 0, 0);
 }
 
-void TXVariantViewer::hover()
-{
-    if (!hoverEffects()) {
-        return;
-    }
-    QPalette lit = palette();
-    lit.setBrush(QPalette::All, backgroundRole(), QBrush(Qt::white));
-    setPalette(lit);
-}
-
-void TXVariantViewer::unhover()
-{
-    takeParentPalette();
-}
-
-void TXVariantViewer::childEntered()
-{
-    takeParentPalette();
-}
-
-void TXVariantViewer::childLeaved()
-{
-    hover();
-}
-
-void TXVariantViewer::takeParentPalette()
-{
-    if (parentWidget() != nullptr) {
-        setPalette(parentWidget()->palette());
-    }
-}
-
 TXVariantViewer *TXVariantViewer::parentViewer() const
 {
     return qobject_cast<TXVariantViewer *>(parentWidget());
-}
-
-void TXVariantViewer::paintEvent(QPaintEvent *)
-{
-    const double scale = QFontMetrics(font()).height() / kDesignFontHeight;
-    QPainter painter(this);
-    painter.scale(scale, scale);
-    painter.drawRect(QRect(QPoint(2, 2), QPoint(11, 11)));
-    painter.drawLine(5, 7, 9, 7);
-    if (!expanded) {
-        painter.drawLine(7, 5, 7, 9);
-    }
-}
-
-void TXVariantViewer::mousePressEvent(QMouseEvent *event)
-{
-    if (!isExpandable() || event->button() != Qt::LeftButton) {
-        return;
-    }
-    if (!expanded) {
-        expand();
-    } else if (event->position().x() < kOpenMarginPixels) {
-        collapse();
-    }
-}
-
-void TXVariantViewer::enterEvent(QEnterEvent *)
-{
-    hover();
-    if (TXVariantViewer *above = parentViewer()) {
-        above->childEntered();
-    }
-}
-
-void TXVariantViewer::leaveEvent(QEvent *)
-{
-    takeParentPalette();
-    if (TXVariantViewer *above = parentViewer()) {
-        above->childLeaved();
-    }
-}
-
-void TXVariantViewer::contextMenuEvent(QContextMenuEvent *event)
-{
-    QMenu menu;
-    const QAction *copy = menu.addAction(VariantCopyAction::text(value));
-    if (menu.exec(event->globalPos()) == copy) {
-        VariantCopyAction::copy(value);
-    }
 }
