@@ -31,6 +31,7 @@ TXVariantViewer::TXVariantViewer(QWidget *parent)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0);
     grid->addWidget(label);
+    prepareForUser();
     setValue(QVariant());
 }
 
@@ -92,6 +93,7 @@ void TXVariantViewer::setValue(QVariant newValue)
     setCursor(cursor);
     label->setCursor(cursor);
     update();
+    announceValue();
     emit resized();
 }
 
@@ -119,6 +121,7 @@ void TXVariantViewer::expand()
     setLeftMargin(kOpenMarginPixels);
     expanded = true;
     update();
+    announceFolding();
     emit resized();
 }
 
@@ -133,6 +136,7 @@ void TXVariantViewer::collapse()
     setLeftMargin(kClosedMarginPixels);
     expanded = false;
     update();
+    announceFolding();
     emit resized();
 }
 
@@ -148,6 +152,7 @@ void TXVariantViewer::addMapEntries()
         grid->addWidget(key, row, 0);
         childWidgets.append(key);
         TXVariantViewer *child = makeChildViewer(entry.value());
+        child->entryKey = entry.key();
         grid->addWidget(child, row, 1);
         child->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         childWidgets.append(child);
@@ -176,6 +181,7 @@ TXVariantViewer *TXVariantViewer::makeChildViewer(const QVariant &childValue)
 
 void TXVariantViewer::removeEntries()
 {
+    takeFocusFromEntries();
     for (QWidget *widget : std::as_const(childWidgets)) {
         widget->deleteLater();
         layout()->removeWidget(widget);
