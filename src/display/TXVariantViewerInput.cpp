@@ -102,7 +102,10 @@ void TXVariantViewer::copyValue()
 void TXVariantViewer::keyPressEvent(QKeyEvent *event)
 {
     event->accept();
-    if (event->matches(QKeySequence::Copy)) {
+    if (!hasFocus()) {
+        // What a viewer within has no use for, Down on the last one, is not for those around it.
+        event->ignore();
+    } else if (event->matches(QKeySequence::Copy)) {
         copyValue();
     } else if (!isPlain(*event) || !(moveByKey(event->key()) || foldByKey(event->key()))) {
         event->ignore();
@@ -171,16 +174,20 @@ void TXVariantViewer::updateFocusFrame()
 bool TXVariantViewer::focusNextPrevChild(bool next)
 {
     TXVariantViewer *root = rootViewer();
-    if (root == this) {
+    if (root != this) {
+        return root->focusNextPrevChild(next);
+    }
+    QWidget *focused = window()->focusWidget();
+    if (focused == nullptr || !isAncestorOf(focused)) {
         return QWidget::focusNextPrevChild(next);
     }
     // Qt looks for the next stop from the widget that has the focus on. So that one takes its place
     // behind the root, which is no stop itself this once.
-    setTabOrder(root, this);
-    const Qt::FocusPolicy policy = root->focusPolicy();
-    root->setFocusPolicy(Qt::ClickFocus);
+    setTabOrder(this, focused);
+    const Qt::FocusPolicy policy = focusPolicy();
+    setFocusPolicy(Qt::ClickFocus);
     const bool isLeft = QWidget::focusNextPrevChild(next);
-    root->setFocusPolicy(policy);
+    setFocusPolicy(policy);
     return isLeft;
 }
 
