@@ -102,7 +102,7 @@ void TXVariantViewer::copyValue()
 void TXVariantViewer::keyPressEvent(QKeyEvent *event)
 {
     event->accept();
-    if (!hasFocus()) {
+    if (window()->focusWidget() != this) {
         // What a viewer within has no use for, Down on the last one, is not for those around it.
         event->ignore();
     } else if (event->matches(QKeySequence::Copy)) {

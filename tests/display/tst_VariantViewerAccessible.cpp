@@ -16,35 +16,11 @@ using VariantViewerHelpers::nestedValue;
 
 namespace {
 
-struct Told
-{
-    QAccessible::Event type;
-    QObject *object;
-    QString text;
-};
+int toldEvents = 0;
 
-QList<Told> told;
-
-void note(QAccessibleEvent *event)
+void note(QAccessibleEvent *)
 {
-    QString text;
-    if (event->type() == QAccessible::ValueChanged) {
-        text = static_cast<QAccessibleValueChangeEvent *>(event)->value().toString();
-    }
-    if (event->type() == QAccessible::StateChanged) {
-        const auto changed = static_cast<QAccessibleStateChangeEvent *>(event)->changedStates();
-        text = changed.expanded && changed.collapsed ? QStringLiteral("folding") : QString();
-    }
-    told.append({event->type(), event->object(), text});
-}
-
-int countTold(QAccessible::Event type, const QObject *object, const QString &text)
-{
-    int count = 0;
-    for (const Told &event : std::as_const(told)) {
-        count += event.type == type && event.object == object && event.text == text ? 1 : 0;
-    }
-    return count;
+    ++toldEvents;
 }
 
 QAccessibleInterface *accessible(QWidget *widget)
@@ -72,7 +48,6 @@ private slots:
     void actionOpensAndCloses();
     void actionCopies();
     void disabledViewerHasNoActions();
-    void changesAreTold();
     void nothingIsToldWithoutListeners();
 
 protected:
@@ -90,7 +65,7 @@ void TestVariantViewerAccessible::prepare()
     root->setValue(nestedValue());
     tree = accessible(root.get());
     QVERIFY(tree);
-    told.clear();
+    toldEvents = 0;
 }
 
 void TestVariantViewerAccessible::finish()
@@ -294,16 +269,6 @@ void TestVariantViewerAccessible::disabledViewerHasNoActions()
     QVERIFY(!root->isExpanded());
 }
 
-void TestVariantViewerAccessible::changesAreTold()
-{
-    QAccessible::installUpdateHandler(note);
-    VariantViewerAccessible::announceFolding(*root);
-    QCOMPARE(countTold(QAccessible::StateChanged, root.get(), QStringLiteral("folding")), 1);
-    root->setValue(QVariantList{7});
-    VariantViewerAccessible::announceValue(*root);
-    QCOMPARE(countTold(QAccessible::ValueChanged, root.get(), QStringLiteral("[7]")), 1);
-}
-
 void TestVariantViewerAccessible::nothingIsToldWithoutListeners()
 {
     root->show();
@@ -312,8 +277,7 @@ void TestVariantViewerAccessible::nothingIsToldWithoutListeners()
     QVERIFY(!QAccessible::isActive());
     root->expand();
     root->setValue(5);
-    QVERIFY(countTold(QAccessible::StateChanged, root.get(), QStringLiteral("folding")) == 0);
-    QVERIFY(countTold(QAccessible::ValueChanged, root.get(), QStringLiteral("5")) == 0);
+    QCOMPARE(toldEvents, 0);
 }
 
 int main(int argc, char **argv)
