@@ -1,22 +1,16 @@
 #include "TXVariantViewer.h"
 
-#include "VariantCopyAction.h"
 #include "VariantEntries.h"
 #include "VariantHtml.h"
 #include "VariantLabel.h"
 #include "VariantMoreButton.h"
 
-#include <QContextMenuEvent>
 #include <QGridLayout>
-#include <QMenu>
-#include <QMouseEvent>
-#include <QPainter>
 
 namespace {
 
 constexpr int kClosedMarginPixels = 14;
 constexpr int kOpenMarginPixels = 21;
-constexpr double kDesignFontHeight = 15.0;
 
 } // namespace
 
@@ -29,6 +23,7 @@ TXVariantViewer::TXVariantViewer(QWidget *parent)
     cells->setContentsMargins(0, 0, 0, 0);
     cells->setSpacing(0);
     cells->addWidget(label);
+    prepareForUser();
     setValue(QVariant());
 }
 
@@ -105,6 +100,7 @@ void TXVariantViewer::setValue(QVariant newValue)
     setCursor(cursor);
     label->setCursor(cursor);
     update();
+    announceValue();
     emit resized();
 }
 
@@ -129,6 +125,7 @@ void TXVariantViewer::expand()
     addEntries();
     expanded = true;
     update();
+    announceFolding();
     emit resized();
 }
 
@@ -139,6 +136,7 @@ void TXVariantViewer::collapse()
     }
     showLine();
     update();
+    announceFolding();
     emit resized();
 }
 
@@ -189,11 +187,13 @@ void TXVariantViewer::addEntry()
         addWidget(makeChildViewer(entries->takeValue()), row + 1, 0);
         return;
     }
-    auto *key = new VariantLabel(this);
-    key->setText(VariantHtml::key(entries->key()));
-    key->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    addWidget(key, row, 0);
+    auto *keyLabel = new VariantLabel(this);
+    const QString key = entries->key();
+    keyLabel->setText(VariantHtml::key(key));
+    keyLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    addWidget(keyLabel, row, 0);
     TXVariantViewer *child = makeChildViewer(entries->takeValue());
+    child->entryKey = key;
     addWidget(child, row, 1);
     child->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
@@ -257,10 +257,7 @@ TXVariantViewer *TXVariantViewer::makeChildViewer(const QVariant &childValue)
 
 void TXVariantViewer::removeEntries()
 {
-    QWidget *focused = window()->focusWidget();
-    if (focused != nullptr && isAncestorOf(focused)) {
-        setFocus(Qt::OtherFocusReason);
-    }
+    takeFocusFromEntries();
     // From the front of the layout: removeWidget() looks through all of it for each.
     while (const std::unique_ptr<QLayoutItem> item{layout()->takeAt(0)}) { }
     for (QWidget *widget : std::as_const(childWidgets)) {
@@ -282,88 +279,7 @@ void TXVariantViewer::setLeftMargin(int pixels)
     layout()->setContentsMargins(pixels, 0, 0, 0);
 }
 
-void TXVariantViewer::hover()
-{
-    if (!hoverEffects()) {
-        return;
-    }
-    QPalette lit = palette();
-    lit.setBrush(QPalette::All, backgroundRole(), QBrush(Qt::white));
-    setPalette(lit);
-}
-
-void TXVariantViewer::unhover()
-{
-    takeParentPalette();
-}
-
-void TXVariantViewer::childEntered()
-{
-    takeParentPalette();
-}
-
-void TXVariantViewer::childLeaved()
-{
-    hover();
-}
-
-void TXVariantViewer::takeParentPalette()
-{
-    if (parentWidget() != nullptr) {
-        setPalette(parentWidget()->palette());
-    }
-}
-
 TXVariantViewer *TXVariantViewer::parentViewer() const
 {
     return qobject_cast<TXVariantViewer *>(parentWidget());
-}
-
-void TXVariantViewer::paintEvent(QPaintEvent *)
-{
-    const double scale = QFontMetrics(font()).height() / kDesignFontHeight;
-    QPainter painter(this);
-    painter.scale(scale, scale);
-    painter.drawRect(QRect(QPoint(2, 2), QPoint(11, 11)));
-    painter.drawLine(5, 7, 9, 7);
-    if (!expanded) {
-        painter.drawLine(7, 5, 7, 9);
-    }
-}
-
-void TXVariantViewer::mousePressEvent(QMouseEvent *event)
-{
-    if (!isExpandable() || event->button() != Qt::LeftButton) {
-        return;
-    }
-    if (!expanded) {
-        expand();
-    } else if (event->position().x() < kOpenMarginPixels) {
-        collapse();
-    }
-}
-
-void TXVariantViewer::enterEvent(QEnterEvent *)
-{
-    hover();
-    if (TXVariantViewer *above = parentViewer()) {
-        above->childEntered();
-    }
-}
-
-void TXVariantViewer::leaveEvent(QEvent *)
-{
-    takeParentPalette();
-    if (TXVariantViewer *above = parentViewer()) {
-        above->childLeaved();
-    }
-}
-
-void TXVariantViewer::contextMenuEvent(QContextMenuEvent *event)
-{
-    QMenu menu;
-    const QAction *copy = menu.addAction(VariantCopyAction::text(value));
-    if (menu.exec(event->globalPos()) == copy) {
-        VariantCopyAction::copy(value);
-    }
 }

@@ -10,6 +10,7 @@
 
 class QGridLayout;
 class QLabel;
+class QPainter;
 class VariantEntries;
 class VariantMoreButton;
 
@@ -114,8 +115,17 @@ public slots:
     /// palette of its parent again.
     void setHoverEffects(bool enabled = true);
 
+protected:
+    /// Goes to other viewers, opens, closes, copies. Other keys are left to the widgets around.
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    /// Leaves the whole tree, from whichever of its viewers.
+    bool focusNextPrevChild(bool next) override;
+
 private:
     friend class VariantMoreButton;
+    friend class VariantViewerAccessible;
 
     void showLine();
     void addMoreEntries();
@@ -142,4 +152,33 @@ private:
     std::unique_ptr<VariantEntries> entries;
     /// Stands below the rows while `entries` has some left, else null.
     VariantMoreButton *moreButton = nullptr;
+
+    // In the order in which the viewers stand below one another.
+    [[nodiscard]] TXVariantViewer *rootViewer();
+    [[nodiscard]] qsizetype entryCount() const;
+    [[nodiscard]] TXVariantViewer *entryViewer(qsizetype index) const;
+    [[nodiscard]] qsizetype indexOfEntry(const TXVariantViewer *entry) const;
+    [[nodiscard]] TXVariantViewer *siblingViewer(int step) const;
+    [[nodiscard]] TXVariantViewer *lastShownViewer();
+    [[nodiscard]] TXVariantViewer *viewerAbove() const;
+    [[nodiscard]] TXVariantViewer *viewerBelow() const;
+
+    // What the keyboard, the mouse and other helpers of the user do.
+    void prepareForUser();
+    void paintFoldBox(QPainter &painter) const;
+    void paintBracket(QPainter &painter) const;
+    [[nodiscard]] TXVariantViewer *viewerByKey(int key);
+    [[nodiscard]] bool moveByKey(int key);
+    [[nodiscard]] bool foldByKey(int key);
+    void takeFocusFromEntries();
+    void updateFocusFrame();
+    void scrollIntoView() const;
+    [[nodiscard]] QRect lineArea() const;
+    [[nodiscard]] QPoint menuPosition() const;
+    void copyValue();
+    void announceFolding();
+    void announceValue();
+
+    /// The name of the entry that this viewer shows, when it stands in a dictionary.
+    QString entryKey;
 };

@@ -2,6 +2,7 @@
 
 #include "TXJSONSerializer.h"
 #include "TXVariantViewer.h"
+#include "VariantKind.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -9,27 +10,24 @@
 
 namespace {
 
-bool isContainer(int type)
+bool isContainer(const QVariant &value)
 {
-    return type == QMetaType::QVariantMap || type == QMetaType::QVariantHash
-        || type == QMetaType::QVariantList || type == QMetaType::QStringList;
+    return VariantKind::isMap(value) || VariantKind::isList(value);
 }
 
 bool isJsonWanted(const QVariant &value)
 {
-    return value.isNull() || !value.isValid() || value.typeId() == QMetaType::Bool
-        || isContainer(value.typeId());
+    return value.isNull() || value.typeId() == QMetaType::Bool || isContainer(value);
 }
 
 } // namespace
 
 QString VariantCopyAction::text(const QVariant &value)
 {
-    const int type = value.typeId();
-    if (isContainer(type)) {
+    if (isContainer(value)) {
         return TXVariantViewer::tr("Copy value (JSON encoded)");
     }
-    if (type == QMetaType::QString || type == QMetaType::QByteArray) {
+    if (VariantKind::isText(value)) {
         return TXVariantViewer::tr("Copy string value");
     }
     return TXVariantViewer::tr("Copy value");

@@ -13,4 +13,13 @@ class TXGUICOMMON_PRIVATE_EXPORT VariantLabel : public QLabel
 
 public:
     explicit VariantLabel(QWidget *parent);
+
+    /// Paints the focus frame of this widget around the label, since the label covers it. The owner
+    /// outlives the label; null, the default, stands for no frame.
+    void setFocusOwner(const QWidget *owner);
+
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const QWidget *focusOwner = nullptr;
 };

@@ -1,0 +1,83 @@
+#include "TXVariantViewer.h"
+
+#include "VariantKind.h"
+
+// Widgets of the entries stand in childWidgets: viewers alone for a list, keys and viewers by turns
+// for a dictionary. To find a viewer among its siblings costs their number, the rest the depth.
+
+namespace {
+
+qsizetype widgetsPerEntry(const QVariant &value)
+{
+    return VariantKind::isMap(value) ? 2 : 1;
+}
+
+} // namespace
+
+TXVariantViewer *TXVariantViewer::rootViewer()
+{
+    TXVariantViewer *root = this;
+    while (TXVariantViewer *above = root->parentViewer()) {
+        root = above;
+    }
+    return root;
+}
+
+qsizetype TXVariantViewer::entryCount() const
+{
+    qsizetype count = childWidgets.size() / widgetsPerEntry(value);
+    while (count > 0 && entryViewer(count - 1) == nullptr) {
+        --count;
+    }
+    return count;
+}
+
+TXVariantViewer *TXVariantViewer::entryViewer(qsizetype index) const
+{
+    const qsizetype step = widgetsPerEntry(value);
+    return qobject_cast<TXVariantViewer *>(childWidgets.value(step * index + step - 1));
+}
+
+qsizetype TXVariantViewer::indexOfEntry(const TXVariantViewer *entry) const
+{
+    const qsizetype place = childWidgets.indexOf(entry);
+    return place < 0 ? -1 : place / widgetsPerEntry(value);
+}
+
+TXVariantViewer *TXVariantViewer::siblingViewer(int step) const
+{
+    const TXVariantViewer *parent = parentViewer();
+    if (parent == nullptr) {
+        return nullptr;
+    }
+    const qsizetype index = parent->indexOfEntry(this);
+    return index < 0 || index + step < 0 ? nullptr : parent->entryViewer(index + step);
+}
+
+TXVariantViewer *TXVariantViewer::lastShownViewer()
+{
+    TXVariantViewer *last = this;
+    while (last->entryCount() > 0) {
+        last = last->entryViewer(last->entryCount() - 1);
+    }
+    return last;
+}
+
+TXVariantViewer *TXVariantViewer::viewerAbove() const
+{
+    TXVariantViewer *before = siblingViewer(-1);
+    return before != nullptr ? before->lastShownViewer() : parentViewer();
+}
+
+TXVariantViewer *TXVariantViewer::viewerBelow() const
+{
+    if (entryCount() > 0) {
+        return entryViewer(0);
+    }
+    for (const TXVariantViewer *viewer = this; viewer != nullptr; viewer = viewer->parentViewer()) {
+        if (TXVariantViewer *after = viewer->siblingViewer(1)) {
+            return after;
+        }
+    }
+    return nullptr;
+}

@@ -1,0 +1,288 @@
+#include "VariantViewerAccessible.h"
+
+#include "TestBase.h"
+#include "VariantPlainText.h"
+#include "VariantViewerHelpers.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QLabel>
+
+#include <memory>
+
+using VariantViewerHelpers::entriesOf;
+using VariantViewerHelpers::nestedLists;
+using VariantViewerHelpers::nestedValue;
+
+namespace {
+
+int toldEvents = 0;
+
+void note(QAccessibleEvent *)
+{
+    ++toldEvents;
+}
+
+QAccessibleInterface *accessible(QWidget *widget)
+{
+    return QAccessible::queryAccessibleInterface(widget);
+}
+
+} // namespace
+
+class TestVariantViewerAccessible : public TestBase
+{
+    Q_OBJECT
+
+private slots:
+    void valueAndKindAreTold_data();
+    void valueAndKindAreTold();
+    void longValueIsCut_data();
+    void longValueIsCut();
+    void hugeValueIsNotRenderedWhole();
+    void treeHoldsItsItemsInOrder();
+    void namesAreKeysAndPlaces();
+    void hostNamesTheRoot();
+    void stateTellsWhatCanBeOpened();
+    void focusIsTold();
+    void actionOpensAndCloses();
+    void actionCopies();
+    void disabledViewerHasNoActions();
+    void nothingIsToldWithoutListeners();
+
+protected:
+    void prepare() override;
+    void finish() override;
+
+private:
+    std::unique_ptr<TXVariantViewer> root;
+    QAccessibleInterface *tree = nullptr;
+};
+
+void TestVariantViewerAccessible::prepare()
+{
+    root = std::make_unique<TXVariantViewer>(nullptr);
+    root->setValue(nestedValue());
+    tree = accessible(root.get());
+    QVERIFY(tree);
+    toldEvents = 0;
+}
+
+void TestVariantViewerAccessible::finish()
+{
+    QAccessible::installUpdateHandler(nullptr);
+    root.reset();
+}
+
+void TestVariantViewerAccessible::valueAndKindAreTold_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("kind");
+    const QVariantList list{1, QVariantList(), QVariantMap()};
+    const QVariantMap node{{"a", 1}, {"children", QStringList{"x"}}, {"z", true}};
+    QTest::newRow("map") << nestedValue() << R"({a: [1, 2], b: {x: true, y: "text"}, c: 3})"
+                         << "Dictionary, 3 entries";
+    QTest::newRow("one entry") << QVariant(QVariantHash{{"<k>", 1}}) << "{<k>: 1}"
+                               << "Dictionary, one entry";
+    QTest::newRow("empty map") << QVariant(QVariantMap()) << "{}"
+                               << "Dictionary, 0 entries";
+    QTest::newRow("node") << QVariant(node) << R"({a: 1, z: true, children: ["x"]})"
+                          << "Dictionary, 3 entries";
+    QTest::newRow("children only") << QVariant(QVariantMap{{"children", 1}}) << "{children: 1}"
+                                   << "Dictionary, one entry";
+    QTest::newRow("list") << QVariant(list) << "[1, [], {}]"
+                          << "List, 3 entries";
+    QTest::newRow("texts") << QVariant(QStringList{"a", "b"}) << R"(["a", "b"])"
+                           << "List, 2 entries";
+    QTest::newRow("one text") << QVariant(QStringList{"a"}) << R"(["a"])"
+                              << "List, one entry";
+    QTest::newRow("text") << QVariant("a & <b>") << "\"a & <b>\""
+                          << "Text";
+    QTest::newRow("bytes") << QVariant(QByteArray("b")) << "\"b\""
+                           << "Text";
+    QTest::newRow("invalid") << QVariant() << "null"
+                             << "Nothing";
+    QTest::newRow("bool") << QVariant(false) << "false"
+                          << "True or false";
+    QTest::newRow("int") << QVariant(-3) << "-3"
+                         << "Whole number";
+    QTest::newRow("double") << QVariant(0.25) << "0.25"
+                            << "Number";
+    QTest::newRow("date") << QVariant(QDate(2024, 2, 29)) << "2024-02-29"
+                          << "QDate";
+}
+
+void TestVariantViewerAccessible::valueAndKindAreTold()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, text);
+    QFETCH(QString, kind);
+    root->setValue(value);
+    QCOMPARE(tree->text(QAccessible::Value), text);
+    QCOMPARE(tree->text(QAccessible::Description), kind);
+}
+
+void TestVariantViewerAccessible::longValueIsCut_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("text");
+    const QString x(5000, u'x');
+    const QString ellipsis(QChar(0x2026));
+    const QString pair = QString::fromUcs4(U"\U0001F600", 1);
+    QTest::newRow("fits") << QVariant(x.left(998)) << u'"' + x.left(998) + u'"';
+    QTest::newRow("one too many") << QVariant(x.left(999)) << u'"' + x.left(999) + ellipsis;
+    QTest::newRow("text") << QVariant(x) << u'"' + x.left(999) + ellipsis;
+    QTest::newRow("bytes") << QVariant(x.toLatin1()) << u'"' + x.left(999) + ellipsis;
+    QTest::newRow("key") << QVariant(QVariantMap{{x, 1}}) << u'{' + x.left(999) + ellipsis;
+    QTest::newRow("surrogates") << QVariant(x.left(998) + pair + x)
+                                << u'"' + x.left(998) + ellipsis;
+    QTest::newRow("nested") << nestedLists(900)
+                            << QString(900, u'[') + u'1' + QString(99, u']') + ellipsis;
+}
+
+void TestVariantViewerAccessible::longValueIsCut()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, text);
+    QCOMPARE(VariantPlainText::fromVariant(value), text);
+}
+
+void TestVariantViewerAccessible::hugeValueIsNotRenderedWhole()
+{
+    constexpr int kEntries = 200000;
+    constexpr int kReads = 1000;
+    const QVariantList list(kEntries, QVariant(QString(100, u'x')));
+    const QVariant value(list);
+    // Rendered whole this would be 20 GB of text.
+    for (int i = 0; i < kReads; ++i) {
+        QCOMPARE(VariantPlainText::fromVariant(value).size(), 1001);
+    }
+}
+
+void TestVariantViewerAccessible::treeHoldsItsItemsInOrder()
+{
+    QCOMPARE(tree->role(), QAccessible::Tree);
+    QCOMPARE(tree->childCount(), 0);
+    root->expand();
+    const QList<TXVariantViewer *> entries = entriesOf(*root);
+    QCOMPARE(tree->childCount(), 3);
+    for (int i = 0; i < 3; ++i) {
+        QAccessibleInterface *item = tree->child(i);
+        QVERIFY(item);
+        QCOMPARE(item->object(), entries.at(i));
+        QCOMPARE(item->role(), QAccessible::TreeItem);
+        QCOMPARE(item->parent()->object(), root.get());
+        QCOMPARE(tree->indexOfChild(item), i);
+    }
+    QVERIFY(!tree->child(-1));
+    QVERIFY(!tree->child(3));
+    QCOMPARE(tree->indexOfChild(nullptr), -1);
+    QCOMPARE(tree->indexOfChild(tree), -1);
+    QCOMPARE(tree->indexOfChild(accessible(root->findChild<QLabel *>())), -1);
+
+    root->collapse();
+    QCOMPARE(tree->childCount(), 0);
+}
+
+void TestVariantViewerAccessible::namesAreKeysAndPlaces()
+{
+    QCOMPARE(tree->text(QAccessible::Name), "Value");
+    root->setValue(QVariantMap{{"a < b  &c", QVariantList{5, 6}}});
+    root->expand();
+    TXVariantViewer *entry = entriesOf(*root).first();
+    QTRY_COMPARE(tree->child(0)->text(QAccessible::Name), "a < b  &c");
+    entry->expand();
+    QCOMPARE(tree->child(0)->child(0)->text(QAccessible::Name), "[0]");
+    QCOMPARE(tree->child(0)->child(1)->text(QAccessible::Name), "[1]");
+    QCOMPARE(tree->child(0)->child(1)->text(QAccessible::Value), "6");
+}
+
+void TestVariantViewerAccessible::hostNamesTheRoot()
+{
+    root->setAccessibleName(QStringLiteral("Settings"));
+    root->setAccessibleDescription(QStringLiteral("All of them"));
+    QCOMPARE(tree->text(QAccessible::Name), "Settings");
+    QCOMPARE(tree->text(QAccessible::Description), "All of them");
+}
+
+void TestVariantViewerAccessible::stateTellsWhatCanBeOpened()
+{
+    QVERIFY(tree->state().expandable);
+    QVERIFY(tree->state().collapsed);
+    QVERIFY(!tree->state().expanded);
+    root->expand();
+    QVERIFY(tree->state().expanded);
+    QVERIFY(!tree->state().collapsed);
+    const QAccessible::State number = tree->child(2)->state();
+    QVERIFY(!number.expandable);
+    QVERIFY(!number.expanded);
+    QVERIFY(!number.collapsed);
+    QVERIFY(number.focusable);
+}
+
+void TestVariantViewerAccessible::focusIsTold()
+{
+    root->expand();
+    root->show();
+    QVERIFY(QTest::qWaitForWindowActive(root.get()));
+    entriesOf(*root).at(1)->setFocus();
+    QVERIFY(!tree->state().focused);
+    QVERIFY(tree->child(1)->state().focused);
+    QCOMPARE(tree->focusChild()->object(), entriesOf(*root).at(1));
+}
+
+void TestVariantViewerAccessible::actionOpensAndCloses()
+{
+    const QString toggle = QAccessibleActionInterface::toggleAction();
+    QAccessibleActionInterface *actions = tree->actionInterface();
+    QVERIFY(actions);
+    QVERIFY(actions->actionNames().contains(toggle));
+    QCOMPARE(actions->localizedActionName(toggle), "Expand");
+    QCOMPARE(actions->keyBindingsForAction(toggle), QStringList("Space"));
+    actions->doAction(toggle);
+    QVERIFY(root->isExpanded());
+    QCOMPARE(actions->localizedActionName(toggle), "Collapse");
+    QVERIFY(!tree->child(2)->actionInterface()->actionNames().contains(toggle));
+    actions->doAction(toggle);
+    QVERIFY(!root->isExpanded());
+}
+
+void TestVariantViewerAccessible::actionCopies()
+{
+    QAccessibleActionInterface *actions = tree->actionInterface();
+    const QString copy = actions->actionNames().last();
+    QCOMPARE(actions->localizedActionName(copy), "Copy value (JSON encoded)");
+    root->setValue(QVariantList{1, 2});
+    actions->doAction(copy);
+    QCOMPARE(QGuiApplication::clipboard()->text(), "[1,2]");
+    actions->doAction(QStringLiteral("unknown"));
+    QCOMPARE(QGuiApplication::clipboard()->text(), "[1,2]");
+}
+
+void TestVariantViewerAccessible::disabledViewerHasNoActions()
+{
+    root->setEnabled(false);
+    QAccessibleActionInterface *actions = tree->actionInterface();
+    QVERIFY(actions->actionNames().isEmpty());
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(!root->isExpanded());
+}
+
+void TestVariantViewerAccessible::nothingIsToldWithoutListeners()
+{
+    root->show();
+    QVERIFY(QTest::qWaitForWindowExposed(root.get()));
+    QAccessible::installUpdateHandler(note);
+    QVERIFY(!QAccessible::isActive());
+    root->expand();
+    root->setValue(5);
+    QCOMPARE(toldEvents, 0);
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<TestVariantViewerAccessible>(argc, argv);
+}
+
+#include "tst_VariantViewerAccessible.moc"
