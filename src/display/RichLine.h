@@ -1,0 +1,53 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+#include <QPalette>
+#include <QSizeF>
+#include <QString>
+
+#include <memory>
+
+class ColouredLine;
+class QFont;
+class QPainter;
+class QPointF;
+class QTextDocument;
+
+/// Text with any markup of Qt's rich text, laid out without breaking lines by itself: what
+/// VariantLabel shows for markup that is not its own.
+///
+/// Thread: the GUI thread.
+class TXGUICOMMON_PRIVATE_EXPORT RichLine
+{
+public:
+    /// Longer texts, and texts with more foreign tags, are none for rich text.
+    static constexpr qsizetype kCharactersMaximum = 20000;
+    static constexpr qsizetype kTagsMaximum = 12;
+
+    /// True when the line shows right as rich text only, and when that takes no long time.
+    [[nodiscard]] static bool isWanted(const ColouredLine &line, const QString &markup);
+
+    /// Text in which Qt finds no markup counts as plain text. Pictures that the markup names are
+    /// not read from files; they show as nothing.
+    RichLine(const QString &markup, const QFont &font);
+    ~RichLine();
+
+    RichLine(const RichLine &) = delete;
+    RichLine &operator=(const RichLine &) = delete;
+
+    /// The size that the text takes, in pixels.
+    [[nodiscard]] QSizeF size() const { return fullSize; }
+
+    /// The words without the markup, of several paragraphs one a line.
+    [[nodiscard]] QString text() const;
+
+    /// Paints all of it in a room of this width, in which the paragraphs are aligned. Letters
+    /// without a colour have the palette's QPalette::Text.
+    void draw(QPainter &painter, const QPointF &topLeft, qreal room, Qt::Alignment alignment,
+              const QPalette &palette) const;
+
+private:
+    std::unique_ptr<QTextDocument> document;
+    QSizeF fullSize;
+};
