@@ -13,7 +13,7 @@ TXStringI18n message(const char *text)
 
 JsonReading failure(const QString &reason)
 {
-    return {{}, message(QT_TRANSLATE_NOOP("JsonFile", "it cannot be read (%1)")).arg(reason)};
+    return {{}, message(QT_TRANSLATE_NOOP("JsonFile", "It cannot be read: %1.")).arg(reason)};
 }
 
 } // namespace
@@ -23,7 +23,7 @@ JsonReading readJsonFile(const QString &path)
     const QFileInfo info(path);
     // To open a pipe would wait for somebody who writes.
     if (info.exists() && !info.isFile()) {
-        return {{}, message(QT_TRANSLATE_NOOP("JsonFile", "it is no file"))};
+        return {{}, message(QT_TRANSLATE_NOOP("JsonFile", "It is no file."))};
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

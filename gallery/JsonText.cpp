@@ -39,10 +39,10 @@ TXStringI18n mistakeIn(const QByteArray &text)
     QJsonParseError mistake;
     QJsonDocument::fromJson(text, &mistake);
     if (text.trimmed().isEmpty()) {
-        return message(QT_TRANSLATE_NOOP("JsonText", "it is empty"));
+        return message(QT_TRANSLATE_NOOP("JsonText", "It is empty."));
     }
     const auto line = text.left(mistake.offset).count('\n') + 1;
-    return message(QT_TRANSLATE_NOOP("JsonText", "it is no JSON (line %1: %2)"))
+    return message(QT_TRANSLATE_NOOP("JsonText", "It is no JSON (line %1: %2)."))
         .arg(QLocale().toString(line))
         .arg(mistake.errorString());
 }
@@ -54,12 +54,12 @@ JsonReading readJsonText(const QByteArray &text)
     const QLocale locale;
     if (text.size() > kLargestJsonBytes) {
         return {{},
-                message(QT_TRANSLATE_NOOP("JsonText", "it is too large (more than %1)"))
+                message(QT_TRANSLATE_NOOP("JsonText", "It is too large: more than %1."))
                     .arg(locale.formattedDataSize(kLargestJsonBytes))};
     }
     if (countValues(text) > kMostJsonValues) {
         return {{},
-                message(QT_TRANSLATE_NOOP("JsonText", "it holds too many values (more than %1)"))
+                message(QT_TRANSLATE_NOOP("JsonText", "It holds too many values: more than %1."))
                     .arg(locale.toString(qint64(kMostJsonValues)))};
     }
     const QVariant value = TXJSONSerializer::deserialize(text);

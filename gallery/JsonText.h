@@ -11,7 +11,7 @@ struct JsonReading
 {
     /// Valid exactly when there is no error; JSON's null is valid.
     QVariant value;
-    /// For the user, as the rest of a sentence that tells what was read; empty for a good text.
+    /// A sentence for the user, to stand behind one that names the text; empty for a good one.
     TXStringI18n error;
 };
 

@@ -2,8 +2,8 @@
 
 #include "TXVariantViewer.h"
 
-#include <QApplication>
 #include <QEvent>
+#include <QPalette>
 #include <QVBoxLayout>
 
 namespace {
@@ -48,8 +48,6 @@ PaperArea::PaperArea(QWidget *parent)
     // The viewer has keys of its own, and leaves to the area those that it has no use for.
     setFocusPolicy(Qt::NoFocus);
     choosePaper();
-    connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), this,
-            SLOT(showFocus(QWidget *, QWidget *)));
 }
 
 void PaperArea::changeEvent(QEvent *event)
@@ -58,18 +56,6 @@ void PaperArea::changeEvent(QEvent *event)
     if (event->type() == QEvent::PaletteChange) {
         choosePaper();
     }
-}
-
-void PaperArea::showFocus(QWidget * /*before*/, QWidget *now)
-{
-    const bool isByMouse = QApplication::mouseButtons() != Qt::NoButton;
-    if (now == nullptr || isByMouse || !widget()->isAncestorOf(now)) {
-        return;
-    }
-    // Of an open viewer, which may be higher than the area, the first line.
-    const int line = now->fontMetrics().height();
-    const QPoint place = now->mapTo(widget(), QPoint(0, line / 2));
-    ensureVisible(place.x(), place.y(), line, line);
 }
 
 void PaperArea::choosePaper()

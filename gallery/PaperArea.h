@@ -9,8 +9,6 @@ class TXVariantViewer;
 /// The colours of the viewer's text are made for light backgrounds. In light colours the area looks
 /// like its surroundings; in dark ones what is scrolled is a sheet of light paper, and the frame
 /// and the scroll bars stay dark. It follows changes of the palette.
-///
-/// A viewer that gets the focus by the keyboard is scrolled into view.
 class PaperArea final : public QScrollArea
 {
     Q_OBJECT
@@ -23,9 +21,6 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
-
-private slots:
-    void showFocus(QWidget *before, QWidget *now);
 
 private:
     void choosePaper();

@@ -112,14 +112,14 @@ void ServiceRequest::finish()
 void ServiceRequest::take(QNetworkReply &ended)
 {
     if (ended.error() != QNetworkReply::NoError || !isSuccess(statusOf(ended))) {
-        emit failed(failureOf(ended));
+        emit failed(failureOf(ended), {});
         return;
     }
     const JsonReading body = readJsonText(ended.readAll());
     if (!body.error.isEmpty()) {
-        emit failed(message(QT_TRANSLATE_NOOP("ServiceRequest",
-                                              "The answer of the service cannot be shown: %1."))
-                        .arg(body.error.toString()));
+        emit failed(
+            message(QT_TRANSLATE_NOOP("ServiceRequest", "The answer of the service is not shown.")),
+            body.error);
         return;
     }
     emit answered(QVariantMap{{QStringLiteral("status"), statusOf(ended)},

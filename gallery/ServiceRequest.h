@@ -46,8 +46,9 @@ signals:
     /// The service has answered.
     void answered(const QVariant &answer);
 
-    /// There is no answer, or none that can be shown. The reason is a whole sentence for the user.
-    void failed(const TXStringI18n &reason);
+    /// There is no answer, or none that can be shown. Whole sentences for the user; the detail may
+    /// be empty.
+    void failed(const TXStringI18n &reason, const TXStringI18n &detail);
 
 private slots:
     void checkSize();

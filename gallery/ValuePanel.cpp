@@ -50,7 +50,7 @@ ValuePanel::ValuePanel(QWidget *parent)
     connect(hoverBox, SIGNAL(toggled(bool)), viewer, SLOT(setHoverEffects(bool)));
     connect(previewBox, SIGNAL(toggled(bool)), this, SLOT(applyPreview(bool)));
     connect(openButton, SIGNAL(clicked()), this, SLOT(openTwoLevels()));
-    connect(closeButton, SIGNAL(clicked()), this, SLOT(close()));
+    connect(closeButton, SIGNAL(clicked()), this, SLOT(foldUp()));
     connect(&turn, SIGNAL(timeout()), this, SLOT(showDuration()));
 }
 
@@ -83,7 +83,7 @@ void ValuePanel::openTwoLevels()
     showAmounts();
 }
 
-void ValuePanel::close()
+void ValuePanel::foldUp()
 {
     begin(Work::Closing);
     viewer->setExpanded(false);

@@ -37,7 +37,7 @@ public slots:
     void openTwoLevels();
 
     /// Folds everything up.
-    void close();
+    void foldUp();
 
 signals:
     /// isAtWork() has become false.

@@ -31,10 +31,30 @@ ValueSourcePanel::ValueSourcePanel(QWidget *parent)
     messageLabel->setSizePolicy(policy);
     setUpLayout();
     retranslate();
-    show({}, false);
+    showMessage(false);
     connect(settingsButton, SIGNAL(clicked()), this, SIGNAL(settingsWanted()));
     connect(fileButton, SIGNAL(clicked()), this, SIGNAL(fileWanted()));
     connect(serviceButton, SIGNAL(clicked()), this, SIGNAL(answerWanted()));
+}
+
+void ValueSourcePanel::showNote(const TXStringI18n &text)
+{
+    shownText = text;
+    shownReason = {};
+    showMessage(false);
+}
+
+void ValueSourcePanel::showError(const TXStringI18n &text, const TXStringI18n &reason)
+{
+    shownText = text;
+    shownReason = reason;
+    showMessage(true);
+}
+
+QString ValueSourcePanel::message() const
+{
+    const QString text = shownText.toString();
+    return shownReason.isEmpty() ? text : QString(text + u' ' + shownReason.toString());
 }
 
 void ValueSourcePanel::retranslate()
@@ -43,14 +63,13 @@ void ValueSourcePanel::retranslate()
     setButtonText(settingsButton, tr("&Gallery Settings"));
     setButtonText(fileButton, tr("JSO&N File..."));
     setButtonText(serviceButton, tr("As&k the Service"));
-    messageLabel->setText(shownMessage.toString());
+    messageLabel->setText(message());
 }
 
-void ValueSourcePanel::show(const TXStringI18n &text, bool isError)
+void ValueSourcePanel::showMessage(bool isError)
 {
-    shownMessage = text;
-    messageLabel->setText(text.toString());
-    messageLabel->setVisible(!text.isEmpty());
+    messageLabel->setText(message());
+    messageLabel->setVisible(!messageLabel->text().isEmpty());
     messageLabel->setForegroundRole(isError ? QPalette::WindowText : QPalette::PlaceholderText);
     errorPicture->setVisible(isError);
 }

@@ -16,13 +16,14 @@ class ValueSourcePanel final : public GalleryPanel
 public:
     explicit ValueSourcePanel(QWidget *parent = nullptr);
 
-    /// Shows the text without a sign, or with the sign of an error. An empty text takes away what
-    /// was shown.
-    void showNote(const TXStringI18n &text) { show(text, false); }
-    void showError(const TXStringI18n &text) { show(text, true); }
+    /// Shows the text in place of what was shown.
+    void showNote(const TXStringI18n &text);
 
-    /// The text of the note or the error, in the language of the moment.
-    [[nodiscard]] QString message() const { return shownMessage.toString(); }
+    /// Shows what went wrong, with the sign of an error. The reason, a sentence more, may be empty.
+    void showError(const TXStringI18n &text, const TXStringI18n &reason = {});
+
+    /// The note, or the error with its reason, in the language of the moment.
+    [[nodiscard]] QString message() const;
 
 signals:
     /// The user wants to see the settings.
@@ -38,7 +39,7 @@ protected:
     void retranslate() override;
 
 private:
-    void show(const TXStringI18n &text, bool isError);
+    void showMessage(bool isError);
     void setUpLayout();
 
     QPushButton *settingsButton;
@@ -46,5 +47,6 @@ private:
     QPushButton *serviceButton;
     QLabel *errorPicture;
     QLabel *messageLabel;
-    TXStringI18n shownMessage;
+    TXStringI18n shownText;
+    TXStringI18n shownReason;
 };

@@ -61,7 +61,8 @@ VariantPage::VariantPage(QWidget *parent)
     connect(sourcePanel, SIGNAL(fileWanted()), this, SLOT(chooseFile()));
     connect(sourcePanel, SIGNAL(answerWanted()), this, SLOT(askService()));
     connect(request, SIGNAL(answered(QVariant)), this, SLOT(showAnswer(QVariant)));
-    connect(request, SIGNAL(failed(TXStringI18n)), this, SLOT(showFailure(TXStringI18n)));
+    connect(request, SIGNAL(failed(TXStringI18n, TXStringI18n)), this,
+            SLOT(showFailure(TXStringI18n, TXStringI18n)));
 }
 
 QString VariantPage::description() const
@@ -118,9 +119,8 @@ void VariantPage::chooseFile()
         setValue(file.value, message(QT_TR_NOOP("File \"%1\"")).arg(shownName(path)));
         sourcePanel->showNote(plain(QDir::toNativeSeparators(path)));
     } else {
-        sourcePanel->showError(message(QT_TR_NOOP("The file \"%1\" is not shown: %2."))
-                                   .arg(shownName(path))
-                                   .arg(file.error.toString()));
+        sourcePanel->showError(
+            message(QT_TR_NOOP("The file \"%1\" is not shown.")).arg(shownName(path)), file.error);
     }
 }
 
@@ -146,9 +146,9 @@ void VariantPage::showAnswer(const QVariant &answer)
     }
 }
 
-void VariantPage::showFailure(const TXStringI18n &reason)
+void VariantPage::showFailure(const TXStringI18n &reason, const TXStringI18n &detail)
 {
-    sourcePanel->showError(reason);
+    sourcePanel->showError(reason, detail);
     if (isFilling) {
         endFilling();
     }

@@ -34,7 +34,7 @@ private slots:
     void chooseFile();
     void askService();
     void showAnswer(const QVariant &answer);
-    void showFailure(const TXStringI18n &reason);
+    void showFailure(const TXStringI18n &reason, const TXStringI18n &detail);
     void endFilling();
 
 private:

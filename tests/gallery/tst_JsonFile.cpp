@@ -62,14 +62,14 @@ void TestJsonFile::badTextTellsWhy_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("start");
-    QTest::newRow("empty") << QByteArray() << "it is empty";
-    QTest::newRow("blanks") << QByteArray(" \n ") << "it is empty";
-    QTest::newRow("web page") << QByteArray("<html></html>") << "it is no JSON (line 1: ";
-    QTest::newRow("cut off") << QByteArray("{\n\"a\": 1,\n") << "it is no JSON (line 3: ";
-    QTest::newRow("word") << QByteArray("{\n\n\"a\": hello}") << "it is no JSON (line 3: ";
-    QTest::newRow("binary") << QByteArray("\x00\x01\xff\xfe", 4) << "it is no JSON (line 1: ";
+    QTest::newRow("empty") << QByteArray() << "It is empty.";
+    QTest::newRow("blanks") << QByteArray(" \n ") << "It is empty.";
+    QTest::newRow("web page") << QByteArray("<html></html>") << "It is no JSON (line 1: ";
+    QTest::newRow("cut off") << QByteArray("{\n\"a\": 1,\n") << "It is no JSON (line 3: ";
+    QTest::newRow("word") << QByteArray("{\n\n\"a\": hello}") << "It is no JSON (line 3: ";
+    QTest::newRow("binary") << QByteArray("\x00\x01\xff\xfe", 4) << "It is no JSON (line 1: ";
     QTest::newRow("too deep") << QByteArray(2000, '[') + QByteArray(2000, ']')
-                              << "it is no JSON (line 1: ";
+                              << "It is no JSON (line 1: ";
 }
 
 void TestJsonFile::badTextTellsWhy()
@@ -92,7 +92,7 @@ void TestJsonFile::tooManyValuesAreRefused()
 
     const JsonReading bad = readJsonText("[0," + most.mid(1));
     QVERIFY(!bad.value.isValid());
-    QCOMPARE(bad.error.toString(), "it holds too many values (more than 1,000,000)");
+    QCOMPARE(bad.error.toString(), "It holds too many values: more than 1,000,000.");
 }
 
 void TestJsonFile::separatorsInTextsAreNoValues()
@@ -112,7 +112,7 @@ void TestJsonFile::largeFileIsRefused()
     const JsonReading reading = readJsonFile(file.fileName());
 
     QVERIFY(!reading.value.isValid());
-    QCOMPARE(reading.error.toString(), "it is too large (more than 64.00 MiB)");
+    QCOMPARE(reading.error.toString(), "It is too large: more than 64.00 MiB.");
 }
 
 void TestJsonFile::whatIsNoFileIsRefused_data()
@@ -129,7 +129,7 @@ void TestJsonFile::whatIsNoFileIsRefused()
     const JsonReading reading = readJsonFile(path);
 
     QVERIFY(!reading.value.isValid());
-    QCOMPARE(reading.error.toString(), "it is no file");
+    QCOMPARE(reading.error.toString(), "It is no file.");
 }
 
 void TestJsonFile::missingFileIsToldWithItsReason()
@@ -137,7 +137,7 @@ void TestJsonFile::missingFileIsToldWithItsReason()
     const JsonReading reading = readJsonFile(folder.filePath("gone.json"));
 
     QVERIFY(!reading.value.isValid());
-    QCOMPARE(reading.error.toString(), "it cannot be read (No such file or directory)");
+    QCOMPARE(reading.error.toString(), "It cannot be read: No such file or directory.");
 }
 
 int main(int argc, char **argv)

@@ -5,7 +5,6 @@
 
 #include "TXVariantViewer.h"
 
-#include <QLineEdit>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -50,14 +49,11 @@ private slots:
     void darkColoursGiveLightPaper();
     void viewerThatWasLitFollowsThePalette();
     void viewerStandsAtTheTop();
-    void focusByTheKeyboardIsScrolledIntoView();
 
 private:
     void prepare() override;
     void finish() override { window.reset(); }
     [[nodiscard]] TXVariantViewer &viewer() const { return *area->viewer(); }
-
-    [[nodiscard]] bool isInView(const QWidget &widget) const;
 
     std::unique_ptr<QWidget> window;
     PaperArea *area = nullptr;
@@ -73,12 +69,6 @@ void TestPaperArea::prepare()
     window->resize(400, 300);
     window->show();
     QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-}
-
-bool TestPaperArea::isInView(const QWidget &widget) const
-{
-    const QRect place(widget.mapTo(area->viewport(), QPoint()), widget.size());
-    return area->viewport()->rect().contains(place);
 }
 
 void TestPaperArea::lightColoursStayThoseOfTheSurroundings()
@@ -130,30 +120,6 @@ void TestPaperArea::viewerStandsAtTheTop()
 
     QVERIFY(viewer().mapTo(area, QPoint()).y() < 20);
     QVERIFY(viewer().width() > 300);
-}
-
-void TestPaperArea::focusByTheKeyboardIsScrolledIntoView()
-{
-    QVariantList many;
-    for (int i = 0; i < 100; ++i) {
-        many.append(i);
-    }
-    viewer().setValue(many);
-    viewer().expand();
-    QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
-    QWidget *last = viewer().findChildren<TXVariantViewer *>().last();
-    QWidget *first = viewer().findChildren<TXVariantViewer *>().first();
-    QTRY_VERIFY(last->y() > area->height());
-    QVERIFY(!isInView(*last));
-    window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
-
-    last->setFocus(Qt::OtherFocusReason);
-    QVERIFY(isInView(*last));
-
-    first->setFocus(Qt::OtherFocusReason);
-    QVERIFY(isInView(*first));
-    QVERIFY(!isInView(*last));
 }
 
 int main(int argc, char **argv)

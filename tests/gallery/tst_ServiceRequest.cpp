@@ -73,7 +73,11 @@ LocalWebReply TestServiceRequest::silence()
 QString TestServiceRequest::reasonOf(QSignalSpy &failures) const
 {
     const bool hasCome = !failures.isEmpty() || failures.wait(kPatienceMilliseconds);
-    return hasCome ? failures.first().first().value<TXStringI18n>().toString() : QString();
+    if (!hasCome) {
+        return {};
+    }
+    const QString reason = failures.first().at(0).value<TXStringI18n>().toString();
+    return (reason + u' ' + failures.first().at(1).value<TXStringI18n>().toString()).trimmed();
 }
 
 void TestServiceRequest::answerIsStatusHeadersAndBody()
@@ -117,11 +121,11 @@ void TestServiceRequest::failureIsToldInWords_data()
     QTest::newRow("elsewhere") << reply << "The service has answered with HTTP status 302.";
     reply = {};
     reply.body = "<html>";
-    QTest::newRow("no JSON") << reply
-                             << "The answer of the service cannot be shown: it is no JSON "
-                                "(line 1: illegal value).";
+    QTest::newRow("no JSON")
+        << reply
+        << "The answer of the service is not shown. It is no JSON (line 1: illegal value).";
     reply.body.clear();
-    QTest::newRow("empty") << reply << "The answer of the service cannot be shown: it is empty.";
+    QTest::newRow("empty") << reply << "The answer of the service is not shown. It is empty.";
     reply.body = "{\"Version\": \"2.0\"}";
     reply.cutAfter = 5;
     QTest::newRow("cut off") << reply
@@ -138,7 +142,7 @@ void TestServiceRequest::failureIsToldInWords()
     QFETCH(QString, reason);
     service->setCheckReply(reply);
     QSignalSpy answers(request.get(), SIGNAL(answered(QVariant)));
-    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n)));
+    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n, TXStringI18n)));
 
     ask();
 
@@ -150,7 +154,7 @@ void TestServiceRequest::failureIsToldInWords()
 void TestServiceRequest::nobodyListening()
 {
     const QString nobody = QStringLiteral("127.0.0.1:%1").arg(closedPort());
-    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n)));
+    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n, TXStringI18n)));
 
     request->ask(nobody);
 
@@ -161,7 +165,7 @@ void TestServiceRequest::silenceEndsAfterItsLimit()
 {
     service->setCheckReply(silence());
     request->setSilenceLimit(500);
-    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n)));
+    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n, TXStringI18n)));
 
     ask();
 
@@ -171,7 +175,7 @@ void TestServiceRequest::silenceEndsAfterItsLimit()
 void TestServiceRequest::serviceThatEndsMeanwhileIsTold()
 {
     service->setCheckReply(silence());
-    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n)));
+    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n, TXStringI18n)));
     ask();
     QTRY_COMPARE_WITH_TIMEOUT(service->requests().size(), 1, kPatienceMilliseconds);
 
@@ -186,7 +190,7 @@ void TestServiceRequest::newRequestTakesThePlaceOfTheOld()
 {
     service->setCheckReply(silence());
     QSignalSpy answers(request.get(), SIGNAL(answered(QVariant)));
-    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n)));
+    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n, TXStringI18n)));
     ask();
     QTRY_COMPARE_WITH_TIMEOUT(service->requests().size(), 1, kPatienceMilliseconds);
 
@@ -202,7 +206,7 @@ void TestServiceRequest::cancelledRequestSaysNothing()
 {
     service->setCheckReply(silence());
     QSignalSpy answers(request.get(), SIGNAL(answered(QVariant)));
-    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n)));
+    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n, TXStringI18n)));
     ask();
     QTRY_COMPARE_WITH_TIMEOUT(service->requests().size(), 1, kPatienceMilliseconds);
 
@@ -218,7 +222,7 @@ void TestServiceRequest::cancelledRequestSaysNothing()
 void TestServiceRequest::requestMayGoWhileItWaits()
 {
     service->setCheckReply(silence());
-    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n)));
+    QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n, TXStringI18n)));
     ask();
     QTRY_COMPARE_WITH_TIMEOUT(service->requests().size(), 1, kPatienceMilliseconds);
 
