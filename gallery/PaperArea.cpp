@@ -34,7 +34,6 @@ QPalette paperPalette()
 
 PaperArea::PaperArea(QWidget *parent)
     : QScrollArea(parent)
-    , shownViewer(nullptr)
 {
     auto *paper = new QWidget(this);
     shownViewer = new TXVariantViewer(paper);
@@ -61,13 +60,4 @@ void PaperArea::changeEvent(QEvent *event)
 void PaperArea::choosePaper()
 {
     viewport()->setPalette(isDark(palette()) ? paperPalette() : QPalette());
-    // Where the mouse has been, a viewer keeps the palette that its parent had then. Parents come
-    // before their children.
-    const auto viewers =
-        widget() ? widget()->findChildren<TXVariantViewer *>() : QList<TXVariantViewer *>();
-    for (TXVariantViewer *viewer : viewers) {
-        if (viewer->testAttribute(Qt::WA_SetPalette)) {
-            viewer->unhover();
-        }
-    }
 }

@@ -25,5 +25,5 @@ protected:
 private:
     void choosePaper();
 
-    TXVariantViewer *shownViewer;
+    TXVariantViewer *shownViewer = nullptr;
 };

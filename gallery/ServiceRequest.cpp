@@ -46,7 +46,7 @@ bool isSuccess(int status)
 QVariantMap headersOf(const QNetworkReply &reply)
 {
     QVariantMap headers;
-    const QList<QNetworkReply::RawHeaderPair> pairs = reply.rawHeaderPairs();
+    const QList<QNetworkReply::RawHeaderPair> &pairs = reply.rawHeaderPairs();
     for (const auto &[name, text] : pairs) {
         headers.insert(QString::fromLatin1(name), QString::fromLatin1(text));
     }

@@ -7,6 +7,7 @@
 
 #include "TXStringI18n.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
 
 #include <memory>
@@ -166,9 +167,13 @@ void TestServiceRequest::silenceEndsAfterItsLimit()
     service->setCheckReply(silence());
     request->setSilenceLimit(500);
     QSignalSpy failures(request.get(), SIGNAL(failed(TXStringI18n, TXStringI18n)));
+    QElapsedTimer clock;
+    clock.start();
 
     ask();
 
+    QVERIFY(failures.wait(kPatienceMilliseconds));
+    QVERIFY(clock.elapsed() < ServiceRequest::kSilenceMilliseconds / 2);
     QCOMPARE(reasonOf(failures), "The service has said nothing for 0.5 seconds.");
 }
 
