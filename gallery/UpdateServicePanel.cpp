@@ -32,6 +32,11 @@ void UpdateServicePanel::setOffer(UpdateOffer offer)
     offerBox->setCurrentIndex(static_cast<int>(offer));
 }
 
+QString UpdateServicePanel::authority() const
+{
+    return isRunning() ? announcedAuthority : QString();
+}
+
 std::unique_ptr<LocalServer> UpdateServicePanel::makeServer()
 {
     return std::make_unique<LocalUpdateService>();
@@ -60,9 +65,9 @@ void UpdateServicePanel::tell()
     service->setCheckReply(checkReplyFor(offer()));
     service->setDownloadReply(downloadReplyFor(offer()));
     const QString nobody = QStringLiteral("127.0.0.1:%1").arg(closedPort());
+    announcedAuthority = offer() == UpdateOffer::NobodyThere ? nobody : service->authority();
     delete service->findChild<UpdateAuthorityChange *>();
-    auto *change = new UpdateAuthorityChange(
-        offer() == UpdateOffer::NobodyThere ? nobody : service->authority(), service);
+    auto *change = new UpdateAuthorityChange(announcedAuthority, service);
     // It goes with the service, however that ends.
     connect(change, SIGNAL(destroyed()), this, SLOT(announce()));
 }

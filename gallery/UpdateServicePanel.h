@@ -18,6 +18,10 @@ public:
     /// From the beginning: a newer release. Counts at once.
     void setOffer(UpdateOffer offer);
 
+    /// Host and port to ask, as in "127.0.0.1:4711"; empty while the service does not run. Several
+    /// panels have a service each, of which the library asks the one that was told something last.
+    [[nodiscard]] QString authority() const;
+
 signals:
     /// The service takes requests, or has ended. May be emitted again for the same.
     void runningChanged(bool isRunning);
@@ -35,4 +39,6 @@ private:
 
     QLabel *offerLabel;
     QComboBox *offerBox;
+    // Of the running service.
+    QString announcedAuthority;
 };
