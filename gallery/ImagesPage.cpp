@@ -82,6 +82,7 @@ void ImagesPage::retranslate()
     viewer->setAccessibleName(tr("Pictures side by side"));
     picturesPanel->rename(names());
     readout->setNames(names());
+    showPixel();
     showOverlay();
     showMessage();
 }
@@ -136,14 +137,14 @@ void ImagesPage::showExample()
 {
     isExampleWanted = false;
     if (set.isChart) {
-        readout->showPixel(pixelAt(0, ChartPicture::patchRect(kExamplePatch).center()));
+        lookAt(0, ChartPicture::patchRect(kExamplePatch).center());
     }
 }
 
 void ImagesPage::showChosen()
 {
     viewer->setPixmaps(pixmapsOf(set, picturesPanel->shown()));
-    readout->clear();
+    lookAway();
     showOverlay();
 }
 
@@ -165,9 +166,9 @@ void ImagesPage::hover(const QPointF & /*localPos*/, Qt::MouseButton /*button*/,
 {
     const QList<int> shown = picturesPanel->shown();
     if (isInside && zoneIndex >= 0 && zoneIndex < shown.size()) {
-        readout->showPixel(pixelAt(shown[zoneIndex], pixmapCoord));
+        lookAt(shown[zoneIndex], pixmapCoord);
     } else {
-        readout->clear();
+        lookAway();
     }
 }
 
@@ -200,6 +201,27 @@ void ImagesPage::setUpLayout()
     rows->addWidget(viewer, 1);
     rows->addWidget(readout);
     rows->addLayout(panels);
+}
+
+void ImagesPage::lookAt(int picture, const QPoint &place)
+{
+    lookedAt = picture;
+    lookedPlace = place;
+    showPixel();
+}
+
+void ImagesPage::lookAway()
+{
+    lookAt(-1, {});
+}
+
+void ImagesPage::showPixel()
+{
+    if (lookedAt < 0) {
+        readout->clear();
+    } else {
+        readout->showPixel(pixelAt(lookedAt, lookedPlace));
+    }
 }
 
 void ImagesPage::showOverlay()

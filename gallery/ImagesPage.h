@@ -45,6 +45,9 @@ private:
     void begin();
     void showSet();
     void showExample();
+    void lookAt(int picture, const QPoint &place);
+    void lookAway();
+    void showPixel();
     void showOverlay();
     void showMessage();
     [[nodiscard]] QStringList names() const;
@@ -61,6 +64,9 @@ private:
     PicturesPanel *picturesPanel;
     OverviewPanel *overviewPanel;
     PictureSet set;
+    /// The picture that is looked at, or -1, and where.
+    int lookedAt = -1;
+    QPoint lookedPlace;
     /// How many files were chosen the last time that reading them succeeded.
     qsizetype chosenFiles = 0;
     qsizetype wantedFiles = 0;

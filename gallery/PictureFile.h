@@ -11,7 +11,9 @@ struct PictureFile
     enum class Problem {
         None,
         Unreadable, ///< no such file, no right to read it, no picture, a broken one
-        TooLarge, ///< would take more memory than QImageReader::allocationLimit() lets a picture
+        /// Would take more memory than QImageReader::allocationLimit() lets a picture. A file
+        /// that does not tell its size before is Unreadable then.
+        TooLarge,
     };
 
     /// Its path as it was given.
@@ -25,8 +27,8 @@ struct PictureFile
     /// What Qt said. Only with Unreadable.
     QString reason;
 
-    /// Reads a file, in which nothing is remarked on the console. Any thread; a large file takes
-    /// seconds.
+    /// Reads a file. One that tells its size and is too large is not read at all. Any thread; a
+    /// large file takes seconds.
     [[nodiscard]] static PictureFile read(const QString &path);
 
     /// The name without the folder, its middle left out when it is long.

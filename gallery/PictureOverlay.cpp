@@ -11,19 +11,13 @@
 namespace {
 
 constexpr int kNumberPixels = 44;
-constexpr int kNumberInset = 12;
-constexpr double kOutlinePixels = 1.5;
-constexpr double kLightPatch = 60;
+constexpr QPoint kNumberPlace(14, 50);
+constexpr double kBorderPixels = 7;
 
 constexpr int kCaptionInset = 6;
 constexpr int kCaptionPadding = 6;
 constexpr int kCaptionRadius = 4;
 constexpr QColor kCaptionGround(0, 0, 0, 170);
-
-QColor inkOn(int patch)
-{
-    return chartPatches()[size_t(patch)].newer.lightness > kLightPatch ? Qt::black : Qt::white;
-}
 
 } // namespace
 
@@ -31,7 +25,11 @@ PictureOverlay::PictureOverlay(const QWidget *viewer, QStringList captions, bool
     : viewer(viewer)
     , captions(std::move(captions))
     , isChart(isChart)
-{ }
+{
+    if (isChart) {
+        makeNumbers();
+    }
+}
 
 void PictureOverlay::operator()(QPainter *painter, int zone, bool isInPicture, QPointF /*origin*/,
                                 double /*scale*/) const
@@ -46,21 +44,32 @@ void PictureOverlay::operator()(QPainter *painter, int zone, bool isInPicture, Q
     painter->restore();
 }
 
-/// In pixels of the picture, so that it grows with it; but for the lines, which stay fine.
+/// Made once: what is painted at each move of the mouse has to be cheap.
+void PictureOverlay::makeNumbers()
+{
+    QFont font = viewer->font();
+    font.setPixelSize(kNumberPixels);
+    font.setBold(true);
+    for (int i = 0; i < kChartPatches; ++i) {
+        numbers.addText(ChartPicture::patchRect(i).topLeft() + kNumberPlace, font,
+                        QString::number(i + 1));
+    }
+    QPainterPathStroker stroker;
+    stroker.setWidth(kBorderPixels);
+    stroker.setJoinStyle(Qt::RoundJoin);
+    border = stroker.createStroke(numbers);
+}
+
+/// In pixels of the picture, so that it grows with it; but for the lines, which stay fine. White
+/// in black is seen on all colours.
 void PictureOverlay::paintPatches(QPainter *painter) const
 {
-    QFont font = painter->font();
-    font.setPixelSize(kNumberPixels);
-    painter->setFont(font);
+    painter->setPen(QPen(Qt::white, 0));
     for (int i = 0; i < kChartPatches; ++i) {
-        const QRect patch = ChartPicture::patchRect(i);
-        QPen pen(inkOn(i), kOutlinePixels);
-        pen.setCosmetic(true);
-        painter->setPen(pen);
-        painter->drawRect(patch);
-        painter->drawText(patch.adjusted(kNumberInset, kNumberInset, 0, 0),
-                          Qt::AlignLeft | Qt::AlignTop, QString::number(i + 1));
+        painter->drawRect(ChartPicture::patchRect(i));
     }
+    painter->fillPath(border, Qt::black);
+    painter->fillPath(numbers, Qt::white);
 }
 
 /// In pixels of the viewer: at the same place and in the same size at any scale.

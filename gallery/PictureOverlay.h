@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPainterPath>
 #include <QPointF>
 #include <QPointer>
 #include <QStringList>
@@ -22,7 +23,12 @@ private:
     void paintPatches(QPainter *painter) const;
     void paintCaption(QPainter *painter, int zone) const;
 
+    void makeNumbers();
+
     QPointer<const QWidget> viewer;
     QStringList captions;
     bool isChart;
+    /// In pixels of the picture: the numbers, and a border around them.
+    QPainterPath numbers;
+    QPainterPath border;
 };

@@ -84,7 +84,7 @@ void PicturesPanel::setNames(const QStringList &names, bool isChart)
 
 void PicturesPanel::rename(const QStringList &names)
 {
-    constexpr int kNamePixels = 150;
+    constexpr int kNamePixels = 110;
     for (int i = 0; i < names.size() && i < shownBoxes.size(); ++i) {
         const QString name = fontMetrics().elidedText(names[i], Qt::ElideMiddle, kNamePixels);
         shownBoxes[i]->setText(boxText(i, name));

@@ -16,7 +16,7 @@ constexpr int kSwatchPixels = 30;
 constexpr double kSwatchRadius = 4;
 constexpr int kColumnGap = 18;
 constexpr int kDeltaDigits = 2;
-constexpr int kWherePixels = 190;
+constexpr int kWherePixels = 220;
 constexpr int kDeltaPixels = 70;
 
 const QString kNothing = QStringLiteral("–");
@@ -86,10 +86,11 @@ void PixelReadout::changeEvent(QEvent *event)
 
 PixelReadout::Cell PixelReadout::makeCell()
 {
-    constexpr int kNamePixels = 110;
+    constexpr int kNamePixels = 100;
     auto *whole = new QWidget(this);
     const Cell cell = {new TXColorSquareWidget(whole), makeCaption(whole), makeLabel(whole), whole};
     cell.swatch->setSizeHint(QSize(kSwatchPixels, kSwatchPixels));
+    cell.swatch->setFixedSize(kSwatchPixels, kSwatchPixels);
     cell.swatch->setRadius(kSwatchRadius);
     cell.swatch->setAlignment(Qt::AlignCenter);
     cell.name->setMaximumWidth(kNamePixels);
@@ -127,7 +128,9 @@ void PixelReadout::showState()
 {
     deltaNameLabel->setText(QStringLiteral("ΔE"));
     deltaNameLabel->setToolTip(tr("Between the first two pictures, by CIEDE2000"));
-    whereLabel->setText(pixel ? pixel->where : tr("Move the mouse over a picture."));
+    const QString where = pixel ? pixel->where : tr("Move the mouse over a picture.");
+    whereLabel->setText(fontMetrics().elidedText(where, Qt::ElideMiddle, kWherePixels));
+    whereLabel->setToolTip(where);
     placeLabel->setText(pixel ? tr("x %1, y %2").arg(pixel->place.x()).arg(pixel->place.y())
                               : kNothing);
     for (int i = 0; i < cells.size(); ++i) {

@@ -31,7 +31,7 @@ inline constexpr LabColour kPaper = {94.0, 0.0, 3.0};
 /// All inks over one another are not black.
 inline constexpr LabColour kBlack = {14.0, 0.5, 1.0};
 /// By how much the coverage of one half grows.
-constexpr double kDotGain = 0.08;
+constexpr double kDotGain = 0.06;
 /// By how much the coverage of one half goes up and down within a dot.
 constexpr double kRipple = 0.02;
 
