@@ -106,7 +106,12 @@ QList<int> PicturesPanel::shown() const
 void PicturesPanel::setBusy(bool isBusy)
 {
     busy = isBusy;
-    showButtons();
+    if (isBusy) {
+        lendFocus();
+    } else {
+        showButtons();
+        takeFocusBack();
+    }
 }
 
 void PicturesPanel::setMessage(const QString &text, bool isWarning)
@@ -180,5 +185,25 @@ void PicturesPanel::keepOneShown()
 void PicturesPanel::showButtons()
 {
     openButton->setEnabled(!busy);
+    // The chart is there now: its button gives the focus to its neighbour.
+    if (!busy && hasChart && window()->focusWidget() == chartButton) {
+        openButton->setFocus();
+    }
     chartButton->setEnabled(!busy && !hasChart);
+}
+
+void PicturesPanel::lendFocus()
+{
+    QWidget *focused = window()->focusWidget();
+    focusGiver = focused == openButton || focused == chartButton ? focused : nullptr;
+    showButtons();
+    focusTaker = window()->focusWidget();
+}
+
+void PicturesPanel::takeFocusBack()
+{
+    if (focusGiver && window()->focusWidget() == focusTaker) {
+        focusGiver->setFocus();
+    }
+    focusGiver.clear();
 }

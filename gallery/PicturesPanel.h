@@ -3,6 +3,7 @@
 #include "GalleryPanel.h"
 
 #include <QList>
+#include <QPointer>
 #include <QStringList>
 
 class QCheckBox;
@@ -25,7 +26,8 @@ public:
     /// The numbers of the pictures to show, from 0; at least one, once there are any.
     [[nodiscard]] QList<int> shown() const;
 
-    /// No other pictures can be chosen while it is busy.
+    /// No other pictures can be chosen while it is busy. The keyboard's focus comes back to the
+    /// button that it was taken from, unless the user has moved it since.
     void setBusy(bool isBusy);
 
     /// A few sentences of plain text; as a warning with its sign.
@@ -49,6 +51,8 @@ private:
     void setUpLayout();
     void keepOneShown();
     void showButtons();
+    void lendFocus();
+    void takeFocusBack();
 
     QPushButton *openButton;
     QPushButton *chartButton;
@@ -56,6 +60,9 @@ private:
     QList<QCheckBox *> shownBoxes;
     QLabel *signLabel;
     QLabel *messageLabel;
+    /// The button that had the focus before it was disabled, and what has it since.
+    QPointer<QWidget> focusGiver;
+    QPointer<QWidget> focusTaker;
     bool hasChart = true;
     bool busy = false;
 };

@@ -2,6 +2,7 @@
 #include "DifferenceLegend.h"
 #include "DifferencePicture.h"
 #include "ImagesPageTest.h"
+#include "MouseMarker.h"
 #include "PixelProbe.h"
 #include "PrintSimulation.h"
 
@@ -9,11 +10,21 @@
 #include "TXColorSquareWidget.h"
 
 #include <QCheckBox>
+#include <QCursor>
 #include <QDoubleSpinBox>
 #include <QWheelEvent>
 
 #include <atomic>
 #include <cmath>
+
+namespace {
+
+bool isDark(const QColor &colour)
+{
+    return colour.lightness() < 20;
+}
+
+} // namespace
 
 class TestImagesPage : public ImagesPageTest
 {
@@ -38,6 +49,7 @@ private slots:
     void hiddenPictureKeepsItsPlaceInTheReadout();
     void overlayIsPainted();
     void overlayIsSwitchedOff();
+    void markerStandsAtTheSamePlaceInAllPictures();
     void overviewShowsTheChartInItsProportions();
     void legendHasTheColoursOfTheDifference();
     void pictureOfThePageShowsAReadout();
@@ -302,6 +314,29 @@ void TestImagesPage::overlayIsSwitchedOff()
 
     click("Overlay");
     QCOMPARE(PixelProbe(*viewer).image(), with);
+}
+
+void TestImagesPage::markerStandsAtTheSamePlaceInAllPictures()
+{
+    click("Overlay");
+    const QPoint patch = ChartPicture::patchRect(8).center();
+    QCursor::setPos(viewer->mapToGlobal(placeOf(1, patch).toPoint()));
+
+    const PixelProbe with(*viewer);
+    click("Marker");
+    const PixelProbe without(*viewer);
+
+    for (int zone = 0; zone < 3; ++zone) {
+        const QPoint place = placeOf(zone, patch).toPoint();
+        const QPoint arm(MouseMarker::kSize / 4, 0);
+        // The arms to all sides, but not the pixel itself.
+        QVERIFY(isDark(with.at(place + arm)) && isDark(with.at(place - arm)));
+        QVERIFY(with.isNear(place, without.at(place), 0));
+        QVERIFY(!isDark(without.at(place + arm)));
+    }
+    click("Marker");
+    QCOMPARE(PixelProbe(*viewer).image(), with.image());
+    QCursor::setPos(0, 0);
 }
 
 void TestImagesPage::overviewShowsTheChartInItsProportions()

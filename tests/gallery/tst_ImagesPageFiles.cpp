@@ -31,6 +31,7 @@ private slots:
     void moreFilesThanZonesAreTold();
     void namesMayHoldAnything();
     void longNameDoesNotWidenThePage();
+    void focusComesBackToTheButton();
 
 private:
     void prepare() override
@@ -299,6 +300,35 @@ void TestImagesPageFiles::longNameDoesNotWidenThePage()
     QVERIFY(isNarrow());
     open({names.last()});
     QVERIFY(isNarrow());
+}
+
+void TestImagesPageFiles::focusComesBackToTheButton()
+{
+    QVERIFY(write("one.png", Qt::blue));
+    page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    auto *openButton = buttonOf(*page, "Open Pictures...");
+    auto *chartButton = buttonOf(*page, "Show Chart");
+    openButton->setFocus();
+
+    open({"one.png"});
+    QCOMPARE(page->focusWidget(), openButton);
+
+    // It is of no use any more once the chart is there.
+    chartButton->setFocus();
+    click("Show Chart");
+    QVERIFY(page->focusWidget() != chartButton);
+    QVERIFY(isReadyInTime());
+    QCOMPARE(page->focusWidget(), openButton);
+
+    // Moved by the user meanwhile.
+    open({"one.png"});
+    chartButton->setFocus();
+    click("Show Chart");
+    viewer->setFocusPolicy(Qt::StrongFocus);
+    viewer->setFocus();
+    QVERIFY(isReadyInTime());
+    QCOMPARE(page->focusWidget(), viewer);
 }
 
 int main(int argc, char **argv)
