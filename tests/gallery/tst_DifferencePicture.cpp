@@ -38,6 +38,7 @@ private slots:
     void differencesHaveTheirColours();
     void differenceIsThatOfTheColoursInLab();
     void everyPixelHasTheColourOfItsDifference();
+    void oneColourAgainstManyIsNotMixedUp();
     void samePicturesAreWhite();
     void picturesOfOtherSizesHaveTheirCommonPart();
     void nothingComesOfNoPicture();
@@ -103,6 +104,25 @@ void TestDifferencePicture::everyPixelHasTheColourOfItsDifference()
     for (int y = 0; y < kSize.height(); ++y) {
         for (int x = y % 7; x < kSize.width(); x += 7) {
             const double delta = DifferencePicture::difference(one.pixel(x, y), other.pixel(x, y));
+            QCOMPARE(picture.pixel(x, y), DifferencePicture::colourOf(delta));
+        }
+    }
+}
+
+/// More pairs than are remembered, half of each the same.
+void TestDifferencePicture::oneColourAgainstManyIsNotMixedUp()
+{
+    constexpr QSize kSize(600, 400);
+    const QImage many = randomPicture(kSize, 8);
+    QImage grey(kSize, QImage::Format_RGB32);
+    grey.fill(Qt::gray);
+
+    const QImage picture = DifferencePicture::make(grey, many, isCancelled);
+
+    QCOMPARE(picture, DifferencePicture::make(many, grey, isCancelled));
+    for (int y = 0; y < kSize.height(); ++y) {
+        for (int x = y % 9; x < kSize.width(); x += 9) {
+            const double delta = DifferencePicture::difference(grey.pixel(x, y), many.pixel(x, y));
             QCOMPARE(picture.pixel(x, y), DifferencePicture::colourOf(delta));
         }
     }
