@@ -1,8 +1,20 @@
 #pragma once
 
 #include "GalleryPage.h"
+#include "PictureSet.h"
+#include "PixelReadout.h"
 
-/// Pictures that are compared side by side.
+#include <QPoint>
+#include <QStringList>
+
+class ImageViewBar;
+class OverviewPanel;
+class PictureWork;
+class PicturesPanel;
+class TXImageViewer;
+
+/// Pictures that are compared side by side: a chart, its print and how they differ, or files of the
+/// user's choice.
 class ImagesPage final : public GalleryPage
 {
     Q_OBJECT
@@ -11,7 +23,53 @@ public:
     explicit ImagesPage(QWidget *parent = nullptr);
 
     [[nodiscard]] QString description() const override;
+    void fillForPicture() override;
+    [[nodiscard]] bool isReady() const override;
 
 protected:
     void retranslate() override;
+
+private slots:
+    void showChart();
+    void openFiles(const QStringList &paths);
+    void workEnded();
+    void showChosen();
+    void setOverlayShown(bool isShown);
+    void setMarkerShown(bool isShown);
+    void hover(const QPointF &localPos, Qt::MouseButton button, Qt::MouseButtons buttons,
+               Qt::KeyboardModifiers modifiers, bool isInside, int zoneIndex, QPoint pixmapCoord);
+
+private:
+    void setUpViewer();
+    void setUpLayout();
+    void begin();
+    void showSet();
+    void showExample();
+    void lookAt(int picture, const QPoint &place);
+    void lookAway();
+    void showPixel();
+    void showOverlay();
+    void showMessage();
+    [[nodiscard]] QStringList names() const;
+    [[nodiscard]] QString placeName(int picture, const QPoint &place) const;
+    [[nodiscard]] PixelReadout::Pixel pixelAt(int picture, const QPoint &place) const;
+    [[nodiscard]] QString setText() const;
+    [[nodiscard]] QString sizesText() const;
+    [[nodiscard]] QString troublesText() const;
+
+    PictureWork *work;
+    ImageViewBar *bar;
+    TXImageViewer *viewer;
+    PixelReadout *readout;
+    PicturesPanel *picturesPanel;
+    OverviewPanel *overviewPanel;
+    PictureSet set;
+    /// The picture that is looked at, or -1, and where.
+    int lookedAt = -1;
+    QPoint lookedPlace;
+    /// How many files were chosen the last time that reading them succeeded.
+    qsizetype chosenFiles = 0;
+    qsizetype wantedFiles = 0;
+    bool isOverlayShown = true;
+    bool isExampleWanted = false;
 };
