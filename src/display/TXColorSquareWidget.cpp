@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -25,12 +24,11 @@ float placed(bool isFirst, bool isLast, bool isCentred, int room, int square)
     return isCentred ? float(room * 0.5 - square * 0.5) : 0.0F;
 }
 
-/// What the frame leaves of the square along one direction.
-int inner(int room, int square, int penWidth)
+/// What the frame leaves of the square along one direction. A real number has room for what is left
+/// of the least hint.
+double inner(int room, int square, int penWidth)
 {
-    // Neither a negative hint nor a pen of any width is refused, and together they may be too much.
-    constexpr qint64 kLeast = std::numeric_limits<int>::min();
-    return int(std::max(qint64(std::min(room, square)) - penWidth, kLeast));
+    return double(std::min(room, square)) - penWidth;
 }
 
 /// Qt draws corners of any size, but cannot count with what is not a number.
@@ -108,8 +106,8 @@ void TXColorSquareWidget::paintEvent(QPaintEvent *)
     const QSize square = sizeHint();
     const int penWidth = pen.width();
     const int corner = int(penWidth * 0.5);
-    const QRect rect(corner, corner, inner(width(), square.width(), penWidth),
-                     inner(height(), square.height(), penWidth));
+    const QRectF rect(corner, corner, inner(width(), square.width(), penWidth),
+                      inner(height(), square.height(), penWidth));
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -117,7 +115,7 @@ void TXColorSquareWidget::paintEvent(QPaintEvent *)
     painter.setBrush(brush);
     painter.setPen(pen);
     painter.translate(offset(square));
-    painter.drawRoundedRect(QRectF(rect), drawable(xRadius), drawable(yRadius), Qt::AbsoluteSize);
+    painter.drawRoundedRect(rect, drawable(xRadius), drawable(yRadius), Qt::AbsoluteSize);
     painter.restore();
 }
 
