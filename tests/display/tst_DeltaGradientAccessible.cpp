@@ -156,8 +156,8 @@ void TestDeltaGradientAccessible::nobodyIsToldWhenNobodyListens()
 
 void TestDeltaGradientAccessible::tabComesToTheBarAndFramesIt()
 {
-    const DeltaBar bar;
-    auto *edit = new QLineEdit(const_cast<QWidget *>(&bar.parent));
+    DeltaBar bar;
+    auto *edit = new QLineEdit(&bar.parent);
     QWidget::setTabOrder(edit, bar.widget);
     edit->move(0, 200);
     bar.widget->window()->show();

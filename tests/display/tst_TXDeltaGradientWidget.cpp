@@ -236,7 +236,7 @@ void TestTXDeltaGradientWidget::everyPixelIsAsDrawnAnotherTime()
     QFETCH(QPalette, palette);
     DeltaBar bar(width);
     bar.widget->setPalette(palette);
-    // Lower than the text needs at 523, so that what is below is cut, and higher at 200.
+    // One of them is higher than its rows.
     bar.widget->resize(width, bar.widget->height() + (width == 200 ? 9 : 0));
 
     set(*bar.widget, values);
