@@ -2,7 +2,10 @@
 
 #include "GalleryPage.h"
 
-/// The widgets that show how far colours are apart.
+class DifferenceBarPanel;
+class PatchSwatchesPanel;
+
+/// The widgets that show how far colours are apart, with the two sets of colours of a chart.
 class ColourDifferencePage final : public GalleryPage
 {
     Q_OBJECT
@@ -14,4 +17,11 @@ public:
 
 protected:
     void retranslate() override;
+
+private slots:
+    void showDifferences();
+
+private:
+    DifferenceBarPanel *barPanel;
+    PatchSwatchesPanel *swatchesPanel;
 };

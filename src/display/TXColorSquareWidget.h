@@ -10,7 +10,12 @@
 /// A swatch: a square with round corners, filled with a brush and framed with a pen.
 ///
 /// The square has the size of the hint and stands in the widget as its alignment tells; in a widget
-/// that is smaller it shrinks. Layouts give the widget at least that size.
+/// that is smaller it shrinks to it, but is still placed by the size of the hint. Layouts give the
+/// widget at least that size. The setters paint anew only when a value differs.
+///
+/// Assistive programs see a picture whose value is the colour as "#rrggbb", or the kind of brush
+/// where it is none of one colour; give the widget an accessible name that tells what it is the
+/// colour of.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT TXColorSquareWidget : public QWidget
@@ -21,27 +26,35 @@ public:
     /// A square of 24 by 24 pixels at the top left, without a filling, with sharp corners.
     explicit TXColorSquareWidget(QWidget *parent = nullptr);
 
-    /// The size of the square with its frame, in pixels.
+    /// The size of the square with its frame, in pixels. The widget is only painted anew: for a
+    /// layout to see the new size call updateGeometry() as well. Nothing sensible is painted for a
+    /// negative size.
     void setSizeHint(const QSize &size);
     /// The filling; none at first.
     void setBrush(const QBrush &brush);
-    /// The frame, inside the square's size; black and one pixel wide at first.
+    /// The frame, inside the square's size; black and one pixel wide at first. Widths count in
+    /// whole pixels.
     void setPen(const QPen &pen);
-    /// The radius of the corners in pixels; 0 at first.
+    /// The radius of the corners in pixels; 0 at first. What is not above 0 leaves them sharp.
     void setRadius(double radius);
     /// Where the square stands in a widget that is larger; top left at first. Without an alignment
-    /// in one direction, left or top.
+    /// in one direction, left or top. Left and right are what they say in every layout direction.
     void setAlignment(Qt::Alignment alignment);
 
-    /// The size that was set.
+    /// The size that was set. A subclass that overrides it decides the size of the square.
     [[nodiscard]] QSize sizeHint() const override;
-    /// The same as sizeHint().
+    /// The size that was set, so that the square is seen whole.
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    friend class ColorSquareAccessible;
+
+    [[nodiscard]] QString brushInWords() const;
+    [[nodiscard]] QPointF offset(const QSize &square) const;
+
     QSize sizeHintValue = QSize(24, 24);
     QBrush brush;
     QPen pen;

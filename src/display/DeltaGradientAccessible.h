@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QAccessibleWidget>
+
+class TXDeltaGradientWidget;
+
+/// What assistive programs learn of a bar of colour differences: a chart whose value says the
+/// numbers in words.
+class DeltaGradientAccessible final : public QAccessibleWidget
+{
+public:
+    /// For this bar, which outlives it.
+    explicit DeltaGradientAccessible(TXDeltaGradientWidget *bar);
+
+    /// The name is the widget's accessible name or, without one, a general one. The value also is
+    /// the description of a widget that has none, as some programs read only that.
+    [[nodiscard]] QString text(QAccessible::Text kind) const override;
+};
