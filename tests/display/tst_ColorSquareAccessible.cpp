@@ -9,11 +9,7 @@ class TestColorSquareAccessible : public TestBase
     Q_OBJECT
 
 protected:
-    void prepare() override
-    {
-        AccessibleValueChanges::isSomebodyListening = false;
-        AccessibleValueChanges::take();
-    }
+    void prepare() override { AccessibleValueChanges::start(false); }
 
 private slots:
     void swatchIsAPictureWithoutFocus();
@@ -96,7 +92,7 @@ void TestColorSquareAccessible::valueDescribesAWidgetWithoutADescription()
 void TestColorSquareAccessible::otherBrushIsTold()
 {
     TXColorSquareWidget square;
-    AccessibleValueChanges::isSomebodyListening = true;
+    AccessibleValueChanges::start(true);
 
     square.setBrush(Qt::green);
     square.setBrush(Qt::green);

@@ -26,11 +26,7 @@ class TestDeltaGradientAccessible : public TestBase
     Q_OBJECT
 
 protected:
-    void prepare() override
-    {
-        AccessibleValueChanges::isSomebodyListening = false;
-        AccessibleValueChanges::take();
-    }
+    void prepare() override { AccessibleValueChanges::start(false); }
 
 private slots:
     void barIsAChartThatTakesTheFocus();
@@ -132,7 +128,7 @@ void TestDeltaGradientAccessible::valueDescribesAWidgetWithoutADescription()
 void TestDeltaGradientAccessible::changesAreTold()
 {
     const DeltaBar bar;
-    AccessibleValueChanges::isSomebodyListening = true;
+    AccessibleValueChanges::start(true);
 
     bar.widget->setAverage(1, 20);
     bar.widget->setLimit(2, 50);
