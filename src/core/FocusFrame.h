@@ -15,8 +15,9 @@ namespace FocusFrame {
 /// no frame is wanted.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT bool isWanted(const QWidget &widget);
 
-/// Draws the frame of the widget's style around the area when it is wanted. The painter may be
-/// scaled or clipped; it is left as it was.
+/// Draws the frame of the widget's style along the inside of the area's edge when it is wanted, two
+/// pixels wide. What is further inside stays as it is. The painter may be scaled or clipped; it is
+/// left as it was.
 TXGUICOMMON_PRIVATE_EXPORT void paint(QPainter &painter, const QWidget &widget, const QRect &area);
 
 } // namespace FocusFrame

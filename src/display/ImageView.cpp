@@ -27,8 +27,6 @@ double numberOr(double wanted, double present)
     return std::isnan(wanted) ? present : wanted;
 }
 
-/// What painting makes of a coordinate of the position: no edge of a picture inside its zone, and a
-/// picture that is smaller than the zone in the middle.
 double held(double coordinate, double pictureLength, double zoneLength, double scale)
 {
     const double limit = (pictureLength - zoneLength / scale) / 2.0;

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "ImageLayer.h"
 #include "TXImageViewer.h"
 
 #include <QRectF>
 #include <QSize>
 
+#include <memory>
 #include <optional>
 
 /// What an image viewer knows of its pictures and where they stand.
@@ -41,6 +43,10 @@ struct TXImageViewer::View
     Overlay overlay;
     /// What a change of size does: 0 nothing, 1 sets ScaleShare again, 2 ScaleFit.
     int scalingMode = 0;
+    /// The state that was painted last, and the pictures as they stood there once it was painted
+    /// twice. Let go when the viewer is hidden.
+    ImageLayer::State lastPainted;
+    std::shared_ptr<const ImageLayer> layer;
     /// Where the mouse was last seen, in viewer pixels; nothing once it has left.
     std::optional<QPointF> mousePlace;
     /// What assistive tools were told last of pixelUnderMouse().
@@ -75,8 +81,11 @@ struct TXImageViewer::View
     /// that steps beyond an edge need not be taken back.
     void scrollBy(const QPointF &viewerDistance, const QSize &viewerSize);
 
-private:
+    /// Brings the position to where painting has it: no edge of a picture inside its zone, and a
+    /// picture that is smaller than the zone in the middle.
     void holdPosition(const QSize &viewerSize);
+
+private:
     [[nodiscard]] int zoneAt(const QPointF &place, const QSize &viewerSize) const;
     [[nodiscard]] bool isInside(const QPoint &pixmapCoord) const;
 };

@@ -144,8 +144,6 @@ void TXDeltaGradientWidget::paintEvent(QPaintEvent *)
     paintMarks(painter, row(markTop, gradientTop));
     paintGradients(painter, row(gradientTop, bottom));
     paintAverage(painter, row(gradientTop, bottom));
-    // Styles tint what the frame is around, and colours that somebody judges have to stay.
-    painter.setClipRegion(QRegion(rect()) - rect().adjusted(2, 2, -2, -2));
     FocusFrame::paint(painter, *this, rect());
 }
 

@@ -147,11 +147,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     friend class ImageViewerAccessible;
     struct View;
+    class Painting;
 
     [[nodiscard]] bool isZoomedByUser() const;
     void showAtScale(double scale);
@@ -161,7 +163,6 @@ private:
     [[nodiscard]] bool zoomByKey(const QKeyEvent &event);
     void emitHover(const QMouseEvent &event);
     void tellOfPixel();
-    void drawZone(QPainter &painter, int index);
 
     std::unique_ptr<View> view;
 };

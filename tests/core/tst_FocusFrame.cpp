@@ -136,8 +136,8 @@ void TestFocusFrame::frameStandsAroundTheArea()
     for (const QPoint &place : {QPoint(30, 10), QPoint(30, 29), QPoint(10, 20), QPoint(49, 20)}) {
         QVERIFY(probe.at(place) != Qt::white);
     }
-    for (const QRect &area :
-         {QRect(0, 0, 60, 10), QRect(0, 30, 60, 10), QRect(0, 0, 10, 40), QRect(50, 0, 10, 40)}) {
+    for (const QRect &area : {QRect(12, 12, 36, 16), QRect(0, 0, 60, 10), QRect(0, 30, 60, 10),
+                              QRect(0, 0, 10, 40), QRect(50, 0, 10, 40)}) {
         QCOMPARE(probe.countColours(area), 1);
     }
 }
