@@ -7,13 +7,6 @@
 
 #include <QGridLayout>
 
-namespace {
-
-constexpr int kClosedMarginPixels = 14;
-constexpr int kOpenMarginPixels = 21;
-
-} // namespace
-
 TXVariantViewer::TXVariantViewer(QWidget *parent)
     : QWidget(parent)
     , label(new VariantLabel(this))
@@ -36,11 +29,7 @@ QString TXVariantViewer::variantToHtml(QVariant value, bool preview)
 
 bool TXVariantViewer::hoverEffects() const
 {
-    const TXVariantViewer *root = this;
-    while (const TXVariantViewer *above = root->parentViewer()) {
-        root = above;
-    }
-    return root->hoverEffectsWanted;
+    return rootViewer()->hoverEffectsWanted;
 }
 
 bool TXVariantViewer::isExpandable() const

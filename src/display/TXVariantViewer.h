@@ -127,6 +127,12 @@ private:
     friend class VariantMoreButton;
     friend class VariantViewerAccessible;
 
+    /// The left margin, on which the fold box stands; none when there is nothing to open.
+    static constexpr int kClosedMarginPixels = 14;
+    /// The left margin with room for the bracket; a click there closes.
+    static constexpr int kOpenMarginPixels = 21;
+
+    // The line of text, and the rows that show in place of it.
     void showLine();
     void addMoreEntries();
     void addEntries();
@@ -139,21 +145,10 @@ private:
     void removeEntries();
     [[nodiscard]] QGridLayout *grid() const;
     void setLeftMargin(int pixels);
-    void takeParentPalette();
+
+    // The order in which the viewers stand below one another.
     [[nodiscard]] TXVariantViewer *parentViewer() const;
-
-    QVariant value;
-    QLabel *label;
-    QList<QWidget *> childWidgets;
-    bool expanded = false;
-    bool hoverEffectsWanted = false;
-    bool preview = true;
-    /// What of an open level has no row yet; null when all have.
-    std::unique_ptr<VariantEntries> entries;
-    /// Stands below the rows while `entries` has some left, else null.
-    VariantMoreButton *moreButton = nullptr;
-
-    // In the order in which the viewers stand below one another.
+    [[nodiscard]] const TXVariantViewer *rootViewer() const;
     [[nodiscard]] TXVariantViewer *rootViewer();
     [[nodiscard]] qsizetype entryCount() const;
     [[nodiscard]] TXVariantViewer *entryViewer(qsizetype index) const;
@@ -163,10 +158,13 @@ private:
     [[nodiscard]] TXVariantViewer *viewerAbove() const;
     [[nodiscard]] TXVariantViewer *viewerBelow() const;
 
-    // What the keyboard, the mouse and other helpers of the user do.
-    void prepareForUser();
+    // What is painted, and the light of the mouse.
     void paintFoldBox(QPainter &painter) const;
     void paintBracket(QPainter &painter) const;
+    void takeParentPalette();
+
+    // What the keyboard, the mouse and assistive tools do.
+    void prepareForUser();
     [[nodiscard]] TXVariantViewer *viewerByKey(int key);
     [[nodiscard]] bool moveByKey(int key);
     [[nodiscard]] bool foldByKey(int key);
@@ -179,6 +177,16 @@ private:
     void announceFolding();
     void announceValue();
 
+    QVariant value;
+    QLabel *label;
+    QList<QWidget *> childWidgets;
+    bool expanded = false;
+    bool hoverEffectsWanted = false;
+    bool preview = true;
+    /// What of an open level has no row yet; null when all have.
+    std::unique_ptr<VariantEntries> entries;
+    /// Stands below the rows while `entries` has some left, else null.
+    VariantMoreButton *moreButton = nullptr;
     /// The name of the entry that this viewer shows, when it stands in a dictionary.
     QString entryKey;
 };

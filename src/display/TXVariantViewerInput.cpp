@@ -16,8 +16,6 @@
 
 namespace {
 
-constexpr int kFoldColumnPixels = 21;
-
 QScrollArea *scrollAreaAround(const QWidget &widget)
 {
     for (QWidget *above = widget.parentWidget(); above != nullptr; above = above->parentWidget()) {
@@ -59,7 +57,7 @@ void TXVariantViewer::mousePressEvent(QMouseEvent *event)
     }
     if (!expanded) {
         expand();
-    } else if (event->position().x() < kFoldColumnPixels) {
+    } else if (event->position().x() < kOpenMarginPixels) {
         collapse();
     }
 }
@@ -204,9 +202,9 @@ void TXVariantViewer::takeFocusFromEntries()
 QRect TXVariantViewer::lineArea() const
 {
     if (expanded) {
-        return {0, 0, kFoldColumnPixels, QFontMetrics(font()).height()};
+        return {0, 0, kOpenMarginPixels, QFontMetrics(font()).height()};
     }
-    return {0, label->y(), kFoldColumnPixels, label->height()};
+    return {0, label->y(), kOpenMarginPixels, label->height()};
 }
 
 void TXVariantViewer::scrollIntoView() const
@@ -218,7 +216,7 @@ void TXVariantViewer::scrollIntoView() const
     QRect line = lineArea().translated(mapTo(area->widget(), QPoint(0, 0)));
     if (const TXVariantViewer *parent = parentViewer()) {
         // The key is seen along with its value.
-        line.setLeft(parent->mapTo(area->widget(), QPoint(kFoldColumnPixels, 0)).x());
+        line.setLeft(parent->mapTo(area->widget(), QPoint(kOpenMarginPixels, 0)).x());
     }
     area->ensureVisible(line.center().x(), line.center().y(), line.width() / 2 + 1,
                         line.height() / 2 + 1);

@@ -2,6 +2,8 @@
 
 #include "VariantKind.h"
 
+#include <utility>
+
 // Widgets of the entries stand in childWidgets: viewers alone for a list, keys and viewers by turns
 // for a dictionary. To find a viewer among its siblings costs their number, the rest the depth.
 
@@ -14,13 +16,18 @@ qsizetype widgetsPerEntry(const QVariant &value)
 
 } // namespace
 
-TXVariantViewer *TXVariantViewer::rootViewer()
+const TXVariantViewer *TXVariantViewer::rootViewer() const
 {
-    TXVariantViewer *root = this;
-    while (TXVariantViewer *above = root->parentViewer()) {
+    const TXVariantViewer *root = this;
+    while (const TXVariantViewer *above = root->parentViewer()) {
         root = above;
     }
     return root;
+}
+
+TXVariantViewer *TXVariantViewer::rootViewer()
+{
+    return const_cast<TXVariantViewer *>(std::as_const(*this).rootViewer());
 }
 
 qsizetype TXVariantViewer::entryCount() const

@@ -8,7 +8,6 @@
 namespace {
 
 constexpr double kDesignFontHeight = 15.0;
-constexpr int kOpenColumnPixels = 21;
 constexpr QColor kBracketColour(0x60, 0x60, 0x60);
 
 double scaleOf(const QWidget &widget)
@@ -54,7 +53,7 @@ void TXVariantViewer::paintEvent(QPaintEvent *)
     }
     painter.restore();
     if (expanded) {
-        FocusFrame::paint(painter, *this, QRect(0, 0, kOpenColumnPixels, height()));
+        FocusFrame::paint(painter, *this, QRect(0, 0, kOpenMarginPixels, height()));
     }
 }
 
