@@ -1,5 +1,7 @@
 #include "ImageViewerAccessible.h"
 
+#include "AccessibleDescription.h"
+#include "ColourName.h"
 #include "ImageView.h"
 
 #include <QColor>
@@ -32,8 +34,7 @@ QString colourAt(const QPixmap &pixmap, const QPoint &pixel)
         return TXImageViewer::tr("none");
     }
     const QImage copy = pixmap.copy(QRect(pixel, QSize(1, 1))).toImage();
-    const QColor colour = copy.pixelColor(0, 0);
-    return colour.name(colour.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
+    return ColourName::of(copy.pixelColor(0, 0));
 }
 
 } // namespace
@@ -42,18 +43,27 @@ ImageViewerAccessible::ImageViewerAccessible(TXImageViewer *viewer)
     : QAccessibleWidget(viewer, QAccessible::Graphic)
 { }
 
-void ImageViewerAccessible::tellOfValue(TXImageViewer &viewer)
+void ImageViewerAccessible::tellOfScale(TXImageViewer &viewer)
 {
     if (QAccessible::isActive()) {
         QAccessibleValueChangeEvent event(&viewer, viewer.scale());
         QAccessible::updateAccessibility(&event);
     }
+    tellOfText(viewer);
+}
+
+void ImageViewerAccessible::tellOfText(TXImageViewer &viewer)
+{
+    AccessibleDescription::tellOfChange(viewer);
 }
 
 QString ImageViewerAccessible::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Value) {
         return valueText();
+    }
+    if (kind == QAccessible::Description) {
+        return AccessibleDescription::withValue(*viewer(), valueText());
     }
     const QString text = QAccessibleWidget::text(kind);
     const bool isNameless = kind == QAccessible::Name && text.isEmpty();
@@ -77,7 +87,7 @@ void ImageViewerAccessible::setCurrentValue(const QVariant &value)
 {
     bool isNumber = false;
     const double wanted = value.toDouble(&isNumber);
-    if (isNumber) {
+    if (isNumber && canZoom()) {
         viewer()->scale(wanted, TXImageViewer::Absolute);
     }
 }
@@ -100,7 +110,7 @@ QVariant ImageViewerAccessible::minimumStepSize() const
 QStringList ImageViewerAccessible::actionNames() const
 {
     QStringList names = QAccessibleWidget::actionNames();
-    if (viewer()->isZoomedByUser()) {
+    if (canZoom()) {
         names << increaseAction() << decreaseAction() << fitAction();
     }
     return names;
@@ -153,6 +163,11 @@ QStringList ImageViewerAccessible::keyBindingsForAction(const QString &name) con
 TXImageViewer *ImageViewerAccessible::viewer() const
 {
     return static_cast<TXImageViewer *>(widget());
+}
+
+bool ImageViewerAccessible::canZoom() const
+{
+    return viewer()->isEnabled() && viewer()->isZoomedByUser();
 }
 
 QString ImageViewerAccessible::valueText() const

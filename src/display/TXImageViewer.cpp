@@ -83,7 +83,7 @@ void TXImageViewer::setPixmaps(const QList<QPixmap> &pixmaps)
         repeatScaling();
     } else if (std::isfinite(view->scale) && view->scale >= 0.0) {
         update();
-        ImageViewerAccessible::tellOfValue(*this);
+        ImageViewerAccessible::tellOfText(*this);
     } else {
         scale(ScaleFit);
     }
@@ -248,7 +248,7 @@ void TXImageViewer::showAtScale(double scale)
 {
     view->scale = scale;
     update();
-    ImageViewerAccessible::tellOfValue(*this);
+    ImageViewerAccessible::tellOfScale(*this);
     emit scaleChanged(static_cast<float>(scale));
 }
 
@@ -320,6 +320,6 @@ void TXImageViewer::tellOfPixel()
     const std::optional<QPoint> pixel = view->pixelUnderMouse(size());
     if (pixel != view->toldPixel) {
         view->toldPixel = pixel;
-        ImageViewerAccessible::tellOfValue(*this);
+        ImageViewerAccessible::tellOfText(*this);
     }
 }

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "TXGUICommonExport.h"
+
+class QString;
+class QWidget;
+
+/// The value of a widget that paints one, in its accessible description.
+///
+/// The texts that some platforms hand on to assistive tools are the name and the description only,
+/// so that a value in words has to be part of the description to be read to everybody.
+///
+/// Thread: the GUI thread.
+namespace AccessibleDescription {
+
+/// The widget's accessibleDescription() alone, if it has one. Otherwise the value, with the tool
+/// tip, if there is one, on a line after it.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString ofValue(const QWidget &widget,
+                                                         const QString &value);
+
+/// The value, on a line after the widget's accessibleDescription(), if it has one; else as
+/// ofValue(). For values that change under the hands of the user.
+[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString withValue(const QWidget &widget,
+                                                           const QString &value);
+
+/// Tells assistive tools, if any listen, that the description is another.
+TXGUICOMMON_PRIVATE_EXPORT void tellOfChange(QWidget &widget);
+
+} // namespace AccessibleDescription
