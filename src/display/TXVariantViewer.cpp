@@ -2,6 +2,7 @@
 
 #include "VariantEntries.h"
 #include "VariantHtml.h"
+#include "VariantKind.h"
 #include "VariantLabel.h"
 #include "VariantMoreButton.h"
 
@@ -34,19 +35,7 @@ bool TXVariantViewer::hoverEffects() const
 
 bool TXVariantViewer::isExpandable() const
 {
-    // Each is asked as the type that it is: converting would copy the whole container.
-    switch (value.typeId()) {
-    case QMetaType::QVariantList:
-        return !value.toList().isEmpty();
-    case QMetaType::QStringList:
-        return !value.toStringList().isEmpty();
-    case QMetaType::QVariantMap:
-        return !value.toMap().isEmpty();
-    case QMetaType::QVariantHash:
-        return !value.toHash().isEmpty();
-    default:
-        return false;
-    }
+    return VariantKind::entryCount(value) > 0;
 }
 
 bool TXVariantViewer::isExpanded() const
@@ -220,7 +209,6 @@ void TXVariantViewer::placeMoreButton()
     moreButton->announce(qMin<qsizetype>(kEntriesAtOnce, entries->left()), entries->count());
     const int row = static_cast<int>(entries->readCount()) + 1;
     grid()->addWidget(moreButton, row, 0, 1, entries->hasKeys() ? 2 : 1, Qt::AlignLeft);
-    QWidget::setTabOrder(childWidgets.constLast(), moreButton);
     moreButton->show();
 }
 

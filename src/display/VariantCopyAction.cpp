@@ -10,21 +10,16 @@
 
 namespace {
 
-bool isContainer(const QVariant &value)
-{
-    return VariantKind::isMap(value) || VariantKind::isList(value);
-}
-
 bool isJsonWanted(const QVariant &value)
 {
-    return value.isNull() || value.typeId() == QMetaType::Bool || isContainer(value);
+    return value.isNull() || value.typeId() == QMetaType::Bool || VariantKind::isContainer(value);
 }
 
 } // namespace
 
 QString VariantCopyAction::text(const QVariant &value)
 {
-    if (isContainer(value)) {
+    if (VariantKind::isContainer(value)) {
         return TXVariantViewer::tr("Copy value (JSON encoded)");
     }
     if (VariantKind::isText(value)) {

@@ -1,19 +1,14 @@
 #include "VariantEntries.h"
 
+#include "VariantKind.h"
+
 VariantEntries::VariantEntries(const QVariant &container)
 {
-    switch (container.typeId()) {
-    case QMetaType::QVariantMap:
-    case QMetaType::QVariantHash:
+    if (VariantKind::isMap(container)) {
         map = container.toMap();
         nextInMap = map.cbegin();
-        break;
-    case QMetaType::QVariantList:
-    case QMetaType::QStringList:
+    } else if (VariantKind::isList(container)) {
         list = container.toList();
-        break;
-    default:
-        break;
     }
 }
 

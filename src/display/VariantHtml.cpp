@@ -1,5 +1,7 @@
 #include "VariantHtml.h"
 
+#include "VariantKind.h"
+
 #include <QMetaType>
 #include <QVariant>
 
@@ -98,40 +100,40 @@ private:
     /// All of a plain value; of what holds others the beginning.
     void begin(const QVariant &value)
     {
-        switch (value.typeId()) {
-        case QMetaType::QString:
-        case QMetaType::QByteArray:
+        switch (VariantKind::of(value)) {
+        case VariantKind::Kind::Text:
             appendEscaped(html, kOpenString, value.toString(), kCloseString);
             return;
-        case QMetaType::Int:
-        case QMetaType::LongLong:
+        case VariantKind::Kind::WholeNumber:
             appendEscaped(html, kOpenInteger, value.toString(), kClose);
             return;
-        case QMetaType::Double:
+        case VariantKind::Kind::Real:
             appendEscaped(html, kOpenReal, value.toString(), kClose);
             return;
-        case QMetaType::Bool:
+        case VariantKind::Kind::TrueOrFalse:
             appendEscaped(html, kOpenWord, value.toString(), kClose);
             return;
-        default:
+        case VariantKind::Kind::Nothing:
+            html.append(kOpenWord).append(QLatin1String("null")).append(kClose);
+            return;
+        case VariantKind::Kind::Dictionary:
+        case VariantKind::Kind::List:
+        case VariantKind::Kind::Other:
             beginOther(value);
         }
     }
 
     void beginOther(const QVariant &value)
     {
-        const int type = value.typeId();
-        if (value.isNull()) {
-            html.append(kOpenWord).append(QLatin1String("null")).append(kClose);
-        } else if (preview && (type == QMetaType::QVariantMap || type == QMetaType::QVariantHash)) {
+        if (!preview || !VariantKind::isContainer(value)) {
+            html.append(value.toString());
+        } else if (VariantKind::isMap(value)) {
             beginMap(value.toMap());
-        } else if (preview && type == QMetaType::QVariantList) {
-            html.append(kOpenList);
-            open.emplace_back(OpenList{value.toList()});
-        } else if (preview && type == QMetaType::QStringList) {
+        } else if (value.typeId() == QMetaType::QStringList) {
             appendStrings(value.toStringList());
         } else {
-            html.append(value.toString());
+            html.append(kOpenList);
+            open.emplace_back(OpenList{value.toList()});
         }
     }
 

@@ -16,8 +16,12 @@ namespace VariantHtml {
 /// time in proportion to the text; the depth costs no stack.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString fromVariant(const QVariant &value, bool preview);
 
-/// Puts a text between the tags that make it monospaced: the line of a viewer, or a key.
+/// The line of a viewer: puts `html`, as fromVariant() makes it, between the tags that make it
+/// monospaced. It is taken as it stands, nothing in it is escaped.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString line(const QString &html);
+
+/// The name of an entry with a colon behind it, monospaced. `key` is plain text: what would be
+/// markup in it is escaped.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString key(const QString &key);
 
 } // namespace VariantHtml
