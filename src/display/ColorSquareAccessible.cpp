@@ -1,5 +1,6 @@
 #include "ColorSquareAccessible.h"
 
+#include "AccessibleDescription.h"
 #include "TXColorSquareWidget.h"
 
 ColorSquareAccessible::ColorSquareAccessible(TXColorSquareWidget *square)
@@ -8,17 +9,16 @@ ColorSquareAccessible::ColorSquareAccessible(TXColorSquareWidget *square)
 
 QString ColorSquareAccessible::text(QAccessible::Text kind) const
 {
+    const auto &shown = *static_cast<const TXColorSquareWidget *>(object());
     const QString ofWidget = QAccessibleWidget::text(kind);
-    if (!ofWidget.isEmpty()) {
-        return ofWidget;
-    }
     switch (kind) {
     case QAccessible::Name:
-        return TXColorSquareWidget::tr("Colour");
+        return ofWidget.isEmpty() ? TXColorSquareWidget::tr("Colour") : ofWidget;
     case QAccessible::Value:
+        return shown.brushInWords();
     case QAccessible::Description:
-        return static_cast<const TXColorSquareWidget *>(object())->brushInWords();
+        return AccessibleDescription::ofValue(shown, shown.brushInWords());
     default:
-        return {};
+        return ofWidget;
     }
 }

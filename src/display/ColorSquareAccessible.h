@@ -11,7 +11,8 @@ public:
     /// For this swatch, which outlives it.
     explicit ColorSquareAccessible(TXColorSquareWidget *square);
 
-    /// The name is the widget's accessible name or, without one, a general one. The value also is
-    /// the description of a widget that has none, as some programs read only that.
+    /// The name is the widget's accessible name or, without one, a general one. The
+    /// description is the widget's accessible description or, without one, the value, with the tool
+    /// tip on a line after it.
     [[nodiscard]] QString text(QAccessible::Text kind) const override;
 };

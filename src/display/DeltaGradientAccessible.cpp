@@ -1,5 +1,6 @@
 #include "DeltaGradientAccessible.h"
 
+#include "AccessibleDescription.h"
 #include "TXDeltaGradientWidget.h"
 
 DeltaGradientAccessible::DeltaGradientAccessible(TXDeltaGradientWidget *bar)
@@ -8,17 +9,16 @@ DeltaGradientAccessible::DeltaGradientAccessible(TXDeltaGradientWidget *bar)
 
 QString DeltaGradientAccessible::text(QAccessible::Text kind) const
 {
+    const auto &shown = *static_cast<const TXDeltaGradientWidget *>(object());
     const QString ofWidget = QAccessibleWidget::text(kind);
-    if (!ofWidget.isEmpty()) {
-        return ofWidget;
-    }
     switch (kind) {
     case QAccessible::Name:
-        return TXDeltaGradientWidget::tr("Colour differences");
+        return ofWidget.isEmpty() ? TXDeltaGradientWidget::tr("Colour differences") : ofWidget;
     case QAccessible::Value:
+        return shown.valuesInWords();
     case QAccessible::Description:
-        return static_cast<const TXDeltaGradientWidget *>(object())->valuesInWords();
+        return AccessibleDescription::ofValue(shown, shown.valuesInWords());
     default:
-        return {};
+        return ofWidget;
     }
 }

@@ -1,9 +1,10 @@
 #include "TXColorSquareWidget.h"
 
+#include "AccessibleDescription.h"
 #include "AccessibleInterfaces.h"
 #include "ColorSquareAccessible.h"
+#include "ColourName.h"
 
-#include <QAccessible>
 #include <QPainter>
 
 #include <algorithm>
@@ -60,10 +61,7 @@ void TXColorSquareWidget::setBrush(const QBrush &newBrush)
     }
     brush = newBrush;
     update();
-    if (QAccessible::isActive()) {
-        QAccessibleValueChangeEvent event(this, brushInWords());
-        QAccessible::updateAccessibility(&event);
-    }
+    AccessibleDescription::tellOfChange(*this);
 }
 
 void TXColorSquareWidget::setPen(const QPen &newPen)
@@ -125,7 +123,7 @@ QString TXColorSquareWidget::brushInWords() const
     case Qt::NoBrush:
         return tr("No colour");
     case Qt::SolidPattern:
-        return brush.color().name();
+        return ColourName::of(brush.color());
     case Qt::LinearGradientPattern:
     case Qt::RadialGradientPattern:
     case Qt::ConicalGradientPattern:
@@ -133,7 +131,7 @@ QString TXColorSquareWidget::brushInWords() const
     case Qt::TexturePattern:
         return tr("Picture");
     default:
-        return tr("Pattern in %1").arg(brush.color().name());
+        return tr("Pattern in %1").arg(ColourName::of(brush.color()));
     }
 }
 

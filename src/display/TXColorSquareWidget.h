@@ -13,9 +13,10 @@
 /// that is smaller it shrinks to it, but is still placed by the size of the hint. Layouts give the
 /// widget at least that size. The setters paint anew only when a value differs.
 ///
-/// Assistive programs see a picture whose value is the colour as "#rrggbb", or the kind of brush
-/// where it is none of one colour; give the widget an accessible name that tells what it is the
-/// colour of.
+/// Assistive programs see a picture whose value is the colour as "#rrggbb", as "#aarrggbb" when it
+/// is not opaque, or the kind of brush where it is none of one colour. The value also is the
+/// description, unless the widget has an accessible description. Give the widget an accessible name
+/// that tells what it is the colour of.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT TXColorSquareWidget : public QWidget

@@ -1,10 +1,10 @@
 #include "TXDeltaGradientWidget.h"
 
+#include "AccessibleDescription.h"
 #include "AccessibleInterfaces.h"
 #include "DeltaGradientAccessible.h"
 #include "FocusFrame.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QFontMetrics>
 #include <QLinearGradient>
@@ -160,10 +160,7 @@ QString TXDeltaGradientWidget::valuesInWords() const
 void TXDeltaGradientWidget::valuesChanged()
 {
     update();
-    if (QAccessible::isActive()) {
-        QAccessibleValueChangeEvent event(this, valuesInWords());
-        QAccessible::updateAccessibility(&event);
-    }
+    AccessibleDescription::tellOfChange(*this);
 }
 
 void TXDeltaGradientWidget::paintCaptions(QPainter &painter, const QRect &row) const

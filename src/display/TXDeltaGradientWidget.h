@@ -29,7 +29,8 @@ class QPainter;
 /// painted behind the captions.
 ///
 /// The Tab key comes to the bar, for those who have it read to them: its accessible value says the
-/// numbers in words. The name of the accessible interface is the accessible name, or a general one.
+/// numbers in words, and so does the description of a bar that has no accessible description. The
+/// name of the accessible interface is the accessible name, or a general one.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT TXDeltaGradientWidget : public QWidget

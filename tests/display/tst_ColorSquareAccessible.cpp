@@ -1,6 +1,6 @@
 #include "ColorSquareAccessible.h"
 
-#include "AccessibleValueChanges.h"
+#include "AccessibleEvents.h"
 #include "TXColorSquareWidget.h"
 #include "TestBase.h"
 
@@ -9,7 +9,7 @@ class TestColorSquareAccessible : public TestBase
     Q_OBJECT
 
 protected:
-    void prepare() override { AccessibleValueChanges::start(false); }
+    void prepare() override { AccessibleEvents::start(false); }
 
 private slots:
     void swatchIsAPictureWithoutFocus();
@@ -53,8 +53,10 @@ void TestColorSquareAccessible::valueIsTheColourOrTheKindOfBrush_data()
     const QColor orange(255, 128, 0);
     QTest::addRow("none") << QBrush() << "No colour";
     QTest::addRow("solid") << QBrush(orange) << "#ff8000";
-    QTest::addRow("half transparent") << QBrush(QColor(255, 128, 0, 130)) << "#ff8000";
+    QTest::addRow("half transparent") << QBrush(QColor(255, 128, 0, 130)) << "#82ff8000";
     QTest::addRow("dense") << QBrush(orange, Qt::Dense4Pattern) << "Pattern in #ff8000";
+    QTest::addRow("dense and transparent")
+        << QBrush(QColor(255, 128, 0, 0), Qt::Dense4Pattern) << "Pattern in #00ff8000";
     QTest::addRow("hatched") << QBrush(orange, Qt::DiagCrossPattern) << "Pattern in #ff8000";
     QTest::addRow("linear") << QBrush(QLinearGradient(0, 0, 1, 1)) << "Gradient";
     QTest::addRow("radial") << QBrush(QRadialGradient(0, 0, 5)) << "Gradient";
@@ -86,20 +88,25 @@ void TestColorSquareAccessible::valueDescribesAWidgetWithoutADescription()
     QCOMPARE(accessible->text(QAccessible::Help), QString());
 
     square.setToolTip("Measured in March");
-    QCOMPARE(accessible->text(QAccessible::Description), "Measured in March");
+    QCOMPARE(accessible->text(QAccessible::Description), "#00ff00\nMeasured in March");
+
+    square.setAccessibleDescription("Green as grass");
+    QCOMPARE(accessible->text(QAccessible::Description), "Green as grass");
+    QCOMPARE(accessible->text(QAccessible::Value), "#00ff00");
 }
 
 void TestColorSquareAccessible::otherBrushIsTold()
 {
     TXColorSquareWidget square;
-    AccessibleValueChanges::start(true);
+    AccessibleEvents::start(true);
 
     square.setBrush(Qt::green);
     square.setBrush(Qt::green);
     square.setPen(QPen(Qt::red));
     square.setBrush({});
 
-    QCOMPARE(AccessibleValueChanges::take(), QStringList({"#00ff00", "No colour"}));
+    QCOMPARE(AccessibleEvents::take(),
+             QStringList({"description #00ff00", "description No colour"}));
 }
 
 void TestColorSquareAccessible::nobodyIsToldWhenNobodyListens()
@@ -108,7 +115,7 @@ void TestColorSquareAccessible::nobodyIsToldWhenNobodyListens()
 
     square.setBrush(Qt::green);
 
-    QCOMPARE(AccessibleValueChanges::take(), QStringList());
+    QCOMPARE(AccessibleEvents::take(), QStringList());
 }
 
 int main(int argc, char **argv)

@@ -1,6 +1,6 @@
 #include "DeltaGradientAccessible.h"
 
-#include "AccessibleValueChanges.h"
+#include "AccessibleEvents.h"
 #include "DeltaBarHelpers.h"
 #include "PixelProbe.h"
 #include "TestBase.h"
@@ -26,7 +26,7 @@ class TestDeltaGradientAccessible : public TestBase
     Q_OBJECT
 
 protected:
-    void prepare() override { AccessibleValueChanges::start(false); }
+    void prepare() override { AccessibleEvents::start(false); }
 
 private slots:
     void barIsAChartThatTakesTheFocus();
@@ -121,6 +121,10 @@ void TestDeltaGradientAccessible::valueDescribesAWidgetWithoutADescription()
     QCOMPARE(accessible->text(QAccessible::Description), accessible->text(QAccessible::Value));
     QCOMPARE(accessible->text(QAccessible::Accelerator), QString());
 
+    bar.widget->setToolTip("Print 7");
+    QCOMPARE(accessible->text(QAccessible::Description),
+             accessible->text(QAccessible::Value) + "\nPrint 7");
+
     bar.widget->setAccessibleDescription("By CIEDE2000");
     QCOMPARE(accessible->text(QAccessible::Description), "By CIEDE2000");
 }
@@ -128,17 +132,17 @@ void TestDeltaGradientAccessible::valueDescribesAWidgetWithoutADescription()
 void TestDeltaGradientAccessible::changesAreTold()
 {
     const DeltaBar bar;
-    AccessibleValueChanges::start(true);
+    AccessibleEvents::start(true);
 
     bar.widget->setAverage(1, 20);
     bar.widget->setLimit(2, 50);
     bar.widget->setMax(3);
 
     const QStringList wanted = {
-        "Average 1.0, limit 0.0 with 0.0 % of the pixels below, maximum 0.0",
-        "Average 1.0, limit 2.0 with 50.0 % of the pixels below, maximum 0.0",
-        "Average 1.0, limit 2.0 with 50.0 % of the pixels below, maximum 3.0"};
-    QCOMPARE(AccessibleValueChanges::take(), wanted);
+        "description Average 1.0, limit 0.0 with 0.0 % of the pixels below, maximum 0.0",
+        "description Average 1.0, limit 2.0 with 50.0 % of the pixels below, maximum 0.0",
+        "description Average 1.0, limit 2.0 with 50.0 % of the pixels below, maximum 3.0"};
+    QCOMPARE(AccessibleEvents::take(), wanted);
 }
 
 void TestDeltaGradientAccessible::nobodyIsToldWhenNobodyListens()
@@ -147,7 +151,7 @@ void TestDeltaGradientAccessible::nobodyIsToldWhenNobodyListens()
 
     bar.widget->setMax(3);
 
-    QCOMPARE(AccessibleValueChanges::take(), QStringList());
+    QCOMPARE(AccessibleEvents::take(), QStringList());
 }
 
 void TestDeltaGradientAccessible::tabComesToTheBarAndFramesIt()
