@@ -40,16 +40,42 @@ void TXAspectRatioPixmapLabel::updateMargins()
     const qint64 w = width();
     const qint64 h = height();
     if (ph * w <= pw * h) {
-        const int margin = marginFor(h - ph * w / pw);
-        setContentsMargins(0, margin, 0, margin);
+        setFillingMargins(0, marginFor(h - ph * w / pw));
     } else {
-        const int margin = marginFor(w - pw * h / ph);
-        setContentsMargins(margin, 0, margin, 0);
+        setFillingMargins(marginFor(w - pw * h / ph), 0);
     }
+}
+
+QSize TXAspectRatioPixmapLabel::sizeHint() const
+{
+    return withoutFilling(QLabel::sizeHint());
+}
+
+QSize TXAspectRatioPixmapLabel::minimumSizeHint() const
+{
+    return withoutFilling(QLabel::minimumSizeHint());
 }
 
 void TXAspectRatioPixmapLabel::resizeEvent(QResizeEvent *event)
 {
     updateMargins();
     QLabel::resizeEvent(event);
+}
+
+void TXAspectRatioPixmapLabel::setFillingMargins(int horizontal, int vertical)
+{
+    // First, as the new margins have the parent's layout ask for the hints.
+    fillingMargins = {horizontal, vertical, horizontal, vertical};
+    setContentsMargins(fillingMargins);
+}
+
+/// A host may have set other margins since; the hint keeps room for what of them is more.
+QSize TXAspectRatioPixmapLabel::withoutFilling(const QSize &hint) const
+{
+    const QMargins now = contentsMargins();
+    const int width =
+        std::min(now.left(), fillingMargins.left()) + std::min(now.right(), fillingMargins.right());
+    const int height =
+        std::min(now.top(), fillingMargins.top()) + std::min(now.bottom(), fillingMargins.bottom());
+    return hint - QSize(width, height);
 }

@@ -4,6 +4,7 @@
 #include "TestBase.h"
 
 #include <QPixmap>
+#include <QVBoxLayout>
 
 #include <memory>
 
@@ -39,6 +40,10 @@ private slots:
     void labelWithoutASizeKeepsTheMargins();
     void pictureSetThroughTheBaseIsNotFollowed();
     void marginsDoNotDependOnTheDensityOfThePicture();
+    void labelInALayoutCanBeMadeSmallerAgain_data();
+    void labelInALayoutCanBeMadeSmallerAgain();
+    void hintsAreThePicturesOrTheTexts();
+    void hintsKeepRoomForTheHostsMargins();
     void scaledPictureKeepsItsProportions_data();
     void scaledPictureKeepsItsProportions();
 
@@ -164,6 +169,67 @@ void TestTXAspectRatioPixmapLabel::marginsDoNotDependOnTheDensityOfThePicture()
     label->resize(300, 100);
     label->setPixmap(picture({80, 40}, 2.0));
     QCOMPARE(label->contentsMargins(), QMargins(50, 0, 50, 0));
+}
+
+void TestTXAspectRatioPixmapLabel::labelInALayoutCanBeMadeSmallerAgain_data()
+{
+    QTest::addColumn<QSize>("large");
+    QTest::newRow("high") << QSize(200, 600);
+    QTest::newRow("wide") << QSize(700, 100);
+    QTest::newRow("both") << QSize(500, 600);
+}
+
+void TestTXAspectRatioPixmapLabel::labelInALayoutCanBeMadeSmallerAgain()
+{
+    QFETCH(const QSize, large);
+    const QSize pictureSize(200, 100);
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *inLayout = new TXAspectRatioPixmapLabel(&window);
+    layout->addWidget(inLayout);
+    inLayout->setPixmap(picture(pictureSize));
+    window.resize(large);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(inLayout->size(), large);
+    QVERIFY(inLayout->contentsMargins() != QMargins());
+
+    QCOMPARE(inLayout->sizeHint(), pictureSize);
+    QCOMPARE(inLayout->minimumSizeHint(), pictureSize);
+    layout->activate();
+    QCOMPARE(window.minimumSize(), pictureSize);
+    window.resize(pictureSize);
+    QCOMPARE(inLayout->size(), pictureSize);
+    QCOMPARE(inLayout->contentsMargins(), QMargins());
+}
+
+void TestTXAspectRatioPixmapLabel::hintsAreThePicturesOrTheTexts()
+{
+    label->resize(300, 100);
+    label->setPixmap(picture({80, 40}, 2.0));
+    QCOMPARE(label->contentsMargins(), QMargins(50, 0, 50, 0));
+    QCOMPARE(label->sizeHint(), QSize(40, 20));
+
+    label->setText(QStringLiteral("No picture yet"));
+    QCOMPARE(label->contentsMargins(), QMargins(50, 0, 50, 0));
+    const QLabel plain(label->text());
+    QCOMPARE(label->sizeHint(), plain.sizeHint());
+    QCOMPARE(label->minimumSizeHint(), plain.minimumSizeHint());
+}
+
+void TestTXAspectRatioPixmapLabel::hintsKeepRoomForTheHostsMargins()
+{
+    label->setContentsMargins(1, 2, 3, 4);
+    label->QLabel::setPixmap(picture({40, 20}));
+    QCOMPARE(label->sizeHint(), QSize(44, 26));
+
+    label->resize(300, 100);
+    label->setPixmap(picture({40, 20}));
+    QCOMPARE(label->sizeHint(), QSize(40, 20));
+    label->setContentsMargins(0, 2, 0, 4);
+    QCOMPARE(label->sizeHint(), QSize(40, 26));
+    QCOMPARE(label->minimumSizeHint(), QSize(40, 26));
 }
 
 void TestTXAspectRatioPixmapLabel::scaledPictureKeepsItsProportions_data()
