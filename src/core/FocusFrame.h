@@ -11,8 +11,9 @@ class QWidget;
 /// Thread: the GUI thread.
 namespace FocusFrame {
 
-/// True when the widget has the focus and the keyboard is what the user works with; after a click
-/// no frame is wanted.
+/// True when the widget has the focus and its window has been worked with by the keyboard: the
+/// focus was moved there by Tab, Backtab or a shortcut at least once. It stays wanted after clicks
+/// from then on, as Qt's own controls have it.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT bool isWanted(const QWidget &widget);
 
 /// Draws the frame of the widget's style along the inside of the area's edge when it is wanted, two

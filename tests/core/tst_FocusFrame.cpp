@@ -87,6 +87,7 @@ class TestFocusFrame : public TestBase
 
 private slots:
     void frameIsWantedForTheKeyboardOnly();
+    void clickAfterTabKeepsTheFrameWanted();
     void frameStandsAroundTheArea_data();
     void frameStandsAroundTheArea();
     void withoutFocusNothingIsPainted();
@@ -110,6 +111,22 @@ void TestFocusFrame::frameIsWantedForTheKeyboardOnly()
     QVERIFY(FocusFrame::isWanted(*parts.second));
     QVERIFY(!FocusFrame::isWanted(*parts.first));
     QVERIFY(!isEmpty(PixelProbe(*parts.second)));
+}
+
+void TestFocusFrame::clickAfterTabKeepsTheFrameWanted()
+{
+    Window parts;
+    parts.window.show();
+    parts.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&parts.window));
+    parts.first->setFocus();
+    QTest::keyClick(parts.first, Qt::Key_Tab);
+    QVERIFY(parts.second->hasFocus());
+
+    QTest::mouseClick(parts.first, Qt::LeftButton);
+
+    QVERIFY(parts.first->hasFocus());
+    QVERIFY(FocusFrame::isWanted(*parts.first));
 }
 
 void TestFocusFrame::frameStandsAroundTheArea_data()
