@@ -1,8 +1,9 @@
 #include "JsonFile.h"
 
+#include "RegularFile.h"
+
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
 
@@ -20,9 +21,7 @@ JsonReading failure(const QString &reason)
 
 JsonReading readJsonFile(const QString &path)
 {
-    const QFileInfo info(path);
-    // To open a pipe would wait for somebody who writes.
-    if (info.exists() && !info.isFile()) {
+    if (isNoRegularFile(path)) {
         return {{}, message(QT_TRANSLATE_NOOP("JsonFile", "It is no file."))};
     }
     QFile file(path);

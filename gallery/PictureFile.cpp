@@ -1,5 +1,7 @@
 #include "PictureFile.h"
 
+#include "RegularFile.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QImageReader>
@@ -12,7 +14,7 @@
 namespace {
 
 constexpr int kBitsPerByte = 8;
-constexpr qint64 kBytesPerMegabyte = 1024 * 1024;
+constexpr qint64 kBytesPerMegabyte = qint64(1024) * 1024;
 /// What a picture takes that is shown.
 constexpr int kShownBits = 32;
 constexpr int kLongName = 40;
@@ -57,6 +59,10 @@ PictureFile PictureFile::read(const QString &path)
 {
     PictureFile file;
     file.path = path;
+    if (isNoRegularFile(path)) {
+        file.problem = Problem::NoFile;
+        return file;
+    }
     QImageReader reader(path);
     reader.setAutoTransform(true);
     // A file may have a suffix that is not its own.
@@ -90,6 +96,8 @@ QString PictureFile::problemText() const
 {
     const QLocale locale;
     switch (problem) {
+    case Problem::NoFile:
+        return tr("\"%1\" is no file.").arg(shortName());
     case Problem::Unreadable:
         return tr("\"%1\" cannot be read: %2.").arg(shortName(), reason);
     case Problem::TooLarge:

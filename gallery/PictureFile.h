@@ -10,6 +10,7 @@ struct PictureFile
 {
     enum class Problem {
         None,
+        NoFile, ///< something else, such as a folder, a pipe or a device; it is not opened
         Unreadable, ///< no such file, no right to read it, no picture, a broken one
         /// Would take more memory than QImageReader::allocationLimit() lets a picture. A file
         /// that does not tell its size before is Unreadable then.
@@ -28,7 +29,7 @@ struct PictureFile
     QString reason;
 
     /// Reads a file. One that tells its size and is too large is not read at all. Any thread; a
-    /// large file takes seconds.
+    /// large file takes seconds, and what is no file does not block.
     [[nodiscard]] static PictureFile read(const QString &path);
 
     /// The name without the folder, its middle left out when it is long.

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 class TestJsonFile : public TestBase
 {
     Q_OBJECT
@@ -120,6 +122,10 @@ void TestJsonFile::whatIsNoFileIsRefused_data()
     QTest::addColumn<QString>("path");
     QTest::newRow("folder") << QDir::tempPath();
     QTest::newRow("device") << "/dev/zero";
+    // To open it would wait for ever.
+    const QString pipe = folder.filePath("pipe.json");
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QTest::newRow("pipe") << pipe;
 }
 
 void TestJsonFile::whatIsNoFileIsRefused()

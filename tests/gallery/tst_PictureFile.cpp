@@ -8,6 +8,8 @@
 
 #include <cstdlib>
 
+#include <sys/stat.h>
+
 class TestPictureFile : public TestBase
 {
     Q_OBJECT
@@ -18,6 +20,8 @@ private slots:
     void suffixMayBeWrong();
     void unreadableFilesAreTold_data();
     void unreadableFilesAreTold();
+    void whatIsNoFileIsToldAndNotOpened_data();
+    void whatIsNoFileIsToldAndNotOpened();
     void tooLargeAPictureIsTold();
     void pictureAtTheLimitIsRead();
     void longNamesAreCutInTheMiddle();
@@ -74,7 +78,6 @@ void TestPictureFile::unreadableFilesAreTold_data()
     QVERIFY(writeBytes(path("start.png"), whole.read(20)));
     QVERIFY(writeHeader(path("header.bmp"), 200, 100));
     QVERIFY(writeHeader(path("nosize.bmp"), 0, 0));
-    QVERIFY(QDir(folder.path()).mkpath("folder.png"));
 
     QTest::newRow("missing") << "missing.png";
     QTest::newRow("text") << "text.png";
@@ -82,7 +85,6 @@ void TestPictureFile::unreadableFilesAreTold_data()
     QTest::newRow("first bytes only") << "start.png";
     QTest::newRow("header only") << "header.bmp";
     QTest::newRow("without a size") << "nosize.bmp";
-    QTest::newRow("folder") << "folder.png";
 }
 
 void TestPictureFile::unreadableFilesAreTold()
@@ -95,6 +97,33 @@ void TestPictureFile::unreadableFilesAreTold()
     QVERIFY(file.image.isNull());
     QVERIFY(!file.reason.isEmpty());
     QCOMPARE(file.problemText(), QString("\"%1\" cannot be read: %2.").arg(name, file.reason));
+}
+
+void TestPictureFile::whatIsNoFileIsToldAndNotOpened_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QVERIFY(QDir(folder.path()).mkpath("folder.png"));
+    QCOMPARE(::mkfifo(QFile::encodeName(path("pipe.png")).constData(), 0600), 0);
+    QVERIFY(QFile::link(path("pipe.png"), path("link.png")));
+    QVERIFY(QFile::link("/dev/zero", path("device.png")));
+
+    QTest::newRow("folder") << "folder.png";
+    // To open it would wait for ever.
+    QTest::newRow("pipe") << "pipe.png";
+    QTest::newRow("link to a pipe") << "link.png";
+    QTest::newRow("device") << "device.png";
+}
+
+void TestPictureFile::whatIsNoFileIsToldAndNotOpened()
+{
+    QFETCH(const QString, name);
+
+    const PictureFile file = PictureFile::read(path(name));
+
+    QCOMPARE(file.problem, PictureFile::Problem::NoFile);
+    QVERIFY(file.image.isNull());
+    QCOMPARE(file.problemText(), QString("\"%1\" is no file.").arg(name));
 }
 
 void TestPictureFile::tooLargeAPictureIsTold()

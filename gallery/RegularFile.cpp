@@ -1,0 +1,9 @@
+#include "RegularFile.h"
+
+#include <QFileInfo>
+
+bool isNoRegularFile(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile();
+}
