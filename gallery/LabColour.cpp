@@ -1,14 +1,15 @@
 #include "LabColour.h"
 
+#include "ColourSpaces.h"
+
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace {
 
-using Triple = std::array<double, 3>;
-
-constexpr Triple kWhiteD50 = {0.96422, 1.0, 0.82521};
+using ColourSpaces::kWhiteD50;
+using ColourSpaces::shareOfRoot;
+using ColourSpaces::Triple;
 
 /// From XYZ under D50 to linear sRGB under D65, by the Bradford transform.
 constexpr std::array<Triple, 3> kScreenOfXyz = {{
@@ -20,18 +21,11 @@ constexpr std::array<Triple, 3> kScreenOfXyz = {{
 /// How far a channel may lie outside and still be taken for rounding.
 constexpr double kRounding = 0.002;
 
-double fromCubeRoot(double value)
-{
-    constexpr double kKnee = 6.0 / 29.0;
-    return value > kKnee ? value * value * value : 3 * kKnee * kKnee * (value - 4.0 / 29.0);
-}
-
 Triple toXyz(const LabColour &colour)
 {
     const double middle = (colour.lightness + 16) / 116;
-    return {kWhiteD50[0] * fromCubeRoot(middle + colour.a / 500),
-            kWhiteD50[1] * fromCubeRoot(middle),
-            kWhiteD50[2] * fromCubeRoot(middle - colour.b / 200)};
+    return {kWhiteD50[0] * shareOfRoot(middle + colour.a / 500), kWhiteD50[1] * shareOfRoot(middle),
+            kWhiteD50[2] * shareOfRoot(middle - colour.b / 200)};
 }
 
 Triple toLinearScreen(const LabColour &colour)
@@ -47,8 +41,7 @@ Triple toLinearScreen(const LabColour &colour)
 
 float encode(double linear)
 {
-    const double value = std::clamp(linear, 0.0, 1.0);
-    return float(value <= 0.0031308 ? 12.92 * value : 1.055 * std::pow(value, 1 / 2.4) - 0.055);
+    return float(ColourSpaces::valueOfLight(std::clamp(linear, 0.0, 1.0)));
 }
 
 } // namespace

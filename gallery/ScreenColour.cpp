@@ -1,16 +1,18 @@
 #include "ScreenColour.h"
 
+#include "ColourSpaces.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 
 namespace {
 
-using Triple = std::array<double, 3>;
+using ColourSpaces::kWhiteD50;
+using ColourSpaces::Triple;
 
 constexpr int kChannels = 256;
 constexpr double kLargestChannel = 255;
-constexpr Triple kWhiteD50 = {0.96422, 1.0, 0.82521};
 
 /// From linear sRGB under D65 to XYZ under D50, by the Bradford transform.
 constexpr std::array<Triple, 3> kXyzOfScreen = {{
@@ -19,30 +21,13 @@ constexpr std::array<Triple, 3> kXyzOfScreen = {{
     {0.0139322, 0.0971045, 0.7141733},
 }};
 
-double decode(double value)
-{
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-}
-
-double encode(double light)
-{
-    return light <= 0.0031308 ? 12.92 * light : 1.055 * std::pow(light, 1 / 2.4) - 0.055;
-}
-
 std::array<double, kChannels> makeLights()
 {
     std::array<double, kChannels> lights = {};
     for (size_t i = 0; i < lights.size(); ++i) {
-        lights[i] = decode(double(i) / kLargestChannel);
+        lights[i] = ColourSpaces::lightOfValue(double(i) / kLargestChannel);
     }
     return lights;
-}
-
-double toCubeRoot(double value)
-{
-    constexpr double kKnee = 6.0 / 29.0;
-    return value > kKnee * kKnee * kKnee ? std::cbrt(value)
-                                         : value / (3 * kKnee * kKnee) + 4.0 / 29.0;
 }
 
 } // namespace
@@ -56,7 +41,8 @@ double ScreenColour::lightOf(int channel)
 
 int ScreenColour::channelOf(double light)
 {
-    return int(std::lround(kLargestChannel * encode(std::clamp(light, 0.0, 1.0))));
+    return int(
+        std::lround(kLargestChannel * ColourSpaces::valueOfLight(std::clamp(light, 0.0, 1.0))));
 }
 
 LabColour ScreenColour::labOf(QRgb colour)
@@ -66,7 +52,7 @@ LabColour ScreenColour::labOf(QRgb colour)
     for (size_t i = 0; i < roots.size(); ++i) {
         const Triple &row = kXyzOfScreen[i];
         const double value = row[0] * lights[0] + row[1] * lights[1] + row[2] * lights[2];
-        roots[i] = toCubeRoot(value / kWhiteD50[i]);
+        roots[i] = ColourSpaces::rootOfShare(value / kWhiteD50[i]);
     }
     return {116 * roots[1] - 16, 500 * (roots[0] - roots[1]), 200 * (roots[1] - roots[2])};
 }
