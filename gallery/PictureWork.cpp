@@ -4,6 +4,9 @@
 #include "DifferencePicture.h"
 #include "PrintSimulation.h"
 
+#include <QMutex>
+#include <QMutexLocker>
+
 namespace {
 
 /// Enough for an overview, twice over for fine screens.
@@ -15,6 +18,30 @@ QImage overviewOf(const QImage &picture)
         picture.width() > kOverviewSize.width() || picture.height() > kOverviewSize.height();
     return isLarger ? picture.scaled(kOverviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation)
                     : picture;
+}
+
+PictureSet makeChartSet(const std::atomic_bool &isCancelled)
+{
+    const QImage original = ChartPicture::make();
+    const QImage print = PrintSimulation::make(original);
+    const QImage difference = DifferencePicture::make(original, print, isCancelled);
+    return {true, {{{}, original}, {{}, print}, {{}, difference}}, overviewOf(original)};
+}
+
+/// Always the same: made once for all, by whoever asks first. What was cancelled is not kept.
+PictureSet chartSet(const std::atomic_bool &isCancelled)
+{
+    static QMutex mutex;
+    static PictureSet kept;
+    const QMutexLocker locker(&mutex);
+    if (kept.pictures.isEmpty()) {
+        const PictureSet made = makeChartSet(isCancelled);
+        if (isCancelled) {
+            return {};
+        }
+        kept = made;
+    }
+    return kept;
 }
 
 } // namespace
@@ -67,13 +94,7 @@ void PictureWork::start(const std::function<void()> &work)
 
 void PictureWork::runChart()
 {
-    if (chart.pictures.isEmpty()) {
-        const QImage original = ChartPicture::make();
-        const QImage print = PrintSimulation::make(original);
-        const QImage difference = DifferencePicture::make(original, print, isCancelled);
-        chart = {true, {{{}, original}, {{}, print}, {{}, difference}}, overviewOf(original)};
-    }
-    set = chart;
+    set = chartSet(isCancelled);
 }
 
 void PictureWork::runFiles(const QStringList &paths)

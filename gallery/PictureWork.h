@@ -24,8 +24,9 @@ public:
     /// finished() is not emitted any more.
     ~PictureWork() override;
 
-    /// Starts to make the chart, its print and their difference. The second time they are there at
-    /// once, though finished() comes later as ever. No effect during a run.
+    /// Starts to make the chart, its print and their difference. The second time in a
+    /// program, whoever asks, they are there at once and the same images, though finished() comes
+    /// later as ever. No effect during a run.
     void makeChart();
 
     /// Starts to read files, the first PictureSet::kLargestCount of them. No effect during a run,
@@ -58,6 +59,5 @@ private:
     std::atomic_bool isCancelled = false;
     // Written by the run's thread, read when it has ended.
     PictureSet set;
-    PictureSet chart;
     QList<PictureFile> failed;
 };
