@@ -2,6 +2,7 @@
 
 #include "ChartPatches.h"
 #include "ChartPicture.h"
+#include "PatchNumbers.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -9,10 +10,6 @@
 #include <utility>
 
 namespace {
-
-constexpr int kNumberPixels = 44;
-constexpr QPoint kNumberPlace(14, 50);
-constexpr double kBorderPixels = 7;
 
 constexpr int kCaptionInset = 6;
 constexpr int kCaptionPadding = 6;
@@ -24,52 +21,39 @@ constexpr QColor kCaptionGround(0, 0, 0, 170);
 PictureOverlay::PictureOverlay(const QWidget *viewer, QStringList captions, bool isChart)
     : viewer(viewer)
     , captions(std::move(captions))
-    , isChart(isChart)
-{
-    if (isChart) {
-        makeNumbers();
-    }
-}
+    , numbers(isChart ? std::make_shared<PatchNumbers>(viewer->font()) : nullptr)
+{ }
 
-void PictureOverlay::operator()(QPainter *painter, int zone, bool isInPicture, QPointF /*origin*/,
-                                double /*scale*/) const
+void PictureOverlay::operator()(QPainter *painter, int zone, bool isInPicture, QPointF origin,
+                                double scale) const
 {
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    if (!isInPicture) {
-        paintCaption(painter, zone);
-    } else if (isChart) {
-        paintPatches(painter);
+    // All of it stands on whole pixels of the viewer.
+    if (isInPicture) {
+        return;
     }
+    painter->save();
+    if (numbers) {
+        paintPatches(painter, origin, scale);
+    }
+    painter->setRenderHint(QPainter::Antialiasing);
+    paintCaption(painter, zone);
     painter->restore();
 }
 
-/// Made once: what is painted at each move of the mouse has to be cheap.
-void PictureOverlay::makeNumbers()
+/// The lines stay fine at any scale, the numbers grow with the picture.
+void PictureOverlay::paintPatches(QPainter *painter, const QPointF &origin, double scale) const
 {
-    QFont font = viewer->font();
-    font.setPixelSize(kNumberPixels);
-    font.setBold(true);
-    for (int i = 0; i < kChartPatches; ++i) {
-        numbers.addText(ChartPicture::patchRect(i).topLeft() + kNumberPlace, font,
-                        QString::number(i + 1));
-    }
-    QPainterPathStroker stroker;
-    stroker.setWidth(kBorderPixels);
-    stroker.setJoinStyle(Qt::RoundJoin);
-    border = stroker.createStroke(numbers);
-}
-
-/// In pixels of the picture, so that it grows with it; but for the lines, which stay fine. White
-/// in black is seen on all colours.
-void PictureOverlay::paintPatches(QPainter *painter) const
-{
+    const QRectF sight = painter->clipBoundingRect();
+    painter->setBrush(Qt::NoBrush);
     painter->setPen(QPen(Qt::white, 0));
     for (int i = 0; i < kChartPatches; ++i) {
-        painter->drawRect(ChartPicture::patchRect(i));
+        const QRectF inPicture = ChartPicture::patchRect(i);
+        const QRectF patch(origin + inPicture.topLeft() * scale, inPicture.size() * scale);
+        if (patch.intersects(sight)) {
+            painter->drawRect(patch.toRect());
+            numbers->paint(painter, i, patch.topLeft(), scale);
+        }
     }
-    painter->fillPath(border, Qt::black);
-    painter->fillPath(numbers, Qt::white);
 }
 
 /// In pixels of the viewer: at the same place and in the same size at any scale.

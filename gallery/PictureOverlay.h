@@ -1,15 +1,19 @@
 #pragma once
 
-#include <QPainterPath>
 #include <QPointF>
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
+#include <memory>
+
+class PatchNumbers;
 class QPainter;
 
 /// What the page paints over the pictures of a viewer, a function for TXImageViewer::setOverlay():
 /// in each zone a caption, and on those of the chart outlines and numbers of the patches.
+///
+/// Painting it again at the same scale is cheap, as it is done at each move of the mouse.
 class PictureOverlay
 {
 public:
@@ -20,15 +24,11 @@ public:
                     double scale) const;
 
 private:
-    void paintPatches(QPainter *painter) const;
+    void paintPatches(QPainter *painter, const QPointF &origin, double scale) const;
     void paintCaption(QPainter *painter, int zone) const;
-
-    void makeNumbers();
 
     QPointer<const QWidget> viewer;
     QStringList captions;
-    bool isChart;
-    /// In pixels of the picture: the numbers, and a border around them.
-    QPainterPath numbers;
-    QPainterPath border;
+    /// Shared with all copies: a viewer makes one at each paint. Null but on the chart.
+    std::shared_ptr<PatchNumbers> numbers;
 };
