@@ -2,22 +2,26 @@
 
 #include "WheelGuard.h"
 
-#include "TXImageViewer.h"
-
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 namespace {
 
 constexpr double kWholePercent = 100;
-constexpr double kSmallestPercent = 0.1;
-constexpr double kLargestPercent = 1600;
+/// Beyond what any picture is fitted with, from the largest to one of a single pixel. What is typed
+/// is held to the viewer's limits.
+constexpr double kSmallestPercent = 0.001;
+constexpr double kLargestPercent = 1'000'000;
 constexpr double kPercentStep = 10;
+constexpr int kDigits = 1;
+/// Below one percent.
+constexpr int kDigitsOfSmall = 3;
 
 } // namespace
 
@@ -31,7 +35,7 @@ ImageViewBar::ImageViewBar(QWidget *parent)
     , overlayBox(new QCheckBox(this))
     , markerBox(new QCheckBox(this))
 {
-    scaleBox->setDecimals(1);
+    scaleBox->setDecimals(kDigits);
     scaleBox->setRange(kSmallestPercent, kLargestPercent);
     scaleBox->setSingleStep(kPercentStep);
     scaleBox->setValue(kWholePercent);
@@ -53,7 +57,7 @@ void ImageViewBar::setViewer(TXImageViewer *newViewer)
     connect(shareButton, SIGNAL(clicked()), this, SLOT(share()));
     connect(naturalButton, SIGNAL(clicked()), this, SLOT(showNaturalSize()));
     connect(scaleBox, SIGNAL(valueChanged(double)), this, SLOT(setPercent(double)));
-    connect(viewer, SIGNAL(scaleChanged(float)), this, SLOT(showScale(float)));
+    connect(viewer, SIGNAL(scaleChanged(float)), this, SLOT(followScale()));
 }
 
 void ImageViewBar::changeEvent(QEvent *event)
@@ -66,29 +70,67 @@ void ImageViewBar::changeEvent(QEvent *event)
 
 void ImageViewBar::fit()
 {
-    viewer->scale(TXImageViewer::ScaleFit);
+    choose(TXImageViewer::ScaleFit);
 }
 
 void ImageViewBar::share()
 {
-    viewer->scale(TXImageViewer::ScaleShare);
+    choose(TXImageViewer::ScaleShare);
 }
 
 void ImageViewBar::showNaturalSize()
 {
-    viewer->scale(TXImageViewer::ScaleNatural);
+    choose(TXImageViewer::ScaleNatural);
 }
 
 void ImageViewBar::setPercent(double percent)
 {
+    isShared = false;
     viewer->scale(percent / kWholePercent, TXImageViewer::Absolute);
+    // What the viewer does not go along with.
+    showScale();
+    emit scaleChosen();
+}
+
+void ImageViewBar::followScale()
+{
+    if (!isKeepingScale) {
+        keepScale();
+        showScale();
+    }
+}
+
+void ImageViewBar::choose(TXImageViewer::Scaling scaling)
+{
+    isShared = scaling == TXImageViewer::ScaleShare;
+    viewer->scale(scaling);
+    emit scaleChosen();
+}
+
+/// A scale that is none of those that the viewer sets by itself is the user's: set by a function it
+/// holds. Back at the fitting one, the pictures count as fitted again.
+void ImageViewBar::keepScale()
+{
+    const QScopedValueRollback<bool> keeping(isKeepingScale, true);
+    const double scale = viewer->scale();
+    isShared = isShared && scale == viewer->scaleHint(TXImageViewer::ScaleShare);
+    if (isShared) {
+        return;
+    }
+    if (scale == viewer->scaleHint(TXImageViewer::ScaleFit)) {
+        viewer->scale(TXImageViewer::ScaleFit);
+    } else {
+        viewer->scale(scale, TXImageViewer::Absolute);
+    }
 }
 
 /// What the box shows is rounded: setting it must not come back as the scale.
-void ImageViewBar::showScale(float scale)
+void ImageViewBar::showScale()
 {
     const QSignalBlocker blocker(scaleBox);
-    scaleBox->setValue(double(scale) * kWholePercent);
+    const double percent = viewer->scale() * kWholePercent;
+    scaleBox->setDecimals(percent < 1 ? kDigitsOfSmall : kDigits);
+    scaleBox->setValue(percent);
 }
 
 void ImageViewBar::retranslate()

@@ -1,14 +1,19 @@
 #pragma once
 
+#include "TXImageViewer.h"
+
 #include <QWidget>
 
 class QCheckBox;
 class QDoubleSpinBox;
 class QLabel;
 class QPushButton;
-class TXImageViewer;
 
 /// The strip above a TXImageViewer: its scale, and what is painted over the pictures.
+///
+/// The viewer fits its pictures anew when its size or they change, and does not take the wheel and
+/// the zooming keys for an end of that. With this strip they are: the scale that a user has chosen
+/// stays until another is.
 class ImageViewBar final : public QWidget
 {
     Q_OBJECT
@@ -23,6 +28,8 @@ public:
 signals:
     void overlayWanted(bool isWanted);
     void markerWanted(bool isWanted);
+    /// The user has set a scale here; the viewer has it already.
+    void scaleChosen();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -32,13 +39,19 @@ private slots:
     void share();
     void showNaturalSize();
     void setPercent(double percent);
-    void showScale(float scale);
+    void followScale();
 
 private:
+    void choose(TXImageViewer::Scaling scaling);
+    void keepScale();
+    void showScale();
     void retranslate();
     void setUpLayout();
 
     TXImageViewer *viewer = nullptr;
+    /// Whether the zone's share holds.
+    bool isShared = false;
+    bool isKeepingScale = false;
     QPushButton *fitButton;
     QPushButton *shareButton;
     QPushButton *naturalButton;

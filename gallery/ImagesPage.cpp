@@ -6,6 +6,7 @@
 #include "GalleryPanel.h"
 #include "ImageViewBar.h"
 #include "MouseMarker.h"
+#include "MouseRepeater.h"
 #include "OverviewPanel.h"
 #include "PictureOverlay.h"
 #include "PictureWork.h"
@@ -18,9 +19,12 @@
 #include <QLocale>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace {
 
-constexpr int kViewerHeight = 260;
+/// So that the page needs no scroll bar in the gallery's first size.
+constexpr int kViewerHeight = 240;
 constexpr double kWholePercent = 100;
 /// "Red", whose print differs much, for a picture of the page.
 constexpr int kExamplePatch = 14;
@@ -52,6 +56,11 @@ ImagesPage::ImagesPage(QWidget *parent)
     connect(picturesPanel, SIGNAL(chartWanted()), this, SLOT(showChart()));
     connect(picturesPanel, SIGNAL(filesChosen(QStringList)), this, SLOT(openFiles(QStringList)));
     connect(picturesPanel, SIGNAL(shownChanged()), this, SLOT(showChosen()));
+    // What could not be read is told until the user goes on.
+    connect(picturesPanel, SIGNAL(shownChanged()), this, SLOT(dropTroubles()));
+    connect(bar, SIGNAL(overlayWanted(bool)), this, SLOT(dropTroubles()));
+    connect(bar, SIGNAL(markerWanted(bool)), this, SLOT(dropTroubles()));
+    connect(bar, SIGNAL(scaleChosen()), this, SLOT(dropTroubles()));
     connect(work, SIGNAL(finished()), this, SLOT(workEnded()));
     showChart();
     retranslate();
@@ -59,9 +68,9 @@ ImagesPage::ImagesPage(QWidget *parent)
 
 QString ImagesPage::description() const
 {
-    return tr("Pictures side by side at one scale and position: a colour chart, the same chart as "
-              "a printer would show it, and how the two differ. Drag them, and turn the wheel to "
-              "look closer.");
+    return tr("Pictures side by side at one scale and position: a colour chart, the same chart in "
+              "a simulated print, and how the two differ. Drag them, and turn the wheel to look "
+              "closer.");
 }
 
 void ImagesPage::fillForPicture()
@@ -110,7 +119,8 @@ void ImagesPage::begin()
 void ImagesPage::workEnded()
 {
     picturesPanel->setBusy(false);
-    if (work->troubles().isEmpty()) {
+    areTroublesTold = !work->troubles().isEmpty();
+    if (!areTroublesTold) {
         set = work->result();
         chosenFiles = set.isChart ? 0 : wantedFiles;
         showSet();
@@ -160,21 +170,46 @@ void ImagesPage::setMarkerShown(bool isShown)
                            MouseMarker::kHotSpot);
 }
 
-void ImagesPage::hover(const QPointF & /*localPos*/, Qt::MouseButton /*button*/,
+void ImagesPage::dropTroubles()
+{
+    if (areTroublesTold) {
+        areTroublesTold = false;
+        showMessage();
+    }
+}
+
+/// Each picture by its own size. The viewer's word on what is inside is that of the first picture,
+/// without its last row and column.
+void ImagesPage::hover(const QPointF &localPos, Qt::MouseButton /*button*/,
                        Qt::MouseButtons /*buttons*/, Qt::KeyboardModifiers /*modifiers*/,
-                       bool isInside, int zoneIndex, QPoint pixmapCoord)
+                       bool /*isInside*/, int zoneIndex, QPoint pixmapCoord)
 {
     const QList<int> shown = picturesPanel->shown();
-    if (isInside && zoneIndex >= 0 && zoneIndex < shown.size()) {
+    const bool isPicture = zoneIndex >= 0 && zoneIndex < shown.size();
+    if (isPicture && isBehindCorner(localPos, zoneIndex)
+        && set.pictures[shown[zoneIndex]].image.rect().contains(pixmapCoord)) {
         lookAt(shown[zoneIndex], pixmapCoord);
     } else {
         lookAway();
     }
 }
 
+/// Whether a place in the viewer is not above or to the left of the zone's picture: there, too, the
+/// nearest pixel is told to have the coordinate 0.
+bool ImagesPage::isBehindCorner(const QPointF &place, int zone) const
+{
+    const QList<QPixmap> shown = viewer->pixmaps();
+    const double zoneWidth = double(viewer->width()) / double(shown.size());
+    const QPointF middle(zoneWidth * (zone + 0.5), viewer->height() / 2.0);
+    const QPointF pictureMiddle = QRectF(shown.constFirst().rect()).center();
+    const QPointF corner = middle + (viewer->position() - pictureMiddle) * viewer->scale();
+    return std::round(place.x()) >= corner.x() && std::round(place.y()) >= corner.y();
+}
+
 void ImagesPage::setUpViewer()
 {
     bar->setViewer(viewer);
+    new MouseRepeater(viewer);
     viewer->setMinimumHeight(kViewerHeight);
     viewer->setBackgroundRole(QPalette::Mid);
     viewer->setAutoFillBackground(true);
@@ -243,7 +278,7 @@ void ImagesPage::showMessage()
 {
     if (work->isRunning()) {
         picturesPanel->setMessage(tr("Just a moment..."), false);
-    } else if (!work->troubles().isEmpty()) {
+    } else if (areTroublesTold) {
         picturesPanel->setMessage(troublesText(), true);
     } else {
         picturesPanel->setMessage(setText(), !sizesText().isEmpty());

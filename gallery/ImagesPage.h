@@ -36,6 +36,7 @@ private slots:
     void showChosen();
     void setOverlayShown(bool isShown);
     void setMarkerShown(bool isShown);
+    void dropTroubles();
     void hover(const QPointF &localPos, Qt::MouseButton button, Qt::MouseButtons buttons,
                Qt::KeyboardModifiers modifiers, bool isInside, int zoneIndex, QPoint pixmapCoord);
 
@@ -50,6 +51,7 @@ private:
     void showPixel();
     void showOverlay();
     void showMessage();
+    [[nodiscard]] bool isBehindCorner(const QPointF &place, int zone) const;
     [[nodiscard]] QStringList names() const;
     [[nodiscard]] QString placeName(int picture, const QPoint &place) const;
     [[nodiscard]] PixelReadout::Pixel pixelAt(int picture, const QPoint &place) const;
@@ -70,6 +72,8 @@ private:
     /// How many files were chosen the last time that reading them succeeded.
     qsizetype chosenFiles = 0;
     qsizetype wantedFiles = 0;
+    /// Whether the message is on files that could not be read.
+    bool areTroublesTold = false;
     bool isOverlayShown = true;
     bool isExampleWanted = false;
 };

@@ -78,7 +78,8 @@ void PixelReadout::clear()
 
 void PixelReadout::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange) {
+    // The frames of the swatches are in a colour of the palette.
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::PaletteChange) {
         showState();
     }
     QWidget::changeEvent(event);

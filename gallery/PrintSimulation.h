@@ -12,9 +12,8 @@
 ///
 ///     a = 1 - t                              coverage: how much of the paper the ink is to cover
 ///     g = a + 4 · kDotGain · a · (1 - a)     dots grow, most where half is covered
-///     s = g + 4 · kRipple · g · (1 - g) · r  what is left of the screen; r from -1 to 1, see
-///     ripple() y = paper · (1 - s) + black · s        the light of paper and ink side by side, s
-///     within 0 to 1
+///     s = g + 4 · kRipple · g · (1 - g) · r  the screen, r as by ripple(); s within 0 to 1
+///     y = paper · (1 - s) + black · s        the light of paper and ink side by side
 ///
 /// `paper` and `black` are the light of the channel in kPaper and kBlack. It is done in light, not
 /// in the numbers of the file, since light is what adds up between dots.

@@ -11,7 +11,9 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QSignalSpy>
+#include <QWheelEvent>
 
+#include <cmath>
 #include <memory>
 
 /// Base of the tests of the page that compares pictures, which each find it open.
@@ -45,10 +47,10 @@ protected:
     }
 
     /// Tells the page what the viewer would, with the mouse over this pixel.
-    void hover(int zone, const QPoint &pixel, bool isInside = true) const
+    void hover(int zone, const QPoint &pixel) const
     {
-        emit viewer->hover(QPointF(), Qt::NoButton, Qt::NoButton, Qt::NoModifier, isInside, zone,
-                           pixel);
+        emit viewer->hover(placeOf(zone, pixel), Qt::NoButton, Qt::NoButton, Qt::NoModifier, true,
+                           zone, pixel);
     }
 
     /// The middle of a pixel of the picture, in the viewer.
@@ -62,10 +64,25 @@ protected:
             + (QPointF(pixel) + QPointF(0.5, 0.5) - middle + viewer->position()) * viewer->scale();
     }
 
+    /// The pixel of the picture that stands at a place in the viewer.
+    [[nodiscard]] QPoint pixelAt(int zone, const QPointF &place) const
+    {
+        const QPointF fromFirst = (place - placeOf(zone, QPoint())) / viewer->scale();
+        return {int(std::floor(fromFirst.x() + 0.5)), int(std::floor(fromFirst.y() + 0.5))};
+    }
+
     void moveMouse(const QPointF &place) const
     {
         QMouseEvent event(QEvent::MouseMove, place, viewer->mapToGlobal(place), Qt::NoButton,
                           Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(viewer, &event);
+    }
+
+    /// A notch away from the user.
+    void turnWheel(const QPointF &place) const
+    {
+        QWheelEvent event(place, viewer->mapToGlobal(place), {}, {0, 120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(viewer, &event);
     }
 

@@ -4,12 +4,16 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QDoubleSpinBox>
 #include <QImageReader>
 #include <QLineEdit>
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <cmath>
 #include <memory>
+
+#include <sys/stat.h>
 
 class TestImagesPageFiles : public ImagesPageTest
 {
@@ -26,8 +30,12 @@ private slots:
     void badFileIsToldAndWhatWasShownStays();
     void messageOnABadFileFollowsTheLanguage();
     void goodFilesAfterABadOneClearTheMessage();
+    void messageOnABadFileGoesWhenTheUserGoesOn_data();
+    void messageOnABadFileGoesWhenTheUserGoesOn();
     void differingSizesAreTold();
     void pixelBeyondASmallerPictureHasNoColour();
+    void pixelOfALargerPictureIsReadInIt();
+    void onlyPixelOfAPictureIsRead();
     void moreFilesThanZonesAreTold();
     void namesMayHoldAnything();
     void longNameDoesNotWidenThePage();
@@ -173,6 +181,8 @@ void TestImagesPageFiles::badFileIsToldAndWhatWasShownStays_data()
                                 << "\"text.png\" cannot be read: ";
     QTest::newRow("broken") << "broken.bmp"
                             << "\"broken.bmp\" cannot be read: ";
+    QTest::newRow("pipe") << "pipe.png"
+                          << "\"pipe.png\" is no file.";
     QTest::newRow("too large") << "large.png"
                                << "\"large.png\" is too large: 2,000 × 500 pixels";
 }
@@ -183,6 +193,7 @@ void TestImagesPageFiles::badFileIsToldAndWhatWasShownStays()
     QFETCH(const QString, message);
     QVERIFY(writeBytes(path("text.png"), "Not a picture."));
     QVERIFY(writeHeader(path("broken.bmp"), 100, 100));
+    QCOMPARE(::mkfifo(QFile::encodeName(path("pipe.png")).constData(), 0600), 0);
     QVERIFY(write("large.png", Qt::red, QSize(2000, 500)));
     QImageReader::setAllocationLimit(1);
     QVERIFY(write("good.png", Qt::red));
@@ -229,6 +240,30 @@ void TestImagesPageFiles::goodFilesAfterABadOneClearTheMessage()
     QCOMPARE(viewer->pixmaps().size(), 1);
 }
 
+void TestImagesPageFiles::messageOnABadFileGoesWhenTheUserGoesOn_data()
+{
+    QTest::addColumn<QString>("button");
+
+    for (const char *button : {"2 Print", "Fit", "Share", "100 %", "Overlay", "Marker"}) {
+        QTest::newRow(button) << button;
+    }
+}
+
+void TestImagesPageFiles::messageOnABadFileGoesWhenTheUserGoesOn()
+{
+    QFETCH(const QString, button);
+    QVERIFY(writeBytes(path("text.png"), "Not a picture."));
+    open({"text.png"});
+    page->resize(page->size() + QSize(20, 20));
+    QCoreApplication::processEvents();
+    QVERIFY(allTexts(*page).contains("cannot be read"));
+
+    click(button);
+
+    QVERIFY2(!allTexts(*page).contains("cannot be read"), qPrintable(allTexts(*page)));
+    QVERIFY(allTexts(*page).contains("The print is computed"));
+}
+
 void TestImagesPageFiles::differingSizesAreTold()
 {
     QVERIFY(write("wide.png", Qt::red, QSize(1200, 10)));
@@ -258,6 +293,41 @@ void TestImagesPageFiles::pixelBeyondASmallerPictureHasNoColour()
     QVERIFY(isRead(*page, "#ff0000"));
     QVERIFY(isRead(*page, "–"));
     QVERIFY(!isRead(*page, "0.00"));
+}
+
+void TestImagesPageFiles::pixelOfALargerPictureIsReadInIt()
+{
+    QVERIFY(write("high.png", Qt::red, QSize(10, 40)));
+    QVERIFY(write("wide.png", Qt::blue, QSize(20, 40)));
+    open({"high.png", "wide.png"});
+    // Files come in the order of their names or as they were chosen.
+    const int wide = picture(0).width() == 20 ? 0 : 1;
+
+    moveMouse(placeOf(wide, QPoint(15, 20)));
+    QVERIFY2(isRead(*page, "x 15, y 20"), qPrintable(allTexts(*page)));
+    QVERIFY(isRead(*page, "#0000ff"));
+    moveMouse(placeOf(1 - wide, QPoint(15, 20)));
+    QVERIFY(isRead(*page, "Move the mouse over a picture."));
+}
+
+void TestImagesPageFiles::onlyPixelOfAPictureIsRead()
+{
+    QVERIFY(write("dot.png", Qt::red, QSize(1, 1)));
+    open({"dot.png"});
+    const auto *box = page->findChild<QDoubleSpinBox *>();
+    QVERIFY(viewer->scale() > 100);
+    QVERIFY2(std::abs(box->value() - 100 * viewer->scale()) <= 0.05,
+             qPrintable(QString::number(box->value())));
+
+    moveMouse(placeOf(0, QPoint(0, 0)));
+    QVERIFY(isRead(*page, "x 0, y 0"));
+    QVERIFY(isRead(*page, "#ff0000"));
+
+    // Beside it, less than its width away.
+    for (const QPointF away : {QPointF(-0.7, 0), QPointF(0.7, 0)}) {
+        moveMouse(placeOf(0, QPoint(0, 0)) + away * viewer->scale());
+        QVERIFY2(isRead(*page, "Move the mouse over a picture."), qPrintable(allTexts(*page)));
+    }
 }
 
 void TestImagesPageFiles::moreFilesThanZonesAreTold()
@@ -325,7 +395,6 @@ void TestImagesPageFiles::focusComesBackToTheButton()
     open({"one.png"});
     chartButton->setFocus();
     click("Show Chart");
-    viewer->setFocusPolicy(Qt::StrongFocus);
     viewer->setFocus();
     QVERIFY(isReadyInTime());
     QCOMPARE(page->focusWidget(), viewer);
