@@ -1,6 +1,7 @@
 #include "DifferenceBarPanel.h"
 
 #include "DifferenceSpread.h"
+#include "PaperPalette.h"
 #include "WheelGuard.h"
 
 #include "DoubleSpinBoxWithSliderWidget.h"
@@ -12,19 +13,21 @@
 #include <QLocale>
 #include <QSignalBlocker>
 
+#include <cmath>
+
 namespace {
 
 constexpr int kSpinBoxWidth = 84;
 constexpr int kLeastBarWidth = 420;
 constexpr int kDecimals = 1;
-constexpr double kLimitStep = 0.1;
+constexpr int kLimitStepsOfOne = 10;
 /// Wide enough for its right neighbour to be another group.
 constexpr int kGroupGap = 2 * GalleryPanel::kGap;
 
 void setUpLimit(DoubleSpinBoxWithSliderWidget *slider)
 {
     slider->setDecimals(kDecimals);
-    slider->setSingleStep(kLimitStep);
+    slider->setSingleStep(1.0 / kLimitStepsOfOne);
     slider->setSpinBoxMinimumWidth(kSpinBoxWidth);
     slider->setSpinBoxMaximumWidth(kSpinBoxWidth);
 }
@@ -50,11 +53,11 @@ DifferenceBarPanel::DifferenceBarPanel(QWidget *parent)
     for (QComboBox *box : {formulaBox, pairsBox}) {
         WheelGuard::protect(box);
     }
-    changePairs();
+    changeRange();
     retranslate();
 
-    connect(formulaBox, SIGNAL(currentIndexChanged(int)), this, SLOT(showDifferences()));
-    connect(pairsBox, SIGNAL(currentIndexChanged(int)), this, SLOT(changePairs()));
+    connect(formulaBox, SIGNAL(currentIndexChanged(int)), this, SLOT(changeRange()));
+    connect(pairsBox, SIGNAL(currentIndexChanged(int)), this, SLOT(changeRange()));
     connect(limitSlider, SIGNAL(valueChanged(double)), this, SLOT(changeLimit(double)));
 }
 
@@ -84,21 +87,21 @@ void DifferenceBarPanel::retranslate()
     showDifferences();
 }
 
-void DifferenceBarPanel::changePairs()
+void DifferenceBarPanel::changeRange()
 {
     {
-        // The range moves the value of the old pairs on its way to that of the new ones.
+        // What the range does to the limit is no choice of the user: a limit that the differences
+        // by one formula do not reach is there again with the other one.
         const QSignalBlocker blocker(limitSlider);
-        const Choice chosen = choice();
-        limitSlider->setMaximumValue(chosen.largestLimit);
-        limitSlider->setValue(chosen.limit);
+        limitSlider->setMaximumValue(largestLimit());
+        limitSlider->setValue(chosenLimit());
     }
     showDifferences();
 }
 
 void DifferenceBarPanel::changeLimit(double value)
 {
-    choice().limit = value;
+    chosenLimit() = value;
     showDifferences();
 }
 
@@ -129,19 +132,23 @@ QString DifferenceBarPanel::inWords(double number) const
     return locale().toString(number, 'f', kDecimals);
 }
 
-DifferenceBarPanel::Choice &DifferenceBarPanel::choice()
+/// The first step that all differences are below.
+double DifferenceBarPanel::largestLimit() const
 {
-    return choices.at(size_t(pairsBox->currentIndex()));
+    const double largest = differenceSpread(pairs(), formula(), 0).largest;
+    return (std::floor(largest * kLimitStepsOfOne) + 1) / kLimitStepsOfOne;
+}
+
+double &DifferenceBarPanel::chosenLimit()
+{
+    return chosenLimits.at(size_t(pairsBox->currentIndex()));
 }
 
 /// A light ground in every palette, since the bar's rows are light too.
 QWidget *DifferenceBarPanel::makePaper()
 {
-    QPalette light;
-    light.setColor(QPalette::Window, QColor(0xfa, 0xf9, 0xf3));
-    light.setColor(QPalette::WindowText, QColor(0x22, 0x22, 0x22));
     auto *ground = new QWidget(this);
-    ground->setPalette(light);
+    ground->setPalette(paperPalette());
     ground->setAutoFillBackground(true);
     return ground;
 }

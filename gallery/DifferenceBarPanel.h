@@ -10,7 +10,8 @@ class QComboBox;
 class QLabel;
 class TXDeltaGradientWidget;
 
-/// The differences of the chart's pairs as a bar, with the choice of formula, pairs and limit.
+/// The differences of the chart's pairs as a bar, with the choice of formula, pairs and limit. The
+/// limit goes from 0 to just above the largest of the differences.
 class DifferenceBarPanel final : public GalleryPanel
 {
     Q_OBJECT
@@ -32,21 +33,15 @@ protected:
     void retranslate() override;
 
 private slots:
-    void changePairs();
+    void changeRange();
     void changeLimit(double value);
     void showDifferences();
 
 private:
-    /// What is kept for each choice of pairs.
-    struct Choice
-    {
-        double limit;
-        double largestLimit;
-    };
-
     [[nodiscard]] QList<PatchPair> pairs() const;
     [[nodiscard]] QString inWords(double number) const;
-    [[nodiscard]] Choice &choice();
+    [[nodiscard]] double largestLimit() const;
+    [[nodiscard]] double &chosenLimit();
     [[nodiscard]] QWidget *makePaper();
     void setUpLayout();
 
@@ -58,6 +53,7 @@ private:
     QWidget *paper;
     TXDeltaGradientWidget *bar;
     QLabel *summary;
-    // The same patch in two sets is hard to tell apart, two patches are not.
-    std::array<Choice, 2> choices = {{{1.0, 5.0}, {40.0, 120.0}}};
+    // As the user has chosen it for each choice of pairs. The same patch in two sets is hard to
+    // tell apart, two patches are not.
+    std::array<double, 2> chosenLimits = {1.0, 40.0};
 };

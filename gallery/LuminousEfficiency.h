@@ -9,11 +9,11 @@ namespace LuminousEfficiency {
 
 constexpr int kFirstNanometres = 380;
 constexpr int kLastNanometres = 780;
-constexpr int kStepNanometres = 10;
+constexpr int kStepNanometres = 5;
 constexpr int kCount = (kLastNanometres - kFirstNanometres) / kStepNanometres + 1;
 
-/// The values from the first to the last wavelength, as ISO/CIE 11664-1 and CIE 15 publish them in
-/// steps of 10 nm, here with four digits.
+/// The values from the first to the last wavelength, from 0 to 1, as CIE 15 lists them in steps of
+/// 5 nm.
 [[nodiscard]] const std::array<double, kCount> &values();
 
 } // namespace LuminousEfficiency

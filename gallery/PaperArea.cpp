@@ -1,5 +1,7 @@
 #include "PaperArea.h"
 
+#include "PaperPalette.h"
+
 #include "TXVariantViewer.h"
 
 #include <QEvent>
@@ -15,19 +17,6 @@ bool isDark(const QPalette &palette)
 {
     return palette.color(QPalette::WindowText).lightness()
         > palette.color(QPalette::Window).lightness();
-}
-
-/// Ink on paper. The paper is not quite white, so that the light of a hover is seen on it.
-QPalette paperPalette()
-{
-    const QColor ink(0x1c, 0x22, 0x2e);
-    const QColor accent(0x2b, 0x6c, 0xd4);
-    QPalette palette(ink, QColor(0xfb, 0xfb, 0xfd), Qt::white, QColor(0x9a, 0xa1, 0xad),
-                     QColor(0xd5, 0xd9, 0xe0), ink, Qt::white, Qt::white, QColor(0xe9, 0xe8, 0xe3));
-    palette.setColor(QPalette::Highlight, accent);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, accent);
-    return palette;
 }
 
 } // namespace

@@ -1,13 +1,13 @@
 #include "ServiceRequest.h"
 
 #include "JsonText.h"
+#include "UpdateQuestion.h"
 
 #include <QCoreApplication>
 #include <QLocale>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
-#include <QUrlQuery>
 #include <QVariantMap>
 
 namespace {
@@ -25,11 +25,7 @@ TXStringI18n message(const char *text)
 QUrl addressAt(const QString &authority)
 {
     QUrl url(QStringLiteral("https://%1/checkUpdate").arg(authority));
-    QUrlQuery query;
-    query.addQueryItem(QStringLiteral("OS"), QStringLiteral("win64"));
-    query.addQueryItem(QStringLiteral("ProductType"), QStringLiteral("7"));
-    query.addQueryItem(QStringLiteral("Revision"), QStringLiteral("10452"));
-    url.setQuery(query);
+    url.setQuery(UpdateQuestion::query());
     return url;
 }
 

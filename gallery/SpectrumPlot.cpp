@@ -9,7 +9,9 @@
 #include <QPainter>
 #include <QPolygonF>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -20,7 +22,7 @@ constexpr double kCurvePixels = 2;
 /// Room above the curve, as a share of its height.
 constexpr double kHeadroom = 0.08;
 constexpr double kLines[] = {0.0, 0.5, 1.0};
-constexpr int kTickNanometres = 50;
+constexpr int kTicksNanometres[] = {5, 10, 20, 50, 100};
 
 /// The palette's text colour, weak enough to stay behind a curve.
 QColor lineColour(const QPalette &palette)
@@ -31,9 +33,9 @@ QColor lineColour(const QPalette &palette)
     return colour;
 }
 
-int firstTick(int nanometres)
+int firstTick(int nanometres, int step)
 {
-    return int(std::ceil(double(nanometres) / kTickNanometres)) * kTickNanometres;
+    return int(std::ceil(double(nanometres) / step)) * step;
 }
 
 } // namespace
@@ -65,12 +67,9 @@ void SpectrumPlot::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient spectrum = TXDisplaySpecralGradient(start, end);
-    // The plot is a part of the widget.
-    spectrum.setCoordinateMode(QGradient::ObjectMode);
     painter.fillRect(plotArea(), palette().base());
-    painter.fillRect(plotArea(), spectrum);
     if (start < end) {
+        paintSpectrum(painter);
         paintGrid(painter);
         paintWavelengths(painter);
         paintCurve(painter);
@@ -92,6 +91,37 @@ QPointF SpectrumPlot::placeOf(double nanometres, double value) const
             area.bottom() - area.height() * value / (1 + kHeadroom)};
 }
 
+QString SpectrumPlot::wavelengthText(int nanometres) const
+{
+    return tr("%1 nm").arg(locale().toString(nanometres));
+}
+
+/// The smallest step whose texts do not run into one another.
+int SpectrumPlot::tickNanometres() const
+{
+    const double needed =
+        QFontMetricsF(font()).horizontalAdvance(wavelengthText(end)) + 2 * kTextGap;
+    for (const int step : kTicksNanometres) {
+        if (placeOf(start + step, 0).x() - placeOf(start, 0).x() >= needed) {
+            return step;
+        }
+    }
+    return *std::rbegin(kTicksNanometres);
+}
+
+/// Always the whole spectrum, of which the plot shows a part: a gradient for the part alone would
+/// end in red wherever it ends.
+void SpectrumPlot::paintSpectrum(QPainter &painter) const
+{
+    constexpr int kFirst = LuminousEfficiency::kFirstNanometres;
+    constexpr int kLast = LuminousEfficiency::kLastNanometres;
+    QLinearGradient spectrum = TXDisplaySpecralGradient(kFirst, kLast);
+    spectrum.setCoordinateMode(QGradient::LogicalMode);
+    spectrum.setStart(placeOf(kFirst, 0));
+    spectrum.setFinalStop(placeOf(kLast, 0));
+    painter.fillRect(plotArea(), spectrum);
+}
+
 void SpectrumPlot::paintGrid(QPainter &painter) const
 {
     const QRectF area = plotArea();
@@ -111,15 +141,15 @@ void SpectrumPlot::paintWavelengths(QPainter &painter) const
 {
     constexpr double kHalfText = 40;
     const QRectF area = plotArea();
-    for (int tick = firstTick(start); tick <= end; tick += kTickNanometres) {
+    const int step = tickNanometres();
+    for (int tick = firstTick(start, step); tick <= end; tick += step) {
         const double x = placeOf(tick, 0).x();
         painter.setPen(lineColour(palette()));
         painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
         painter.setPen(palette().color(QPalette::WindowText));
         const QRectF place(x - kHalfText, area.bottom() + kTextGap, 2 * kHalfText,
                            height() - area.bottom() - kTextGap);
-        painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop,
-                         tr("%1 nm").arg(locale().toString(tick)));
+        painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop, wavelengthText(tick));
     }
 }
 

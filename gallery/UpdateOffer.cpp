@@ -1,15 +1,17 @@
 #include "UpdateOffer.h"
 
+#include "UpdateQuestion.h"
+
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 namespace {
 
-/// That of this build is 10452, as it asks the service.
 constexpr int kNewerRevision = 10500;
-constexpr int kSameRevision = 10452;
 constexpr int kOlderRevision = 10400;
+static_assert(kOlderRevision < UpdateQuestion::kRevision);
+static_assert(UpdateQuestion::kRevision < kNewerRevision);
 
 constexpr int kNotFound = 404;
 constexpr int kSlowLines = 8000;
@@ -49,7 +51,7 @@ int revisionFor(UpdateOffer offer)
 {
     switch (offer) {
     case UpdateOffer::Same:
-        return kSameRevision;
+        return UpdateQuestion::kRevision;
     case UpdateOffer::Older:
         return kOlderRevision;
     default:

@@ -4,26 +4,45 @@
 #include <QStringList>
 #include <QVariant>
 
-#include <algorithm>
+#include <vector>
 
 namespace {
 
-/// Adds what the value holds to the list, or nothing.
-void appendContents(const QVariant &value, QVariantList &list)
+/// A value as what it is known to hold. To convert it would copy what it holds.
+template<typename T>
+const T &contentsOf(const QVariant &value)
+{
+    return *static_cast<const T *>(value.constData());
+}
+
+using Waiting = std::vector<const QVariant *>;
+
+template<typename T>
+void appendContents(const T &container, Waiting &waiting)
+{
+    for (const QVariant &value : container) {
+        waiting.push_back(&value);
+    }
+}
+
+/// Adds what the value holds to those that wait, or nothing. Gives how many there are that need not
+/// wait, since they hold nothing.
+qsizetype openValue(const QVariant &value, Waiting &waiting)
 {
     switch (value.typeId()) {
     case QMetaType::QVariantList:
-    case QMetaType::QStringList:
-        list.append(value.toList());
-        break;
+        appendContents(contentsOf<QVariantList>(value), waiting);
+        return 0;
     case QMetaType::QVariantMap:
-        list.append(value.toMap().values());
-        break;
+        appendContents(contentsOf<QVariantMap>(value), waiting);
+        return 0;
     case QMetaType::QVariantHash:
-        list.append(value.toHash().values());
-        break;
+        appendContents(contentsOf<QVariantHash>(value), waiting);
+        return 0;
+    case QMetaType::QStringList:
+        return contentsOf<QStringList>(value).size();
     default:
-        break;
+        return 0;
     }
 }
 
@@ -38,11 +57,12 @@ qsizetype placeBehind(QChar end, QStringView text, qsizetype from)
 
 qsizetype countValues(const QVariant &value)
 {
-    QVariantList waiting = {value};
+    Waiting waiting = {&value};
     qsizetype count = 0;
-    while (!waiting.isEmpty()) {
-        appendContents(waiting.takeLast(), waiting);
-        ++count;
+    while (!waiting.empty()) {
+        const QVariant &next = *waiting.back();
+        waiting.pop_back();
+        count += 1 + openValue(next, waiting);
     }
     return count;
 }

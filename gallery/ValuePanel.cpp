@@ -18,9 +18,32 @@ namespace {
 constexpr qsizetype kMostEntriesToOpen = 1000;
 constexpr double kNanosecondsOfAMillisecond = 1e6;
 
+/// Only those in the layout: of the children some may be there from the last time, until they are
+/// deleted.
 QList<TXVariantViewer *> entriesOf(const TXVariantViewer &viewer)
 {
-    return viewer.findChildren<TXVariantViewer *>(QString(), Qt::FindDirectChildrenOnly);
+    QList<TXVariantViewer *> entries;
+    for (int place = 0; place < viewer.layout()->count(); ++place) {
+        QWidget *widget = viewer.layout()->itemAt(place)->widget();
+        if (auto *entry = qobject_cast<TXVariantViewer *>(widget)) {
+            entries.append(entry);
+        }
+    }
+    return entries;
+}
+
+/// Opening makes the entries of an open viewer anew.
+void open(TXVariantViewer &viewer)
+{
+    if (!viewer.isExpanded()) {
+        viewer.setExpanded(true);
+    }
+}
+
+/// What a closed viewer shows. To ask for the value's text would make it once more.
+QString lineOf(const TXVariantViewer &viewer)
+{
+    return viewer.findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly)->text();
 }
 
 } // namespace
@@ -69,15 +92,14 @@ void ValuePanel::openTwoLevels()
 {
     const WaitCursor cursor;
     begin(Work::Opening);
-    viewer->setExpanded(false);
-    viewer->setExpanded(true);
+    open(*viewer);
     qsizetype opened = 0;
     const QList<TXVariantViewer *> entries = entriesOf(*viewer);
     for (TXVariantViewer *entry : entries) {
         if (opened > kMostEntriesToOpen) {
             break;
         }
-        entry->setExpanded(true);
+        open(*entry);
         opened += 1 + entriesOf(*entry).size();
     }
     showAmounts();
@@ -131,11 +153,10 @@ void ValuePanel::begin(Work newWork)
 void ValuePanel::setViewerValue()
 {
     const WaitCursor cursor;
-    valueCount = countValues(shownValue);
-    characterCount =
-        countShownCharacters(TXVariantViewer::variantToHtml(shownValue, viewer->hasPreview()));
     begin(Work::Showing);
     viewer->setValue(shownValue);
+    valueCount = countValues(shownValue);
+    characterCount = countShownCharacters(lineOf(*viewer));
     showAmounts();
 }
 

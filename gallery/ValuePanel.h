@@ -33,7 +33,8 @@ public:
     [[nodiscard]] bool isAtWork() const { return turn.isActive(); }
 
 public slots:
-    /// Opens the value and what it holds, of a very large one the first part of that.
+    /// Opens the value and what it holds, of a very large one the first part of that. What is open
+    /// already stays as it is, further levels too.
     void openTwoLevels();
 
     /// Folds everything up.

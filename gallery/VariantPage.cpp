@@ -85,8 +85,10 @@ void VariantPage::fillForPicture()
 void VariantPage::showEvent(QShowEvent *event)
 {
     GalleryPage::showEvent(event);
+    // What the user has asked for meanwhile comes first.
+    const bool mayChange = isOfSettings && !request->isWaiting();
     QSettings settings;
-    if (isOfSettings && settingsValue(settings) != valuePanel->value()) {
+    if (mayChange && settingsValue(settings) != valuePanel->value()) {
         showSettings();
     }
 }

@@ -27,6 +27,7 @@ protected:
     void retranslate() override { }
 
     /// Reads the settings again when they are what is shown, and shows them when they have changed.
+    /// Not while an answer is waited for.
     void showEvent(QShowEvent *event) override;
 
 private slots:

@@ -19,12 +19,14 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFontMetricsF>
 #include <QLabel>
 #include <QLocale>
 #include <QSlider>
 #include <QSpinBox>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <memory>
 
 class TestColourDifferencePage : public TestBase
@@ -39,6 +41,9 @@ private slots:
     void barShowsTheDifferencesOfTheChart_data();
     void barShowsTheDifferencesOfTheChart();
     void limitIsKeptForEachChoiceOfPairs();
+    void limitReachesTheLargestDifference_data();
+    void limitReachesTheLargestDifference();
+    void limitOutOfReachIsBackWithTheFormula();
     void summarySaysWhatTheBarShows();
     void swatchesShowBothSetsOfEachPatch();
     void swatchesShowTheDifferenceByTheFormula();
@@ -46,7 +51,11 @@ private slots:
     void framesFollowThePalette_data();
     void framesFollowThePalette();
     void barStandsOnALightGroundInADarkPaletteToo();
+    void spectrumFollowsTheRange_data();
     void spectrumFollowsTheRange();
+    void wavelengthsAreLabelledInEveryRange_data();
+    void wavelengthsAreLabelledInEveryRange();
+    void curveReachesItsPeak();
     void rangeKeepsItsOrder();
     void wheelChangesNothing();
     void pageFitsTheWindow();
@@ -118,11 +127,11 @@ void TestColourDifferencePage::barShowsTheDifferencesOfTheChart_data()
     QTest::addColumn<int>("pairsRow");
     QTest::addColumn<double>("chosenLimit");
     for (const int formulaRow : {0, 1}) {
-        for (const double chosen : {0.5, 1.0, 2.5}) {
+        for (const double chosen : {0.5, 1.0, 1.9}) {
             QTest::addRow("same, formula %d, limit %.1f", formulaRow, chosen)
                 << formulaRow << 0 << chosen;
         }
-        for (const double chosen : {5.0, 40.0, 120.0}) {
+        for (const double chosen : {5.0, 40.0, 75.0}) {
             QTest::addRow("different, formula %d, limit %.1f", formulaRow, chosen)
                 << formulaRow << 1 << chosen;
         }
@@ -163,18 +172,62 @@ void TestColourDifferencePage::barShowsTheDifferencesOfTheChart()
 void TestColourDifferencePage::limitIsKeptForEachChoiceOfPairs()
 {
     QCOMPARE(limit().value(), 1.0);
-    limit().setValue(2.5);
+    limit().setValue(1.5);
 
     pairs().setCurrentIndex(1);
     QCOMPARE(limit().value(), 40.0);
     limit().setValue(25);
 
     pairs().setCurrentIndex(0);
-    QCOMPARE(limit().value(), 2.5);
-    QVERIFY(valueOfBar().contains("limit 2.5"));
+    QCOMPARE(limit().value(), 1.5);
+    QVERIFY(valueOfBar().contains("limit 1.5"));
     pairs().setCurrentIndex(1);
     QCOMPARE(limit().value(), 25.0);
     QVERIFY(valueOfBar().contains("limit 25.0"));
+}
+
+void TestColourDifferencePage::limitReachesTheLargestDifference_data()
+{
+    QTest::addColumn<int>("formulaRow");
+    QTest::addColumn<int>("pairsRow");
+    QTest::addRow("same, CIE76") << 0 << 0;
+    QTest::addRow("same, CIEDE2000") << 1 << 0;
+    QTest::addRow("different, CIE76") << 0 << 1;
+    QTest::addRow("different, CIEDE2000") << 1 << 1;
+}
+
+void TestColourDifferencePage::limitReachesTheLargestDifference()
+{
+    QFETCH(int, formulaRow);
+    QFETCH(int, pairsRow);
+    const auto chosen = DifferenceFormula(formulaRow);
+    const QList<PatchPair> list = pairsRow == 0
+        ? ChartComparison::samePatches()
+        : ChartComparison::differentPatches(chosen, PairOrder::ByNumber);
+    const double largest = differenceSpread(list, chosen, 0).largest;
+
+    formula().setCurrentIndex(formulaRow);
+    pairs().setCurrentIndex(pairsRow);
+    limit().setValue(1000);
+
+    QVERIFY2(limit().value() > largest && limit().value() < largest + 0.11,
+             qPrintable(QString("%1, largest %2").arg(limit().value()).arg(largest)));
+    QVERIFY2(valueOfBar().contains(" with 100.0 % of the pixels below"), qPrintable(valueOfBar()));
+}
+
+void TestColourDifferencePage::limitOutOfReachIsBackWithTheFormula()
+{
+    formula().setCurrentIndex(int(DifferenceFormula::Cie76));
+    pairs().setCurrentIndex(1);
+    limit().setValue(130);
+
+    formula().setCurrentIndex(int(DifferenceFormula::Ciede2000));
+    QVERIFY(limit().value() < 100);
+    QVERIFY(valueOfBar().contains(QString("limit %1 with").arg(limit().value(), 0, 'f', 1)));
+
+    formula().setCurrentIndex(int(DifferenceFormula::Cie76));
+    QCOMPARE(limit().value(), 130.0);
+    QVERIFY(valueOfBar().contains("limit 130.0 with"));
 }
 
 void TestColourDifferencePage::summarySaysWhatTheBarShows()
@@ -281,28 +334,113 @@ void TestColourDifferencePage::barStandsOnALightGroundInADarkPaletteToo()
     QTRY_VERIFY(page().palette().color(QPalette::WindowText).lightness() > 150);
 
     QCOMPARE(look(), light);
-    QVERIFY(light.pixelColor(2, 2).lightness() > 240);
+    QVERIFY(light.pixelColor(2, 2).lightness() > 220);
+}
+
+void TestColourDifferencePage::spectrumFollowsTheRange_data()
+{
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("last");
+    QTest::addColumn<int>("leftHue");
+    QTest::addColumn<int>("middleHue");
+    QTest::addColumn<int>("rightHue");
+    QTest::newRow("all") << 380 << 780 << 300 << 60 << 0;
+    QTest::newRow("blue") << 440 << 490 << 240 << 208 << 180;
+    QTest::newRow("green") << 500 << 600 << 150 << 86 << 42;
+    QTest::newRow("one step") << 505 << 515 << 135 << 120 << 116;
+    QTest::newRow("red") << 660 << 700 << 0 << 0 << 0;
+    QTest::newRow("beyond the eye") << 300 << 830 << 300 << 76 << 0;
 }
 
 void TestColourDifferencePage::spectrumFollowsTheRange()
 {
+    QFETCH(int, first);
+    QFETCH(int, last);
     applyGalleryColours(GalleryColours::Light);
-    const auto hueAt = [&](double share) {
-        const PixelProbe probe(plot());
-        const int x = 40 + int(share * (plot().width() - 80));
-        return probe.at({x, 4}).hue();
+    box("First wavelength").setValue(first);
+    box("Last wavelength").setValue(last);
+    const auto distance = [&](double share, int hue) {
+        const double edge = QFontMetricsF(plot().font()).horizontalAdvance("1.0") + 6;
+        const double x = edge + 2 + share * (plot().width() - 2 * edge - 4);
+        const int shown = PixelProbe(plot()).at({int(x), 4}).hue();
+        return std::min(qAbs(shown - hue), 360 - qAbs(shown - hue));
     };
-    // Violet at the left, green in the middle of 380 to 780, red at the right.
-    QVERIFY(qAbs(hueAt(0) - 300) < 12);
-    QVERIFY(hueAt(0.4) > 60 && hueAt(0.4) < 130);
-    QVERIFY(hueAt(0.95) < 10 || hueAt(0.95) > 350);
-    QCOMPARE(plot().accessibleName(), "Luminous efficiency from 380 to 780 nm");
 
-    box("First wavelength").setValue(500);
-    box("Last wavelength").setValue(600);
-    QVERIFY(hueAt(0) > 110 && hueAt(0) < 160);
-    QVERIFY(hueAt(0.5) > 60 && hueAt(0.5) < 120);
-    QCOMPARE(plot().accessibleName(), "Luminous efficiency from 500 to 600 nm");
+    QCOMPARE(plot().accessibleName(),
+             QString("Luminous efficiency from %1 to %2 nm").arg(first).arg(last));
+    QFETCH(int, leftHue);
+    QVERIFY2(distance(0, leftHue) < 10, qPrintable(QString::number(distance(0, leftHue))));
+    QFETCH(int, middleHue);
+    QVERIFY2(distance(0.5, middleHue) < 10, qPrintable(QString::number(distance(0.5, middleHue))));
+    QFETCH(int, rightHue);
+    QVERIFY2(distance(1, rightHue) < 10, qPrintable(QString::number(distance(1, rightHue))));
+}
+
+void TestColourDifferencePage::wavelengthsAreLabelledInEveryRange_data()
+{
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("last");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("labels");
+    QTest::newRow("all") << 380 << 780 << 800 << 8;
+    QTest::newRow("one step") << 501 << 511 << 800 << 2;
+    QTest::newRow("20 nm") << 511 << 531 << 800 << 4;
+    QTest::newRow("30 nm, narrow") << 511 << 541 << 360 << 3;
+    QTest::newRow("100 nm") << 501 << 599 << 800 << 9;
+    QTest::newRow("widest, narrow") << 300 << 830 << 360 << 6;
+}
+
+void TestColourDifferencePage::wavelengthsAreLabelledInEveryRange()
+{
+    QFETCH(int, first);
+    QFETCH(int, last);
+    QFETCH(int, width);
+    QFETCH(int, labels);
+    SpectrumPlot plot;
+    plot.resize(width, 200);
+    plot.setRange(first, last);
+
+    const QImage image = PixelProbe(plot).image();
+    const QColor ground = image.pixelColor(0, 0);
+    const int top = plot.height() - QFontMetrics(plot.font()).height() + 2;
+    // Between words there is less room than between labels.
+    const int gap = QFontMetrics(plot.font()).height() / 2;
+    int runs = 0;
+    int lastInk = -1000;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = top; y < image.height(); ++y) {
+            if (image.pixelColor(x, y) != ground) {
+                runs += x - lastInk > gap ? 1 : 0;
+                lastInk = x;
+                break;
+            }
+        }
+    }
+    QCOMPARE(runs, labels);
+}
+
+void TestColourDifferencePage::curveReachesItsPeak()
+{
+    SpectrumPlot plot;
+    plot.resize(700, 800);
+    plot.setRange(550, 560);
+    QPalette palette = plot.palette();
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::Base, Qt::white);
+    plot.setPalette(palette);
+    const QImage image = PixelProbe(plot).image();
+
+    // The curve is what is black; it is highest in the middle, by some pixels.
+    const auto heightAt = [&](double share) {
+        const int x = int(share * image.width());
+        int y = 0;
+        while (y < image.height() && image.pixelColor(x, y).lightness() > 60) {
+            ++y;
+        }
+        return image.height() - y;
+    };
+    QVERIFY2(heightAt(0.5) >= heightAt(0.1) + 2, qPrintable(QString::number(heightAt(0.5))));
+    QVERIFY2(heightAt(0.5) >= heightAt(0.9) + 2, qPrintable(QString::number(heightAt(0.9))));
 }
 
 void TestColourDifferencePage::rangeKeepsItsOrder()

@@ -1,14 +1,21 @@
 #include "ServiceRequest.h"
 
 #include "ClosedPort.h"
+#include "DialogDriver.h"
 #include "JsonText.h"
 #include "LocalUpdateService.h"
+#include "PageChecks.h"
 #include "TestBase.h"
+#include "UpdateAuthorityChange.h"
+#include "UpdateDialogPanel.h"
 
 #include "TXStringI18n.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QStandardPaths>
 
 #include <memory>
 
@@ -21,6 +28,7 @@ class TestServiceRequest : public TestBase
 
 private slots:
     void answerIsStatusHeadersAndBody();
+    void serviceIsAskedWhatTheDialogAsks();
     void failureIsToldInWords_data();
     void failureIsToldInWords();
     void nobodyListening();
@@ -106,6 +114,26 @@ void TestServiceRequest::answerIsStatusHeadersAndBody()
     QCOMPARE(requests.first().path, "/checkUpdate");
     QCOMPARE(requests.first().query, "OS=win64&ProductType=7&Revision=10452");
     QCOMPARE(request->address().authority(), service->authority());
+}
+
+void TestServiceRequest::serviceIsAskedWhatTheDialogAsks()
+{
+    const UpdateAuthorityChange change(service->authority(), nullptr);
+    UpdateDialogPanel panel;
+    panel.setServiceRunning(true);
+    panel.show();
+    DialogDriver::click(buttonOf(panel, "Check for Updates"));
+    QTRY_COMPARE_WITH_TIMEOUT(service->requests().size(), 1, kPatienceMilliseconds);
+
+    ask();
+    QTRY_COMPARE_WITH_TIMEOUT(service->requests().size(), 2, kPatienceMilliseconds);
+
+    const auto requests = service->requests();
+    QVERIFY(!requests.first().query.isEmpty());
+    QCOMPARE(requests.last().method, requests.first().method);
+    QCOMPARE(requests.last().path, requests.first().path);
+    QCOMPARE(requests.last().query, requests.first().query);
+    QDir(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)).removeRecursively();
 }
 
 void TestServiceRequest::failureIsToldInWords_data()

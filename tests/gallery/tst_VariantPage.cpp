@@ -7,7 +7,10 @@
 #include "TXVariantViewer.h"
 
 #include <QCheckBox>
-#include <QKeyEvent>
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -19,22 +22,11 @@ QList<TXVariantViewer *> entriesOf(const TXVariantViewer &viewer)
     return viewer.findChildren<TXVariantViewer *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-/// Writes down the keys that come to a widget, before it has them.
-class KeyList : public QObject
+/// Where the user's key goes to.
+void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
-public:
-    explicit KeyList(QWidget &widget) { widget.installEventFilter(this); }
-
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        if (event->type() == QEvent::KeyPress) {
-            keys.append(static_cast<QKeyEvent *>(event)->key());
-        }
-        return QObject::eventFilter(object, event);
-    }
-
-    QList<int> keys;
-};
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+}
 
 } // namespace
 
@@ -45,12 +37,16 @@ class TestVariantPage : public VariantPageTest
 
 private slots:
     void twoLevelsOpenAndClose();
+    void openingTwiceFoldsNothingUp_data();
+    void openingTwiceFoldsNothingUp();
+    void openingLeavesOpenWhatIsOpen();
     void largeValueOpensInPart();
     void emptyValueHasNothingToOpen();
-    void keysComeToTheViewer();
+    void keysOfTheViewerWorkInTheWindow();
     void hoverEffectsFollowTheirSwitch();
     void previewFollowsItsSwitch();
     void amountsAndDurationAreTold();
+    void durationIsThatOfTheWholeWork();
     void darkPaletteGivesLightPaper();
     void pictureShowsTheAnswerOpen();
     void pictureComesWithoutAServiceToo();
@@ -79,6 +75,55 @@ void TestVariantPage::twoLevelsOpenAndClose()
     QVERIFY(!viewer().isExpanded());
 }
 
+void TestVariantPage::openingTwiceFoldsNothingUp_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("openRows");
+    QTest::newRow("small") << 3 << 3;
+    // Of 101 widgets each, counted from the first one on.
+    QTest::newRow("large") << 100 << 10;
+}
+
+void TestVariantPage::openingTwiceFoldsNothingUp()
+{
+    QFETCH(int, rows);
+    QFETCH(int, openRows);
+    const QByteArray row = '[' + QByteArray("0,").repeated(99) + "0],";
+    show('[' + row.repeated(rows - 1) + row.chopped(1) + ']');
+
+    for (int click = 0; click < 2; ++click) {
+        DialogDriver::click(buttonOf(*page, "Open Two Levels"));
+        QTRY_VERIFY(!panel->isAtWork());
+
+        const auto entries = entriesOf(viewer());
+        QCOMPARE(entries.size(), rows);
+        const auto isOpen = [](const TXVariantViewer *entry) {
+            return entry->isExpanded();
+        };
+        QCOMPARE(std::count_if(entries.begin(), entries.end(), isOpen), openRows);
+    }
+}
+
+void TestVariantPage::openingLeavesOpenWhatIsOpen()
+{
+    show("{\"a\": [1, [2]], \"b\": [3]}");
+    viewer().setExpanded(true);
+    const QPointer<TXVariantViewer> first = entriesOf(viewer()).at(0);
+    first->setExpanded(true);
+    const QPointer<TXVariantViewer> third = entriesOf(*first).at(1);
+    third->setExpanded(true);
+
+    click("Open Two Levels");
+    QTRY_VERIFY(!panel->isAtWork());
+
+    QVERIFY(first);
+    QVERIFY(first->isExpanded());
+    QVERIFY(third);
+    QVERIFY(third->isExpanded());
+    QCOMPARE(entriesOf(viewer()).size(), 2);
+    QVERIFY(entriesOf(viewer()).at(1)->isExpanded());
+}
+
 void TestVariantPage::largeValueOpensInPart()
 {
     const QByteArray row = '[' + QByteArray("0,").repeated(99) + "0],";
@@ -103,7 +148,7 @@ void TestVariantPage::emptyValueHasNothingToOpen()
     QVERIFY(buttonOf(*page, "Close")->isEnabled());
 }
 
-void TestVariantPage::keysComeToTheViewer()
+void TestVariantPage::keysOfTheViewerWorkInTheWindow()
 {
     GallerySettings settings;
     settings.page = "variant";
@@ -112,21 +157,40 @@ void TestVariantPage::keysComeToTheViewer()
     window.show();
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    TXVariantViewer &shown = *window.findChild<PaperArea *>()->viewer();
-    const KeyList list(shown);
+    TXVariantViewer &root = *window.findChild<PaperArea *>()->viewer();
+    root.setFocus();
 
-    const QList<int> keys = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_Right, Qt::Key_Left,
-                             Qt::Key_Home, Qt::Key_End,  Qt::Key_Space, Qt::Key_Return};
-    for (const int key : keys) {
-        shown.setFocus();
-        QTest::keyClick(&shown, Qt::Key(key));
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+        press(key);
+        QVERIFY(root.isExpanded());
+        press(key);
+        QVERIFY(!root.isExpanded());
     }
-    shown.setFocus();
-    QTest::keyClick(&shown, Qt::Key_C, Qt::ControlModifier);
-    shown.setFocus();
-    QTest::keyClick(&shown, Qt::Key_Menu);
+    press(Qt::Key_Right);
+    QVERIFY(root.isExpanded());
+    // The settings are those of the test: {Gallery: {Page: "variant"}}.
+    press(Qt::Key_Right);
+    TXVariantViewer *group = entriesOf(root).last();
+    QVERIFY(group->hasFocus());
+    press(Qt::Key_Right);
+    QVERIFY(group->isExpanded());
+    press(Qt::Key_Down);
+    TXVariantViewer *name = entriesOf(*group).last();
+    QVERIFY(name->hasFocus());
+    press(Qt::Key_Up);
+    QVERIFY(group->hasFocus());
+    press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text().simplified().remove(u' '),
+             "{\"Page\":\"variant\"}");
 
-    QCOMPARE(list.keys, keys + QList<int>({Qt::Key_Control, Qt::Key_C, Qt::Key_Menu}));
+    press(Qt::Key_Home);
+    QVERIFY(root.hasFocus());
+    press(Qt::Key_End);
+    QVERIFY(name->hasFocus());
+    press(Qt::Key_Left);
+    QVERIFY(group->hasFocus());
+    press(Qt::Key_Left);
+    QVERIFY(!group->isExpanded());
 }
 
 void TestVariantPage::hoverEffectsFollowTheirSwitch()
@@ -177,6 +241,27 @@ void TestVariantPage::amountsAndDurationAreTold()
     click("Close");
     QVERIFY(done.wait());
     QVERIFY(allTexts(*panel).contains(QRegularExpression("Closed in [0-9]+\\.[0-9] ms\\.")));
+}
+
+void TestVariantPage::durationIsThatOfTheWholeWork()
+{
+    QVariantList many;
+    for (int i = 0; i < 300'000; ++i) {
+        many.append(QStringLiteral("entry <%1>").arg(i));
+    }
+    QSignalSpy done(panel, SIGNAL(shown()));
+    QElapsedTimer clock;
+    clock.start();
+
+    panel->setValue(many, {});
+    QVERIFY(done.wait(kPatienceMilliseconds));
+
+    const double milliseconds = double(clock.nsecsElapsed()) / 1e6;
+    const QRegularExpression pattern("Shown in ([0-9.,]+) ms");
+    const QString text = pattern.match(allTexts(*panel)).captured(1);
+    const double told = QLocale().toDouble(text);
+    QVERIFY2(told > 0.85 * milliseconds && told <= milliseconds,
+             qPrintable(QString("told %1 of %2 ms").arg(text).arg(milliseconds)));
 }
 
 void TestVariantPage::darkPaletteGivesLightPaper()

@@ -1,3 +1,4 @@
+#include "LocalUpdateService.h"
 #include "ServiceRequest.h"
 #include "UpdatePage.h"
 #include "VariantPageTest.h"
@@ -6,6 +7,20 @@
 
 #include <QFileDialog>
 #include <QLineEdit>
+
+namespace {
+
+/// The way to the service behind a panel that runs.
+class ServiceBehind : public LocalServerPanel
+{
+public:
+    static LocalUpdateService &of(const LocalServerPanel &panel)
+    {
+        return static_cast<LocalUpdateService &>(*(panel.*(&ServiceBehind::runningServer))());
+    }
+};
+
+} // namespace
 
 /// Where the page has its values from: real settings, real files, a real service on this computer.
 class TestVariantPageSources : public VariantPageTest
@@ -29,7 +44,8 @@ private slots:
     void troubleOfTheServiceIsTold_data();
     void troubleOfTheServiceIsTold();
     void pageStaysUsableWhileItWaits();
-    void serviceMayStopWhileThePageWaits();
+    void comingBackDoesNotEndTheWaiting();
+    void serviceThatStopsWhileThePageWaitsIsTold();
     void pageMayGoWhileItWaits();
 };
 
@@ -258,14 +274,41 @@ void TestVariantPageSources::pageStaysUsableWhileItWaits()
     QVERIFY(settings().contains("Gallery"));
 }
 
-void TestVariantPageSources::serviceMayStopWhileThePageWaits()
+void TestVariantPageSources::comingBackDoesNotEndTheWaiting()
 {
     switchOn();
     click("Ask the Service");
+    page->hide();
+    QSettings().setValue("Gallery/Style", "Fusion");
+
+    page->show();
+
+    QVERIFY(page->findChild<ServiceRequest *>()->isWaiting());
+    QCOMPARE(message(), "Waiting for the answer...");
+    QTRY_VERIFY_WITH_TIMEOUT(settings().contains("status"), kPatienceMilliseconds);
+}
+
+void TestVariantPageSources::serviceThatStopsWhileThePageWaitsIsTold()
+{
+    switchOn();
+    LocalWebReply silence;
+    silence.isSilent = true;
+    LocalUpdateService &silent = ServiceBehind::of(*service);
+    silent.setCheckReply(silence);
+    click("Ask the Service");
+    QTRY_COMPARE_WITH_TIMEOUT(silent.requests().size(), 1, kPatienceMilliseconds);
+    const QString authority = service->authority();
+    QCOMPARE(message(), "Waiting for the answer...");
 
     service->setRunning(false);
 
-    QTRY_VERIFY_WITH_TIMEOUT(isError() || settings().contains("status"), kPatienceMilliseconds);
+    QTRY_VERIFY_WITH_TIMEOUT(isError(), kPatienceMilliseconds);
+    // The request is sent once more, to nobody, when the connection ends before its answer.
+    const QStringList reasons = {"The service has closed the connection before it had answered.",
+                                 "Nobody listens at " + authority + '.'};
+    QVERIFY2(reasons.contains(message()), qPrintable(message()));
+    QVERIFY(!page->findChild<ServiceRequest *>()->isWaiting());
+    QVERIFY(settings().contains("Gallery"));
 }
 
 void TestVariantPageSources::pageMayGoWhileItWaits()
