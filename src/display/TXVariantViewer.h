@@ -24,9 +24,10 @@ class VariantMoreButton;
 /// entries. For a table of values, or a tree of many thousand rows, take an item view.
 ///
 /// A click on a closed viewer opens it, a click on its left margin closes it. The keyboard moves
-/// from viewer to viewer: Up and Down, Home and End; Right and Left go in and out, opening and
-/// closing; Space and Return open and close; the keys for "copy" and for the context menu act on
-/// the viewer that has the focus. A whole tree of viewers is one stop of the Tab key.
+/// from viewer to viewer, and to the buttons for more entries: Up and Down, Home and End; Right and
+/// Left go in and out, opening and closing; Space and Return open and close, or press the button;
+/// the keys for "copy" and for the context menu act on the viewer that has the focus. A whole tree
+/// of viewers is one stop of the Tab key.
 ///
 /// The colours of the text are made for light backgrounds; in a dark application give the viewer,
 /// or the scroll area around it, a light palette.
@@ -81,7 +82,7 @@ public:
     [[nodiscard]] Q_INVOKABLE bool hasPreview() const;
 
     /// Stored for the next setValue(); what is shown stays as it is. Viewers of the entries take it
-    /// over when they are made.
+    /// over when they are made. Assistive tools are told what a value holds regardless.
     Q_INVOKABLE void setPreview(bool preview);
 
     /// Lights this viewer when the root has hover effects.
@@ -116,6 +117,8 @@ public slots:
     void setHoverEffects(bool enabled = true);
 
 protected:
+    /// Keeps the keys for "copy" from the shortcuts of the window while this viewer has the focus.
+    bool event(QEvent *event) override;
     /// Goes to other viewers, opens, closes, copies. Other keys are left to the widgets around.
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -154,9 +157,10 @@ private:
     [[nodiscard]] TXVariantViewer *entryViewer(qsizetype index) const;
     [[nodiscard]] qsizetype indexOfEntry(const TXVariantViewer *entry) const;
     [[nodiscard]] TXVariantViewer *siblingViewer(int step) const;
-    [[nodiscard]] TXVariantViewer *lastShownViewer();
-    [[nodiscard]] TXVariantViewer *viewerAbove() const;
-    [[nodiscard]] TXVariantViewer *viewerBelow() const;
+    [[nodiscard]] QWidget *lastShown();
+    [[nodiscard]] QWidget *shownAbove() const;
+    [[nodiscard]] QWidget *shownBelow() const;
+    [[nodiscard]] QWidget *shownBehind() const;
 
     // What is painted, and the light of the mouse.
     void paintFoldBox(QPainter &painter) const;
@@ -165,15 +169,17 @@ private:
 
     // What the keyboard, the mouse and assistive tools do.
     void prepareForUser();
-    [[nodiscard]] TXVariantViewer *viewerByKey(int key);
-    [[nodiscard]] bool moveByKey(int key);
+    [[nodiscard]] bool useKey(const QKeyEvent &event);
+    [[nodiscard]] QWidget *targetOfKey(int key);
+    [[nodiscard]] QWidget *targetOfKeyOnButton(int key);
+    [[nodiscard]] bool moveTo(QWidget *target);
     [[nodiscard]] bool foldByKey(int key);
     void takeFocusFromEntries();
     void updateFocusFrame();
-    void scrollIntoView() const;
     [[nodiscard]] QRect lineArea() const;
+    [[nodiscard]] QRect lineAreaWithKey() const;
     [[nodiscard]] QPoint menuPosition() const;
-    void copyValue();
+    void copy(const QVariant &copied);
     void announceFolding();
     void announceValue();
 

@@ -1,10 +1,12 @@
 #include "TXVariantViewer.h"
 
+#include "AccessibleDescription.h"
 #include "AccessibleInterfaces.h"
 #include "PlainMessageBox.h"
 #include "TXJSONSerializer.h"
 #include "VariantCopyAction.h"
 #include "VariantLabel.h"
+#include "VariantMoreButton.h"
 #include "VariantViewerAccessible.h"
 
 #include <QContextMenuEvent>
@@ -28,6 +30,44 @@ QScrollArea *scrollAreaAround(const QWidget &widget)
     }
     return nullptr;
 }
+
+void scrollIntoView(const QWidget &widget, const QRect &part)
+{
+    QScrollArea *area = scrollAreaAround(widget);
+    if (area == nullptr) {
+        return;
+    }
+    const QRect seen = part.translated(widget.mapTo(area->widget(), QPoint(0, 0)));
+    area->ensureVisible(seen.center().x(), seen.center().y(), seen.width() / 2 + 1,
+                        seen.height() / 2 + 1);
+}
+
+/// Where a widget stood in the order of the Tab key.
+class FocusChainPlace
+{
+public:
+    explicit FocusChainPlace(QWidget &widget)
+        : moved(&widget)
+        , before(widget.previousInFocusChain())
+    {
+        // Qt puts nothing behind a widget that never has the focus.
+        while (before->focusPolicy() == Qt::NoFocus && before != moved) {
+            before = before->previousInFocusChain();
+        }
+    }
+
+    /// Puts the widget there again, unless one of the two has gone meanwhile.
+    void restore() const
+    {
+        if (!moved.isNull() && !before.isNull() && moved->window() == before->window()) {
+            QWidget::setTabOrder(before, moved);
+        }
+    }
+
+private:
+    QPointer<QWidget> moved;
+    QPointer<QWidget> before;
+};
 
 bool isPlain(const QKeyEvent &event)
 {
@@ -69,14 +109,16 @@ void TXVariantViewer::contextMenuEvent(QContextMenuEvent *event)
     const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
     // Not on the stack, as the viewer deletes it when it goes first.
     const QPointer<QMenu> menu = new QMenu(this);
-    const QAction *copy = menu->addAction(VariantCopyAction::text(value));
-    const bool isCopyChosen = menu->exec(isByKey ? menuPosition() : event->globalPos()) == copy;
+    // The value that the menu is about: the viewer may show another one by the time of the choice.
+    const QVariant offered = value;
+    const QAction *action = menu->addAction(VariantCopyAction::text(offered));
+    const bool isCopyChosen = menu->exec(isByKey ? menuPosition() : event->globalPos()) == action;
     if (menu.isNull()) {
         return;
     }
     menu->deleteLater();
     if (isCopyChosen) {
-        copyValue();
+        copy(offered);
     }
 }
 
@@ -85,9 +127,9 @@ QPoint TXVariantViewer::menuPosition() const
     return mapToGlobal(lineArea().bottomLeft());
 }
 
-void TXVariantViewer::copyValue()
+void TXVariantViewer::copy(const QVariant &copied)
 {
-    if (!VariantCopyAction::copy(value)) {
+    if (!VariantCopyAction::copy(copied)) {
         PlainMessageBox::warning(this, tr("Copy value"),
                                  tr("The value was not copied. It is nested deeper than the %1 "
                                     "levels that its text in JSON may have.")
@@ -97,42 +139,49 @@ void TXVariantViewer::copyValue()
 
 // ---- Keyboard
 
+bool TXVariantViewer::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && window()->focusWidget() == this
+        && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy)) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void TXVariantViewer::keyPressEvent(QKeyEvent *event)
 {
-    event->accept();
-    if (window()->focusWidget() != this) {
+    const QWidget *focused = window()->focusWidget();
+    if (focused == this) {
+        event->setAccepted(useKey(*event));
+    } else if (focused != nullptr && focused == moreButton) {
+        event->setAccepted(isPlain(*event) && moveTo(targetOfKeyOnButton(event->key())));
+    } else {
         // What a viewer within has no use for, Down on the last one, is not for those around it.
         event->ignore();
-    } else if (event->matches(QKeySequence::Copy)) {
-        copyValue();
-    } else if (!isPlain(*event) || !(moveByKey(event->key()) || foldByKey(event->key()))) {
-        event->ignore();
     }
 }
 
-bool TXVariantViewer::moveByKey(int key)
+bool TXVariantViewer::useKey(const QKeyEvent &event)
 {
-    TXVariantViewer *target = viewerByKey(key);
-    if (target == nullptr) {
-        return false;
+    if (event.matches(QKeySequence::Copy)) {
+        copy(value);
+        return true;
     }
-    window()->setAttribute(Qt::WA_KeyboardFocusChange);
-    target->setFocus(Qt::OtherFocusReason);
-    target->scrollIntoView();
-    return true;
+    return isPlain(event) && (moveTo(targetOfKey(event.key())) || foldByKey(event.key()));
 }
 
-TXVariantViewer *TXVariantViewer::viewerByKey(int key)
+QWidget *TXVariantViewer::targetOfKey(int key)
 {
     switch (key) {
     case Qt::Key_Up:
-        return viewerAbove();
+        return shownAbove();
     case Qt::Key_Down:
-        return viewerBelow();
+        return shownBelow();
     case Qt::Key_Home:
         return rootViewer();
     case Qt::Key_End:
-        return rootViewer()->lastShownViewer();
+        return rootViewer()->lastShown();
     case Qt::Key_Right:
         return expanded ? entryViewer(0) : nullptr;
     case Qt::Key_Left:
@@ -140,6 +189,35 @@ TXVariantViewer *TXVariantViewer::viewerByKey(int key)
     default:
         return nullptr;
     }
+}
+
+QWidget *TXVariantViewer::targetOfKeyOnButton(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+        return entryViewer(entryCount() - 1)->lastShown();
+    case Qt::Key_Down:
+        return shownBehind();
+    case Qt::Key_Left:
+        return this;
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return targetOfKey(key);
+    default:
+        return nullptr;
+    }
+}
+
+bool TXVariantViewer::moveTo(QWidget *target)
+{
+    if (target == nullptr) {
+        return false;
+    }
+    window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    target->setFocus(Qt::OtherFocusReason);
+    const auto *viewer = qobject_cast<const TXVariantViewer *>(target);
+    scrollIntoView(*target, viewer != nullptr ? viewer->lineAreaWithKey() : target->rect());
+    return true;
 }
 
 bool TXVariantViewer::foldByKey(int key)
@@ -179,13 +257,18 @@ bool TXVariantViewer::focusNextPrevChild(bool next)
     if (focused == nullptr || !isAncestorOf(focused)) {
         return QWidget::focusNextPrevChild(next);
     }
-    // Qt looks for the next stop from the widget that has the focus on. So that one takes its place
-    // behind the root, which is no stop itself this once.
+    // Qt looks for the next stop from the widget that has the focus on. So that one stands behind
+    // the root meanwhile, which is no stop itself this once.
+    const QPointer<TXVariantViewer> self = this;
+    const FocusChainPlace place(*focused);
     setTabOrder(this, focused);
     const Qt::FocusPolicy policy = focusPolicy();
     setFocusPolicy(Qt::ClickFocus);
     const bool isLeft = QWidget::focusNextPrevChild(next);
-    setFocusPolicy(policy);
+    if (!self.isNull()) {
+        setFocusPolicy(policy);
+    }
+    place.restore();
     return isLeft;
 }
 
@@ -207,19 +290,13 @@ QRect TXVariantViewer::lineArea() const
     return {0, label->y(), kOpenMarginPixels, label->height()};
 }
 
-void TXVariantViewer::scrollIntoView() const
+QRect TXVariantViewer::lineAreaWithKey() const
 {
-    QScrollArea *area = scrollAreaAround(*this);
-    if (area == nullptr) {
-        return;
-    }
-    QRect line = lineArea().translated(mapTo(area->widget(), QPoint(0, 0)));
+    QRect area = lineArea();
     if (const TXVariantViewer *parent = parentViewer()) {
-        // The key is seen along with its value.
-        line.setLeft(parent->mapTo(area->widget(), QPoint(kOpenMarginPixels, 0)).x());
+        area.setLeft(mapFrom(parent, QPoint(kOpenMarginPixels, 0)).x());
     }
-    area->ensureVisible(line.center().x(), line.center().y(), line.width() / 2 + 1,
-                        line.height() / 2 + 1);
+    return area;
 }
 
 // ---- Accessible interfaces
@@ -233,7 +310,7 @@ void TXVariantViewer::announceFolding()
 
 void TXVariantViewer::announceValue()
 {
-    if (QAccessible::isActive() && isVisible()) {
-        VariantViewerAccessible::announceValue(*this);
+    if (isVisible()) {
+        AccessibleDescription::tellOfChange(*this);
     }
 }

@@ -1,9 +1,12 @@
 #include "TXVariantViewer.h"
 
 #include "VariantKind.h"
+#include "VariantMoreButton.h"
 
 #include <utility>
 
+// The user goes through viewers and, below the rows of a large level, the button for more of them.
+//
 // Widgets of the entries stand in childWidgets: viewers alone for a list, keys and viewers by turns
 // for a dictionary. To find a viewer among its siblings costs their number, the rest the depth.
 
@@ -61,29 +64,35 @@ TXVariantViewer *TXVariantViewer::siblingViewer(int step) const
     return index < 0 || index + step < 0 ? nullptr : parent->entryViewer(index + step);
 }
 
-TXVariantViewer *TXVariantViewer::lastShownViewer()
+QWidget *TXVariantViewer::lastShown()
 {
     TXVariantViewer *last = this;
-    while (last->entryCount() > 0) {
+    while (last->moreButton == nullptr && last->entryCount() > 0) {
         last = last->entryViewer(last->entryCount() - 1);
     }
-    return last;
+    return last->moreButton != nullptr ? static_cast<QWidget *>(last->moreButton) : last;
 }
 
-TXVariantViewer *TXVariantViewer::viewerAbove() const
+QWidget *TXVariantViewer::shownAbove() const
 {
     TXVariantViewer *before = siblingViewer(-1);
-    return before != nullptr ? before->lastShownViewer() : parentViewer();
+    return before != nullptr ? before->lastShown() : parentViewer();
 }
 
-TXVariantViewer *TXVariantViewer::viewerBelow() const
+QWidget *TXVariantViewer::shownBelow() const
 {
-    if (entryCount() > 0) {
-        return entryViewer(0);
-    }
+    return entryCount() > 0 ? entryViewer(0) : shownBehind();
+}
+
+QWidget *TXVariantViewer::shownBehind() const
+{
     for (const TXVariantViewer *viewer = this; viewer != nullptr; viewer = viewer->parentViewer()) {
         if (TXVariantViewer *after = viewer->siblingViewer(1)) {
             return after;
+        }
+        const TXVariantViewer *parent = viewer->parentViewer();
+        if (parent != nullptr && parent->moreButton != nullptr) {
+            return parent->moreButton;
         }
     }
     return nullptr;

@@ -1,13 +1,15 @@
 #include "VariantViewerAccessible.h"
 
+#include "AccessibleDescription.h"
 #include "TXVariantViewer.h"
 #include "VariantCopyAction.h"
 #include "VariantKind.h"
+#include "VariantMoreButton.h"
 #include "VariantPlainText.h"
 
 namespace {
 
-/// The name by which helpers ask for it; what the user reads is localizedActionName().
+/// The name by which assistive tools ask for it; what the user reads is localizedActionName().
 const QString kCopyAction = QStringLiteral("Copy");
 
 } // namespace
@@ -25,12 +27,6 @@ void VariantViewerAccessible::announceFolding(TXVariantViewer &viewer)
     QAccessible::updateAccessibility(&event);
 }
 
-void VariantViewerAccessible::announceValue(TXVariantViewer &viewer)
-{
-    QAccessibleValueChangeEvent event(&viewer, VariantPlainText::fromVariant(viewer.value));
-    QAccessible::updateAccessibility(&event);
-}
-
 QAccessible::Role VariantViewerAccessible::role() const
 {
     return viewer().parentViewer() == nullptr ? QAccessible::Tree : QAccessible::TreeItem;
@@ -44,7 +40,7 @@ QString VariantViewerAccessible::text(QAccessible::Text kind) const
     case QAccessible::Value:
         return VariantPlainText::fromVariant(viewer().value);
     case QAccessible::Description:
-        return description();
+        return AccessibleDescription::ofValue(viewer(), valueAndKind());
     default:
         return QAccessibleWidget::text(kind);
     }
@@ -61,56 +57,75 @@ QString VariantViewerAccessible::name() const
         return tr("Value");
     }
     if (VariantKind::isMap(parent->value)) {
-        return shown.entryKey;
+        const bool isBlank = QStringView(shown.entryKey).trimmed().isEmpty();
+        return isBlank ? QStringLiteral("\"%1\"").arg(shown.entryKey) : shown.entryKey;
     }
     return QStringLiteral("[%1]").arg(parent->indexOfEntry(&shown));
 }
 
-QString VariantViewerAccessible::description() const
+QString VariantViewerAccessible::valueAndKind() const
 {
-    const QString ofHost = viewer().accessibleDescription();
-    return ofHost.isEmpty() ? kind(viewer().value) : ofHost;
+    const QVariant &value = viewer().value;
+    const QString text = VariantPlainText::fromVariant(value);
+    switch (VariantKind::of(value)) {
+    case VariantKind::Kind::Dictionary:
+    case VariantKind::Kind::List:
+        return tr("%1: %2", "kind and value").arg(kindOfContainer(value), text);
+    default:
+        return text.isEmpty() ? kindOfScalar(value)
+                              : tr("%1, %2", "value and kind").arg(text, kindOfScalar(value));
+    }
 }
 
-QString VariantViewerAccessible::kind(const QVariant &value)
+QString VariantViewerAccessible::kindOfContainer(const QVariant &value)
 {
-    if (VariantKind::isText(value)) {
-        return tr("Text");
-    }
-    if (value.isNull()) {
-        return tr("Nothing");
-    }
+    const int count = static_cast<int>(VariantKind::entryCount(value));
     if (VariantKind::isMap(value)) {
-        const qsizetype count = value.typeId() == QMetaType::QVariantHash ? value.toHash().size()
-                                                                          : value.toMap().size();
-        return count == 1 ? tr("Dictionary, one entry")
-                          : tr("Dictionary, %n entries", nullptr, static_cast<int>(count));
+        return count == 1 ? tr("dictionary, one entry")
+                          : tr("dictionary, %n entries", nullptr, count);
     }
-    if (VariantKind::isList(value)) {
-        const qsizetype count = value.typeId() == QMetaType::QStringList
-            ? value.toStringList().size()
-            : value.toList().size();
-        return count == 1 ? tr("List, one entry")
-                          : tr("List, %n entries", nullptr, static_cast<int>(count));
-    }
-    return kindOfScalar(value.typeId());
+    return count == 1 ? tr("list, one entry") : tr("list, %n entries", nullptr, count);
 }
 
-QString VariantViewerAccessible::kindOfScalar(int type)
+QString VariantViewerAccessible::kindOfScalar(const QVariant &value)
+{
+    switch (VariantKind::of(value)) {
+    case VariantKind::Kind::Text:
+        return tr("text");
+    case VariantKind::Kind::Nothing:
+        return tr("nothing");
+    case VariantKind::Kind::TrueOrFalse:
+        return tr("true or false");
+    default:
+        return kindOfType(value.typeId());
+    }
+}
+
+QString VariantViewerAccessible::kindOfType(int type)
 {
     switch (type) {
-    case QMetaType::Bool:
-        return tr("True or false");
+    case QMetaType::Short:
+    case QMetaType::UShort:
     case QMetaType::Int:
     case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
-        return tr("Whole number");
+        return tr("whole number");
     case QMetaType::Double:
     case QMetaType::Float:
-        return tr("Number");
+        return tr("number");
+    case QMetaType::QDate:
+        return tr("date");
+    case QMetaType::QTime:
+        return tr("time");
+    case QMetaType::QDateTime:
+        return tr("date and time");
+    case QMetaType::QUrl:
+        return tr("address");
     default:
-        return QString::fromLatin1(QMetaType(type).name());
+        return tr("value");
     }
 }
 
@@ -125,19 +140,29 @@ QAccessible::State VariantViewerAccessible::state() const
 
 int VariantViewerAccessible::childCount() const
 {
-    return static_cast<int>(viewer().entryCount());
+    const int buttons = viewer().moreButton == nullptr ? 0 : 1;
+    return static_cast<int>(viewer().entryCount()) + buttons;
 }
 
 QAccessibleInterface *VariantViewerAccessible::child(int index) const
 {
-    TXVariantViewer *entry = index < 0 ? nullptr : viewer().entryViewer(index);
-    return entry == nullptr ? nullptr : QAccessible::queryAccessibleInterface(entry);
+    if (index < 0) {
+        return nullptr;
+    }
+    QWidget *widget = viewer().entryViewer(index);
+    if (index == viewer().entryCount()) {
+        widget = viewer().moreButton;
+    }
+    return widget == nullptr ? nullptr : QAccessible::queryAccessibleInterface(widget);
 }
 
 int VariantViewerAccessible::indexOfChild(const QAccessibleInterface *child) const
 {
-    const auto *entry =
-        child == nullptr ? nullptr : qobject_cast<TXVariantViewer *>(child->object());
+    QObject *object = child == nullptr ? nullptr : child->object();
+    if (object != nullptr && object == viewer().moreButton) {
+        return static_cast<int>(viewer().entryCount());
+    }
+    const auto *entry = qobject_cast<TXVariantViewer *>(object);
     return entry == nullptr ? -1 : static_cast<int>(viewer().indexOfEntry(entry));
 }
 
@@ -172,7 +197,7 @@ void VariantViewerAccessible::doAction(const QString &name)
     if (name == toggleAction()) {
         viewer().setExpanded(!viewer().isExpanded());
     } else if (name == kCopyAction) {
-        viewer().copyValue();
+        viewer().copy(viewer().value);
     } else {
         QAccessibleWidget::doAction(name);
     }

@@ -8,13 +8,21 @@
 class QVariant;
 class TXVariantViewer;
 
-/// What helpers of the user, a screen reader for one, learn of a viewer of values: a tree of items.
+/// What assistive tools, a screen reader for one, learn of a viewer of values: a tree of items.
 ///
-/// The name is the key of an entry, its place such as "[2]" in a list, or for the root the
-/// accessible name that the host has set ("Value" without one). The value is the text of the line,
-/// at most 1,000 characters, made when it is asked for. The description tells the kind and how many
-/// entries there are. Children are the viewers of the entries that are open. The actions are to
-/// open or close, and to copy.
+/// The name is the key of an entry (in quotes when it is blank), its place such as "[2]" in a list,
+/// or for the root the accessible name that the host has set ("Value" without one). The value is
+/// the text of the line, at most 1,000 characters, made when it is asked for. It is told whole
+/// whether or not the viewer has a preview: the line may well be empty, and then nothing else tells
+/// it.
+///
+/// The description tells the value and its kind ("42, whole number"), of lists and dictionaries the
+/// kind and how many entries there are before the value: on Linux nothing but name and description
+/// comes through. The tool tip follows on a line of its own. A description that the host has set
+/// stands in place of all that.
+///
+/// Children are the viewers of the entries that are open, and behind them the button for more of
+/// them while there is one. The actions are to open or close, and to copy.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_PRIVATE_EXPORT VariantViewerAccessible : public QAccessibleWidget
@@ -27,8 +35,6 @@ public:
 
     /// Tells that the viewer has been opened or closed.
     static void announceFolding(TXVariantViewer &viewer);
-    /// Tells that the viewer shows another value.
-    static void announceValue(TXVariantViewer &viewer);
 
     /// A tree for the root, an item of it for the viewers within.
     [[nodiscard]] QAccessible::Role role() const override;
@@ -37,7 +43,7 @@ public:
     /// As Qt has it for widgets, and whether there is something to open and whether it is.
     [[nodiscard]] QAccessible::State state() const override;
 
-    /// The viewers of the entries, in their order; none while closed.
+    /// The viewers of the entries, in their order, and the button; none while closed.
     [[nodiscard]] int childCount() const override;
     /// Null outside of the children.
     [[nodiscard]] QAccessibleInterface *child(int index) const override;
@@ -55,7 +61,8 @@ public:
 private:
     [[nodiscard]] TXVariantViewer &viewer() const;
     [[nodiscard]] QString name() const;
-    [[nodiscard]] QString description() const;
-    [[nodiscard]] static QString kind(const QVariant &value);
-    [[nodiscard]] static QString kindOfScalar(int type);
+    [[nodiscard]] QString valueAndKind() const;
+    [[nodiscard]] static QString kindOfContainer(const QVariant &value);
+    [[nodiscard]] static QString kindOfScalar(const QVariant &value);
+    [[nodiscard]] static QString kindOfType(int type);
 };

@@ -136,8 +136,8 @@ void TestTXVariantViewerKeys::upAndDownGoThroughWhatIsShownInReadingOrder()
         press(Qt::Key_Down);
     }
     QCOMPARE(QApplication::focusWidget(), c);
-    for (auto viewer = order.crbegin(); viewer != order.crend(); ++viewer) {
-        QCOMPARE(QApplication::focusWidget(), *viewer);
+    for (qsizetype i = order.size() - 1; i >= 0; --i) {
+        QCOMPARE(QApplication::focusWidget(), order.at(i));
         press(Qt::Key_Up);
     }
     QCOMPARE(QApplication::focusWidget(), root);

@@ -4,11 +4,13 @@
 #include "TestBase.h"
 #include "VariantViewerHelpers.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPointer>
+#include <QSignalSpy>
 #include <QTimer>
 
 #include <functional>
@@ -47,6 +49,27 @@ void choose(QMenu &menu)
                       menu.actionGeometry(menu.actions().at(0)).center());
 }
 
+/// An open viewer and a widget without use for keys, in a window with an action for "copy".
+struct WindowWithCopyAction
+{
+    std::unique_ptr<QWidget> widget = std::make_unique<QWidget>();
+    TXVariantViewer *viewer = new TXVariantViewer(widget.get());
+    QWidget *other = new QWidget(widget.get());
+    QAction *action = new QAction(widget.get());
+    std::unique_ptr<QSignalSpy> copies = std::make_unique<QSignalSpy>(action, SIGNAL(triggered()));
+
+    WindowWithCopyAction()
+    {
+        action->setShortcut(QKeySequence::Copy);
+        widget->addAction(action);
+        viewer->setValue(QVariantList{1, 2});
+        viewer->expand();
+        other->setFocusPolicy(Qt::StrongFocus);
+        widget->show();
+        QVERIFY(QTest::qWaitForWindowActive(widget.get()));
+    }
+};
+
 QVariant nullOf(QMetaType::Type type)
 {
     return QVariant(QMetaType(type));
@@ -67,10 +90,13 @@ private slots:
     void menuByKeyOpensAtTheFoldBoxOfAnOpenViewer();
     void menuOfTheLabelIsThatOfItsViewer();
     void menuWithinIsThatOfTheInnerViewer();
+    void menuCopiesTheValueThatItWasOpenedFor();
     void viewerMayDieWhileItsMenuIsOpen();
     void menuLeavesNothingBehind();
     void valueThatJsonRefusesLeavesTheClipboard();
     void deepestValueThatJsonTakesIsCopied();
+    void keysForCopyGoBeforeAShortcutOfTheWindow();
+    void keysForCopyAreTheWindowsWithTheFocusElsewhere();
 
 protected:
     void prepare() override;
@@ -206,6 +232,17 @@ void TestTXVariantViewerMenu::menuWithinIsThatOfTheInnerViewer()
     QCOMPARE(QGuiApplication::clipboard()->text(), "3");
 }
 
+void TestTXVariantViewerMenu::menuCopiesTheValueThatItWasOpenedFor()
+{
+    viewer->setValue(QVariantList{1, 2});
+    openMenu(*viewer, [this](QMenu &menu) {
+        viewer->setValue(QStringLiteral("secret"));
+        QCOMPARE(menu.actions().at(0)->text(), "Copy value (JSON encoded)");
+        choose(menu);
+    });
+    QCOMPARE(QGuiApplication::clipboard()->text(), "[1,2]");
+}
+
 void TestTXVariantViewerMenu::viewerMayDieWhileItsMenuIsOpen()
 {
     viewer->setValue(nestedValue());
@@ -265,6 +302,28 @@ void TestTXVariantViewerMenu::deepestValueThatJsonTakesIsCopied()
     openMenu(*viewer, [](QMenu &menu) { choose(menu); });
     QCOMPARE(QGuiApplication::clipboard()->text(),
              QString(kDeepestNesting, u'[') + u'1' + QString(kDeepestNesting, u']'));
+}
+
+void TestTXVariantViewerMenu::keysForCopyGoBeforeAShortcutOfTheWindow()
+{
+    const WindowWithCopyAction window;
+    TXVariantViewer *inner = entriesOf(*window.viewer).constLast();
+    for (TXVariantViewer *target : {window.viewer, inner}) {
+        QGuiApplication::clipboard()->setText(kOldText);
+        target->setFocus();
+        QTest::keySequence(window.widget->windowHandle(), QKeySequence::Copy);
+        QCOMPARE(QGuiApplication::clipboard()->text(), target == inner ? "2" : "[1,2]");
+    }
+    QCOMPARE(window.copies->count(), 0);
+}
+
+void TestTXVariantViewerMenu::keysForCopyAreTheWindowsWithTheFocusElsewhere()
+{
+    const WindowWithCopyAction window;
+    window.other->setFocus();
+    QTest::keySequence(window.widget->windowHandle(), QKeySequence::Copy);
+    QCOMPARE(window.copies->count(), 1);
+    QCOMPARE(QGuiApplication::clipboard()->text(), kOldText);
 }
 
 int main(int argc, char **argv)

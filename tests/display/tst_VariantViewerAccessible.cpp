@@ -1,12 +1,16 @@
 #include "VariantViewerAccessible.h"
 
+#include "AccessibleEvents.h"
 #include "TestBase.h"
 #include "VariantPlainText.h"
 #include "VariantViewerHelpers.h"
 
 #include <QAccessible>
 #include <QClipboard>
+#include <QDateTime>
 #include <QLabel>
+#include <QPushButton>
+#include <QUrl>
 
 #include <memory>
 
@@ -16,11 +20,18 @@ using VariantViewerHelpers::nestedValue;
 
 namespace {
 
-int toldEvents = 0;
+const QString kStateChange = QString::number(QAccessible::StateChanged);
 
-void note(QAccessibleEvent *)
+/// What viewers tell, without the news of their showing that Qt has for every widget.
+QStringList toldAboutValues()
 {
-    ++toldEvents;
+    QStringList told;
+    for (const QString &event : AccessibleEvents::take()) {
+        if (event == kStateChange || event.contains(QLatin1Char(' '))) {
+            told.append(event);
+        }
+    }
+    return told;
 }
 
 QAccessibleInterface *accessible(QWidget *widget)
@@ -41,13 +52,18 @@ private slots:
     void longValueIsCut();
     void hugeValueIsNotRenderedWhole();
     void treeHoldsItsItemsInOrder();
+    void buttonForMoreIsTheLastItem();
     void namesAreKeysAndPlaces();
+    void blankKeysAreNamedInQuotes_data();
+    void blankKeysAreNamedInQuotes();
+    void valueIsToldWithoutAPreview();
     void hostNamesTheRoot();
     void stateTellsWhatCanBeOpened();
     void focusIsTold();
     void actionOpensAndCloses();
     void actionCopies();
     void disabledViewerHasNoActions();
+    void foldingAndNewValuesAreTold();
     void nothingIsToldWithoutListeners();
 
 protected:
@@ -65,12 +81,11 @@ void TestVariantViewerAccessible::prepare()
     root->setValue(nestedValue());
     tree = accessible(root.get());
     QVERIFY(tree);
-    toldEvents = 0;
 }
 
 void TestVariantViewerAccessible::finish()
 {
-    QAccessible::installUpdateHandler(nullptr);
+    AccessibleEvents::start(false);
     root.reset();
 }
 
@@ -82,35 +97,54 @@ void TestVariantViewerAccessible::valueAndKindAreTold_data()
     const QVariantList list{1, QVariantList(), QVariantMap()};
     const QVariantMap node{{"a", 1}, {"children", QStringList{"x"}}, {"z", true}};
     QTest::newRow("map") << nestedValue() << R"({a: [1, 2], b: {x: true, y: "text"}, c: 3})"
-                         << "Dictionary, 3 entries";
+                         << "dictionary, 3 entries: {a: [1, 2], b: {x: true, y: \"text\"}, c: 3}";
     QTest::newRow("one entry") << QVariant(QVariantHash{{"<k>", 1}}) << "{<k>: 1}"
-                               << "Dictionary, one entry";
+                               << "dictionary, one entry: {<k>: 1}";
     QTest::newRow("empty map") << QVariant(QVariantMap()) << "{}"
-                               << "Dictionary, 0 entries";
+                               << "dictionary, 0 entries: {}";
     QTest::newRow("node") << QVariant(node) << R"({a: 1, z: true, children: ["x"]})"
-                          << "Dictionary, 3 entries";
+                          << R"(dictionary, 3 entries: {a: 1, z: true, children: ["x"]})";
     QTest::newRow("children only") << QVariant(QVariantMap{{"children", 1}}) << "{children: 1}"
-                                   << "Dictionary, one entry";
+                                   << "dictionary, one entry: {children: 1}";
     QTest::newRow("list") << QVariant(list) << "[1, [], {}]"
-                          << "List, 3 entries";
+                          << "list, 3 entries: [1, [], {}]";
     QTest::newRow("texts") << QVariant(QStringList{"a", "b"}) << R"(["a", "b"])"
-                           << "List, 2 entries";
+                           << R"(list, 2 entries: ["a", "b"])";
     QTest::newRow("one text") << QVariant(QStringList{"a"}) << R"(["a"])"
-                              << "List, one entry";
+                              << R"(list, one entry: ["a"])";
+    QTest::newRow("placeholder") << QVariant(QStringList{"%1 %2"}) << R"(["%1 %2"])"
+                                 << R"(list, one entry: ["%1 %2"])";
+    QTest::newRow("null map") << QVariant(QMetaType(QMetaType::QVariantMap)) << "null"
+                              << "null, nothing";
     QTest::newRow("text") << QVariant("a & <b>") << "\"a & <b>\""
-                          << "Text";
+                          << "\"a & <b>\", text";
     QTest::newRow("bytes") << QVariant(QByteArray("b")) << "\"b\""
-                           << "Text";
+                           << "\"b\", text";
     QTest::newRow("invalid") << QVariant() << "null"
-                             << "Nothing";
+                             << "null, nothing";
     QTest::newRow("bool") << QVariant(false) << "false"
-                          << "True or false";
-    QTest::newRow("int") << QVariant(-3) << "-3"
-                         << "Whole number";
+                          << "false, true or false";
+    QTest::newRow("int") << QVariant(42) << "42"
+                         << "42, whole number";
+    QTest::newRow("null int") << QVariant(QMetaType(QMetaType::Int)) << "0"
+                              << "0, whole number";
+    QTest::newRow("short") << QVariant::fromValue<short>(-3) << "-3"
+                           << "-3, whole number";
     QTest::newRow("double") << QVariant(0.25) << "0.25"
-                            << "Number";
+                            << "0.25, number";
     QTest::newRow("date") << QVariant(QDate(2024, 2, 29)) << "2024-02-29"
-                          << "QDate";
+                          << "2024-02-29, date";
+    QTest::newRow("time") << QVariant(QTime(13, 5)) << "13:05:00.000"
+                          << "13:05:00.000, time";
+    QTest::newRow("date and time") << QVariant(QDateTime(QDate(2024, 2, 29), QTime(13, 5), Qt::UTC))
+                                   << "2024-02-29T13:05:00.000Z"
+                                   << "2024-02-29T13:05:00.000Z, date and time";
+    QTest::newRow("address") << QVariant(QUrl("http://localhost/")) << "http://localhost/"
+                             << "http://localhost/, address";
+    QTest::newRow("other") << QVariant(QChar(u'x')) << "x"
+                           << "x, value";
+    QTest::newRow("without text") << QVariant::fromValue(QSize(1, 2)) << ""
+                                  << "value";
 }
 
 void TestVariantViewerAccessible::valueAndKindAreTold()
@@ -198,6 +232,58 @@ void TestVariantViewerAccessible::namesAreKeysAndPlaces()
     QCOMPARE(tree->child(0)->child(1)->text(QAccessible::Value), "6");
 }
 
+void TestVariantViewerAccessible::blankKeysAreNamedInQuotes_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("empty") << QString() << "\"\"";
+    QTest::newRow("spaces") << "  "
+                            << "\"  \"";
+    QTest::newRow("spaces around a letter") << " a "
+                                            << " a ";
+}
+
+void TestVariantViewerAccessible::blankKeysAreNamedInQuotes()
+{
+    QFETCH(QString, key);
+    root->setValue(QVariantMap{{key, 1}});
+    root->expand();
+    QTEST(tree->child(0)->text(QAccessible::Name), "name");
+}
+
+void TestVariantViewerAccessible::valueIsToldWithoutAPreview()
+{
+    root->setPreview(false);
+    root->setValue(QVariantList{1, 2});
+    QCOMPARE(tree->text(QAccessible::Value), "[1, 2]");
+    QCOMPARE(tree->text(QAccessible::Description), "list, 2 entries: [1, 2]");
+}
+
+void TestVariantViewerAccessible::buttonForMoreIsTheLastItem()
+{
+    constexpr int kAtOnce = TXVariantViewer::kEntriesAtOnce;
+    root->setPreview(false);
+    root->setValue(QVariantList(kAtOnce + 1, 7));
+    QCOMPARE(tree->childCount(), 0);
+    root->expand();
+    QCOMPARE(tree->childCount(), kAtOnce + 1);
+    auto *widget = root->findChild<QPushButton *>(QString(), Qt::FindDirectChildrenOnly);
+    QAccessibleInterface *button = tree->child(kAtOnce);
+    QVERIFY(button);
+    QCOMPARE(button->object(), widget);
+    QCOMPARE(button->role(), QAccessible::PushButton);
+    QCOMPARE(button->text(QAccessible::Name), "Show 1 more of 5,001");
+    QCOMPARE(button->parent(), tree);
+    QCOMPARE(tree->indexOfChild(button), kAtOnce);
+    QCOMPARE(tree->child(kAtOnce - 1)->object(), entriesOf(*root).last());
+    QVERIFY(!tree->child(kAtOnce + 1));
+
+    widget->click();
+    QCOMPARE(tree->childCount(), kAtOnce + 1);
+    QCOMPARE(tree->child(kAtOnce)->object(), entriesOf(*root).last());
+    QCOMPARE(tree->indexOfChild(accessible(widget)), -1);
+}
+
 void TestVariantViewerAccessible::hostNamesTheRoot()
 {
     root->setAccessibleName(QStringLiteral("Settings"));
@@ -269,15 +355,27 @@ void TestVariantViewerAccessible::disabledViewerHasNoActions()
     QVERIFY(!root->isExpanded());
 }
 
+void TestVariantViewerAccessible::foldingAndNewValuesAreTold()
+{
+    root->show();
+    QVERIFY(QTest::qWaitForWindowExposed(root.get()));
+    AccessibleEvents::start(true);
+    root->expand();
+    QCOMPARE(toldAboutValues(), QStringList(kStateChange));
+    root->collapse();
+    QCOMPARE(toldAboutValues(), QStringList(kStateChange));
+    root->setValue(42);
+    QCOMPARE(toldAboutValues(), QStringList("description 42, whole number"));
+}
+
 void TestVariantViewerAccessible::nothingIsToldWithoutListeners()
 {
     root->show();
     QVERIFY(QTest::qWaitForWindowExposed(root.get()));
-    QAccessible::installUpdateHandler(note);
-    QVERIFY(!QAccessible::isActive());
+    AccessibleEvents::start(false);
     root->expand();
     root->setValue(5);
-    QCOMPARE(toldEvents, 0);
+    QCOMPARE(toldAboutValues(), QStringList());
 }
 
 int main(int argc, char **argv)
