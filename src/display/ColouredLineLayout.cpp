@@ -7,13 +7,13 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr qsizetype kChunkCharacters = 256;
 constexpr qsizetype kShortestChunk = 128;
-constexpr std::size_t kRecentMaximum = 16;
-constexpr qreal kWideEnoughPixels = 1e6;
+constexpr std::size_t kRecentMaximum = ColouredLineLayout::kStackedMaximum;
 constexpr int kSteps = FixedPitchFonts::kStepsPerPixel;
 
 QFont monospaced(QFont font, bool isBold)
@@ -25,11 +25,16 @@ QFont monospaced(QFont font, bool isBold)
     return font;
 }
 
-bool isPlain(QStringView letters)
+bool takesRoom(QChar letter)
 {
-    return std::all_of(letters.begin(), letters.end(), [](QChar letter) {
-        return letter.unicode() >= u' ' && letter.unicode() <= u'~';
-    });
+    const QChar::Category category = letter.category();
+    return category != QChar::Mark_NonSpacing && category != QChar::Mark_Enclosing
+        && category != QChar::Other_Format;
+}
+
+qint64 countSpacing(QStringView letters)
+{
+    return std::count_if(letters.begin(), letters.end(), takesRoom);
 }
 
 /// The last place up to the end of the text where no letter is torn from its marks. When there is
@@ -58,13 +63,6 @@ QTextCharFormat formatOf(const ColouredLine::Style &style)
     return format;
 }
 
-void layOutInOneLine(QTextLayout &layout)
-{
-    layout.beginLayout();
-    layout.createLine().setLineWidth(kWideEnoughPixels);
-    layout.endLayout();
-}
-
 } // namespace
 
 ColouredLineLayout::ColouredLineLayout(ColouredLine line, const QFont &font)
@@ -79,7 +77,6 @@ ColouredLineLayout::ColouredLineLayout(ColouredLine line, const QFont &font)
     boldFont = monospaced(font, true);
     regular = FixedPitchFonts::metrics(regularFont);
     bold = FixedPitchFonts::metrics(boldFont);
-    measureStyles();
     measureChunks();
     measureLastChunk();
 }
@@ -90,25 +87,8 @@ void ColouredLineLayout::measureEmpty()
 {
     chunks.push_back({});
     QTextLayout layout(QString(), regularFont);
-    layOutInOneLine(layout);
-    const QTextLine line = layout.lineAt(0);
+    const QTextLine line = FixedPitchFonts::layOutInOneLine(layout);
     include(line.ascent(), line.descent(), line.leading());
-}
-
-void ColouredLineLayout::measureStyles()
-{
-    bool hasRegular = false;
-    bool hasBold = false;
-    for (const ColouredLine::Run &run : content.runs()) {
-        hasBold = hasBold || run.style.isBold;
-        hasRegular = hasRegular || !run.style.isBold;
-    }
-    if (hasRegular) {
-        include(regular.ascent, regular.descent, regular.leading);
-    }
-    if (hasBold) {
-        include(bold.ascent, bold.descent, bold.leading);
-    }
 }
 
 void ColouredLineLayout::include(qreal itemAscent, qreal itemDescent, qreal itemLeading)
@@ -124,9 +104,10 @@ void ColouredLineLayout::measureChunks()
     const std::vector<ColouredLine::Run> &runs = content.runs();
     Chunk chunk;
     while (chunk.start < size && chunk.leftSteps < qint64(kWidestPixels) * kSteps) {
-        chunks.push_back(chunk);
         const qsizetype end = chunkEnd(chunk.start, chunk.firstRun);
-        chunk.leftSteps += widthSteps(chunk, end);
+        const qint64 steps = measure(chunk, end);
+        chunks.push_back(chunk);
+        chunk.leftSteps += steps;
         chunk.start = end;
         while (chunk.firstRun + 1 < runs.size() && runs[chunk.firstRun + 1].start <= end) {
             ++chunk.firstRun;
@@ -138,9 +119,13 @@ void ColouredLineLayout::measureChunks()
 void ColouredLineLayout::measureLastChunk()
 {
     const std::size_t last = chunks.size() - 2;
-    const qreal left = qreal(chunks[last].leftSteps) / kSteps;
-    const qreal width = laidOut(last).lineAt(0).naturalTextWidth();
-    fullWidth = qMin(qMax(left + width, advance()), qreal(kWidestPixels));
+    const QTextLine line = laidOut(last).lineAt(0);
+    if (std::exchange(chunks[last].isEstimated, false)) {
+        chunks.back().leftSteps =
+            chunks[last].leftSteps + qRound64(line.horizontalAdvance() * kSteps);
+    }
+    const qreal width = line.naturalTextWidth();
+    fullWidth = qMin(qMax(leftOf(last) + width, advance()), qreal(kWidestPixels));
 }
 
 qsizetype ColouredLineLayout::chunkEnd(qsizetype start, std::size_t firstRun) const
@@ -171,33 +156,48 @@ qsizetype ColouredLineLayout::lastRunStart(qsizetype from, qsizetype to, std::si
     return runs[run].start > from ? runs[run].start : 0;
 }
 
-qint64 ColouredLineLayout::widthSteps(const Chunk &chunk, qsizetype end)
+qint64 ColouredLineLayout::measure(Chunk &chunk, qsizetype end)
 {
-    const qsizetype length = end - chunk.start;
-    const bool isCounted = regular.advanceSteps > 0 && bold.advanceSteps > 0;
-    if (isCounted && isPlain(QStringView(content.text()).sliced(chunk.start, length))) {
+    const QStringView letters = QStringView(content.text()).sliced(chunk.start, end - chunk.start);
+    const bool isFixedPitch = regular.advanceSteps > 0 && bold.advanceSteps > 0;
+    chunk.isEstimated = false;
+    if (isFixedPitch && std::all_of(letters.begin(), letters.end(), FixedPitchFonts::isCounted)) {
         return countedSteps(chunk, end);
     }
     // Layouts of many million characters would hold the program up for seconds.
-    if (laidOutCharacters + length > kLaidOutMaximum) {
-        return length * qMax(regular.advanceSteps, qint64(kSteps));
+    if (laidOutCharacters + letters.size() > kLaidOutMaximum) {
+        chunk.isEstimated = true;
+        return estimatedSteps(letters);
     }
-    laidOutCharacters += length;
-    return laidOutSteps(chunk, end);
+    const qint64 steps = laidOutSteps(chunk, end);
+    laidOutCharacters += letters.size();
+    spacingLetters += countSpacing(letters);
+    spacingSteps += steps;
+    return steps;
 }
 
-qint64 ColouredLineLayout::countedSteps(const Chunk &chunk, qsizetype end) const
+qint64 ColouredLineLayout::estimatedSteps(QStringView letters) const
 {
-    if (regular.advanceSteps == bold.advanceSteps) {
-        return (end - chunk.start) * regular.advanceSteps;
+    qint64 average = regular.advanceSteps;
+    if (spacingLetters > 0) {
+        average = (spacingSteps + spacingLetters - 1) / spacingLetters;
+    } else if (average == 0) {
+        average = qint64(qCeil(regular.ascent)) * kSteps;
     }
+    return countSpacing(letters) * average;
+}
+
+/// Only here the styles count for the height: elsewhere letters may come from other fonts.
+qint64 ColouredLineLayout::countedSteps(const Chunk &chunk, qsizetype end)
+{
     const std::vector<ColouredLine::Run> &runs = content.runs();
     qint64 steps = 0;
     qsizetype start = chunk.start;
     for (std::size_t run = chunk.firstRun; start < end; ++run) {
         const qsizetype runEnd = run + 1 < runs.size() ? qMin(runs[run + 1].start, end) : end;
-        const bool isBold = runs[run].style.isBold;
-        steps += (runEnd - start) * (isBold ? bold.advanceSteps : regular.advanceSteps);
+        const FixedPitchFonts::Metrics &metrics = runs[run].style.isBold ? bold : regular;
+        include(metrics.ascent, metrics.descent, metrics.leading);
+        steps += (runEnd - start) * metrics.advanceSteps;
         start = runEnd;
     }
     return steps;
@@ -213,9 +213,14 @@ qint64 ColouredLineLayout::laidOutSteps(const Chunk &chunk, qsizetype end)
 
 std::unique_ptr<QTextLayout> ColouredLineLayout::layOut(const Chunk &chunk, qsizetype end) const
 {
+    const QString &text = content.text();
     const std::vector<ColouredLine::Run> &runs = content.runs();
-    auto layout = std::make_unique<QTextLayout>(content.text().mid(chunk.start, end - chunk.start),
-                                                regularFont);
+    // Qt shows soft hyphens at the end of a line, which the end of the chunk is not.
+    while (end < text.size() && end > chunk.start && text[end - 1] == QChar::SoftHyphen) {
+        --end;
+    }
+    auto layout =
+        std::make_unique<QTextLayout>(text.mid(chunk.start, end - chunk.start), regularFont);
     QList<QTextLayout::FormatRange> formats;
     for (std::size_t run = chunk.firstRun; run < runs.size() && runs[run].start < end; ++run) {
         const qsizetype start = qMax(runs[run].start, chunk.start);
@@ -228,7 +233,7 @@ std::unique_ptr<QTextLayout> ColouredLineLayout::layOut(const Chunk &chunk, qsiz
     option.setWrapMode(QTextOption::ManualWrap);
     option.setTextDirection(Qt::LeftToRight);
     layout->setTextOption(option);
-    layOutInOneLine(*layout);
+    FixedPitchFonts::layOutInOneLine(*layout);
     return layout;
 }
 
@@ -246,9 +251,19 @@ const QTextLayout &ColouredLineLayout::laidOut(std::size_t chunk) const
     return *recent.back().layout;
 }
 
+void ColouredLineLayout::forgetPainted()
+{
+    recent.clear();
+}
+
+qreal ColouredLineLayout::leftOf(std::size_t chunk) const
+{
+    return qreal(chunks[chunk].leftSteps) / kSteps;
+}
+
 qreal ColouredLineLayout::advance() const
 {
-    return qreal(chunks.back().leftSteps) / kSteps;
+    return leftOf(chunks.size() - 1);
 }
 
 int ColouredLineLayout::height() const
@@ -265,17 +280,42 @@ std::size_t ColouredLineLayout::firstChunkAt(qreal left) const
     return behind == chunks.begin() ? 0 : std::size_t(behind - chunks.begin()) - 1;
 }
 
+/// Whether so many others begin where the chunk does that it is not painted. Each of a million
+/// letters without width would be laid out anew for each painting.
+bool ColouredLineLayout::isBuried(std::size_t chunk) const
+{
+    const std::size_t last = chunk + kStackedMaximum;
+    return last + 1 < chunks.size() && chunks[last].leftSteps < chunks[chunk].leftSteps + kSteps;
+}
+
 void ColouredLineLayout::draw(QPainter &painter, const QPointF &topLeft, qreal left,
                               qreal right) const
 {
     // Slanted and stacked letters reach beyond their room.
     const qreal overhang = height();
     for (std::size_t i = firstChunkAt(left - overhang); i + 1 < chunks.size(); ++i) {
-        const qreal x = qreal(chunks[i].leftSteps) / kSteps;
-        if (x >= right + overhang) {
+        if (leftOf(i) >= right + overhang) {
             return;
         }
-        const QTextLayout &layout = laidOut(i);
-        layout.draw(&painter, topLeft + QPointF(x, ascent - layout.lineAt(0).ascent()));
+        if (!isBuried(i)) {
+            drawChunk(painter, topLeft + QPointF(leftOf(i), 0), i);
+        }
     }
+}
+
+void ColouredLineLayout::drawChunk(QPainter &painter, const QPointF &topLeft,
+                                   std::size_t chunk) const
+{
+    const QTextLayout &layout = laidOut(chunk);
+    const QTextLine line = layout.lineAt(0);
+    const QPointF place = topLeft + QPointF(0, ascent - line.ascent());
+    const qreal room = leftOf(chunk + 1) - leftOf(chunk);
+    if (!chunks[chunk].isEstimated || line.horizontalAdvance() <= room) {
+        layout.draw(&painter, place);
+        return;
+    }
+    painter.save();
+    painter.setClipRect(QRectF(topLeft, QSizeF(room, height())), Qt::IntersectClip);
+    layout.draw(&painter, place);
+    painter.restore();
 }

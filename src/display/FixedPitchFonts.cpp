@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 #include <QPointer>
-#include <QTextLayout>
+#include <QRawFont>
 
 namespace {
 
@@ -37,17 +37,15 @@ qint64 commonAdvance(const QTextLine &line)
 FixedPitchFonts::Metrics measured(const QFont &font)
 {
     QTextLayout layout(everyLetter(), font);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(kWideEnoughPixels);
-    layout.endLayout();
+    const QTextLine line = FixedPitchFonts::layOutInOneLine(layout);
     return {commonAdvance(line), line.ascent(), line.descent(), line.leading()};
 }
 
+/// A font's own description tells its points, but not the resolution that makes pixels of them.
 QString description(const QFont &font)
 {
-    return font.toString() + u',' + QString::number(font.hintingPreference()) + u','
-        + font.families().join(u',');
+    return font.toString() + u',' + QString::number(QRawFont::fromFont(font).pixelSize()) + u','
+        + QString::number(font.hintingPreference()) + u',' + font.families().join(u',');
 }
 
 } // namespace
@@ -65,6 +63,20 @@ FixedPitchFonts &FixedPitchFonts::instance()
         fonts = new FixedPitchFonts(qGuiApp);
     }
     return *fonts;
+}
+
+bool FixedPitchFonts::isCounted(QChar letter)
+{
+    return letter.unicode() >= kFirstLetter && letter.unicode() <= kLastLetter;
+}
+
+QTextLine FixedPitchFonts::layOutInOneLine(QTextLayout &layout)
+{
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(kWideEnoughPixels);
+    layout.endLayout();
+    return line;
 }
 
 FixedPitchFonts::Metrics FixedPitchFonts::metrics(const QFont &font)

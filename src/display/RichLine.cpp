@@ -3,8 +3,10 @@
 #include "ColouredLine.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <QTextFrame>
 #include <QTextOption>
@@ -44,14 +46,22 @@ void removeMargin(const QTextDocument &document)
     document.rootFrame()->setFrameFormat(format);
 }
 
+/// Whether a tag may be that of a table or of its cells. Qt takes it for one in capitals, behind
+/// blanks, in quotes, and with entities, too.
+bool mayHoldTable(const QString &markup)
+{
+    static const QRegularExpression kTable(QStringLiteral("<\\W*(?:table|t[dh]|\\w*&)"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    return markup.contains(kTable);
+}
+
 } // namespace
 
 bool RichLine::isWanted(const ColouredLine &line, const QString &markup)
 {
-    // Qt takes twice as long for each table in a table: a few hundred characters would do for
-    // hours.
+    // The search would go on from each of many tags to the end; so the number of tags comes first.
     return (line.isForeign() || line.hasRightToLeft()) && markup.size() <= kCharactersMaximum
-        && line.foreignTags() <= kTagsMaximum;
+        && line.foreignTags() <= kTagsMaximum && !mayHoldTable(markup);
 }
 
 RichLine::RichLine(const QString &markup, const QFont &font)
@@ -78,12 +88,15 @@ QString RichLine::text() const
 }
 
 void RichLine::draw(QPainter &painter, const QPointF &topLeft, qreal room, Qt::Alignment alignment,
-                    const QPalette &palette) const
+                    const QPalette &palette, const QRectF &visible) const
 {
     align(*document, alignment);
     document->setTextWidth(room);
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette = palette;
+    // Slanted and stacked letters reach beyond their line.
+    const qreal overhang = QFontMetricsF(document->defaultFont()).height();
+    context.clip = visible.translated(-topLeft).adjusted(-overhang, -overhang, overhang, overhang);
     painter.save();
     painter.translate(topLeft);
     document->documentLayout()->draw(&painter, context);

@@ -3,6 +3,7 @@
 #include "TXGUICommonExport.h"
 
 #include <QPalette>
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 
@@ -21,11 +22,12 @@ class QTextDocument;
 class TXGUICOMMON_PRIVATE_EXPORT RichLine
 {
 public:
-    /// Longer texts, and texts with more foreign tags, are none for rich text.
-    static constexpr qsizetype kCharactersMaximum = 20000;
+    /// Longer texts (with their markup), and texts with more foreign tags, are none for rich text.
+    static constexpr qsizetype kCharactersMaximum = 5000;
     static constexpr qsizetype kTagsMaximum = 12;
 
-    /// True when the line shows right as rich text only, and when that takes no long time.
+    /// True when the line shows right as rich text only, and when that takes no long time. That is
+    /// never so for tables: a cell that spans many rows and columns takes seconds.
     [[nodiscard]] static bool isWanted(const ColouredLine &line, const QString &markup);
 
     /// Text in which Qt finds no markup counts as plain text. Pictures that the markup names are
@@ -42,10 +44,11 @@ public:
     /// The words without the markup, of several paragraphs one a line.
     [[nodiscard]] QString text() const;
 
-    /// Paints all of it in a room of this width, in which the paragraphs are aligned. Letters
-    /// without a colour have the palette's QPalette::Text.
+    /// Paints the lines that `visible`, in the coordinates of the painter, shows a part of, in a
+    /// room of this width, in which the paragraphs are aligned. Letters without a colour have the
+    /// palette's QPalette::Text.
     void draw(QPainter &painter, const QPointF &topLeft, qreal room, Qt::Alignment alignment,
-              const QPalette &palette) const;
+              const QPalette &palette, const QRectF &visible) const;
 
 private:
     std::unique_ptr<QTextDocument> document;

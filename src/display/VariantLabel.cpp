@@ -6,9 +6,15 @@
 #include "RichLine.h"
 #include "VariantLabelAccessible.h"
 
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QtMath>
+
+#include <utility>
 
 namespace {
 
@@ -41,11 +47,13 @@ void VariantLabel::ensureMeasured() const
 {
     const QString markup = text();
     const bool isMeasured = line != nullptr || richLine != nullptr;
-    if (isMeasured && isSame(markup, measuredText) && font() == measuredFont) {
+    if (isMeasured && isSame(markup, measuredText) && font() == measuredFont
+        && logicalDpiY() == measuredDpi) {
         return;
     }
     measuredText = markup;
-    measuredFont = font();
+    measuredFont = QFont(font(), this);
+    measuredDpi = logicalDpiY();
     line.reset();
     richLine.reset();
     ColouredLine parsed(markup);
@@ -59,7 +67,12 @@ void VariantLabel::ensureMeasured() const
 QString VariantLabel::visibleText(qsizetype maximum) const
 {
     ensureMeasured();
-    return (richLine != nullptr ? richLine->text() : line->line().text()).left(maximum);
+    const QString words = richLine != nullptr ? richLine->text() : line->line().text();
+    if (words.size() <= maximum) {
+        return words;
+    }
+    const bool isPairCut = maximum > 0 && words[maximum - 1].isHighSurrogate();
+    return words.left(isPairCut ? maximum - 1 : maximum);
 }
 
 QSize VariantLabel::textSize() const
@@ -75,11 +88,12 @@ QSize VariantLabel::sizeHint() const
     ensurePolished();
     QSize extra(2 * margin(), 2 * margin());
     int indentation = indent();
+    // QLabel itself asks for twice the indent that it then paints with.
     if (indentation < 0 && frameWidth() > 0) {
         indentation = fontMetrics().horizontalAdvance(u'x') - 2 * margin();
     }
     if (indentation > 0) {
-        if (alignment() & (Qt::AlignLeft | Qt::AlignRight)) {
+        if (visualAlignment() & (Qt::AlignLeft | Qt::AlignRight)) {
             extra.rwidth() += indentation;
         }
         if (alignment() & (Qt::AlignTop | Qt::AlignBottom)) {
@@ -98,18 +112,34 @@ QSize VariantLabel::minimumSizeHint() const
     return sizeHint();
 }
 
+bool VariantLabel::hasHeightForWidth() const
+{
+    return false;
+}
+
+int VariantLabel::heightForWidth(int) const
+{
+    return sizeHint().height();
+}
+
+/// With a side also where none is set; the line always runs from left to right.
+Qt::Alignment VariantLabel::visualAlignment() const
+{
+    return QStyle::visualAlignment(Qt::LeftToRight, alignment());
+}
+
 QRect VariantLabel::textRoom() const
 {
+    const Qt::Alignment side = visualAlignment();
     QRect room = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
     int indentation = indent();
     if (indentation < 0 && frameWidth() > 0) {
         indentation = fontMetrics().horizontalAdvance(u'x') / 2 - margin();
     }
     if (indentation > 0) {
-        room.adjust(alignment() & Qt::AlignLeft ? indentation : 0,
-                    alignment() & Qt::AlignTop ? indentation : 0,
-                    alignment() & Qt::AlignRight ? -indentation : 0,
-                    alignment() & Qt::AlignBottom ? -indentation : 0);
+        room.adjust(side & Qt::AlignLeft ? indentation : 0, side & Qt::AlignTop ? indentation : 0,
+                    side & Qt::AlignRight ? -indentation : 0,
+                    side & Qt::AlignBottom ? -indentation : 0);
     }
     return room;
 }
@@ -122,6 +152,53 @@ QPalette VariantLabel::textPalette() const
     }
     return colours;
 }
+
+bool VariantLabel::event(QEvent *event)
+{
+    if (event->type() == QEvent::ScreenChangeInternal) {
+        updateGeometry();
+    }
+    return QLabel::event(event);
+}
+
+void VariantLabel::hideEvent(QHideEvent *event)
+{
+    if (line != nullptr) {
+        line->forgetPainted();
+    }
+    QLabel::hideEvent(event);
+}
+
+// With any of these, QLabel would make a document of the text once it has a text interaction.
+
+void VariantLabel::mousePressEvent(QMouseEvent *event)
+{
+    event->ignore();
+}
+
+void VariantLabel::mouseMoveEvent(QMouseEvent *event)
+{
+    event->ignore();
+}
+
+void VariantLabel::mouseReleaseEvent(QMouseEvent *event)
+{
+    event->ignore();
+}
+
+void VariantLabel::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->ignore();
+}
+
+void VariantLabel::keyPressEvent(QKeyEvent *event)
+{
+    event->ignore();
+}
+
+void VariantLabel::focusInEvent(QFocusEvent *) { }
+
+void VariantLabel::focusOutEvent(QFocusEvent *) { }
 
 void VariantLabel::paintEvent(QPaintEvent *event)
 {
@@ -148,7 +225,8 @@ void VariantLabel::paintText(QPainter &painter, const QRect &visible) const
     painter.save();
     painter.setClipRect(room);
     if (richLine != nullptr) {
-        richLine->draw(painter, room.topLeft(), textRoom().width(), alignment(), textPalette());
+        richLine->draw(painter, room.topLeft(), textRoom().width(), alignment(), textPalette(),
+                       visible);
     } else {
         paintLine(painter, room, visible);
     }
@@ -159,9 +237,9 @@ void VariantLabel::paintLine(QPainter &painter, const QRectF &room, const QRect 
 {
     QPointF start = room.topLeft();
     const qreal spare = qMax(textRoom().width() - line->advance(), 0.0);
-    if (alignment() & Qt::AlignRight) {
+    if (visualAlignment() & Qt::AlignRight) {
         start.rx() += spare;
-    } else if (alignment() & Qt::AlignHCenter) {
+    } else if (visualAlignment() & Qt::AlignHCenter) {
         start.rx() += spare / 2;
     }
     painter.setPen(textPalette().color(QPalette::Text));

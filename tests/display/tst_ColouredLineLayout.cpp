@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFontDatabase>
+#include <QLoggingCategory>
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QTextDocument>
@@ -14,6 +15,9 @@ namespace {
 
 constexpr quint32 kSeed = 777;
 constexpr qsizetype kMillion = 1000000;
+
+/// Twice the resolution of the tests' screen.
+constexpr int kDotsPerMeter = 7559;
 
 ColouredLine lineOf(const QString &content)
 {
@@ -53,6 +57,18 @@ bool isBlank(const QImage &picture)
     QImage blank(picture);
     blank.fill(Qt::white);
     return picture == blank;
+}
+
+bool hasColour(const QImage &picture, const QColor &colour)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) == colour) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 /// The bytes of a name as font files have it.
@@ -109,6 +125,7 @@ private slots:
     void fixedPitchFontHasOneAdvance();
     void otherFontsHaveNoCommonAdvance();
     void newFontsAreMeasuredAgain();
+    void fontsAreMeasuredAtEachResolution();
     void emptyLineIsAsHighAsTheFont();
     void anyLineTakesTheRoomOfQtsRichText();
     void longLinesTakeTheRoomOfQtsRichText_data();
@@ -118,6 +135,9 @@ private slots:
     void placesOutsideTheLineStayBlank();
     void nothingStandsBeyondTheWidestWidget();
     void manyLettersOfOtherScriptsAreCounted();
+    void manyLettersWithoutACommonAdvanceStandApart();
+    void lettersThatWereNotMeasuredKeepToTheirRoom();
+    void wordsBehindLettersWithoutWidthAreShown();
 };
 
 void TestColouredLineLayout::fixedPitchFontHasOneAdvance()
@@ -125,7 +145,7 @@ void TestColouredLineLayout::fixedPitchFontHasOneAdvance()
     const FixedPitchFonts::Metrics metrics =
         FixedPitchFonts::metrics(QFont(QStringLiteral("DejaVu Sans Mono"), 10));
 
-    QVERIFY(metrics.advanceSteps > 6 * FixedPitchFonts::kStepsPerPixel);
+    QVERIFY(metrics.advanceSteps > qint64(6) * FixedPitchFonts::kStepsPerPixel);
     QVERIFY(metrics.ascent > metrics.descent);
     QVERIFY(metrics.descent > 0);
 }
@@ -149,6 +169,20 @@ void TestColouredLineLayout::newFontsAreMeasuredAgain()
     QCOMPARE(QFontDatabase::applicationFontFamilies(added), QStringList{family});
     QVERIFY(FixedPitchFonts::metrics(QFont(family, 10)).advanceSteps > 0);
     QVERIFY(QFontDatabase::removeApplicationFont(added));
+}
+
+void TestColouredLineLayout::fontsAreMeasuredAtEachResolution()
+{
+    const QFont font(QStringLiteral("DejaVu Sans Mono"), 10);
+    QImage fine(1, 1, QImage::Format_RGB32);
+    fine.setDotsPerMeterX(kDotsPerMeter);
+    fine.setDotsPerMeterY(kDotsPerMeter);
+    const qint64 coarseSteps = FixedPitchFonts::metrics(font).advanceSteps;
+
+    const qint64 fineSteps = FixedPitchFonts::metrics(QFont(font, &fine)).advanceSteps;
+
+    QVERIFY(fineSteps > 3 * coarseSteps / 2);
+    QCOMPARE(FixedPitchFonts::metrics(font).advanceSteps, coarseSteps);
 }
 
 void TestColouredLineLayout::emptyLineIsAsHighAsTheFont()
@@ -186,6 +220,7 @@ void TestColouredLineLayout::longLinesTakeTheRoomOfQtsRichText_data()
     QTest::newRow("marks") << QStringLiteral("e\u0301").repeated(1500);
     QTest::newRow("pairs") << QStringLiteral("\U0001f600").repeated(1500);
     QTest::newRow("letter of another font at the end") << QStringLiteral("x").repeated(900) + u'語';
+    QTest::newRow("soft hyphens") << QStringLiteral("syl\u00ad").repeated(700);
     QTest::newRow("runs") << QStringLiteral("<b>[</b>a").repeated(2000);
     QTest::newRow("word of bold runs") << QStringLiteral("<b>WAVE</b>").repeated(2000);
 }
@@ -259,6 +294,49 @@ void TestColouredLineLayout::manyLettersOfOtherScriptsAreCounted()
 
     QCOMPARE(layout.width(), plain.width());
     QVERIFY(!isBlank(pictureOf(layout, layout.width() - 20, layout.width())));
+}
+
+void TestColouredLineLayout::manyLettersWithoutACommonAdvanceStandApart()
+{
+    QFont font;
+    font.setWordSpacing(2.0);
+    const QString content = QStringLiteral("x").repeated(2 * ColouredLineLayout::kLaidOutMaximum);
+
+    const ColouredLineLayout layout(lineOf(content), font);
+
+    QCOMPARE(layout.width(), ColouredLineLayout(lineOf(content), QFont()).width());
+}
+
+void TestColouredLineLayout::lettersThatWereNotMeasuredKeepToTheirRoom()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    constexpr int kPlainLetters = 588;
+    const QString measured = QStringLiteral("é").repeated(ColouredLineLayout::kLaidOutMaximum);
+    const QString wide = QStringLiteral("<span style=\"color: #ff0000\">%1</span>")
+                             .arg(QStringLiteral("\u0915").repeated(500));
+    const QString plain = QStringLiteral("x").repeated(12 + kPlainLetters);
+    const ColouredLineLayout layout(lineOf(measured + wide + plain), QFont());
+
+    const qreal letter = ColouredLineLayout(lineOf(QStringLiteral("x")), QFont()).advance();
+    const qreal left = layout.advance() - kPlainLetters * letter;
+
+    QVERIFY(hasColour(pictureOf(layout, left - 500, left - 100), Qt::red));
+    QVERIFY(!hasColour(pictureOf(layout, left + 1, left + 400), Qt::red));
+    QVERIFY(!isBlank(pictureOf(layout, left + 1, left + 400)));
+    QLoggingCategory::setFilterRules(QString());
+}
+
+void TestColouredLineLayout::wordsBehindLettersWithoutWidthAreShown()
+{
+    const QString nothing =
+        QStringLiteral("\u200b").repeated(3 * ColouredLineLayout::kLaidOutMaximum);
+    const ColouredLineLayout words(lineOf(QStringLiteral("x").repeated(300)), QFont());
+
+    const ColouredLineLayout layout(lineOf(nothing + QStringLiteral("x").repeated(300)), QFont());
+
+    QCOMPARE(layout.width(), words.width());
+    QVERIFY(!isBlank(pictureOf(layout, 0, 100)));
+    QVERIFY(!isBlank(pictureOf(layout, layout.width() - 100, layout.width())));
 }
 
 int main(int argc, char **argv)
