@@ -5,17 +5,23 @@
 
 #include <QImage>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVariant>
 
+#include <array>
 #include <memory>
 
-// The line of a value, of ten kilobytes to ten megabytes of markup, beside Qt's rich text.
+// The line of a value, of ten kilobytes to ten megabytes of markup, beside Qt's rich text; and
+// lines that cannot be measured by counting their letters.
 
 namespace {
 
 constexpr qsizetype kKilobyte = 1000;
 constexpr qsizetype kMarkupOfARecord = 500;
 constexpr QSize kWindow(800, 60);
+constexpr qsizetype kMillion = 1000000;
+constexpr qsizetype kHebrewCharacters = 4900;
+constexpr int kPlaces = 2;
 
 QVariantList records(qsizetype count)
 {
@@ -91,6 +97,57 @@ void repaint(benchmark::State &state)
     }
 }
 
+/// A million characters of one piece; of Hebrew, which shows by way of a document, as many as may.
+struct HardText
+{
+    const char *name;
+    QString piece;
+    qsizetype characters;
+};
+
+const std::array<HardText, 5> &hardTexts()
+{
+    static const std::array<HardText, 5> kTexts{{
+        {"han", QStringLiteral("語"), kMillion},
+        {"one word", QStringLiteral("é"), kMillion},
+        {"Thai", QStringLiteral("\u0e01\u0e33"), kMillion},
+        {"zero width", QStringLiteral("\u200b"), kMillion},
+        {"Hebrew records", QStringLiteral("[\u05d0\u05d1\u05d2: <b>1</b>], "), kHebrewCharacters},
+    }};
+    return kTexts;
+}
+
+std::unique_ptr<QScrollArea> hardLabel(const HardText &text)
+{
+    auto *label = new VariantLabel;
+    label->setText(VariantHtml::line(text.piece.repeated(text.characters / text.piece.size())));
+    return inScrollArea(label);
+}
+
+void showHard(benchmark::State &state)
+{
+    const HardText &text = hardTexts().at(std::size_t(state.range(0)));
+    state.SetLabel(text.name);
+    for (auto step : state) {
+        const std::unique_ptr<QScrollArea> area = hardLabel(text);
+        paint(*area);
+    }
+}
+
+/// At the start, in the middle, or at the end.
+void repaintHard(benchmark::State &state)
+{
+    const HardText &text = hardTexts().at(std::size_t(state.range(0)));
+    state.SetLabel(text.name);
+    const std::unique_ptr<QScrollArea> area = hardLabel(text);
+    QScrollBar &bar = *area->horizontalScrollBar();
+    bar.setValue(int(bar.maximum() * state.range(1) / kPlaces));
+    paint(*area);
+    for (auto step : state) {
+        paint(*area);
+    }
+}
+
 /// From the value to the first picture of the viewer, of lists of records of five nodes each.
 void showValue(benchmark::State &state)
 {
@@ -100,6 +157,7 @@ void showValue(benchmark::State &state)
         viewer->setValue(value);
         const std::unique_ptr<QScrollArea> area = inScrollArea(viewer);
         paint(*area);
+        failUnless(viewer->width() > kWindow.width(), state);
     }
 }
 
@@ -128,6 +186,21 @@ void addValues(benchmark::internal::Benchmark *family)
     family->Arg(kThousandRecords)->Arg(kHundredThousandNodes)->Unit(benchmark::kMillisecond);
 }
 
+void addHardTexts(benchmark::internal::Benchmark *family)
+{
+    family->DenseRange(0, int(hardTexts().size()) - 1)->Unit(benchmark::kMillisecond);
+}
+
+void addHardPlaces(benchmark::internal::Benchmark *family)
+{
+    for (int i = 0; i < int(hardTexts().size()); ++i) {
+        for (int place = 0; place <= kPlaces; ++place) {
+            family->Args({i, place});
+        }
+    }
+    family->Unit(benchmark::kMillisecond);
+}
+
 } // namespace
 
 BENCHMARK(show<VariantLabel>)->Name("ShowText/ours")->Apply(addSizes)->Arg(kTenMegabytes);
@@ -135,6 +208,9 @@ BENCHMARK(show<QLabel>)->Name("ShowText/QLabel")->Apply(addSizes);
 
 BENCHMARK(repaint<VariantLabel>)->Name("RepaintText/ours")->Apply(addSizes)->Arg(kTenMegabytes);
 BENCHMARK(repaint<QLabel>)->Name("RepaintText/QLabel")->Apply(addSizes);
+
+BENCHMARK(showHard)->Name("ShowHardText/ours")->Apply(addHardTexts);
+BENCHMARK(repaintHard)->Name("RepaintHardText/ours")->ArgNames({"", "place"})->Apply(addHardPlaces);
 
 BENCHMARK(showValue)->Name("ShowValue/ours")->Apply(addValues);
 BENCHMARK(makeMarkup)->Name("MakeMarkup/ours")->Apply(addValues);
