@@ -99,7 +99,7 @@ public:
         }
         window.resize(kWindowSize);
         window.show();
-        zoomTo(fitScale(pictures));
+        Views::zoomTo(fitScale(pictures));
         QCoreApplication::processEvents();
     }
 

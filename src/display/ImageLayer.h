@@ -41,8 +41,8 @@ public:
     /// Draws a zone's picture, clipped to the zone, with a painter that stands in viewer pixels.
     using DrawPicture = std::function<void(QPainter &, qsizetype)>;
 
-    /// Draws all pictures in this state. The zones are rectangles in the viewer.
-    ImageLayer(const State &state, const QList<QRectF> &zones, const DrawPicture &draw);
+    /// Draws all pictures in this state. The areas are the zones' rectangles in the viewer.
+    ImageLayer(const State &state, const QList<QRectF> &areas, const DrawPicture &draw);
 
     /// What the pixels show.
     [[nodiscard]] const State &state() const { return drawn; }

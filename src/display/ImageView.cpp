@@ -115,9 +115,24 @@ void TXImageViewer::View::scrollBy(const QPointF &viewerDistance, const QSize &v
     holdPosition(viewerSize);
 }
 
-void TXImageViewer::View::holdPosition(const QSize &viewerSize)
+QPointF TXImageViewer::View::heldPosition(const QSize &viewerSize) const
 {
     const QSizeF room = zone(0, viewerSize).size();
-    position = {held(position.x(), imageRect.width(), room.width(), scale),
-                held(position.y(), imageRect.height(), room.height(), scale)};
+    return {held(position.x(), imageRect.width(), room.width(), scale),
+            held(position.y(), imageRect.height(), room.height(), scale)};
+}
+
+void TXImageViewer::View::holdPosition(const QSize &viewerSize)
+{
+    position = heldPosition(viewerSize);
+}
+
+LayerKeeper::Content TXImageViewer::View::content(const QSize &viewerSize) const
+{
+    return {scale, heldPosition(viewerSize), viewerSize, pixmaps};
+}
+
+void TXImageViewer::View::letGoOfOtherLayer(const QSize &viewerSize)
+{
+    layers.keepOnlyFor(content(viewerSize));
 }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "ImageLayer.h"
+#include "LayerKeeper.h"
 #include "TXImageViewer.h"
 
 #include <QRectF>
 #include <QSize>
 
-#include <memory>
 #include <optional>
 
 /// What an image viewer knows of its pictures and where they stand.
@@ -43,10 +42,8 @@ struct TXImageViewer::View
     Overlay overlay;
     /// What a change of size does: 0 nothing, 1 sets ScaleShare again, 2 ScaleFit.
     int scalingMode = 0;
-    /// The state that was painted last, and the pictures as they stood there once it was painted
-    /// twice. Let go when the viewer is hidden.
-    ImageLayer::State lastPainted;
-    std::shared_ptr<const ImageLayer> layer;
+    /// What was painted, for the next paint. Let go when something else is to be shown, or nothing.
+    LayerKeeper layers;
     /// Where the mouse was last seen, in viewer pixels; nothing once it has left.
     std::optional<QPointF> mousePlace;
     /// What assistive tools were told last of pixelUnderMouse().
@@ -54,6 +51,9 @@ struct TXImageViewer::View
 
     /// The factor of a notch of the wheel and of a key press.
     static constexpr double kZoomStep = 2.0;
+
+    /// What this viewer knows.
+    [[nodiscard]] static const View &of(const TXImageViewer &viewer) { return *viewer.view; }
 
     /// The nearest whole numbers; halves go away from zero.
     [[nodiscard]] static QPointF rounded(const QPointF &place);
@@ -81,9 +81,18 @@ struct TXImageViewer::View
     /// that steps beyond an edge need not be taken back.
     void scrollBy(const QPointF &viewerDistance, const QSize &viewerSize);
 
-    /// Brings the position to where painting has it: no edge of a picture inside its zone, and a
-    /// picture that is smaller than the zone in the middle.
+    /// The position that painting gives it: no edge of a picture inside its zone, and a picture
+    /// that is smaller than the zone in the middle.
+    [[nodiscard]] QPointF heldPosition(const QSize &viewerSize) const;
+
+    /// Brings the position to the held one.
     void holdPosition(const QSize &viewerSize);
+
+    /// What a paint shows in a viewer of this size.
+    [[nodiscard]] LayerKeeper::Content content(const QSize &viewerSize) const;
+
+    /// To be called after each change of it.
+    void letGoOfOtherLayer(const QSize &viewerSize);
 
 private:
     [[nodiscard]] int zoneAt(const QPointF &place, const QSize &viewerSize) const;

@@ -82,7 +82,7 @@ void TXImageViewer::setPixmaps(const QList<QPixmap> &pixmaps)
     if (view->scalingMode != 0) {
         repeatScaling();
     } else if (std::isfinite(view->scale) && view->scale >= 0.0) {
-        update();
+        showChange();
         ImageViewerAccessible::tellOfText(*this);
     } else {
         scale(ScaleFit);
@@ -157,7 +157,7 @@ QPointF TXImageViewer::position() const
 void TXImageViewer::setPosition(QPointF position)
 {
     view->moveTo(position);
-    update();
+    showChange();
     tellOfPixel();
 }
 
@@ -194,6 +194,7 @@ void TXImageViewer::wheelEvent(QWheelEvent *event)
 void TXImageViewer::leaveEvent(QEvent *)
 {
     view->mousePlace.reset();
+    updateMarker();
     tellOfPixel();
     emit hover(QPointF(), Qt::NoButton, Qt::NoButton, Qt::NoModifier, false, -1, QPoint());
 }
@@ -212,24 +213,37 @@ void TXImageViewer::mouseMoveEvent(QMouseEvent *event)
         const QPointF place = View::rounded(event->position());
         view->moveBy(place - view->lastMousePos);
         view->lastMousePos = place;
-        update();
+        showChange();
     }
+    updateMarker();
     emitHover(*event);
-    if (!view->mouseMarker.isNull()) {
-        update();
-    }
 }
 
 void TXImageViewer::mouseReleaseEvent(QMouseEvent *event)
 {
-    unsetCursor();
-    view->dragging = false;
+    endDrag();
     emitHover(*event);
 }
 
 void TXImageViewer::resizeEvent(QResizeEvent *)
 {
+    showChange();
     repeatScaling();
+}
+
+void TXImageViewer::hideEvent(QHideEvent *event)
+{
+    view->layers.clear();
+    endLostDrag();
+    QWidget::hideEvent(event);
+}
+
+void TXImageViewer::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::EnabledChange) {
+        endLostDrag();
+    }
+    QWidget::changeEvent(event);
 }
 
 void TXImageViewer::keyPressEvent(QKeyEvent *event)
@@ -244,10 +258,25 @@ bool TXImageViewer::isZoomedByUser() const
     return view->minScale >= 0.0;
 }
 
+/// Paints what has changed, for which nothing need be kept any more.
+void TXImageViewer::showChange()
+{
+    view->letGoOfOtherLayer(size());
+    update();
+}
+
+/// The marker follows the mouse when it is painted.
+void TXImageViewer::updateMarker()
+{
+    if (!view->mouseMarker.isNull()) {
+        update();
+    }
+}
+
 void TXImageViewer::showAtScale(double scale)
 {
     view->scale = scale;
-    update();
+    showChange();
     ImageViewerAccessible::tellOfScale(*this);
     emit scaleChanged(static_cast<float>(scale));
 }
@@ -275,7 +304,7 @@ bool TXImageViewer::panByKey(const QKeyEvent &event)
     }
     const QSizeF step = isFine ? QSizeF(1.0, 1.0) : view->zone(0, size()).size() / kStepsInZone;
     view->scrollBy({way.x() * step.width(), way.y() * step.height()}, size());
-    update();
+    showChange();
     tellOfPixel();
     return true;
 }
@@ -305,6 +334,21 @@ bool TXImageViewer::zoomByKey(const QKeyEvent &event)
     }
 }
 
+void TXImageViewer::endDrag()
+{
+    unsetCursor();
+    view->dragging = false;
+}
+
+/// For what keeps the release of the button from coming.
+void TXImageViewer::endLostDrag()
+{
+    if (view->dragging) {
+        endDrag();
+    }
+}
+
+/// Last of all, as a slot may delete the viewer.
 void TXImageViewer::emitHover(const QMouseEvent &event)
 {
     view->mousePlace = event.position();

@@ -20,8 +20,9 @@ class ImageViewerAccessible;
 ///     viewer->setMouseMarker(crosshair, QPoint(-1, -1));
 ///     connect(viewer, &TXImageViewer::hover, this, &Window::showColourUnderMouse);
 ///
-/// Dragging with any button moves the pictures, the wheel zooms by two: in when it is turned away
-/// from the user, else out. With the focus (Tab or a click; Qt::StrongFocus) the keys are:
+/// Dragging with any button moves the pictures, until a button is released or the viewer is hidden
+/// or disabled. The wheel zooms by two: in when it is turned away from the user, else out. With the
+/// focus (Tab or a click; Qt::StrongFocus) the keys are:
 /// - arrows show what lies a tenth of a zone further that way, with Control a viewer pixel; they
 ///   stop at the edges of the pictures;
 /// - + and = zoom in by two, - zooms out by two, as the wheel does;
@@ -36,7 +37,8 @@ class ImageViewerAccessible;
 ///
 /// Sizes and places are device-independent pixels. "Picture pixels" count from the top left of the
 /// first picture, by whose size all are laid out; pictures of other sizes start at the same place
-/// and may be cut off.
+/// and may be cut off. They are the pixels that a pixmap has, whatever its device pixel ratio: at
+/// the scale 1 a pixmap for screens of twice the pixels is shown at twice its usual size.
 ///
 /// To show one picture in a form, a QLabel or TXAspectRatioPixmapLabel will do; for scenes of many
 /// things take a QGraphicsView.
@@ -71,7 +73,12 @@ public:
     /// What a host paints over each zone: painter, number of the zone, whether the painter stands
     /// in picture pixels (true) or in the viewer's (false), the place of the picture's top left
     /// corner in the viewer, and the scale. Called twice a zone at each paint, clipped to the zone.
-    /// It may leave the painter in any state but must not end it.
+    /// Each zone begins with a fresh painter: what the first call sets, such as a pen, holds for
+    /// the second in the same zone, but for the transform, and not for the next zone. The painter
+    /// may be left in any state, but each save() needs its restore() and no restore() may come
+    /// without one; in graphics scenes and where a host renders the viewer all zones share the
+    /// host's painter. An overlay must not end the painter nor delete the viewer. It may change the
+    /// viewer; this paint still shows what was there before.
     using Overlay = std::function<void(QPainter *, int, bool, QPointF, double)>;
 
     /// A viewer without pictures.
@@ -119,7 +126,8 @@ public:
 
     /// A small picture that is drawn in all zones at once where the mouse is in one of them, with
     /// its hot spot there. A negative coordinate of the hot spot means half the marker's length,
-    /// rounded down. A null pixmap takes the marker away.
+    /// rounded down. A null pixmap takes the marker away. Lengths are device-independent pixels: a
+    /// marker with a device pixel ratio is drawn as large as a label shows it.
     void setMouseMarker(QPixmap marker, QPoint hotSpot);
 
     /// Sets what is painted over the zones; an empty function takes it away.
@@ -132,6 +140,7 @@ signals:
     /// picture pixels, (0, 0) outside of all zones, and at most what an int holds. `isInside` tells
     /// whether it lies in the first picture, of which the last row and column count as outside.
     /// On leaving: (0, 0), no buttons, no modifiers, not inside, zone -1, pixel (0, 0).
+    /// The viewer may be deleted by a slot of it.
     void hover(const QPointF &localPos, Qt::MouseButton button, Qt::MouseButtons buttons,
                Qt::KeyboardModifiers modifiers, bool isInside, int zoneIndex, QPoint pixmapCoord);
 
@@ -148,19 +157,26 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+
+    /// What a viewer knows; of no use outside of the library.
+    struct View;
 
 private:
     friend class ImageViewerAccessible;
-    struct View;
     class Painting;
 
     [[nodiscard]] bool isZoomedByUser() const;
+    void showChange();
     void showAtScale(double scale);
     void zoomBy(double factor);
     void repeatScaling();
     [[nodiscard]] bool panByKey(const QKeyEvent &event);
     [[nodiscard]] bool zoomByKey(const QKeyEvent &event);
+    void updateMarker();
+    void endDrag();
+    void endLostDrag();
     void emitHover(const QMouseEvent &event);
     void tellOfPixel();
 

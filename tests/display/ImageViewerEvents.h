@@ -82,7 +82,7 @@ public:
         paints = 0;
     }
 
-    [[nodiscard]] bool isRepainted()
+    [[nodiscard]] bool isRepainted() const
     {
         QCoreApplication::processEvents();
         return paints > 0;

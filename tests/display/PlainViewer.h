@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ImageView.h"
 #include "PixelProbe.h"
 #include "TXImageViewer.h"
 #include "TestBase.h"
@@ -9,9 +10,23 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <optional>
 
 /// What the tests of the image viewer's painting share.
 namespace ImagePainting {
+
+/// Tells what an image viewer keeps to itself.
+class OpenViewer : public TXImageViewer
+{
+public:
+    using TXImageViewer::TXImageViewer;
+
+    /// Whether it keeps the pixels that it has painted.
+    [[nodiscard]] bool hasLayer() const { return View::of(*this).layers.hasLayer(); }
+
+    /// What assistive tools were told last of the pixel under the mouse.
+    [[nodiscard]] std::optional<QPoint> toldPixel() const { return View::of(*this).toldPixel; }
+};
 
 /// Shows pictures as an image viewer does, each drawn anew at each paint and nothing kept.
 class PlainViewer : public QWidget

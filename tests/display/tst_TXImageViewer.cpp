@@ -21,7 +21,7 @@ constexpr auto kOtherRelation = static_cast<TXImageViewer::Relation>(-3);
 
 QList<QPixmap> pictures(int count, int width, int height)
 {
-    return QList<QPixmap>(count, picture(width, height));
+    return {count, picture(width, height)};
 }
 
 } // namespace

@@ -35,6 +35,12 @@ struct Hover
     QPoint pixel;
 };
 
+void leave(QWidget &widget)
+{
+    QEvent event(QEvent::Leave);
+    QApplication::sendEvent(&widget, &event);
+}
+
 } // namespace
 
 class TestTXImageViewerMouse : public TestBase
@@ -73,6 +79,13 @@ private slots:
     void anyReleaseEndsTheDrag();
     void moveRepaintsForADragOrAMarkerOnly_data();
     void moveRepaintsForADragOrAMarkerOnly();
+    void leavingRepaintsForAMarkerOnly();
+    void markerIsAskedForBeforeHoverIsTold();
+    void slotOfHoverMayDeleteTheViewer_data();
+    void slotOfHoverMayDeleteTheViewer();
+    void lostReleaseEndsTheDrag_data();
+    void lostReleaseEndsTheDrag();
+    void hidingLeavesTheHostsCursorAlone();
 
 private:
     std::unique_ptr<PaintedViewer> viewer;
@@ -219,8 +232,7 @@ void TestTXImageViewerMouse::leavingHoversOutside()
 {
     moveMouse(*viewer, {300.0, 150.0});
     QSignalSpy hovered(viewer.get(), &TXImageViewer::hover);
-    QEvent event(QEvent::Leave);
-    QApplication::sendEvent(viewer.get(), &event);
+    leave(*viewer);
     QCOMPARE(hovered.size(), 1);
     const Hover hover(hovered.at(0));
     QCOMPARE(hover.place, QPointF(0.0, 0.0));
@@ -363,6 +375,79 @@ void TestTXImageViewerMouse::moveRepaintsForADragOrAMarkerOnly()
     viewer->settle();
     dragMouse(*viewer, {110.0, 100.0});
     QCOMPARE(viewer->isRepainted(), isDragged || hasMarker);
+}
+
+void TestTXImageViewerMouse::leavingRepaintsForAMarkerOnly()
+{
+    for (const bool hasMarker : {false, true}) {
+        viewer->setMouseMarker(hasMarker ? picture(5, 5) : QPixmap(), {-1, -1});
+        viewer->settle();
+        leave(*viewer);
+        QCOMPARE(viewer->isRepainted(), hasMarker);
+    }
+}
+
+// After it there may be no viewer any more.
+void TestTXImageViewerMouse::markerIsAskedForBeforeHoverIsTold()
+{
+    viewer->setMouseMarker(picture(5, 5), {-1, -1});
+    viewer->settle();
+    bool isRepainted = false;
+    connect(viewer.get(), &TXImageViewer::hover, this,
+            [&] { isRepainted = viewer->isRepainted(); });
+    moveMouse(*viewer, {110.0, 100.0});
+    QVERIFY(isRepainted);
+}
+
+void TestTXImageViewerMouse::slotOfHoverMayDeleteTheViewer_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::newRow("press") << QEvent::MouseButtonPress;
+    QTest::newRow("move") << QEvent::MouseMove;
+    QTest::newRow("release") << QEvent::MouseButtonRelease;
+}
+
+void TestTXImageViewerMouse::slotOfHoverMayDeleteTheViewer()
+{
+    QFETCH(const QEvent::Type, type);
+    viewer->setMouseMarker(picture(5, 5), {-1, -1});
+    viewer->settle();
+    connect(viewer.get(), &TXImageViewer::hover, this, [this] { viewer.reset(); });
+    sendMouse(*viewer, type, {110.0, 100.0}, Qt::LeftButton);
+    QVERIFY(!viewer);
+}
+
+void TestTXImageViewerMouse::lostReleaseEndsTheDrag_data()
+{
+    QTest::addColumn<bool>("isHidden");
+    QTest::newRow("hidden") << true;
+    QTest::newRow("disabled") << false;
+}
+
+void TestTXImageViewerMouse::lostReleaseEndsTheDrag()
+{
+    QFETCH(const bool, isHidden);
+    viewer->settle();
+    pressMouse(*viewer, {100.0, 100.0});
+    if (isHidden) {
+        viewer->hide();
+        viewer->show();
+    } else {
+        viewer->setEnabled(false);
+        viewer->setEnabled(true);
+    }
+    QCOMPARE(viewer->cursor().shape(), Qt::ArrowCursor);
+    moveMouse(*viewer, {150.0, 100.0});
+    QCOMPARE(viewer->position(), QPointF(0.0, 0.0));
+}
+
+void TestTXImageViewerMouse::hidingLeavesTheHostsCursorAlone()
+{
+    viewer->settle();
+    viewer->setCursor(Qt::CrossCursor);
+    viewer->hide();
+    viewer->setEnabled(false);
+    QCOMPARE(viewer->cursor().shape(), Qt::CrossCursor);
 }
 
 int main(int argc, char **argv)

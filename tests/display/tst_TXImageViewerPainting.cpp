@@ -1,3 +1,4 @@
+#include "ImageViewerEvents.h"
 #include "PlainViewer.h"
 
 using ImagePainting::filled;
@@ -13,6 +14,8 @@ private slots:
     void zonesShowThePicturesSideBySide();
     void allAreLaidOutByTheFirst();
     void zonesOfAPartOfAPixelMeet();
+    void pictureIsShownByItsOwnPixels_data();
+    void pictureIsShownByItsOwnPixels();
     void nothingIsShownWithoutPictures();
     void nullPictureLeavesItsZoneEmpty();
     void pixelsAreBlendedOnlyBelowTheirSize_data();
@@ -22,6 +25,7 @@ private slots:
     void positionIsHeldWhilePainting_data();
     void positionIsHeldWhilePainting();
     void positionIsKeptWithoutPictures();
+    void pixelUnderAMouseAtRestFollowsThePosition();
     void focusFrameStandsAroundAllZones();
 };
 
@@ -102,6 +106,37 @@ void TestTXImageViewerPainting::zonesOfAPartOfAPixelMeet()
         const int zone = x < 133 ? 0 : x < 267 ? 1 : 2;
         QVERIFY2(probe.at({x, 10}) == colours[zone], qPrintable(QString::number(x)));
     }
+}
+
+void TestTXImageViewerPainting::pictureIsShownByItsOwnPixels_data()
+{
+    QTest::addColumn<double>("pictureRatio");
+    QTest::addColumn<double>("scale");
+    for (const double ratio : {2.0, 1.5, 0.5}) {
+        for (const double scale : {0.37, 1.0, 2.5, 999.0, 1001.0, 1500.0, 3000.0}) {
+            QTest::addRow("ratio %g, %g times", ratio, scale) << ratio << scale;
+        }
+    }
+}
+
+// Also under the mouse: the pixel that is told is the pixel that is seen.
+void TestTXImageViewerPainting::pictureIsShownByItsOwnPixels()
+{
+    QFETCH(double, pictureRatio);
+    QFETCH(double, scale);
+    QRandomGenerator random(1);
+    const QPixmap picture = ImagePainting::noise({41, 31}, false, random);
+    QPixmap dense = picture;
+    dense.setDevicePixelRatio(pictureRatio);
+    TXImageViewer viewer;
+    viewer.setScaleLimits(0.01, 1e6);
+    viewer.resize(100, 50);
+    viewer.setPixmap(picture);
+    viewer.scale(scale, TXImageViewer::Absolute);
+    const QImage wanted = ImagePainting::painted(viewer);
+
+    viewer.setPixmap(dense);
+    QCOMPARE(ImagePainting::painted(viewer), wanted);
 }
 
 void TestTXImageViewerPainting::nothingIsShownWithoutPictures()
@@ -225,6 +260,22 @@ void TestTXImageViewerPainting::positionIsKeptWithoutPictures()
     viewer.setPosition({1000.0, 1000.0});
     ImagePainting::painted(viewer);
     QCOMPARE(viewer.position(), QPointF(1000.0, 1000.0));
+}
+
+void TestTXImageViewerPainting::pixelUnderAMouseAtRestFollowsThePosition()
+{
+    ImagePainting::OpenViewer viewer;
+    viewer.resize(100, 100);
+    viewer.setPixmap(quarters({400, 400}));
+    viewer.scale(1.0, TXImageViewer::Absolute);
+    moveMouse(viewer, {50.0, 50.0});
+    QCOMPARE(viewer.toldPixel(), std::optional(QPoint(200, 200)));
+
+    viewer.setPosition({1000.0, 0.0});
+    QCOMPARE(viewer.toldPixel(), std::nullopt);
+    ImagePainting::painted(viewer);
+    QCOMPARE(viewer.position(), QPointF(150.0, 0.0));
+    QCOMPARE(viewer.toldPixel(), std::optional(QPoint(50, 200)));
 }
 
 void TestTXImageViewerPainting::focusFrameStandsAroundAllZones()

@@ -2,7 +2,10 @@
 
 #include <QBackingStore>
 
+#include <functional>
+
 using ImagePainting::noise;
+using ImagePainting::OpenViewer;
 using ImagePainting::painted;
 using ImagePainting::PlainViewer;
 
@@ -21,12 +24,18 @@ private slots:
     void movedPicturesLookAsDrawnAnew();
     void picturesComeBackAfterHiding();
     void childAtHalfAPixelLooksAsDrawnAnew();
+    void changesLetTheKeptPixelsGo_data();
+    void changesLetTheKeptPixelsGo();
+    void positionBeyondTheEdgeKeepsThePixels();
+    void viewerThatWasNeverShownKeepsNothing();
 };
 
 namespace {
 
 constexpr quint32 kSeed = 20240607;
 constexpr int kStates = 24;
+
+using Change = std::function<void(TXImageViewer &)>;
 
 /// The whole window as it stands on the screen.
 QImage onScreen(QWidget &widget)
@@ -94,10 +103,12 @@ void TestTXImageViewerPaintingLayer::paintedAgainLooksAsDrawnAnew()
     QFETCH(bool, isTransparent);
     QFETCH(QString, styleSheet);
     QRandomGenerator random(kSeed);
-    TXImageViewer viewer;
+    OpenViewer viewer;
     viewer.setStyleSheet(styleSheet);
     viewer.setAttribute(Qt::WA_StyledBackground, !styleSheet.isEmpty());
     viewer.setScaleLimits(0.001, 100.0);
+    viewer.show();
+    int kept = 0;
 
     for (int i = 0; i < kStates; ++i) {
         const int zones = random.bounded(1, 6);
@@ -119,22 +130,27 @@ void TestTXImageViewerPaintingLayer::paintedAgainLooksAsDrawnAnew()
                                     .arg(QLatin1String(time))
                                     .arg(viewer.scale())));
         }
+        kept += viewer.hasLayer() ? 1 : 0;
     }
+    QVERIFY(kept > 0);
 }
 
 void TestTXImageViewerPaintingLayer::partIsPaintedAsDrawnAnew()
 {
     QRandomGenerator random(kSeed);
-    TXImageViewer viewer;
+    OpenViewer viewer;
     viewer.resize(400, 300);
     viewer.setPixmaps(randomPictures(3, true, random));
     viewer.scale(0.5, TXImageViewer::Absolute);
+    viewer.show();
     PlainViewer plain(viewer);
     const QRect part(100, 50, 20, 30);
+    painted(viewer);
 
     QImage found(part.size(), QImage::Format_ARGB32_Premultiplied);
     found.fill(Qt::transparent);
     viewer.render(&found, QPoint(), part);
+    QVERIFY(viewer.hasLayer());
     QCOMPARE(difference(found, painted(plain).copy(part)), QString());
 }
 
@@ -234,7 +250,7 @@ void TestTXImageViewerPaintingLayer::childAtHalfAPixelLooksAsDrawnAnew()
     QRandomGenerator random(kSeed);
     QWidget window;
     window.resize(300, 200);
-    auto *viewer = new TXImageViewer(&window);
+    auto *viewer = new OpenViewer(&window);
     viewer->setGeometry(1, 1, 250, 150);
     viewer->setPixmaps(randomPictures(3, false, random));
     viewer->scale(0.6, TXImageViewer::Absolute);
@@ -245,8 +261,78 @@ void TestTXImageViewerPaintingLayer::childAtHalfAPixelLooksAsDrawnAnew()
     plain.setGeometry(1, 1, 250, 150);
 
     const QImage wanted = painted(plainWindow, 1.5);
+    window.show();
     QCOMPARE(difference(painted(window, 1.5), wanted), QString());
     QCOMPARE(difference(painted(window, 1.5), wanted), QString());
+    QVERIFY(viewer->hasLayer());
+}
+
+void TestTXImageViewerPaintingLayer::changesLetTheKeptPixelsGo_data()
+{
+    QTest::addColumn<Change>("change");
+    const auto add = [](const char *name, const Change &change) {
+        QTest::newRow(name) << change;
+    };
+    add("no pictures", [](TXImageViewer &viewer) { viewer.setPixmaps({}); });
+    add("another picture", [](TXImageViewer &viewer) {
+        viewer.setPixmap(ImagePainting::filled({3, 3}, Qt::red));
+    });
+    add("scale", [](TXImageViewer &viewer) { viewer.scale(3.0, TXImageViewer::Absolute); });
+    add("limits", [](TXImageViewer &viewer) { viewer.setScaleLimits(0.1, 0.2); });
+    add("fit", [](TXImageViewer &viewer) { viewer.scale(TXImageViewer::ScaleFit); });
+    add("position", [](TXImageViewer &viewer) { viewer.setPosition({3.0, 0.0}); });
+    add("key", [](TXImageViewer &viewer) { QTest::keyClick(&viewer, Qt::Key_Right); });
+    add("size", [](TXImageViewer &viewer) { viewer.resize(401, 300); });
+    add("no size", [](TXImageViewer &viewer) { viewer.resize(0, 0); });
+    add("hidden", [](TXImageViewer &viewer) { viewer.hide(); });
+    add("another device pixel ratio", [](TXImageViewer &viewer) { painted(viewer, 2.0); });
+    add("painted where nothing is kept", [](TXImageViewer &viewer) {
+        QImage image(viewer.size(), QImage::Format_RGB16);
+        viewer.render(&image);
+    });
+}
+
+void TestTXImageViewerPaintingLayer::changesLetTheKeptPixelsGo()
+{
+    QFETCH(const Change, change);
+    OpenViewer viewer;
+    viewer.resize(400, 300);
+    viewer.setPixmap(ImagePainting::quarters({1000, 800}));
+    viewer.scale(0.7, TXImageViewer::Absolute);
+    viewer.show();
+    painted(viewer);
+    painted(viewer);
+    QVERIFY(viewer.hasLayer());
+    change(viewer);
+    QVERIFY(!viewer.hasLayer());
+}
+
+// The picture stays where it is.
+void TestTXImageViewerPaintingLayer::positionBeyondTheEdgeKeepsThePixels()
+{
+    OpenViewer viewer;
+    viewer.resize(400, 300);
+    viewer.setPixmap(ImagePainting::quarters({1000, 100}));
+    viewer.show();
+    painted(viewer);
+    painted(viewer);
+    viewer.setPosition({500.0, 100.0});
+    viewer.setPixmaps(viewer.pixmaps());
+    QVERIFY(viewer.hasLayer());
+    painted(viewer);
+    QCOMPARE(viewer.position(), QPointF());
+    QVERIFY(viewer.hasLayer());
+}
+
+void TestTXImageViewerPaintingLayer::viewerThatWasNeverShownKeepsNothing()
+{
+    OpenViewer viewer;
+    viewer.resize(400, 300);
+    viewer.setPixmap(ImagePainting::quarters({1000, 100}));
+    for (int i = 0; i < 3; ++i) {
+        viewer.grab();
+        QVERIFY(!viewer.hasLayer());
+    }
 }
 
 int main(int argc, char **argv)

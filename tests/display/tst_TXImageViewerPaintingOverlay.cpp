@@ -9,7 +9,7 @@ using ImagePainting::filled;
 using ImagePainting::painted;
 using ImagePainting::quarters;
 
-// What a host paints over the zones, and the marker at the mouse.
+// What a host paints over the zones.
 class TestTXImageViewerPaintingOverlay : public TestBase
 {
     Q_OBJECT
@@ -25,12 +25,6 @@ private slots:
     void overlayMayChangeTheViewer();
     void overlayIsCalledWithTheHeldPosition();
     void endlessScaleReachesTheOverlayButNotItsPainter();
-    void markerShowsInAllZones_data();
-    void markerShowsInAllZones();
-    void markerNeedsTheMouseInside_data();
-    void markerNeedsTheMouseInside();
-    void markerReachesIntoTheNextZone();
-    void markerStandsOverTheOverlay();
 };
 
 namespace {
@@ -273,108 +267,6 @@ void TestTXImageViewerPaintingOverlay::endlessScaleReachesTheOverlayButNotItsPai
     QCOMPARE(calls[0].transform, QTransform::fromTranslate(50.0, 50.0));
     QVERIFY(calls[0].clip.isEmpty());
     QCOMPARE(calls[1].transform, QTransform());
-}
-
-void TestTXImageViewerPaintingOverlay::markerShowsInAllZones_data()
-{
-    QTest::addColumn<QPoint>("mouse");
-    QTest::addColumn<double>("devicePixelRatio");
-    for (const double ratio : {1.0, 2.0}) {
-        QTest::addRow("first zone at %g", ratio) << QPoint(60, 40) << ratio;
-        QTest::addRow("second zone at %g", ratio) << QPoint(160, 40) << ratio;
-        QTest::addRow("third zone at %g", ratio) << QPoint(260, 40) << ratio;
-    }
-}
-
-void TestTXImageViewerPaintingOverlay::markerShowsInAllZones()
-{
-    QFETCH(QPoint, mouse);
-    QFETCH(double, devicePixelRatio);
-    const QPixmap picture = filled({80, 80}, Qt::white);
-    TXImageViewer viewer;
-    viewer.resize(300, 100);
-    viewer.setPixmaps({picture, picture, picture});
-    viewer.setMouseMarker(quarters({8, 8}), {3, 2});
-    putMouse(viewer, mouse);
-
-    const PixelProbe probe(viewer, devicePixelRatio);
-    for (const int left : {0, 100, 200}) {
-        QCOMPARE(probe.at({left + 57, 38}), QColor(Qt::red));
-        QCOMPARE(probe.at({left + 60, 41}), QColor(Qt::red));
-        QCOMPARE(probe.at({left + 61, 41}), QColor(Qt::green));
-        QCOMPARE(probe.at({left + 60, 42}), QColor(Qt::blue));
-        QCOMPARE(probe.at({left + 64, 45}), QColor(Qt::yellow));
-        QCOMPARE(probe.at({left + 56, 38}), QColor(Qt::white));
-        QCOMPARE(probe.at({left + 65, 45}), QColor(Qt::white));
-        QCOMPARE(probe.at({left + 57, 46}), QColor(Qt::white));
-    }
-}
-
-void TestTXImageViewerPaintingOverlay::markerNeedsTheMouseInside_data()
-{
-    QTest::addColumn<QPoint>("mouse");
-    QTest::addColumn<bool>("isShown");
-    // The picture stands from 10 to 89 of each zone.
-    QTest::newRow("in the picture") << QPoint(50, 50) << true;
-    QTest::newRow("at its top left") << QPoint(10, 10) << true;
-    QTest::newRow("in its last pixel but one") << QPoint(88, 88) << true;
-    QTest::newRow("in its last column") << QPoint(89, 50) << false;
-    QTest::newRow("in its last row") << QPoint(50, 89) << false;
-    QTest::newRow("beside the picture") << QPoint(95, 50) << false;
-    QTest::newRow("above the picture") << QPoint(150, 3) << false;
-    QTest::newRow("beside the viewer") << QPoint(250, 50) << false;
-}
-
-void TestTXImageViewerPaintingOverlay::markerNeedsTheMouseInside()
-{
-    QFETCH(QPoint, mouse);
-    QFETCH(bool, isShown);
-    const QPixmap picture = filled({80, 80}, Qt::white);
-    TXImageViewer viewer;
-    viewer.resize(200, 100);
-    viewer.setPixmaps({picture, picture});
-    viewer.scale(1.0, TXImageViewer::Absolute);
-    putMouse(viewer, mouse);
-    const QImage without = painted(viewer);
-
-    viewer.setMouseMarker(filled({4, 4}, Qt::black), {0, 0});
-    QCOMPARE(painted(viewer) != without, isShown);
-    viewer.setMouseMarker(QPixmap(), {0, 0});
-    QCOMPARE(painted(viewer), without);
-}
-
-void TestTXImageViewerPaintingOverlay::markerReachesIntoTheNextZone()
-{
-    const QPixmap picture = filled({100, 100}, Qt::white);
-    TXImageViewer viewer;
-    viewer.resize(300, 100);
-    viewer.setPixmaps({picture, picture, picture});
-    viewer.setMouseMarker(filled({20, 4}, Qt::black), {0, 0});
-    putMouse(viewer, {190, 50});
-
-    const PixelProbe probe(viewer);
-    QCOMPARE(probe.at({5, 52}), QColor(Qt::white));
-    QCOMPARE(probe.at({90, 52}), QColor(Qt::black));
-    QCOMPARE(probe.at({109, 52}), QColor(Qt::black));
-    QCOMPARE(probe.at({110, 52}), QColor(Qt::white));
-    QCOMPARE(probe.at({209, 52}), QColor(Qt::black));
-    QCOMPARE(probe.at({299, 52}), QColor(Qt::black));
-}
-
-void TestTXImageViewerPaintingOverlay::markerStandsOverTheOverlay()
-{
-    TXImageViewer viewer;
-    showTwo(viewer);
-    viewer.setMouseMarker(filled({4, 4}, Qt::black), {0, 0});
-    viewer.setOverlay([](QPainter *painter, int, bool, QPointF, double) {
-        painter->fillRect(0, 0, 1000, 1000, Qt::red);
-    });
-    putMouse(viewer, {50, 50});
-
-    const PixelProbe probe(viewer);
-    QCOMPARE(probe.at({50, 50}), QColor(Qt::black));
-    QCOMPARE(probe.at({150, 50}), QColor(Qt::black));
-    QCOMPARE(probe.at({160, 60}), QColor(Qt::red));
 }
 
 int main(int argc, char **argv)
