@@ -1,5 +1,6 @@
 #include "TXVariantViewer.h"
 
+#include "OutOfView.h"
 #include "VariantEntries.h"
 #include "VariantHtml.h"
 #include "VariantKind.h"
@@ -7,22 +8,25 @@
 #include "VariantMoreButton.h"
 
 #include <QGridLayout>
+#include <QPointer>
 
 TXVariantViewer::TXVariantViewer(QWidget *parent)
     : QWidget(parent)
     , label(new VariantLabel(this))
 {
     setAutoFillBackground(true);
-    auto *cells = new QGridLayout(this);
-    cells->setContentsMargins(0, 0, 0, 0);
-    cells->setSpacing(0);
-    cells->addWidget(label);
+    // The notation runs from left to right in any language.
+    setLayoutDirection(Qt::LeftToRight);
+    makeGrid();
+    grid()->addWidget(label);
     prepareForUser();
     setValue(QVariant());
 }
 
 TXVariantViewer::~TXVariantViewer() = default;
 
+// The signature is given.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 QString TXVariantViewer::variantToHtml(QVariant value, bool preview)
 {
     return VariantHtml::fromVariant(value, preview);
@@ -48,14 +52,14 @@ bool TXVariantViewer::hasPreview() const
     return preview;
 }
 
-void TXVariantViewer::setPreview(bool isWanted)
+void TXVariantViewer::setPreview(bool withPreview)
 {
-    preview = isWanted;
+    preview = withPreview;
 }
 
-void TXVariantViewer::setExpanded(bool isWanted)
+void TXVariantViewer::setExpanded(bool toBeExpanded)
 {
-    if (isWanted) {
+    if (toBeExpanded) {
         expand();
     } else {
         collapse();
@@ -64,8 +68,13 @@ void TXVariantViewer::setExpanded(bool isWanted)
 
 void TXVariantViewer::setValue(QVariant newValue)
 {
+    const QPointer<TXVariantViewer> self(this);
     if (expanded) {
         collapse();
+    }
+    if (self.isNull()) {
+        // A slot on resized() has deleted it.
+        return;
     }
     if (expanded) {
         // A slot on resized() has opened it again.
@@ -82,6 +91,26 @@ void TXVariantViewer::setValue(QVariant newValue)
     emit resized();
 }
 
+QSize TXVariantViewer::sizeHint() const
+{
+    return withWholeLine(QWidget::sizeHint(), label->sizeHint());
+}
+
+QSize TXVariantViewer::minimumSizeHint() const
+{
+    return withWholeLine(QWidget::minimumSizeHint(), label->minimumSizeHint());
+}
+
+QSize TXVariantViewer::withWholeLine(QSize hint, QSize line) const
+{
+    if (expanded) {
+        return hint;
+    }
+    // Layouts cut off what is wider than 524,287 pixels.
+    const QMargins margins = layout()->contentsMargins();
+    return hint.expandedTo({line.width() + margins.left(), hint.height()});
+}
+
 void TXVariantViewer::setHoverEffects(bool enabled)
 {
     hoverEffectsWanted = enabled;
@@ -95,6 +124,7 @@ void TXVariantViewer::expand()
     if (!isExpandable()) {
         return;
     }
+    // When open already, too: the entries show what they would show in a viewer opened just now.
     removeEntries();
     label->setVisible(false);
     layout()->removeWidget(label);
@@ -129,11 +159,11 @@ void TXVariantViewer::showLine()
 
 void TXVariantViewer::addMoreEntries()
 {
-    const qsizetype firstNew = childWidgets.size();
+    const qsizetype countBefore = entryCount();
     const bool hadFocus = moreButton->hasFocus();
     addEntries();
     if (hadFocus && moreButton == nullptr) {
-        childWidgets.at(firstNew)->setFocus(Qt::OtherFocusReason);
+        entryViewer(countBefore)->setFocus(Qt::OtherFocusReason);
     }
     update();
     emit resized();
@@ -180,21 +210,7 @@ void TXVariantViewer::addWidget(QWidget *widget, int row, int column)
 {
     grid()->addWidget(widget, row, column);
     childWidgets.append(widget);
-    showOutOfView(widget);
-}
-
-void TXVariantViewer::showOutOfView(QWidget *widget)
-{
-    // A widget that is shown asks to be painted, in view or not, and painting compares each that
-    // asked with all of its siblings. So none asks until the layout has moved it into view.
-    widget->move(0, height());
-    auto *child = qobject_cast<TXVariantViewer *>(widget);
-    QWidget *inner = child != nullptr ? child->label : widget;
-    inner->setAttribute(Qt::WA_DontShowOnScreen);
-    widget->setAttribute(Qt::WA_DontShowOnScreen);
-    widget->show();
-    widget->setAttribute(Qt::WA_DontShowOnScreen, false);
-    inner->setAttribute(Qt::WA_DontShowOnScreen, false);
+    OutOfView::show(*widget);
 }
 
 void TXVariantViewer::placeMoreButton()
@@ -244,6 +260,18 @@ void TXVariantViewer::removeEntries()
     }
     childWidgets.clear();
     removeMoreButton();
+    if (grid()->rowCount() > kMostRowsKept) {
+        // A grid never loses a row, and goes through all of them at each change.
+        delete layout();
+        makeGrid();
+    }
+}
+
+void TXVariantViewer::makeGrid()
+{
+    auto *cells = new QGridLayout(this);
+    cells->setContentsMargins(0, 0, 0, 0);
+    cells->setSpacing(0);
 }
 
 QGridLayout *TXVariantViewer::grid() const

@@ -29,16 +29,27 @@ class VariantMoreButton;
 /// the keys for "copy" and for the context menu act on the viewer that has the focus. A whole tree
 /// of viewers is one stop of the Tab key.
 ///
-/// The colours of the text are made for light backgrounds; in a dark application give the viewer,
-/// or the scroll area around it, a light palette.
+/// It runs from left to right, whatever the direction of the application.
+///
+/// The colours of the text are made for light backgrounds; in a dark application give the widget
+/// around the viewer a light palette. A palette of the viewer's own is not kept: it is given back
+/// when the mouse leaves.
+///
+/// A line can be as wide as a widget, 16 million pixels. Within an open level it ends at 524,287,
+/// since a layout takes no wider ones, and so it does in any layout around the viewer; in a scroll
+/// area that resizes its widget it does not.
 ///
 /// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT TXVariantViewer : public QWidget
 {
     Q_OBJECT
+    /// See isExpandable(); cannot be written.
     Q_PROPERTY(bool expandable READ isExpandable)
+    /// See hoverEffects() and setHoverEffects().
     Q_PROPERTY(bool hoverEffects READ hoverEffects WRITE setHoverEffects)
+    /// See isExpanded() and setExpanded().
     Q_PROPERTY(bool expanded READ isExpanded WRITE setExpanded)
+    /// See hasPreview() and setPreview().
     Q_PROPERTY(bool preview READ hasPreview WRITE setPreview)
 
 public:
@@ -47,6 +58,8 @@ public:
 
     /// A closed viewer with the invalid value, which it shows as "null".
     explicit TXVariantViewer(QWidget *parent = nullptr);
+    /// Deletes the viewers within, too. Not while one of its signals or events is on the way, see
+    /// resized().
     ~TXVariantViewer() override;
 
     /// The text of a value as HTML, as the viewer shows it within its span of monospaced text.
@@ -71,6 +84,9 @@ public:
     /// keys. Of more than kEntriesAtOnce entries the first come, and below them a button that adds
     /// as many again. Rows that are there already are made anew. Nothing when there is nothing to
     /// expand. Emits resized().
+    ///
+    /// All levels around are laid out again. To open one level within another, n of them, costs the
+    /// cube of n: a blink for a hundred, seconds for a thousand.
     Q_INVOKABLE void expand();
 
     /// Shows the line of text in place of the entries; what was open among them is forgotten. When
@@ -85,6 +101,11 @@ public:
     /// over when they are made. Assistive tools are told what a value holds regardless.
     Q_INVOKABLE void setPreview(bool preview);
 
+    /// The size of the line of text with the margin, or of the entries.
+    [[nodiscard]] QSize sizeHint() const override;
+    /// The same for the smallest size: a line is not cut off.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
     /// Lights this viewer when the root has hover effects.
     void hover();
     /// Gives the viewer the palette of its parent again.
@@ -96,8 +117,11 @@ public:
 
     /// Paints the fold box and, when open, the bracket beside the entries, in the size of the font.
     void paintEvent(QPaintEvent *event) override;
+    /// The left button opens a closed viewer anywhere and closes an open one on its left margin.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Lights this viewer in place of the one around it; see hover().
     void enterEvent(QEnterEvent *event) override;
+    /// Gives the light back to the viewer around it; see unhover().
     void leaveEvent(QEvent *event) override;
     /// Offers to copy the value: lists, dictionaries, true, false and null as JSON, all else as its
     /// text.
@@ -105,7 +129,12 @@ public:
 
 signals:
     /// The room that the viewer wants may have changed: after setValue(), expand(), collapse() and
-    /// the button for more entries, here and in the viewers within. A slot may change the value.
+    /// the button for more entries, here and in the viewers within.
+    ///
+    /// A slot may change the value. It may delete the viewer while setValue() runs that was called
+    /// on the viewer itself; during a click or a key, which Qt has yet to finish, only by
+    /// deleteLater(). A slot that opens or closes the viewer each time it is called recurses
+    /// without end.
     void resized();
 
 public slots:
@@ -121,7 +150,9 @@ protected:
     bool event(QEvent *event) override;
     /// Goes to other viewers, opens, closes, copies. Other keys are left to the widgets around.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Shows the focus frame.
     void focusInEvent(QFocusEvent *event) override;
+    /// Hides the focus frame.
     void focusOutEvent(QFocusEvent *event) override;
     /// Leaves the whole tree, from whichever of its viewers.
     bool focusNextPrevChild(bool next) override;
@@ -134,20 +165,23 @@ private:
     static constexpr int kClosedMarginPixels = 14;
     /// The left margin with room for the bracket; a click there closes.
     static constexpr int kOpenMarginPixels = 21;
+    /// A grid of more rows is not used again when the level is closed.
+    static constexpr int kMostRowsKept = 1000;
 
     // The line of text, and the rows that show in place of it.
     void showLine();
     void addMoreEntries();
     void addEntries();
     void addEntry();
-    void showOutOfView(QWidget *widget);
     void placeMoreButton();
     void removeMoreButton();
     void addWidget(QWidget *widget, int row, int column);
     [[nodiscard]] TXVariantViewer *makeChildViewer(const QVariant &childValue);
     void removeEntries();
+    void makeGrid();
     [[nodiscard]] QGridLayout *grid() const;
     void setLeftMargin(int pixels);
+    [[nodiscard]] QSize withWholeLine(QSize hint, QSize line) const;
 
     // The order in which the viewers stand below one another.
     [[nodiscard]] TXVariantViewer *parentViewer() const;

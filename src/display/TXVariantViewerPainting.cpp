@@ -1,6 +1,7 @@
 #include "TXVariantViewer.h"
 
 #include "FocusFrame.h"
+#include "OutOfView.h"
 #include "VariantKind.h"
 
 #include <QPainter>
@@ -86,7 +87,7 @@ void TXVariantViewer::hover()
     }
     QPalette lit = palette();
     lit.setBrush(QPalette::All, backgroundRole(), QBrush(Qt::white));
-    setPalette(lit);
+    OutOfView::setPalette(*this, lit);
 }
 
 void TXVariantViewer::unhover()
@@ -122,7 +123,9 @@ void TXVariantViewer::leaveEvent(QEvent *)
 
 void TXVariantViewer::takeParentPalette()
 {
-    // The parent's palette is what a widget without one of its own shows; a copy of it would stay
-    // when the parent gets another.
-    setPalette(QPalette());
+    if (testAttribute(Qt::WA_SetPalette)) {
+        // The parent's palette is what a widget without one of its own shows; a copy of it would
+        // stay when the parent gets another.
+        OutOfView::setPalette(*this, QPalette());
+    }
 }

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMetaMethod>
 #include <QMetaProperty>
+#include <QScrollArea>
 #include <QSignalSpy>
 
 // A closed viewer: its line of text, its layout, its meta object.
@@ -24,6 +25,9 @@ private slots:
     void previewCountsFromTheNextValueOn();
     void eachValueTellsThatTheSizeMayHaveChanged();
     void hoverEffectsAreTheRoots();
+    void longLineIsShownToItsEnd_data();
+    void longLineIsShownToItsEnd();
+    void openViewerAsksForTheSizeOfItsEntries();
 };
 
 void TestTXVariantViewer::metaObjectListsTheInterfaceInOrder()
@@ -236,6 +240,50 @@ void TestTXVariantViewer::hoverEffectsAreTheRoots()
     QVERIFY(inner->hoverEffects());
     root.setHoverEffects(false);
     QVERIFY(!inner->hoverEffects());
+}
+
+void TestTXVariantViewer::longLineIsShownToItsEnd_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<int>("margin");
+
+    const QString text(200000, QLatin1Char('x'));
+    QTest::newRow("text") << QVariant(text) << 0;
+    QTest::newRow("list") << QVariant(QStringList{text}) << 14;
+}
+
+void TestTXVariantViewer::longLineIsShownToItsEnd()
+{
+    QFETCH(QVariant, value);
+    QFETCH(int, margin);
+    QScrollArea area;
+    auto *viewer = new TXVariantViewer(&area);
+    area.setWidget(viewer);
+    area.setWidgetResizable(true);
+    viewer->setValue(value);
+    const auto *label = viewer->findChild<QLabel *>();
+    const QSize line = label->sizeHint();
+
+    // More than a layout takes.
+    QVERIFY(line.width() > 524287);
+    QCOMPARE(viewer->sizeHint(), QSize(line.width() + margin, line.height()));
+    QCOMPARE(viewer->minimumSizeHint(), viewer->sizeHint());
+    area.show();
+    QTRY_COMPARE(label->width(), line.width());
+}
+
+void TestTXVariantViewer::openViewerAsksForTheSizeOfItsEntries()
+{
+    TXVariantViewer viewer(nullptr);
+    viewer.setValue(QStringList{QString(1000, QLatin1Char('x')), QStringLiteral("a")});
+    const QSize closed = viewer.sizeHint();
+
+    viewer.expand();
+
+    QCOMPARE(viewer.sizeHint(), viewer.layout()->totalSizeHint());
+    QCOMPARE(viewer.minimumSizeHint(), viewer.layout()->totalMinimumSize());
+    QCOMPARE(viewer.sizeHint().height(), 2 * closed.height());
+    QVERIFY(viewer.sizeHint().width() < closed.width());
 }
 
 int main(int argc, char **argv)

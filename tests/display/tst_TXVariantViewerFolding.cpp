@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <functional>
 
@@ -95,6 +96,9 @@ private slots:
     void valueMayChangeWithinAClick_data();
     void valueMayChangeWithinAClick();
     void valueEndsFoldedWhateverASlotDoes();
+    void slotMayDeleteTheViewerWhileItGetsAValue();
+    void notationRunsFromLeftToRightInAnyDirection();
+    void entriesAmongNativeWidgetsAreShown();
 };
 
 void TestTXVariantViewerFolding::listShowsAViewerForEachElement_data()
@@ -163,8 +167,8 @@ void TestTXVariantViewerFolding::mapShowsAKeyAndAViewerForEachEntry()
         QVERIFY(label->autoFillBackground());
         QCOMPARE(text(entry), line(value.toMap().value(keys.at(row))));
         QCOMPARE(entry->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred));
-        QCOMPARE(entries(viewer).at(2 * row), label);
-        QCOMPARE(entries(viewer).at(2 * row + 1), entry);
+        QCOMPARE(entries(viewer).at(qsizetype(2) * row), label);
+        QCOMPARE(entries(viewer).at(qsizetype(2) * row + 1), entry);
     }
 }
 
@@ -465,6 +469,60 @@ void TestTXVariantViewerFolding::valueEndsFoldedWhateverASlotDoes()
     QVERIFY(!viewer.isExpanded());
     QCOMPARE(viewer.layout()->count(), 1);
     QCOMPARE(text(entries(viewer).at(0)), line(7));
+}
+
+void TestTXVariantViewerFolding::slotMayDeleteTheViewerWhileItGetsAValue()
+{
+    const QPointer<TXVariantViewer> viewer = new TXVariantViewer(nullptr);
+    viewer->setValue(QVariantList{1, 2});
+    viewer->expand();
+    const OnResized deletion(viewer, [&] { delete viewer.data(); });
+
+    viewer->setValue(QVariantList{3});
+
+    QVERIFY(viewer.isNull());
+}
+
+void TestTXVariantViewerFolding::notationRunsFromLeftToRightInAnyDirection()
+{
+    QWidget window;
+    window.setLayoutDirection(Qt::RightToLeft);
+    auto *layout = new QVBoxLayout(&window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *viewer = new TXVariantViewer(&window);
+    layout->addWidget(viewer);
+    viewer->setValue(QVariantMap{{QStringLiteral("a"), QVariantList{1}}});
+    window.resize(300, 100);
+    window.show();
+    QCOMPARE(viewer->findChild<QLabel *>()->geometry(), QRect(14, 0, 286, 100));
+
+    viewer->expand();
+
+    const QWidget *keyOfEntry = entries(*viewer).at(0);
+    TXVariantViewer *entry = child(*viewer, 1);
+    QCOMPARE(keyOfEntry->x(), 21);
+    QCOMPARE(entry->x(), 21 + keyOfEntry->width());
+    QCOMPARE(entry->findChild<QLabel *>()->x(), 14);
+}
+
+void TestTXVariantViewerFolding::entriesAmongNativeWidgetsAreShown()
+{
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *viewer = new TXVariantViewer(&window);
+    layout->addWidget(viewer);
+    viewer->setValue(QVariantList{1, 2});
+    window.show();
+    // What comes to stand beside a native widget becomes native, too.
+    QVERIFY(viewer->findChild<QLabel *>()->winId() != 0);
+
+    viewer->expand();
+
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(child(*viewer, i)->windowHandle() != nullptr);
+        QVERIFY(child(*viewer, i)->windowHandle()->isVisible());
+        QVERIFY(child(*viewer, i)->findChild<QLabel *>()->isVisible());
+    }
 }
 
 int main(int argc, char **argv)

@@ -4,7 +4,12 @@
 #include "VariantViewerHelpers.h"
 
 #include <QEnterEvent>
+#include <QLabel>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <memory>
 
@@ -14,6 +19,7 @@ using VariantViewerHelpers::nestedValue;
 namespace {
 
 const QColor kPaper(0xff, 0xf0, 0xd0);
+constexpr int kLongLevel = 500;
 
 bool isLit(const QWidget *viewer)
 {
@@ -39,6 +45,61 @@ void leave(QWidget *widget)
     QApplication::sendEvent(widget, &event);
 }
 
+bool isInView(const QWidget &widget, const QWidget &port)
+{
+    return QRect(widget.mapTo(&port, QPoint(0, 0)), widget.size()).intersects(port.rect());
+}
+
+/// Counts who is told of another palette, and who could ask to be painted then.
+class PaletteWatch : public QObject
+{
+public:
+    explicit PaletteWatch(const QWidget *viewport)
+        : port(viewport)
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        const auto *widget = qobject_cast<QWidget *>(object);
+        if (event->type() == QEvent::PaletteChange && port->isAncestorOf(widget)) {
+            ++changes;
+            const bool isSeen = isInView(*widget, *port);
+            changesInView += isSeen ? 1 : 0;
+            asking += !isSeen && widget->updatesEnabled() ? 1 : 0;
+            silentInView += isSeen && !widget->updatesEnabled() ? 1 : 0;
+        }
+        return false;
+    }
+
+    int changes = 0;
+    int changesInView = 0;
+    int asking = 0;
+    int silentInView = 0;
+
+private:
+    const QWidget *port;
+};
+
+/// An open level in a scroll area, of which a few entries can be seen.
+TXVariantViewer *showLongLevel(QScrollArea &area)
+{
+    QVariantMap map;
+    for (int i = 0; i < kLongLevel; ++i) {
+        map.insert(QStringLiteral("key %1").arg(i, 4), QVariantList{i});
+    }
+    auto *viewer = new TXVariantViewer(&area);
+    area.setWidget(viewer);
+    area.setWidgetResizable(true);
+    area.resize(300, 300);
+    viewer->setValue(map);
+    viewer->setHoverEffects();
+    viewer->expand();
+    area.show();
+    return viewer;
+}
+
 } // namespace
 
 class TestTXVariantViewerHover : public TestBase
@@ -51,6 +112,9 @@ private slots:
     void flagOfAViewerWithinIsIgnored();
     void lightMovesInAndOut();
     void lightFollowsTheMouse();
+    void lightGoesOutWhenTheMouseLeavesAtOnce();
+    void entriesOutOfViewAskForNoPaint();
+    void entriesComeIntoViewInTheLightOfTheMoment();
     void endOfHoverEffectsPutsTheLightOut();
     void viewerWithoutParentTakesTheApplicationsPalette();
     void hoveredViewerFollowsALaterPalette_data();
@@ -61,6 +125,9 @@ protected:
     void finish() override;
 
 private:
+    void showWithRoomAround();
+    void moveMouse(const QWidget &widget, QPoint place);
+
     std::unique_ptr<QWidget> window;
     TXVariantViewer *root = nullptr;
     QPalette before;
@@ -155,32 +222,101 @@ void TestTXVariantViewerHover::lightMovesInAndOut()
     }
 }
 
-void TestTXVariantViewerHover::lightFollowsTheMouse()
+void TestTXVariantViewerHover::showWithRoomAround()
 {
     auto *box = new QVBoxLayout(window.get());
     box->setContentsMargins(40, 40, 40, 40);
     box->addWidget(root);
     window->resize(400, 300);
     window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    TXVariantViewer *entry = entriesOf(*root).at(1);
-    const auto moveTo = [this](const QWidget *widget, QPoint place) {
-        QTest::mouseMove(window->windowHandle(), widget->mapTo(window.get(), place));
-    };
+}
 
-    moveTo(window.get(), {5, 5});
-    moveTo(root, {5, root->height() / 2});
+void TestTXVariantViewerHover::moveMouse(const QWidget &widget, QPoint place)
+{
+    QTest::mouseMove(window->windowHandle(), widget.mapTo(window.get(), place));
+}
+
+void TestTXVariantViewerHover::lightFollowsTheMouse()
+{
+    showWithRoomAround();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    const TXVariantViewer *entry = entriesOf(*root).at(1);
+    const QPoint onMargin(5, root->height() / 2);
+
+    moveMouse(*window, {5, 5});
+    moveMouse(*root, onMargin);
     QTRY_VERIFY(isLit(root));
-    moveTo(entry, entry->rect().center());
+    moveMouse(*entry, entry->rect().center());
     QTRY_VERIFY(isLit(entry));
     QVERIFY(!isLit(root));
-    moveTo(root, {5, root->height() / 2});
+    moveMouse(*root, onMargin);
     QTRY_VERIFY(isLit(root));
-    moveTo(entry, entry->rect().center());
-    QTRY_VERIFY(!isLit(root));
-    moveTo(window.get(), {5, 5});
+}
+
+void TestTXVariantViewerHover::lightGoesOutWhenTheMouseLeavesAtOnce()
+{
+    showWithRoomAround();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    const TXVariantViewer *entry = entriesOf(*root).at(1);
+
+    moveMouse(*window, {5, 5});
+    moveMouse(*entry, entry->rect().center());
+    QTRY_VERIFY(isLit(entry));
+    moveMouse(*window, {5, 5});
     QTRY_VERIFY(!isLit(entry));
     QVERIFY(!isLit(root));
+}
+
+void TestTXVariantViewerHover::entriesOutOfViewAskForNoPaint()
+{
+    QScrollArea area;
+    TXVariantViewer *viewer = showLongLevel(area);
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    entriesOf(*viewer).at(400)->expand();
+    entriesOf(*viewer).at(401)->setUpdatesEnabled(false);
+    // The mouse may be where the window has come up.
+    leave(viewer);
+    const PaletteWatch watch(area.viewport());
+
+    enter(viewer);
+    enter(entriesOf(*viewer).first());
+
+    // Key, viewer and label of each entry, twice, but for the few that are lit themselves.
+    QVERIFY(watch.changes > 5 * kLongLevel);
+    QCOMPARE(watch.asking, 0);
+    QVERIFY(watch.changesInView > 0);
+    QCOMPARE(watch.silentInView, 0);
+    for (const QWidget *widget : viewer->findChildren<QWidget *>()) {
+        const bool isOfHost = entriesOf(*viewer).at(401)->isAncestorOf(widget)
+            || widget == entriesOf(*viewer).at(401);
+        QCOMPARE(widget->updatesEnabled(), !isOfHost);
+    }
+}
+
+void TestTXVariantViewerHover::entriesComeIntoViewInTheLightOfTheMoment()
+{
+    QScrollArea area;
+    area.setPalette(paletteOf(kPaper));
+    TXVariantViewer *viewer = showLongLevel(area);
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    const auto *last =
+        qobject_cast<QLabel *>(viewer->layout()->itemAt(viewer->layout()->count() - 2)->widget());
+    const auto colourOfLast = [&] {
+        const QPoint place = last->mapTo(&area, last->rect().bottomRight());
+        const QImage shown = area.screen()->grabWindow(area.winId()).toImage();
+        return shown.rect().contains(place) ? shown.pixelColor(place) : QColor();
+    };
+
+    enter(viewer);
+    area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum());
+    QTRY_COMPARE(colourOfLast(), QColor(Qt::white));
+    area.verticalScrollBar()->setValue(0);
+    QTRY_COMPARE(colourOfLast(), QColor());
+    enter(entriesOf(*viewer).first());
+    area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum());
+    QTRY_COMPARE(colourOfLast(), kPaper);
+    leave(entriesOf(*viewer).first());
+    QTRY_COMPARE(colourOfLast(), QColor(Qt::white));
 }
 
 void TestTXVariantViewerHover::endOfHoverEffectsPutsTheLightOut()

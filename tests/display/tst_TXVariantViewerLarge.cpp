@@ -1,8 +1,10 @@
 #include "TXVariantViewer.h"
 #include "TestBase.h"
 
+#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -40,6 +42,11 @@ QPushButton *moreButton(const QWidget &viewer)
     return viewer.findChild<QPushButton *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
+QGridLayout *gridOf(const QWidget &viewer)
+{
+    return qobject_cast<QGridLayout *>(viewer.layout());
+}
+
 QWidget *lastWidget(const QWidget &viewer)
 {
     return viewer.layout()->itemAt(viewer.layout()->count() - 1)->widget();
@@ -63,7 +70,10 @@ private slots:
     void buttonBringsTheEntriesInPortions_data();
     void buttonBringsTheEntriesInPortions();
     void buttonGoesWithTheFold();
+    void manyRowsGoWithTheFold();
+    void buttonIsReachedByTheKeyboard_data();
     void buttonIsReachedByTheKeyboard();
+    void buttonIsNotPressedByReturnInADialog();
     void millionKeysOpen();
     void deepValueOpensLevelByLevel();
     void valuesAreShared();
@@ -130,7 +140,7 @@ void TestTXVariantViewerLarge::buttonBringsTheEntriesInPortions()
 
     QVERIFY(moreButton(viewer) == nullptr);
     QCOMPARE(viewerCount(viewer), 12000);
-    const auto *grid = qobject_cast<QGridLayout *>(viewer.layout());
+    const auto *grid = gridOf(viewer);
     const bool isMap = value.typeId() == QMetaType::QVariantHash;
     for (const int place : {0, 4999, 5000, 9999, 10000, 11999}) {
         const QWidget *entry = grid->itemAtPosition(isMap ? place : place + 1, isMap)->widget();
@@ -161,14 +171,49 @@ void TestTXVariantViewerLarge::buttonGoesWithTheFold()
     QVERIFY(moreButton(viewer) == nullptr);
 }
 
+void TestTXVariantViewerLarge::manyRowsGoWithTheFold()
+{
+    constexpr int kEntries = 1500;
+    TXVariantViewer viewer(nullptr);
+    viewer.setPreview(false);
+    viewer.setValue(list(kEntries));
+    viewer.expand();
+    QVERIFY(gridOf(viewer)->rowCount() >= kEntries);
+
+    viewer.collapse();
+
+    QVERIFY(gridOf(viewer)->rowCount() < 10);
+    QCOMPARE(gridOf(viewer)->contentsMargins(), QMargins(14, 0, 0, 0));
+    QCOMPARE(gridOf(viewer)->horizontalSpacing(), 0);
+    QCOMPARE(gridOf(viewer)->verticalSpacing(), 0);
+    QCOMPARE(gridOf(viewer)->count(), 1);
+    QCOMPARE(lastWidget(viewer), viewer.findChild<QLabel *>());
+
+    viewer.expand();
+    viewer.expand();
+    QCOMPARE(gridOf(viewer)->count(), kEntries);
+    QCOMPARE(gridOf(viewer)->contentsMargins(), QMargins(21, 0, 0, 0));
+    viewer.setValue(7);
+    QCOMPARE(gridOf(viewer)->contentsMargins(), QMargins());
+}
+
+void TestTXVariantViewerLarge::buttonIsReachedByTheKeyboard_data()
+{
+    QTest::addColumn<QVariant>("value");
+
+    QTest::newRow("list") << QVariant(list(kAtOnce + 1));
+    QTest::newRow("hash") << QVariant(hash(kAtOnce + 1));
+}
+
 void TestTXVariantViewerLarge::buttonIsReachedByTheKeyboard()
 {
+    QFETCH(QVariant, value);
     QWidget window;
     auto *layout = new QVBoxLayout(&window);
     auto *viewer = new TXVariantViewer(&window);
     layout->addWidget(viewer);
     viewer->setPreview(false);
-    viewer->setValue(list(kAtOnce + 1));
+    viewer->setValue(value);
     viewer->expand();
     window.show();
     window.activateWindow();
@@ -183,6 +228,29 @@ void TestTXVariantViewerLarge::buttonIsReachedByTheKeyboard()
     QVERIFY(moreButton(*viewer) == nullptr);
 }
 
+void TestTXVariantViewerLarge::buttonIsNotPressedByReturnInADialog()
+{
+    QDialog dialog;
+    auto *layout = new QVBoxLayout(&dialog);
+    auto *input = new QLineEdit(&dialog);
+    auto *viewer = new TXVariantViewer(&dialog);
+    layout->addWidget(input);
+    layout->addWidget(viewer);
+    viewer->setPreview(false);
+    viewer->setValue(list(kAtOnce + 1));
+    viewer->expand();
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    input->setFocus();
+    const QSignalSpy clicked(moreButton(*viewer), SIGNAL(clicked()));
+
+    QTest::keyClick(input, Qt::Key_Return);
+
+    QCOMPARE(clicked.count(), 0);
+    QCOMPARE(viewerCount(*viewer), kAtOnce);
+}
+
 void TestTXVariantViewerLarge::millionKeysOpen()
 {
     TXVariantViewer viewer(nullptr);
@@ -193,7 +261,7 @@ void TestTXVariantViewerLarge::millionKeysOpen()
 
     QCOMPARE(viewerCount(viewer), kAtOnce);
     QCOMPARE(moreButton(viewer)->text(), QStringLiteral("Show 5,000 more of 1,000,000"));
-    const auto *grid = qobject_cast<QGridLayout *>(viewer.layout());
+    const auto *grid = gridOf(viewer);
     const auto *last = qobject_cast<QLabel *>(grid->itemAtPosition(4999, 0)->widget());
     QVERIFY(last->text().contains(QStringLiteral("0004999: ")));
 }
@@ -201,7 +269,7 @@ void TestTXVariantViewerLarge::millionKeysOpen()
 void TestTXVariantViewerLarge::deepValueOpensLevelByLevel()
 {
     constexpr int kDepth = 10000;
-    constexpr int kOpened = 20;
+    constexpr int kOpened = 300;
     QVariant value = 1;
     for (int level = 0; level < kDepth; ++level) {
         value = QVariantList{value};
@@ -209,6 +277,7 @@ void TestTXVariantViewerLarge::deepValueOpensLevelByLevel()
     TXVariantViewer viewer(nullptr);
     viewer.setPreview(false);
     viewer.setValue(value);
+    viewer.show();
 
     TXVariantViewer *open = &viewer;
     for (int level = 0; level < kOpened; ++level) {
