@@ -80,14 +80,6 @@ void appendText(QString &text, const QVariant &value)
     text.append(u'"');
 }
 
-/// The types that have a text even when they are null.
-bool isCountedOrTrue(const QVariant &value)
-{
-    const int type = value.typeId();
-    return type == QMetaType::Int || type == QMetaType::LongLong || type == QMetaType::Double
-        || type == QMetaType::Bool;
-}
-
 void append(QString &text, const QVariant &value)
 {
     if (isFull(text)) {
@@ -95,7 +87,7 @@ void append(QString &text, const QVariant &value)
     }
     if (VariantKind::isText(value)) {
         appendText(text, value);
-    } else if (value.isNull() && !isCountedOrTrue(value)) {
+    } else if (VariantKind::of(value) == VariantKind::Kind::Nothing) {
         text.append(QLatin1String("null"));
     } else if (VariantKind::isMap(value)) {
         appendMap(text, value.toMap());
