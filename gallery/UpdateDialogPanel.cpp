@@ -1,6 +1,7 @@
 #include "UpdateDialogPanel.h"
 
 #include "DictionaryView.h"
+#include "UpdateQuestion.h"
 
 #include "TXCheckForUpdateWidget.h"
 #include "TXDisplayErrorMessageBox.h"
@@ -17,7 +18,6 @@
 
 namespace {
 
-constexpr int kProductNumber = 7;
 /// Release notes may have megabytes.
 constexpr int kLongestValue = 200;
 
@@ -47,7 +47,7 @@ TXStringI18n message(const char *text, const QString &folder)
 
 UpdateDialogPanel::UpdateDialogPanel(QWidget *parent)
     : GalleryPanel(parent)
-    , updates(new TXCheckForUpdateWidget(QStringLiteral("TXGUICommon Gallery"), kProductNumber,
+    , updates(new TXCheckForUpdateWidget(QStringLiteral("TXGUICommon Gallery"), UpdateQuestion::kProductType,
                                          false, this))
     , checkButton(new QPushButton(this))
     , folderButton(new QPushButton(this))

@@ -13,16 +13,10 @@ QString lines(const QString &first, const QString &second)
 
 } // namespace
 
-QString AccessibleDescription::ofValue(const QWidget &widget, const QString &value)
-{
-    const QString own = widget.accessibleDescription();
-    return own.isEmpty() ? lines(value, widget.toolTip()) : own;
-}
-
 QString AccessibleDescription::withValue(const QWidget &widget, const QString &value)
 {
     const QString own = widget.accessibleDescription();
-    return own.isEmpty() ? ofValue(widget, value) : lines(own, value);
+    return own.isEmpty() ? lines(value, widget.toolTip()) : lines(own, value);
 }
 
 void AccessibleDescription::tellOfChange(QWidget &widget)

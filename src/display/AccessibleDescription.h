@@ -13,13 +13,8 @@ class QWidget;
 /// Thread: the GUI thread.
 namespace AccessibleDescription {
 
-/// The widget's accessibleDescription() alone, if it has one. Otherwise the value, with the tool
-/// tip, if there is one, on a line after it.
-[[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString ofValue(const QWidget &widget,
-                                                         const QString &value);
-
-/// The value, on a line after the widget's accessibleDescription(), if it has one; else as
-/// ofValue(). For values that change under the hands of the user.
+/// The value, on a line after the widget's accessibleDescription(), if it has one; else with the
+/// tool tip, if there is one, on a line after the value.
 [[nodiscard]] TXGUICOMMON_PRIVATE_EXPORT QString withValue(const QWidget &widget,
                                                            const QString &value);
 

@@ -17,7 +17,7 @@ QString ColorSquareAccessible::text(QAccessible::Text kind) const
     case QAccessible::Value:
         return shown.brushInWords();
     case QAccessible::Description:
-        return AccessibleDescription::ofValue(shown, shown.brushInWords());
+        return AccessibleDescription::withValue(shown, shown.brushInWords());
     default:
         return ofWidget;
     }

@@ -17,7 +17,7 @@ QString DeltaGradientAccessible::text(QAccessible::Text kind) const
     case QAccessible::Value:
         return shown.valuesInWords();
     case QAccessible::Description:
-        return AccessibleDescription::ofValue(shown, shown.valuesInWords());
+        return AccessibleDescription::withValue(shown, shown.valuesInWords());
     default:
         return ofWidget;
     }

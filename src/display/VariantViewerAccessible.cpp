@@ -40,7 +40,7 @@ QString VariantViewerAccessible::text(QAccessible::Text kind) const
     case QAccessible::Value:
         return VariantPlainText::fromVariant(viewer().value);
     case QAccessible::Description:
-        return AccessibleDescription::ofValue(viewer(), valueAndKind());
+        return AccessibleDescription::withValue(viewer(), valueAndKind());
     default:
         return QAccessibleWidget::text(kind);
     }

@@ -16,7 +16,7 @@ private slots:
     void nameIsTheWidgetsOrAGeneralOne();
     void valueIsTheColourOrTheKindOfBrush_data();
     void valueIsTheColourOrTheKindOfBrush();
-    void valueDescribesAWidgetWithoutADescription();
+    void valueIsPartOfTheDescription();
     void otherBrushIsTold();
     void nobodyIsToldWhenNobodyListens();
 };
@@ -77,7 +77,7 @@ void TestColorSquareAccessible::valueIsTheColourOrTheKindOfBrush()
     QCOMPARE(accessible->text(QAccessible::Value), value);
 }
 
-void TestColorSquareAccessible::valueDescribesAWidgetWithoutADescription()
+void TestColorSquareAccessible::valueIsPartOfTheDescription()
 {
     TXColorSquareWidget square;
     square.setBrush(Qt::green);
@@ -91,7 +91,7 @@ void TestColorSquareAccessible::valueDescribesAWidgetWithoutADescription()
     QCOMPARE(accessible->text(QAccessible::Description), "#00ff00\nMeasured in March");
 
     square.setAccessibleDescription("Green as grass");
-    QCOMPARE(accessible->text(QAccessible::Description), "Green as grass");
+    QCOMPARE(accessible->text(QAccessible::Description), "Green as grass\n#00ff00");
     QCOMPARE(accessible->text(QAccessible::Value), "#00ff00");
 }
 

@@ -34,7 +34,7 @@ private slots:
     void nameIsTheWidgetsOrAGeneralOne();
     void valueSaysTheNumbers_data();
     void valueSaysTheNumbers();
-    void valueDescribesAWidgetWithoutADescription();
+    void valueIsPartOfTheDescription();
     void changesAreTold();
     void nobodyIsToldWhenNobodyListens();
     void tabComesToTheBarAndFramesIt();
@@ -112,7 +112,7 @@ void TestDeltaGradientAccessible::valueSaysTheNumbers()
     QCOMPARE(accessible->text(QAccessible::Value), text);
 }
 
-void TestDeltaGradientAccessible::valueDescribesAWidgetWithoutADescription()
+void TestDeltaGradientAccessible::valueIsPartOfTheDescription()
 {
     const DeltaBar bar;
     const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(bar.widget);
@@ -126,7 +126,8 @@ void TestDeltaGradientAccessible::valueDescribesAWidgetWithoutADescription()
              accessible->text(QAccessible::Value) + "\nPrint 7");
 
     bar.widget->setAccessibleDescription("By CIEDE2000");
-    QCOMPARE(accessible->text(QAccessible::Description), "By CIEDE2000");
+    QCOMPARE(accessible->text(QAccessible::Description),
+             "By CIEDE2000\n" + accessible->text(QAccessible::Value));
 }
 
 void TestDeltaGradientAccessible::changesAreTold()

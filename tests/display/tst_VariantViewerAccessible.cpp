@@ -289,7 +289,8 @@ void TestVariantViewerAccessible::hostNamesTheRoot()
     root->setAccessibleName(QStringLiteral("Settings"));
     root->setAccessibleDescription(QStringLiteral("All of them"));
     QCOMPARE(tree->text(QAccessible::Name), "Settings");
-    QCOMPARE(tree->text(QAccessible::Description), "All of them");
+    QVERIFY(tree->text(QAccessible::Description).startsWith("All of them\n"));
+    QVERIFY(tree->text(QAccessible::Description).endsWith(tree->text(QAccessible::Value)));
 }
 
 void TestVariantViewerAccessible::stateTellsWhatCanBeOpened()
