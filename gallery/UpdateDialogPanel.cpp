@@ -47,8 +47,8 @@ TXStringI18n message(const char *text, const QString &folder)
 
 UpdateDialogPanel::UpdateDialogPanel(QWidget *parent)
     : GalleryPanel(parent)
-    , updates(new TXCheckForUpdateWidget(QStringLiteral("TXGUICommon Gallery"), UpdateQuestion::kProductType,
-                                         false, this))
+    , updates(new TXCheckForUpdateWidget(QStringLiteral("TXGUICommon Gallery"),
+                                         UpdateQuestion::kProductType, false, this))
     , checkButton(new QPushButton(this))
     , folderButton(new QPushButton(this))
     , explanation(new QLabel(this))
