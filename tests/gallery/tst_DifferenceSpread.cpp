@@ -1,9 +1,6 @@
 #include "DifferenceSpread.h"
 
-#include "LuminousEfficiency.h"
 #include "TestBase.h"
-
-#include <numeric>
 
 namespace {
 
@@ -19,7 +16,7 @@ QList<PatchPair> pairsOf(const QList<double> &differences)
 
 } // namespace
 
-/// What the Colour difference page counts, and the published values that it draws.
+/// What the Colour difference page counts.
 class TestDifferenceSpread : public TestBase
 {
     Q_OBJECT
@@ -29,7 +26,6 @@ private slots:
     void sharesAreCounted();
     void formulaDecides();
     void chartIsCountedPairByPair();
-    void luminousEfficiencyIsThatOfTheStandardObserver();
 };
 
 void TestDifferenceSpread::sharesAreCounted_data()
@@ -95,30 +91,6 @@ void TestDifferenceSpread::chartIsCountedPairByPair()
     QCOMPARE(spread.belowLimit, below);
     QVERIFY(below > 0 && below < 24);
     QCOMPARE(spread.limitPercent, below / 24.0 * 100);
-}
-
-/// The table's own sum, and values that everybody knows.
-void TestDifferenceSpread::luminousEfficiencyIsThatOfTheStandardObserver()
-{
-    const auto &values = LuminousEfficiency::values();
-    const auto at = [&](int nanometres) {
-        return values.at(size_t(nanometres - 380) / 10);
-    };
-
-    QCOMPARE(values.size(), size_t(41));
-    QCOMPARE(at(550), 0.995);
-    QCOMPARE(at(560), 0.995);
-    QCOMPARE(at(510), 0.503);
-    QCOMPARE(at(610), 0.503);
-    QCOMPARE(at(450), 0.038);
-    QCOMPARE(at(650), 0.107);
-    QCOMPARE(at(700), 0.0041);
-    const double sum = std::accumulate(values.begin(), values.end(), 0.0);
-    QVERIFY2(qAbs(sum - 10.6857) < 0.001, qPrintable(QString::number(sum)));
-    // It rises to one peak and falls from there.
-    for (size_t i = 1; i < values.size(); ++i) {
-        QVERIFY(i <= 17 ? values[i] >= values[i - 1] : values[i] <= values[i - 1]);
-    }
 }
 
 int main(int argc, char **argv)
