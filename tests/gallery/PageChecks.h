@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QTranslator>
 
+#include <algorithm>
+
 /// @file
 /// What every page of the gallery has to keep, as checks that return what is wrong, and helpers
 /// that find things on a page by what the user reads.
@@ -87,6 +89,15 @@ inline QString mnemonicText(const QWidget *widget)
     }
     const auto *label = qobject_cast<const QLabel *>(widget);
     return label && label->buddy() ? label->text() : QString();
+}
+
+/// How many widgets have a mnemonic.
+inline qsizetype mnemonicsOn(const QWidget &page)
+{
+    const auto widgets = page.findChildren<QWidget *>();
+    return std::count_if(widgets.cbegin(), widgets.cend(), [](const QWidget *widget) {
+        return !QKeySequence::mnemonic(mnemonicText(widget)).isEmpty();
+    });
 }
 
 /// The mnemonics that two widgets of the window, hidden ones too, would share. Empty is good.

@@ -1,6 +1,4 @@
-#include "GalleryLanguages.h"
-#include "GallerySettings.h"
-#include "GalleryWindow.h"
+#include "PageInWindow.h"
 #include "UpdateAuthorityChange.h"
 #include "UpdatePageTest.h"
 
@@ -287,13 +285,7 @@ void TestUpdatePage::textsFollowTheLanguage()
 
 void TestUpdatePage::mnemonicsAreNotShared()
 {
-    GallerySettings settings;
-    settings.page = "update";
-    GalleryLanguages languages(QString{});
-    const GalleryWindow window(languages, settings);
-
-    QVERIFY(buttonOf(window, "Check for Updates"));
-    QCOMPARE(clashingMnemonics(window), QStringList());
+    QCOMPARE(mnemonicsClashingAt(QStringLiteral("update")), QStringList());
 }
 
 void TestUpdatePage::everyControlHasANameAndIsReachedByTab()
