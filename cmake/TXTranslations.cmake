@@ -1,0 +1,26 @@
+find_package(Qt6 6.4 REQUIRED COMPONENTS LinguistTools)
+
+# tx_add_translations(<target> <to> <file.ts>...)
+#
+# Releases the translations into the folder <to> before the target, each again when it has changed.
+# What is not translated yet is left out, so that the program shows it in English.
+function(tx_add_translations target to)
+  set_source_files_properties(${ARGN} PROPERTIES OUTPUT_LOCATION ${to})
+  qt_add_lrelease(${target} TS_FILES ${ARGN} OPTIONS -silent)
+endfunction()
+
+# tx_add_translations_update(<folder of sources> <file.ts>...)
+#
+# Lets the target translations-update, which no build includes, bring the files into step with the
+# texts of the sources. A TXStringI18n is read like translate(), and so its texts have two forms, of
+# which the first is shown: they have no number.
+function(tx_add_translations_update sources)
+  if(NOT TARGET translations-update)
+    add_custom_target(translations-update)
+  endif()
+  add_custom_command(TARGET translations-update POST_BUILD
+    COMMAND Qt6::lupdate -silent -locations none -no-obsolete
+      -tr-function-alias translate+=TXStringI18n
+      ${sources} -ts ${ARGN}
+    VERBATIM)
+endfunction()
