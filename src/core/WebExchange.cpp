@@ -28,7 +28,8 @@ private:
     QNetworkReply &reply;
 };
 
-void waitFor(QNetworkReply &reply)
+/// Whether the reply has finished by itself.
+bool waitFor(QNetworkReply &reply)
 {
     QEventLoop loop;
     BodyLimit limit(reply);
@@ -39,9 +40,11 @@ void waitFor(QNetworkReply &reply)
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     }
     // The end of the thread's event loop ends this one too, and half a body is no answer.
-    if (!reply.isFinished()) {
+    const bool isFinished = reply.isFinished();
+    if (!isFinished) {
         reply.abort();
     }
+    return isFinished;
 }
 
 WebAnswer answerIn(QNetworkReply &reply)
@@ -67,6 +70,16 @@ WebAnswer WebExchange::run(const Send &send)
     WebAnswer answer = answerIn(*reply);
     reply->deleteLater();
     return answer;
+}
+
+void WebExchange::run(const Send &send, const Receive &receive)
+{
+    QNetworkAccessManager manager;
+    QNetworkReply *reply = send(manager);
+    if (waitFor(*reply)) {
+        receive(*reply);
+    }
+    reply->deleteLater();
 }
 
 #include "WebExchange.moc"

@@ -46,8 +46,16 @@ public:
     /// parts of a form, may be made a child of the reply.
     using Send = std::function<QNetworkReply *(QNetworkAccessManager &manager)>;
 
+    /// Takes what it wants of a reply that has finished, with or without an error. The reply lives
+    /// until the call returns.
+    using Receive = std::function<void(QNetworkReply &reply)>;
+
     WebExchange() = delete;
 
     /// Sends and waits for the end of the reply.
     [[nodiscard]] static WebAnswer run(const Send &send);
+
+    /// Sends, waits for the end of the reply and hands it over, unread. The end of the thread's
+    /// event loop leaves nobody to tell: then `receive` is not called.
+    static void run(const Send &send, const Receive &receive);
 };
