@@ -3,6 +3,9 @@
 #include "TXDataCrypt.h"
 #include "TXError.h"
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 [[maybe_unused]] const int kTypeIds[] = {
@@ -102,14 +105,46 @@ bool decipher(const QString &stored, QString &text)
     return !error.isValid();
 }
 
-QUrl withOneSlash(QUrl url)
+/// Without the slashes before it, as "//share", "/share" and "share" are the same share.
+QString comparedPath(const QUrl &url)
 {
-    QString path = url.path(QUrl::FullyEncoded);
-    while (path.startsWith(u"//")) {
-        path.remove(0, 1);
+    QString path = url.path(QUrl::FullyDecoded);
+    qsizetype slashes = 0;
+    while (slashes < path.size() && path.at(slashes) == u'/') {
+        ++slashes;
     }
-    url.setPath(path, QUrl::TolerantMode);
-    return url;
+    return path.remove(0, slashes);
+}
+
+/// The texts by which addresses are compared. Missing and empty are the same to QString.
+std::array<QString, 7> comparedTexts(const QUrl &url)
+{
+    return {url.scheme(),
+            url.host(),
+            url.userName(QUrl::FullyDecoded),
+            url.password(QUrl::FullyDecoded),
+            comparedPath(url),
+            url.query(QUrl::FullyEncoded),
+            url.fragment(QUrl::FullyEncoded)};
+}
+
+bool areSameAddress(const QUrl &one, const QUrl &other)
+{
+    // Mostly they are copies of each other.
+    return one == other
+        || (one.port() == other.port() && comparedTexts(one) == comparedTexts(other));
+}
+
+/// The same for the same address, and 0 for an empty one.
+size_t hashOf(const QUrl &url)
+{
+    auto hash = static_cast<size_t>(url.port() - kNoPort);
+    size_t seed = 0;
+    for (const QString &text : comparedTexts(url)) {
+        ++seed;
+        hash += text.isEmpty() ? 0 : qHash(text, seed);
+    }
+    return hash;
 }
 
 bool isDefault(const QVariant &value)
@@ -126,11 +161,54 @@ bool isDefault(const QVariant &value)
     }
 }
 
-QHash<QString, QVariant> withoutDefaults(QHash<QString, QVariant> parameters)
+qsizetype countWithoutDefaults(const QHash<QString, QVariant> &parameters)
 {
-    parameters.removeIf(
-        [](const QHash<QString, QVariant>::iterator &entry) { return isDefault(entry.value()); });
-    return parameters;
+    return std::count_if(parameters.cbegin(), parameters.cend(),
+                         [](const QVariant &value) { return !isDefault(value); });
+}
+
+/// The same for equal parameters, in whichever order, and 0 for none. Of the values only texts
+/// count, as a value of any other type can equal one of yet another type.
+size_t hashOf(const QHash<QString, QVariant> &parameters)
+{
+    size_t hash = 0;
+    for (auto entry = parameters.cbegin(); entry != parameters.cend(); ++entry) {
+        const QVariant &value = entry.value();
+        if (isDefault(value)) {
+            continue;
+        }
+        const bool isText = value.typeId() == QMetaType::QString;
+        hash += qHash(entry.key(), isText ? qHash(value.toString()) : 0);
+    }
+    return hash;
+}
+
+bool equalButForDefaults(const QHash<QString, QVariant> &one, const QHash<QString, QVariant> &other)
+{
+    // A value need not equal itself, such as one of a type that cannot be compared; a copy of a
+    // drive equals the drive all the same.
+    if (one.isSharedWith(other)) {
+        return true;
+    }
+    for (auto entry = one.cbegin(); entry != one.cend(); ++entry) {
+        if (isDefault(entry.value())) {
+            continue;
+        }
+        // A number 0 equals false, which is a default and as good as missing.
+        const auto found = other.constFind(entry.key());
+        if (found == other.cend() || isDefault(*found) || *found != entry.value()) {
+            return false;
+        }
+    }
+    return countWithoutDefaults(one) == countWithoutDefaults(other);
+}
+
+/// Leaves a dictionary without this key alone; QHash::remove() would make it a copy of its own.
+void removeKey(QHash<QString, QVariant> &parameters, const QString &key)
+{
+    if (parameters.contains(key)) {
+        parameters.remove(key);
+    }
 }
 
 } // namespace
@@ -149,12 +227,16 @@ AutoMountNetworkDrive::AutoMountNetworkDrive(const QHash<QString, QVariant> &par
     url = address;
     activated = rest.take(kActivatedKey).toBool();
     extParameters = rest;
+    addressHash = hashOf(url);
+    parametersHash = hashOf(extParameters);
 }
 
 bool AutoMountNetworkDrive::operator==(const AutoMountNetworkDrive &other) const
 {
-    return withOneSlash(url) == withOneSlash(other.url)
-        && withoutDefaults(extParameters) == withoutDefaults(other.extParameters);
+    // Searches compare one drive with all, so that nearly all comparisons end at the hashes.
+    return addressHash == other.addressHash && parametersHash == other.parametersHash
+        && areSameAddress(url, other.url)
+        && equalButForDefaults(extParameters, other.extParameters);
 }
 
 QUrl AutoMountNetworkDrive::getUrl() const
@@ -165,6 +247,7 @@ QUrl AutoMountNetworkDrive::getUrl() const
 void AutoMountNetworkDrive::setUrl(QUrl newUrl)
 {
     url = std::move(newUrl);
+    addressHash = hashOf(url);
     unreadablePassword.clear();
 }
 
@@ -181,9 +264,13 @@ QHash<QString, QVariant> AutoMountNetworkDrive::getExtParameters() const
 void AutoMountNetworkDrive::setExtParameters(const QHash<QString, QVariant> &parameters)
 {
     extParameters = parameters;
-    takeUrl(extParameters);
-    extParameters.remove(kPasswordKey);
-    extParameters.remove(kActivatedKey);
+    for (const UrlPart &part : kUrlParts) {
+        removeKey(extParameters, part.key);
+    }
+    for (const QString &key : {kPortKey, kPasswordKey, kActivatedKey}) {
+        removeKey(extParameters, key);
+    }
+    parametersHash = hashOf(extParameters);
 }
 
 bool AutoMountNetworkDrive::isActivated() const

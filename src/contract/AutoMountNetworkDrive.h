@@ -10,6 +10,7 @@
 #include <QUrl>
 #include <QVariant>
 
+#include <cstddef>
 #include <initializer_list>
 #include <utility>
 
@@ -45,11 +46,21 @@ public:
         : AutoMountNetworkDrive(QHash<QString, QVariant>(parameters))
     { }
 
-    /// Whether both name the same drive in the same way: the same address, password included, and
-    /// the same extra parameters. A missing extra parameter equals an empty text or false, and the
-    /// number of slashes before the path does not count, since "//share" and "/share" are the same
-    /// share. Activation and status do not count: a drive stays the same drive when it is switched
-    /// on or connected.
+    /// Whether both name the same drive: the same address, password included, and the same extra
+    /// parameters.
+    ///
+    /// Of the addresses scheme, host, port, and user, password and path fully decoded are compared,
+    /// so that "a%21b" and "a!b" are the same path; query and fragment are compared as they are. A
+    /// part that is missing equals an empty one. The slashes before the path do not count, none
+    /// included: "//share" and "/share" are the same share, and a host without a path is its root.
+    ///
+    /// A missing extra parameter equals an empty text or false. Parameters that are copies of each
+    /// other are equal, also when they hold values that cannot be compared.
+    ///
+    /// Activation and status do not count: a drive stays the same drive when it is switched on or
+    /// connected.
+    ///
+    /// Costs next to nothing for different drives, which hashes made beforehand tell apart.
     bool operator==(const AutoMountNetworkDrive &other) const;
     /// The opposite of operator==.
     bool operator!=(const AutoMountNetworkDrive &other) const { return !(*this == other); }
@@ -58,6 +69,10 @@ public:
     [[nodiscard]] QUrl getUrl() const;
     /// Any URL is kept as it is, an invalid one too.
     void setUrl(QUrl url);
+
+    /// Whether the drive was made from a stored password that cannot be deciphered, so that the
+    /// address has none. Until setUrl() is called.
+    [[nodiscard]] bool hasUnreadablePassword() const { return !unreadablePassword.isEmpty(); }
 
     /// The drive letter or mount point: the extra parameter "NetworkDriveMountPoint" as text.
     [[nodiscard]] QString getMountPoint() const;
@@ -85,18 +100,39 @@ public:
     /// password cannot be enciphered its key is missing; it never stands there in clear.
     [[nodiscard]] QHash<QString, QVariant> toVariantHash() const;
 
-    /// Disconnects the drive at once. Does nothing for a drive that is not connected, and none can
-    /// be connected yet.
+    /// Disconnects the drive, if it is in the list of TXAutoMountManager and connected; does
+    /// nothing else. Never waits: the link of the letter goes and the share is unmounted in the
+    /// background.
+    ///
+    /// The drive stays disconnected until it is replaced by another one, switched off and on, or
+    /// the manager is started again. This value is disconnected at once; the manager tells when the
+    /// drive of its list is. Thread: the GUI thread.
     void disconnectExplicitlyNetworkDrive();
 
-    /// Lists the hosts under a URL, or the shares of a host. Blocks; call it on a worker thread.
+    /// Lists the hosts of the network and their shares, or the shares of one host. Blocks; call it
+    /// on a worker thread.
     ///
-    /// `found(url, context)` is called for each result as soon as it is there, on the calling
-    /// thread; `cancelled(context)` is asked again and again, and true ends the search. Either may
-    /// be null. Returns all results.
+    /// An empty URL searches the network: each host that announces itself is found ("smb://nas"),
+    /// and after it, as it answers, the shares that it lists without a password
+    /// ("smb://nas/pictures"). Several hosts are asked at a time, each for 10 seconds at most.
     ///
-    /// Searching is not available yet: this returns an empty list at once and says so in the
-    /// application's log, unless `cancelled` is true at the start.
+    /// A URL with a host finds the shares of that host, for the URL's user (who may be
+    /// "DOMAIN;user" or "DOMAIN\\user"), password and port; the path does not count. A wrong
+    /// password finds nothing, also where the host would let anybody list. The scheme is "smb";
+    /// "afp" and none mean the same. Any other URL finds nothing.
+    ///
+    /// The finds are URLs of the scheme "smb" without user and password. Printers and hidden shares
+    /// (a "$" at the end) are left out.
+    ///
+    /// `found(url, context)` is called for each find as soon as it is there; `cancelled(context)`
+    /// is asked before each find and at least each 50 ms, and true ends the search within 250 ms,
+    /// with no program left behind. Both are called on the calling thread, and either may be null;
+    /// while `found` does not return, nothing else is called. Returns all finds.
+    ///
+    /// Searching needs the programs avahi-browse and smbclient, which there are none of on Windows.
+    /// What goes wrong (a program is not installed, a host cannot be reached, a password is wrong)
+    /// is told by a warning in the application's log, one of each kind in a search, and never with
+    /// the password.
     static QList<QUrl> findHostsOrShareFolders(QUrl url, void (*found)(QUrl, void *),
                                                bool (*cancelled)(void *), void *context);
 
@@ -106,6 +142,9 @@ private:
     bool activated = false;
     NetworkDriveConnectionState status = NetworkDriveDisconnected;
     QString unreadablePassword;
+    // What operator== compares first. 0 for an empty address, and for no parameters.
+    size_t addressHash = 0;
+    size_t parametersHash = 0;
 };
 
 Q_DECLARE_METATYPE(AutoMountNetworkDrive)

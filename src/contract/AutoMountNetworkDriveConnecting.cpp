@@ -1,22 +1,18 @@
-// What reaches out to the network for AutoMountNetworkDrive. There is nothing yet that searches or
-// mounts, and this says so.
+// What searches the network for AutoMountNetworkDrive.
 
 #include "AutoMountNetworkDrive.h"
-#include "TXLogItem.h"
-#include "TXLogPrint.h"
+#include "NetworkSearch.h"
 
-void AutoMountNetworkDrive::disconnectExplicitlyNetworkDrive()
-{
-    status = NetworkDriveDisconnected;
-}
-
-QList<QUrl> AutoMountNetworkDrive::findHostsOrShareFolders(QUrl, void (*)(QUrl, void *),
+QList<QUrl> AutoMountNetworkDrive::findHostsOrShareFolders(QUrl url, void (*found)(QUrl, void *),
                                                            bool (*cancelled)(void *), void *context)
 {
-    if (cancelled && cancelled(context)) {
-        return {};
-    }
-    TXLogPrint(QStringLiteral("Searching the network for drives is not available yet."),
-               TXLogItem::Warning);
-    return {};
+    const auto report = [found, context](const QUrl &find) {
+        if (found) {
+            found(find, context);
+        }
+    };
+    const auto isCancelled = [cancelled, context] {
+        return cancelled && cancelled(context);
+    };
+    return NetworkSearch().run(url, report, isCancelled);
 }

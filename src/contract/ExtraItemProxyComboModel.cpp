@@ -141,9 +141,10 @@ void ExtraItemProxyComboModel::fetchMore(const QModelIndex &parent)
     }
 }
 
+// Asked with each value that is read, so the source is asked for its rows only once.
 ExtraItemProxyComboModel::Row ExtraItemProxyComboModel::kindOf(const QModelIndex &index) const
 {
-    if (!index.isValid() || index.model() != this || index.row() >= rowCount()) {
+    if (!index.isValid() || index.model() != this) {
         return Row::None;
     }
     if (index.row() < firstSourceRow()) {
@@ -152,6 +153,9 @@ ExtraItemProxyComboModel::Row ExtraItemProxyComboModel::kindOf(const QModelIndex
     const int behind = index.row() - firstSourceRow() - sourceRows();
     if (behind < 0) {
         return Row::Source;
+    }
+    if (behind >= countOfFixedRows() || !fixedRowsShown) {
+        return Row::None;
     }
     return behind == 0 ? Row::Separator : Row::Entry;
 }

@@ -2,6 +2,7 @@
 
 #include "TXJSONSerializer.h"
 
+#include <QLockFile>
 #include <QSettings>
 
 namespace {
@@ -22,12 +23,27 @@ QStringList storedTexts()
     return {value.toString()};
 }
 
+/// A process that is killed at the wrong moment leaves a lock that names nobody. The settings
+/// themselves would wait for half a minute then, and for ever for somebody who has stopped.
+bool isLockFree(const QString &settingsPath, int patienceMilliseconds)
+{
+    constexpr int kStaleMilliseconds = 250;
+    QLockFile lock(settingsPath + QStringLiteral(".lock"));
+    // Who is alive keeps it also when it is older: the system holds the file for him.
+    lock.setStaleLockTime(kStaleMilliseconds);
+    return lock.tryLock(patienceMilliseconds) || lock.error() != QLockFile::LockFailedError;
+}
+
 bool hasLostItsPassword(const AutoMountNetworkDrive &drive, const QHash<QString, QVariant> &stored)
 {
     return !drive.getUrl().password().isEmpty() && !stored.contains(kPasswordKey);
 }
 
 } // namespace
+
+NetworkDriveStore::NetworkDriveStore(int patienceMilliseconds)
+    : patience(patienceMilliseconds)
+{ }
 
 QList<AutoMountNetworkDrive> NetworkDriveStore::read()
 {
@@ -61,6 +77,9 @@ bool NetworkDriveStore::write(const QList<AutoMountNetworkDrive> &drives)
         texts.append(QString::fromUtf8(TXJSONSerializer::serialize(stored, false)));
     }
     QSettings settings;
+    if (!isLockFree(settings.fileName(), patience)) {
+        return false;
+    }
     settings.setValue(kListKey, texts + unreadable);
     // Writes now, to a new file that then takes the place of the old one.
     settings.sync();

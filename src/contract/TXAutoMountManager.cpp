@@ -1,9 +1,15 @@
 #include "TXAutoMountManager.h"
 
 #include "NetworkDriveStore.h"
+#include "NetworkDriveSupply.h"
+#include "NetworkDriveWorker.h"
 #include "TXLogItem.h"
+#include "TXLogManager.h"
 #include "TXLogPrint.h"
 
+#include <QCoreApplication>
+
+#include <algorithm>
 #include <utility>
 
 TXAutoMountManager *TXAutoMountManager::getInstance()
@@ -14,7 +20,10 @@ TXAutoMountManager *TXAutoMountManager::getInstance()
 
 TXAutoMountManager::TXAutoMountManager()
     : store(std::make_unique<NetworkDriveStore>())
-{ }
+{
+    // Made before the manager, the log lives until the worker has ended.
+    static_cast<void>(TXLogManager::applicationLog());
+}
 
 TXAutoMountManager::~TXAutoMountManager() = default;
 
@@ -24,8 +33,8 @@ void TXAutoMountManager::start()
         return;
     }
     running = true;
-    TXLogPrint(QStringLiteral("Connecting network drives is not available yet."),
-               TXLogItem::Warning);
+    isConnecting = canConnectNetworkDrives();
+    listChanged();
     emit started();
 }
 
@@ -35,7 +44,18 @@ void TXAutoMountManager::stop()
         return;
     }
     running = false;
-    emit stopped();
+    // What was told of the drives before, and is on its way, does not count any more.
+    renewIds();
+    if (worker) {
+        worker->setDrives({});
+    }
+    // Who hears of the first one may have it started again.
+    for (int row = 0; row < drives.size() && !running; ++row) {
+        setDriveStatus(row, NetworkDriveDisconnected);
+    }
+    if (!running) {
+        emit stopped();
+    }
 }
 
 bool TXAutoMountManager::isRunning() const
@@ -57,21 +77,62 @@ AutoMountNetworkDrive TXAutoMountManager::getDrive(int row)
 void TXAutoMountManager::add(AutoMountNetworkDrive drive)
 {
     load();
+    if (running) {
+        drive.setStatus(NetworkDriveDisconnected);
+    }
     drives.append(std::move(drive));
+    ids.append(++lastId);
+    listChanged();
 }
 
 void TXAutoMountManager::replace(int row, AutoMountNetworkDrive drive)
 {
-    if (hasRow(row)) {
-        drives[row] = std::move(drive);
+    if (!hasRow(row)) {
+        return;
     }
+    const bool isSame = drive == drives.at(row);
+    if (!isSame) {
+        ids[row] = ++lastId;
+    }
+    if (running) {
+        drive.setStatus(isSame ? drives.at(row).getStatus() : NetworkDriveDisconnected);
+    }
+    drives[row] = std::move(drive);
+    listChanged();
 }
 
 void TXAutoMountManager::remove(int row)
 {
     if (hasRow(row)) {
         drives.removeAt(row);
+        ids.removeAt(row);
+        listChanged();
     }
+}
+
+void TXAutoMountManager::disconnectDrive(const AutoMountNetworkDrive &drive)
+{
+    if (!worker || !running) {
+        return;
+    }
+    qsizetype row = findDrive(drive, NetworkDriveConnected);
+    if (row < 0) {
+        // One that is on its way: the worker may have come further than is known here.
+        row = findDrive(drive, NetworkDriveDisconnected);
+    }
+    if (row >= 0) {
+        worker->disconnectDrive(ids.at(row));
+    }
+}
+
+qsizetype TXAutoMountManager::findDrive(const AutoMountNetworkDrive &drive,
+                                        NetworkDriveConnectionState status) const
+{
+    const auto found = std::find_if(
+        drives.cbegin(), drives.cend(), [&drive, status](const AutoMountNetworkDrive &candidate) {
+            return candidate.isActivated() && candidate.getStatus() == status && candidate == drive;
+        });
+    return found == drives.cend() ? -1 : found - drives.cbegin();
 }
 
 void TXAutoMountManager::setDriveStatus(int row, NetworkDriveConnectionState status)
@@ -101,6 +162,7 @@ void TXAutoMountManager::load()
     }
     loaded = true;
     drives = store->read();
+    renewIds();
     if (store->unreadableCount() > 0) {
         TXLogPrint(QStringLiteral("Stored network drives that could not be read: %1. They are kept "
                                   "in the settings.")
@@ -113,4 +175,62 @@ bool TXAutoMountManager::hasRow(int row)
 {
     load();
     return row >= 0 && row < drives.size();
+}
+
+void TXAutoMountManager::networkDriveChanged(quint64 id, NetworkDriveConnectionState status)
+{
+    setDriveStatus(int(ids.indexOf(id)), status);
+}
+
+// One copy of the list for all changes of a turn of the event loop.
+void TXAutoMountManager::listChanged()
+{
+    if (running && isConnecting && !isChangePosted) {
+        isChangePosted = QMetaObject::invokeMethod(this, "handDrivesOver", Qt::QueuedConnection);
+    }
+}
+
+void TXAutoMountManager::handDrivesOver()
+{
+    isChangePosted = false;
+    if (!running) {
+        return;
+    }
+    load();
+    if (!worker) {
+        worker = std::make_unique<NetworkDriveWorker>(this);
+        if (!std::exchange(isEndPrepared, true)) {
+            qAddPostRoutine([] { getInstance()->endWithTheApplication(); });
+        }
+    }
+    QList<WatchedDrive> watched;
+    watched.reserve(drives.size());
+    for (qsizetype row = 0; row < drives.size(); ++row) {
+        watched.append({ids.at(row), drives.at(row)});
+    }
+    worker->setDrives(watched);
+}
+
+void TXAutoMountManager::renewIds()
+{
+    ids.resize(drives.size());
+    for (quint64 &id : ids) {
+        id = ++lastId;
+    }
+}
+
+void TXAutoMountManager::endWithTheApplication()
+{
+    if (worker && isChangePosted) {
+        // So that a drive that was removed a moment ago is disconnected.
+        handDrivesOver();
+    }
+    worker.reset();
+    running = false;
+    isEndPrepared = false;
+    isChangePosted = false;
+    renewIds();
+    for (AutoMountNetworkDrive &drive : drives) {
+        drive.setStatus(NetworkDriveDisconnected);
+    }
 }

@@ -1,0 +1,6 @@
+#include "NetworkDriveSupply.h"
+
+bool canConnectNetworkDrives()
+{
+    return true;
+}

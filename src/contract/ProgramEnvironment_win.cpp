@@ -1,0 +1,5 @@
+#include "ProgramEnvironment.h"
+
+void ProgramEnvironment::setOwnGroup(QProcess *) { }
+
+void ProgramEnvironment::killGroup(qint64) { }
