@@ -1,0 +1,278 @@
+// The controls of the bar one by one, and the menu of the button that adds items.
+
+#include "TXSelectionItemWidget.h"
+
+#include "ui_TXSelectionItemWidget.h"
+
+#include <QAction>
+#include <QMenu>
+
+#include <algorithm>
+
+namespace {
+
+constexpr char kEntryProperty[] = "id";
+
+enum Entry { CreateNew = 1, Duplicate, Import };
+
+void addEntry(QMenu *menu, Entry entry, const QString &text)
+{
+    auto *action = new QAction(text, menu);
+    action->setProperty(kEntryProperty, int(entry));
+    menu->addAction(action);
+}
+
+int possibleWidth(int width)
+{
+    return std::clamp(width, 0, QWIDGETSIZE_MAX);
+}
+
+} // namespace
+
+QComboBox *TXSelectionItemWidget::itemComboBox()
+{
+    return ui->itemComboBox;
+}
+
+QPushButton *TXSelectionItemWidget::addNewItemButton()
+{
+    return ui->addItemButton;
+}
+
+QPushButton *TXSelectionItemWidget::duplicateItemButton()
+{
+    return ui->duplicateItemButton;
+}
+
+QPushButton *TXSelectionItemWidget::saveItemButton()
+{
+    return ui->saveItemButton;
+}
+
+QPushButton *TXSelectionItemWidget::editItemButton()
+{
+    return ui->editItemButton;
+}
+
+QPushButton *TXSelectionItemWidget::importItemButton()
+{
+    return ui->importItemButton;
+}
+
+QPushButton *TXSelectionItemWidget::exportItemButton()
+{
+    return ui->exportItemButton;
+}
+
+QPushButton *TXSelectionItemWidget::removeItemButton()
+{
+    return ui->removeItemButton;
+}
+
+void TXSelectionItemWidget::setLabelName(const QString &name)
+{
+    ui->itemLabel->setText(name);
+    nameComboBox();
+}
+
+QString TXSelectionItemWidget::labelName() const
+{
+    return ui->itemLabel->text();
+}
+
+QFont TXSelectionItemWidget::labelFont() const
+{
+    return ui->itemLabel->font();
+}
+
+void TXSelectionItemWidget::setLabelMinimumWidth(int width)
+{
+    ui->itemLabel->setMinimumWidth(possibleWidth(width));
+}
+
+void TXSelectionItemWidget::setVisibleItemLabel(bool isVisible)
+{
+    ui->itemLabel->setVisible(isVisible);
+}
+
+// Without a label nothing would tell a screen reader what the box is for. A name that the host has
+// given is left alone.
+void TXSelectionItemWidget::nameComboBox()
+{
+    if (ui->itemComboBox->accessibleName() != comboBoxName) {
+        return;
+    }
+    comboBoxName = labelName().isEmpty() ? itemBasedName : QString();
+    ui->itemComboBox->setAccessibleName(comboBoxName);
+}
+
+void TXSelectionItemWidget::enableItemComboBox(bool isEnabled)
+{
+    ui->itemComboBox->setEnabled(isEnabled);
+}
+
+void TXSelectionItemWidget::enableRemoveItemButton(bool isEnabled)
+{
+    ui->removeItemButton->setEnabled(isEnabled);
+}
+
+void TXSelectionItemWidget::enableExportItemButton(bool isEnabled)
+{
+    ui->exportItemButton->setEnabled(isEnabled);
+}
+
+void TXSelectionItemWidget::enableDuplicateItemButton(bool isEnabled)
+{
+    ui->duplicateItemButton->setEnabled(isEnabled);
+}
+
+void TXSelectionItemWidget::enableEditionItemButton(bool isEnabled)
+{
+    ui->editItemButton->setEnabled(isEnabled);
+}
+
+void TXSelectionItemWidget::enableSaveItemButton(bool isEnabled)
+{
+    ui->saveItemButton->setEnabled(isEnabled);
+}
+
+void TXSelectionItemWidget::hideAddNewItemButton()
+{
+    ui->addItemButton->setVisible(false);
+}
+
+void TXSelectionItemWidget::hideRemoveButton()
+{
+    ui->removeItemButton->setVisible(false);
+}
+
+void TXSelectionItemWidget::hideExportButton()
+{
+    ui->exportItemButton->setVisible(false);
+}
+
+void TXSelectionItemWidget::hideDuplicateItemButton()
+{
+    ui->duplicateItemButton->setVisible(false);
+}
+
+void TXSelectionItemWidget::hideSaveItemButton()
+{
+    ui->saveItemButton->setVisible(false);
+}
+
+void TXSelectionItemWidget::hideEditionItemButton()
+{
+    ui->editItemButton->setVisible(false);
+}
+
+void TXSelectionItemWidget::hideImportItemButton()
+{
+    ui->importItemButton->setVisible(false);
+}
+
+void TXSelectionItemWidget::setVisibleImportButton(bool isVisible)
+{
+    ui->importButton->setVisible(isVisible);
+}
+
+void TXSelectionItemWidget::setImportToolButtonMenu(QMenu *menu)
+{
+    QToolButton *button = ui->importButton;
+    disconnect(button, SIGNAL(clicked()), this, SIGNAL(importItemHasBeenRequest()));
+    disconnect(button, SIGNAL(triggered(QAction *)), this,
+               SIGNAL(importItemHasBeenRequest(QAction *)));
+    // The menu that stays must not be deleted.
+    if (button->menu() && button->menu() != menu) {
+        button->menu()->deleteLater();
+    }
+    button->setMenu(menu);
+    if (menu) {
+        connect(button, SIGNAL(triggered(QAction *)), this,
+                SIGNAL(importItemHasBeenRequest(QAction *)));
+    } else {
+        connect(button, SIGNAL(clicked()), this, SIGNAL(importItemHasBeenRequest()));
+    }
+}
+
+QMenu *TXSelectionItemWidget::fillDefaultAddItemMenu()
+{
+    auto *menu = new QMenu(this);
+    if (createNewMenuEnabled) {
+        addEntry(menu, CreateNew, tr("Create New"));
+    }
+    if (duplicateMenuEnabled) {
+        addEntry(menu, Duplicate, tr("Duplicate"));
+    }
+    if (importMenuEnabled) {
+        addEntry(menu, Import, importName);
+    }
+    return menu;
+}
+
+void TXSelectionItemWidget::installDefaultMenu()
+{
+    setImportToolButtonMenu(fillDefaultAddItemMenu());
+}
+
+void TXSelectionItemWidget::addNewItemAction(QAction *action)
+{
+    // The menu is at work until the event loop is back where it is now. The bar is the first to
+    // hear of the action, so the slots of the host come within that time.
+    if (action && !menuCall) {
+        menuCall = new QObject(this);
+        menuCall->deleteLater();
+    }
+    const int entry = action ? action->property(kEntryProperty).toInt() : 0;
+    if (entry == CreateNew) {
+        emit addNewItemHasBeenRequest();
+    } else if (entry == Duplicate) {
+        emit duplicateItemHasBeenRequest();
+    } else if (entry == Import) {
+        emit importItemHasBeenRequest();
+    }
+}
+
+void TXSelectionItemWidget::enableCreateNewItemMenu(bool isEnabled)
+{
+    createNewMenuEnabled = isEnabled;
+    installDefaultMenu();
+}
+
+void TXSelectionItemWidget::enableDuplicateItemMenu(bool isEnabled)
+{
+    duplicateMenuEnabled = isEnabled;
+    installDefaultMenu();
+}
+
+void TXSelectionItemWidget::enableImportItemMenu(bool isEnabled)
+{
+    importMenuEnabled = isEnabled;
+    installDefaultMenu();
+}
+
+void TXSelectionItemWidget::setImportName(const QString &name)
+{
+    importName = name;
+    installDefaultMenu();
+}
+
+void TXSelectionItemWidget::setExportButtonToolTip(const QString &toolTip)
+{
+    ui->exportItemButton->setToolTip(toolTip);
+}
+
+void TXSelectionItemWidget::setItemComboBoxSizeAdjustPolicy(QComboBox::SizeAdjustPolicy policy)
+{
+    ui->itemComboBox->setSizeAdjustPolicy(policy);
+}
+
+void TXSelectionItemWidget::setItemComboBoxMaximumWidth(int width)
+{
+    ui->itemComboBox->setMaximumWidth(possibleWidth(width));
+}
+
+void TXSelectionItemWidget::allowComboboxNameEdition(bool isAllowed)
+{
+    comboNameEditionAllowed = isAllowed;
+}
