@@ -1,5 +1,6 @@
 #include "ServiceText.h"
 
+#include "ClippedText.h"
 #include "RichNotes.h"
 
 #include <QChar>
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr QChar kEllipsis(0x2026);
 constexpr qsizetype kLongestLineCharacters = 500;
 // Of notes with their markup and pictures.
 constexpr qsizetype kLongestNotesCharacters = 200000;
@@ -42,16 +42,6 @@ qsizetype costOf(QChar character, qsizetype marks)
     return marks + (character.unicode() < kFirstForeignLetter ? 1 : kForeignLetterCost);
 }
 
-/// The same text, or its first characters and an ellipsis. Pairs of surrogates stay whole.
-QString cut(const QString &text, qsizetype length)
-{
-    if (length >= text.size()) {
-        return text;
-    }
-    const bool isInPair = length > 0 && text.at(length - 1).isHighSurrogate();
-    return text.left(isInPair ? length - 1 : length) + kEllipsis;
-}
-
 void showPlain(const QString &words, QLabel &label)
 {
     label.setTextFormat(Qt::PlainText);
@@ -75,7 +65,8 @@ void showRich(const QString &notes, QLabel &label)
 QString ServiceText::line(const QString &text)
 {
     static const QRegularExpression lineBreak(QStringLiteral("[\\n\\r\\x{2028}\\x{2029}]"));
-    return cut(text, kLongestLineCharacters).replace(lineBreak, QStringLiteral(" "));
+    return ClippedText::clipped(text, kLongestLineCharacters)
+        .replace(lineBreak, QStringLiteral(" "));
 }
 
 void ServiceText::showLine(const QString &text, QLabel &label)
@@ -98,7 +89,7 @@ void ServiceText::prepareForNotes(QLabel &label)
 
 void ServiceText::showNotes(const QString &text, QLabel &label)
 {
-    const QString notes = cut(text, kLongestNotesCharacters);
+    const QString notes = ClippedText::clipped(text, kLongestNotesCharacters);
     if (!Qt::mightBeRichText(notes)) {
         showPlain(notes, label);
     } else if (notes == text && RichNotes::areHarmless(notes)) {
@@ -116,7 +107,7 @@ QString ServiceText::shortened(const QString &words)
         marks = words.at(place).isMark() ? marks + 1 : 0;
         cost += costOf(words.at(place), marks);
         if (cost > kAffordableCost) {
-            return cut(words, place);
+            return ClippedText::clipped(words, place);
         }
     }
     return words;
