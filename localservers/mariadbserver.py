@@ -7,13 +7,12 @@ mysql.general_log, whose file has a line for each row.
 """
 import os
 import shutil
-import signal
 import socket
 import subprocess
 import sys
-import threading
 
 import serverlink
+from childprocess import Children, LAUNCHER, launcher
 
 SERVER = "/usr/sbin/mariadbd"
 SYSTEM_TABLES = "/usr/share/mysql"
@@ -35,42 +34,10 @@ STORAGE = ["--innodb-buffer-pool-size=16M", "--innodb-log-file-size=4M",
 RUN_AS = ["--user=root"] if os.getuid() == 0 else []
 
 
-def launcher(last_words):
-    """Runs a program that is killed when this process is gone, however that ended."""
-    return ["/usr/bin/setpriv", "--pdeathsig", "KILL", "/bin/sh", "-c",
-            '[ "$PPID" = "$0" ] || exit; ' + last_words, str(os.getpid())]
-
-
-LAUNCHER = launcher('exec "$@"')
-
 # This one takes connections from the socket that comes as the standard input: so its port is never
 # free for somebody else between looking for one and listening.
 LISTENING_LAUNCHER = launcher('unset NOTIFY_SOCKET; export LISTEN_FDS=1 LISTEN_PID=$$;'
                               ' exec "$@" 3<&0 </dev/null')
-
-
-class Children:
-    """The one process that runs at a time, ended before this one ends."""
-
-    def __init__(self):
-        self.lock = threading.Lock()
-        self.current = None
-        self.is_over = False
-
-    def start(self, command, **options):
-        with self.lock:
-            if self.is_over:
-                sys.exit()
-            # A group of its own, which ends as a whole.
-            self.current = subprocess.Popen(command, start_new_session=True, **options)
-        return self.current
-
-    def end(self):
-        with self.lock:
-            self.is_over = True
-            if self.current and self.current.poll() is None:
-                os.killpg(self.current.pid, signal.SIGKILL)
-                self.current.wait()
 
 
 def text(value):
@@ -197,7 +164,7 @@ def serve():
         serverlink.ready(port)
     server.wait()
     if children.is_over:
-        threading.Event().wait()
+        serverlink.wait_for_end()
     sys.exit("the database server has ended:\n" + errors("server.log"))
 
 

@@ -49,6 +49,11 @@ def log(line):
     report("log", line[:LONGEST_LOG_LINE])
 
 
+def wait_for_end():
+    """Waits while another thread ends the process."""
+    threading.Event().wait()
+
+
 def silent():
     """Tells that a client gets no answer any more."""
     report("silent")
