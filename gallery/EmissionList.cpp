@@ -37,10 +37,11 @@ EmissionList::EmissionList(QWidget *parent)
     connect(clearButton, SIGNAL(clicked()), this, SLOT(clear()));
 }
 
-void EmissionList::retranslate()
+void EmissionList::retranslate(const QString &newCaption, const QString &listName)
 {
+    captionText = newCaption;
     clearButton->setText(tr("&Clear"));
-    lines->setAccessibleName(tr("Emissions of valueChanged"));
+    lines->setAccessibleName(listName);
     showCount();
 }
 
@@ -60,5 +61,5 @@ void EmissionList::clear()
 
 void EmissionList::showCount()
 {
-    caption->setText(tr("&valueChanged: %1").arg(locale().toString(emissions)));
+    caption->setText(captionText.arg(locale().toString(emissions)));
 }

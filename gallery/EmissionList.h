@@ -6,7 +6,7 @@ class QLabel;
 class QPlainTextEdit;
 class QPushButton;
 
-/// Counts and lists the emissions of a signal as they come, the newest at the end.
+/// Counts and lists the emissions of signals as they come, the newest at the end.
 class EmissionList final : public QWidget
 {
     Q_OBJECT
@@ -20,8 +20,10 @@ public:
     /// The emissions since the start, or since the user has cleared the list.
     [[nodiscard]] int count() const { return emissions; }
 
-    /// Sets all texts in the language of the moment; the lines already listed stay as they are.
-    void retranslate();
+    /// Sets all texts in the language of the moment; the lines already listed stay as they are. The
+    /// caption has "%1" where the count is to stand, and may have a mnemonic; the list is named for
+    /// users who do not see it.
+    void retranslate(const QString &newCaption, const QString &listName);
 
 public slots:
     /// Counts an emission and lists it with this text.
@@ -34,6 +36,7 @@ private:
     void showCount();
 
     QLabel *caption;
+    QString captionText;
     QPlainTextEdit *lines;
     QPushButton *clearButton;
     int emissions = 0;

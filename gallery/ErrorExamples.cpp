@@ -11,11 +11,6 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ErrorExamples", text);
-}
-
 TXStringI18n message(const char *source)
 {
     return {"ErrorExamples", source, nullptr, -1};
@@ -25,7 +20,8 @@ TXError profileError(const QString &path)
 {
     TXError error;
     if (!checkColourProfile(path, &error)) {
-        error.userInfo[QStringLiteral("MessageBoxTitle")] = tr("Colour Profile");
+        error.userInfo[QStringLiteral("MessageBoxTitle")] =
+            QCoreApplication::translate("ErrorExamples", "Colour Profile");
     }
     return error;
 }
@@ -76,7 +72,7 @@ QStringList errorExampleNames()
 {
     QStringList names;
     for (const Example &example : kExamples) {
-        names.append(tr(example.name));
+        names.append(QCoreApplication::translate("ErrorExamples", example.name));
     }
     return names;
 }

@@ -101,9 +101,19 @@ QPalette paletteOf(const Tones &tones)
     return palette;
 }
 
-} // namespace
+/// The style takes the outline of a box from the colour of the window, and makes it darker. On a
+/// dark ground that leaves nothing to be seen of a box that is not checked. Only for what paints no
+/// ground and no grid of this colour.
+void setBoxOutlines(const QPalette &palette, const Tones &tones)
+{
+    QPalette outlined = palette;
+    outlined.setColor(QPalette::Window, tones.muted);
+    for (const char *className : {"QCheckBox", "QRadioButton", "QTreeView"}) {
+        QApplication::setPalette(outlined, className);
+    }
+}
 
-void applyGalleryColours(GalleryColours colours)
+void setPalette(GalleryColours colours)
 {
     switch (colours) {
     case GalleryColours::Light:
@@ -111,12 +121,24 @@ void applyGalleryColours(GalleryColours colours)
         break;
     case GalleryColours::Dark:
         QApplication::setPalette(paletteOf(darkTones()));
+        setBoxOutlines(paletteOf(darkTones()), darkTones());
         break;
     case GalleryColours::System:
         // A palette without set roles gives the application's own back.
         QApplication::setPalette(QPalette());
         break;
     }
+}
+
+} // namespace
+
+void applyGalleryColours(GalleryColours colours)
+{
+    // Under a style sheet, Qt leaves the widgets there are in the colours that they have.
+    const QString sheet = qApp->styleSheet();
+    qApp->setStyleSheet(QString());
+    setPalette(colours);
+    qApp->setStyleSheet(sheet);
 }
 
 bool applyGalleryStyle(const QString &name)

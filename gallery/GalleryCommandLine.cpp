@@ -13,11 +13,6 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("GalleryCommandLine", text);
-}
-
 QStringList pageNames()
 {
     QStringList names;
@@ -34,26 +29,33 @@ QCommandLineOption valueOption(const QString &name, const QString &value, const 
 
 void addOptions(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(tr("Shows what the TXGUICommon library has to offer."));
+    parser.setApplicationDescription(
+        GalleryCommandLine::tr("Shows what the TXGUICommon library has to offer."));
     // Qt's own options have one dash, as -platform, and are not spelt letter by letter.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     // Not Qt's own help option, which brings a second one for Qt's arguments along.
     parser.addOption(QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")},
-                                        tr("Show this help and exit.")));
+                                        GalleryCommandLine::tr("Show this help and exit.")));
     parser.addVersionOption();
     parser.addOptions({
-        valueOption(QStringLiteral("page"), tr("name"),
-                    tr("Open at this page: %1.").arg(pageNames().join(QStringLiteral(", ")))),
-        valueOption(QStringLiteral("grab"), tr("file|folder"),
-                    tr("Save a picture of the named page as this PNG file, or of every page into "
-                       "this folder, print the paths and exit.")),
-        valueOption(QStringLiteral("style"), tr("name"),
-                    tr("Widget style: %1.").arg(QStyleFactory::keys().join(QStringLiteral(", ")))),
-        valueOption(QStringLiteral("palette"), QStringLiteral("light|dark"), tr("Colours.")),
-        valueOption(QStringLiteral("language"), tr("code"), tr("Language of the texts, as en.")),
+        valueOption(QStringLiteral("page"), GalleryCommandLine::tr("name"),
+                    GalleryCommandLine::tr("Open at this page: %1.")
+                        .arg(pageNames().join(QStringLiteral(", ")))),
+        valueOption(QStringLiteral("grab"), GalleryCommandLine::tr("file|folder"),
+                    GalleryCommandLine::tr(
+                        "Save a picture of the named page as this PNG file, or of every page into "
+                        "this folder, print the paths and exit.")),
+        valueOption(QStringLiteral("style"), GalleryCommandLine::tr("name"),
+                    GalleryCommandLine::tr("Widget style: %1.")
+                        .arg(QStyleFactory::keys().join(QStringLiteral(", ")))),
+        valueOption(QStringLiteral("palette"), QStringLiteral("light|dark"),
+                    GalleryCommandLine::tr("Colours.")),
+        valueOption(QStringLiteral("language"), GalleryCommandLine::tr("code"),
+                    GalleryCommandLine::tr("Language of the texts, as en.")),
     });
     // Qt reads this one itself; here it is only let through.
-    QCommandLineOption platform = valueOption(QStringLiteral("platform"), tr("name"), QString());
+    QCommandLineOption platform =
+        valueOption(QStringLiteral("platform"), GalleryCommandLine::tr("name"), QString());
     platform.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(platform);
 }
@@ -63,11 +65,11 @@ QString firstMistake(const QCommandLineParser &parser, const QStringList &argume
     for (const char *option : {"page", "grab", "style", "palette", "language"}) {
         const QString name = QString::fromLatin1(option);
         if (parser.isSet(name) && parser.value(name).isEmpty()) {
-            return tr("--%1 needs a value.").arg(name);
+            return GalleryCommandLine::tr("--%1 needs a value.").arg(name);
         }
     }
     if (!arguments.isEmpty()) {
-        return tr("Unexpected argument \"%1\".").arg(arguments.first());
+        return GalleryCommandLine::tr("Unexpected argument \"%1\".").arg(arguments.first());
     }
     return {};
 }

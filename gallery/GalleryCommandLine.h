@@ -2,6 +2,7 @@
 
 #include "GalleryAppearance.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -13,6 +14,8 @@
 /// without a screen too.
 class GalleryCommandLine
 {
+    Q_DECLARE_TR_FUNCTIONS(GalleryCommandLine)
+
 public:
     /// Reads and checks the arguments. Makes a QCoreApplication for the time of the call: no
     /// application object may exist yet. Help, version and mistakes are answered at once, on

@@ -19,11 +19,6 @@ namespace {
 
 const QString kSuffix = QStringLiteral(".png");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("GalleryGrabber", text);
-}
-
 QString nativePath(const QString &path)
 {
     return QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());

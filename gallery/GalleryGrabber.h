@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -15,6 +16,8 @@ class QWidget;
 /// ready, and not before. Runs event loops; used once, on the GUI thread.
 class GalleryGrabber
 {
+    Q_DECLARE_TR_FUNCTIONS(GalleryGrabber)
+
 public:
     /// How long a page may take until it is ready, in milliseconds.
     static constexpr int kReadyLimitMilliseconds = 30000;

@@ -1,9 +1,12 @@
 #include "GalleryLanguages.h"
 
+#include "LocalisationUpdater.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QTranslator>
 
@@ -20,9 +23,16 @@ QString codeOfFile(const QString &fileName)
     return pattern.match(fileName).captured(1);
 }
 
-QStringList translationFiles(const QString &folder)
+/// What stands before the code: "txgallery" of "txgallery_fr.qm".
+QString moduleOfFile(const QString &fileName, const QString &code)
 {
-    return QDir(folder).entryList({QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
+    return fileName.chopped(code.size() + QLatin1String("_.qm").size());
+}
+
+QPointer<GalleryLanguages> &theInstance()
+{
+    static QPointer<GalleryLanguages> instance;
+    return instance;
 }
 
 } // namespace
@@ -32,21 +42,34 @@ GalleryLanguages::GalleryLanguages(QString folder, Formats formats, QObject *par
     , folder(std::move(folder))
     , formats(formats)
     , code(kEnglish)
-{ }
+{
+    theInstance() = this;
+}
 
 GalleryLanguages::~GalleryLanguages()
 {
     removeTranslators();
 }
 
+GalleryLanguages *GalleryLanguages::instance()
+{
+    return theInstance();
+}
+
+QStringList GalleryLanguages::files() const
+{
+    QStringList names = QDir(folder).entryList({QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
+    names.removeIf([](const QString &name) { return codeOfFile(name).isEmpty(); });
+    return names;
+}
+
 QStringList GalleryLanguages::codes() const
 {
     QStringList result;
-    const QStringList files = translationFiles(folder);
-    for (const QString &file : files) {
-        result.append(codeOfFile(file));
+    const QStringList names = files();
+    for (const QString &name : names) {
+        result.append(codeOfFile(name));
     }
-    result.removeAll(QString());
     result.removeAll(kEnglish);
     result.removeDuplicates();
     result.sort();
@@ -91,18 +114,20 @@ bool GalleryLanguages::use(const QString &newCode)
     // First the locale: windows ask for it when they are told of the language.
     QLocale::setDefault(locale());
     removeTranslators();
-    if (code == kEnglish) {
-        return true;
+    failures.clear();
+    if (code != kEnglish) {
+        installQtTexts();
+        installModules();
     }
-    installTranslator(QStringLiteral("%1/qtbase_%2.qm")
-                          .arg(QLibraryInfo::path(QLibraryInfo::TranslationsPath), code));
-    const QStringList files = translationFiles(folder);
-    for (const QString &file : files) {
-        if (codeOfFile(file) == code) {
-            installTranslator(folder + QLatin1Char('/') + file);
-        }
-    }
+    emit changed();
     return true;
+}
+
+void GalleryLanguages::lookAgain()
+{
+    if (!use(code)) {
+        use(kEnglish);
+    }
 }
 
 QLocale GalleryLanguages::locale() const
@@ -115,17 +140,46 @@ QLocale GalleryLanguages::locale() const
 
 void GalleryLanguages::removeTranslators()
 {
-    for (const std::unique_ptr<QTranslator> &translator : translators) {
-        QCoreApplication::removeTranslator(translator.get());
-    }
+    // Who deletes a translator takes it out of the application.
     translators.clear();
 }
 
-void GalleryLanguages::installTranslator(const QString &path)
+/// Qt's texts lie with Qt, not beside the program.
+void GalleryLanguages::installQtTexts()
 {
-    auto translator = std::make_unique<QTranslator>();
-    if (translator->load(path)) {
+    const auto translator = QSharedPointer<QTranslator>::create();
+    if (translator->load(QStringLiteral("%1/qtbase_%2.qm")
+                             .arg(QLibraryInfo::path(QLibraryInfo::TranslationsPath), code))) {
         QCoreApplication::installTranslator(translator.get());
-        translators.push_back(std::move(translator));
+        translators.append(translator);
     }
+}
+
+void GalleryLanguages::installModules()
+{
+    const QStringList names = modules();
+    for (const QString &module : names) {
+        TXError error;
+        const auto translator = LocalisationUpdater::updateLocalisationOfApp(module, code, &error);
+        if (translator) {
+            translators.append(translator);
+        } else if (error.isValid()) {
+            failures.append(error);
+        }
+    }
+}
+
+/// The library and the gallery are asked for without a look at the files: there may be texts for
+/// the language where there are none for its country.
+QStringList GalleryLanguages::modules() const
+{
+    QStringList result = {QStringLiteral("txguicommon"), QStringLiteral("txgallery")};
+    const QStringList names = files();
+    for (const QString &name : names) {
+        if (codeOfFile(name) == code) {
+            result.append(moduleOfFile(name, code));
+        }
+    }
+    result.removeDuplicates();
+    return result;
 }

@@ -1,18 +1,22 @@
 #pragma once
 
+#include "TXError.h"
+
+#include <QList>
 #include <QLocale>
 #include <QObject>
+#include <QSharedPointer>
 #include <QString>
 #include <QStringList>
-
-#include <memory>
-#include <vector>
 
 class QTranslator;
 
 /// The languages in which the gallery can speak: English, in which it is written, and each language
 /// for which the translations folder holds a file named <anything>_<code>.qm, as txgallery_fr.qm or
 /// txgallery_pt_BR.qm.
+///
+/// The texts are installed by LocalisationUpdater, for the library ("txguicommon"), the gallery
+/// ("txgallery") and every other <anything> of the language.
 ///
 /// There is one object, on the GUI thread; it owns the translators it has installed and takes them
 /// away when it goes.
@@ -27,10 +31,20 @@ public:
         OfLanguage, ///< as the language's first country does it, the same on every machine
     };
 
-    /// A folder that does not exist leaves English alone.
+    /// The folder tells which languages there are; one that does not exist leaves English alone.
+    /// Texts come from "../Resources/translations" beside the program, wherever the folder is.
     explicit GalleryLanguages(QString folder, Formats formats = Formats::OfSystem,
                               QObject *parent = nullptr);
     ~GalleryLanguages() override;
+
+    /// The object there is, or null: for pages, which are made without knowing of it.
+    [[nodiscard]] static GalleryLanguages *instance();
+
+    /// The folder in which languages are found.
+    [[nodiscard]] QString translationsFolder() const { return folder; }
+
+    /// The names of the files from which codes() are read, sorted.
+    [[nodiscard]] QStringList files() const;
 
     /// The codes to choose from: "en" first, the others sorted.
     [[nodiscard]] QStringList codes() const;
@@ -46,16 +60,32 @@ public:
 
     /// Takes the locale's dates and numbers and the language's texts, Qt's own among them where Qt
     /// is installed with its translations. All windows get QEvent::LanguageChange. A code that is
-    /// not among codes() gives false and changes nothing.
+    /// not among codes() gives false and changes nothing. A file that cannot be loaded is told by
+    /// errors() and left out; the others are installed all the same.
     bool use(const QString &newCode);
+
+    /// What went wrong in the last use(), an error for each file; empty when all was well.
+    [[nodiscard]] QList<TXError> errors() const { return failures; }
+
+    /// Takes note of files that have come, changed or gone: installs the language in use again, or
+    /// English when it is no longer there.
+    void lookAgain();
+
+signals:
+    /// Emitted at the end of each use() that gave true, and so by lookAgain(): the language in use
+    /// or those to choose from may have changed.
+    void changed();
 
 private:
     [[nodiscard]] QLocale locale() const;
     void removeTranslators();
-    void installTranslator(const QString &path);
+    void installQtTexts();
+    void installModules();
+    [[nodiscard]] QStringList modules() const;
 
     QString folder;
     Formats formats;
     QString code;
-    std::vector<std::unique_ptr<QTranslator>> translators;
+    QList<QSharedPointer<QTranslator>> translators;
+    QList<TXError> failures;
 };

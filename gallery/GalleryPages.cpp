@@ -4,13 +4,18 @@
 #include "ColourDifferencePage.h"
 #include "ControlsPage.h"
 #include "DatabasePage.h"
+#include "DrivesPage.h"
 #include "ErrorsPage.h"
+#include "FeedbackPage.h"
 #include "FtpPage.h"
 #include "ImagesPage.h"
+#include "LanguagePage.h"
+#include "ListsPage.h"
 #include "LogPage.h"
 #include "MailPage.h"
 #include "PagesPage.h"
 #include "ReportPage.h"
+#include "SelectionPage.h"
 #include "UpdatePage.h"
 #include "VariantPage.h"
 
@@ -39,15 +44,20 @@ const QList<GalleryPageEntry> &galleryPages()
         {"errors", QT_TRANSLATE_NOOP("GalleryPages", "Errors"), make<ErrorsPage>},
         {"access", QT_TRANSLATE_NOOP("GalleryPages", "Access"), make<AccessPage>},
         {"controls", QT_TRANSLATE_NOOP("GalleryPages", "Controls"), make<ControlsPage>},
+        {"lists", QT_TRANSLATE_NOOP("GalleryPages", "Lists and delegates"), make<ListsPage>},
+        {"selection", QT_TRANSLATE_NOOP("GalleryPages", "Selection bar"), make<SelectionPage>},
         {"mail", QT_TRANSLATE_NOOP("GalleryPages", "Mail"), make<MailPage>},
         {"ftp", QT_TRANSLATE_NOOP("GalleryPages", "FTP"), make<FtpPage>},
         {"database", QT_TRANSLATE_NOOP("GalleryPages", "Database"), make<DatabasePage>},
+        {"drives", QT_TRANSLATE_NOOP("GalleryPages", "Drives"), make<DrivesPage>},
         {"update", QT_TRANSLATE_NOOP("GalleryPages", "Update"), make<UpdatePage>},
         {"report", QT_TRANSLATE_NOOP("GalleryPages", "Report"), make<ReportPage>},
         {"variant", QT_TRANSLATE_NOOP("GalleryPages", "Variant"), make<VariantPage>},
         {"images", QT_TRANSLATE_NOOP("GalleryPages", "Images"), make<ImagesPage>},
         {"difference", QT_TRANSLATE_NOOP("GalleryPages", "Colour difference"),
          make<ColourDifferencePage>},
+        {"feedback", QT_TRANSLATE_NOOP("GalleryPages", "Feedback"), make<FeedbackPage>},
+        {"language", QT_TRANSLATE_NOOP("GalleryPages", "Language and style"), make<LanguagePage>},
     };
     return pages;
 }

@@ -72,6 +72,7 @@ GalleryWindow::GalleryWindow(GalleryLanguages &languages, const GallerySettings 
     connect(header, SIGNAL(coloursChosen(GalleryColours)), this, SLOT(useColours(GalleryColours)));
     connect(header, SIGNAL(styleChosen(QString)), this, SLOT(useStyle(QString)));
     connect(header, SIGNAL(languageChosen(QString)), this, SLOT(useLanguage(QString)));
+    connect(&languages, SIGNAL(changed()), this, SLOT(showLanguages()));
     connect(list, SIGNAL(currentRowChanged(int)), this, SLOT(pageRowChanged(int)));
     retranslate();
     list->setCurrentRow(std::max(0, galleryPageRow(settings.page)));
@@ -180,6 +181,11 @@ void GalleryWindow::applyLooks(const GallerySettings &settings)
     languages.use(settings.language);
     header->setStyleKey(galleryStyleKey(QApplication::style()->name()));
     header->setColours(settings.colours);
+    showLanguages();
+}
+
+void GalleryWindow::showLanguages()
+{
     header->setLanguages(languages.codes(), languages.current());
 }
 

@@ -53,6 +53,7 @@ private slots:
     void useColours(GalleryColours colours);
     void useStyle(const QString &key);
     void useLanguage(const QString &code);
+    void showLanguages();
     void showNextPage();
     void showPreviousPage();
     void moveFocus();

@@ -47,7 +47,8 @@ LocalServerPanel::LocalServerPanel(QWidget *parent)
     errorText->setWordWrap(true);
     errorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
     setUpLayout();
-    showFailure();
+    errorPicture->hide();
+    errorText->hide();
     connect(slider, SIGNAL(clicked(bool)), this, SLOT(switchTo(bool)));
     connect(fillInButton, SIGNAL(clicked()), this, SIGNAL(fillInWanted()));
 }
@@ -103,6 +104,11 @@ void LocalServerPanel::addOption(QLabel *label, QWidget *option)
     // A turn of the wheel while scrolling past would restart the server at each step.
     WheelGuard::protect(option);
     options->insertLayout(place, parts);
+}
+
+bool LocalServerPanel::isHelpedBySetup(const QString &) const
+{
+    return true;
 }
 
 void LocalServerPanel::hideFillIn()
@@ -195,8 +201,9 @@ QString LocalServerPanel::failureText() const
     case Failure::None:
         break;
     case Failure::NotStarted:
-        return tr("The server did not start: %1").arg(reason) + u'\n'
-            + tr("\"./dev setup\" installs what is needed.");
+        return tr("The server did not start: %1").arg(reason)
+            + (isHelpedBySetup(reason) ? u'\n' + tr("\"./dev setup\" installs what is needed.")
+                                       : QString());
     case Failure::Stopped:
         return reason.isEmpty() ? tr("The server has stopped by itself.")
                                 : tr("The server has stopped by itself: %1").arg(reason);

@@ -44,8 +44,8 @@ public slots:
     /// rule, about a second for a database server, which makes its data folder first.
     void setRunning(bool isWanted);
 
-    /// Starts a running server again, at another port, for options that have changed. No effect
-    /// while none runs.
+    /// Starts a running server again, at another port as a rule, for options that have changed. No
+    /// effect while none runs.
     void restart();
 
 signals:
@@ -66,6 +66,10 @@ protected:
 
     /// What clients on this computer need while the server runs. Nothing by default.
     [[nodiscard]] virtual TransferSettingsWish transferSettings() const { return {}; }
+
+    /// Whether the set-up may help a server that did not start for this reason, which the user is
+    /// told then. True by default.
+    [[nodiscard]] virtual bool isHelpedBySetup(const QString &reason) const;
 
     /// The running server or null.
     [[nodiscard]] LocalServer *runningServer() const { return server.get(); }

@@ -92,7 +92,7 @@ QVariant MeasurementModel::headerData(int section, Qt::Orientation orientation, 
     case MeasurementColumn::B:
         return tr("b*");
     case MeasurementColumn::DeltaE:
-        return tr("\u0394E");
+        return tr("ΔE");
     case MeasurementColumn::Measured:
         return tr("Measured (UTC)");
     }

@@ -126,7 +126,7 @@ void MeasurementTablePanel::close()
 void MeasurementTablePanel::retranslate()
 {
     setTitle(tr("Measurements"));
-    filterLabel->setText(tr("\u0394E ab&ove:"));
+    filterLabel->setText(tr("ΔE ab&ove:"));
     filterBox->setSpecialValueText(tr("all"));
     rowsLabel->setText(tr("Rows per &page:"));
     for (int i = 0; i < rowsBox->count(); ++i) {
@@ -135,7 +135,7 @@ void MeasurementTablePanel::retranslate()
     setButtonText(removeButton, tr("&Remove Rows"));
     view->setAccessibleName(tr("Measurements"));
     statementLabel->setText(tr("Stateme&nt:"));
-    sortingLabel->setText(tr("A click on No. or \u0394E sorts: these columns have an index."));
+    sortingLabel->setText(tr("A click on No. or ΔE sorts: these columns have an index."));
     if (model) {
         model->retranslate();
     }

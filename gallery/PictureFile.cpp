@@ -19,11 +19,6 @@ constexpr qint64 kBytesPerMegabyte = qint64(1024) * 1024;
 constexpr int kShownBits = 32;
 constexpr int kLongName = 40;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PictureFile", text);
-}
-
 /// In megabytes, begun ones counted as whole.
 qint64 megabytesOf(const QSize &size, QImage::Format format)
 {

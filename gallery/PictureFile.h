@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QImage>
 #include <QSize>
 #include <QString>
@@ -8,6 +9,9 @@
 /// plug-in for.
 struct PictureFile
 {
+    Q_DECLARE_TR_FUNCTIONS(PictureFile)
+
+public:
     enum class Problem {
         None,
         NoFile, ///< something else, such as a folder, a pipe or a device; it is not opened

@@ -58,7 +58,7 @@ QPlainTextEdit *SessionPanel::makeList(QLabel *label)
     list->setMinimumHeight(kListHeight);
     list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     // Lines of a server may be long, and have no blanks.
-    list->setWordWrapMode(QTextOption::WrapAnywhere);
+    list->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     list->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     label->setBuddy(list);
     return list;

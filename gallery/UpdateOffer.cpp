@@ -19,11 +19,6 @@ constexpr int kSlowPieces = 40;
 constexpr int kPauseMilliseconds = 100;
 constexpr qsizetype kLongDescriptionBytes = 10'000'000;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("UpdateOffer", text);
-}
-
 QByteArray fileFor(UpdateOffer offer)
 {
     const QByteArray text =
@@ -61,17 +56,18 @@ int revisionFor(UpdateOffer offer)
 
 QString descriptionFor(UpdateOffer offer)
 {
-    const QString notes = tr("<p><b>New in this release</b></p><ul>"
-                             "<li>Databases: a million rows, page by page</li>"
-                             "<li>Updates: what you are looking at</li></ul>"
-                             "<p>More at <a href=\"https://www.tovra.example\">"
-                             "www.tovra.example</a>.</p>");
+    const QString notes =
+        QCoreApplication::translate("UpdateOffer",
+                                    "<p><b>New in this release</b></p><ul>"
+                                    "<li>Databases: a million rows, page by page</li>"
+                                    "<li>Updates: what you are looking at</li></ul>"
+                                    "<p>More at <a href=\"https://www.tovra.example\">"
+                                    "www.tovra.example</a>.</p>");
     if (offer != UpdateOffer::LongDescription) {
         return notes;
     }
-    return notes
-        + tr("And one more thing. ")
-              .repeated(kLongDescriptionBytes / tr("And one more thing. ").size());
+    const QString more = QCoreApplication::translate("UpdateOffer", "And one more thing. ");
+    return notes + more.repeated(kLongDescriptionBytes / more.size());
 }
 
 QJsonObject releaseFor(UpdateOffer offer)

@@ -89,7 +89,7 @@ void ValueSliderPanel::retranslate()
     ink->setMinLabelName(tr("bare paper"));
     ink->setMaxLabelName(tr("four full inks"));
     disabledInk->setDataName(tr("Total ink coverage, disabled"));
-    emissions->retranslate();
+    emissions->retranslate(tr("&valueChanged: %1"), tr("Emissions of valueChanged"));
     note->setText(tr("A value typed into the box goes to the slider and comes back, so one edit "
                      "tells of itself more than once. The wheel changes nothing: it scrolls the "
                      "page."));

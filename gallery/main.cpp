@@ -4,8 +4,10 @@
 #include "GalleryPage.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
+#include "StyleSheets.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -45,6 +47,10 @@ void useSettingsIn(const QString &folder)
     for (const auto scope : {QSettings::UserScope, QSettings::SystemScope}) {
         QSettings::setPath(QSettings::IniFormat, scope, folder);
     }
+    // There the library keeps the key of passwords. Only some systems have a variable for it.
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder));
+    // There the pages keep what the user makes with them.
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder));
 }
 
 int takePictures(const GalleryCommandLine &commandLine)
@@ -98,5 +104,6 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QApplication application(argc, argv);
+    StyleSheets::loadFonts();
     return isForPictures ? takePictures(commandLine) : runGallery(commandLine);
 }
