@@ -1,9 +1,21 @@
 #include "NetworkDriveStore.h"
 #include "TestBase.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QDirIterator>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QLockFile>
+#include <QRandomGenerator>
 #include <QSettings>
+#include <QSysInfo>
+
+#include <array>
+#include <csignal>
+#include <ctime>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -46,6 +58,47 @@ bool write(const QList<AutoMountNetworkDrive> &drives)
     return NetworkDriveStore().write(drives);
 }
 
+/// What a program does that saves one list after the other, until it is killed.
+[[noreturn]] void saveForEver(const QList<QList<AutoMountNetworkDrive>> &lists, int begun)
+{
+    while (true) {
+        if (::write(begun, "", 1) != 1) {
+            ::_exit(1);
+        }
+        for (const QList<AutoMountNetworkDrive> &list : lists) {
+            NetworkDriveStore store;
+            store.read();
+            store.write(list);
+        }
+    }
+}
+
+/// Lets another process save and kills it this much after its begin.
+void saveAndKill(const QList<QList<AutoMountNetworkDrive>> &lists, long microseconds)
+{
+    std::array<int, 2> pipe = {};
+    QCOMPARE(::pipe(pipe.data()), 0);
+    const pid_t process = ::fork();
+    if (process == 0) {
+        saveForEver(lists, pipe[1]);
+    }
+    char byte = 0;
+    QCOMPARE(::read(pipe[0], &byte, 1), ssize_t(1));
+    const timespec moment = {0, microseconds * 1000};
+    ::nanosleep(&moment, nullptr);
+    QCOMPARE(::kill(process, SIGKILL), 0);
+    int status = 0;
+    QCOMPARE(::waitpid(process, &status, 0), process);
+    QVERIFY(WIFSIGNALED(status));
+    ::close(pipe[0]);
+    ::close(pipe[1]);
+}
+
+QString lockOfTheSettings()
+{
+    return QSettings().fileName() + ".lock";
+}
+
 } // namespace
 
 class TestNetworkDriveStore : public TestBase
@@ -65,6 +118,11 @@ private slots:
     void otherSettingsAreLeftAlone();
     void fileThatCannotBeWrittenIsTold();
     void cutOffFileGivesNoCrash();
+    void passwordIsInNoFileOfTheHome();
+    void killedSavingLeavesTheOldListOrTheNewOne();
+    void lockOfTheDeadHoldsNobodyUp_data();
+    void lockOfTheDeadHoldsNobodyUp();
+    void lockOfTheLivingIsKept();
 };
 
 void TestNetworkDriveStore::nothingStoredReadsAsNoDrives()
@@ -130,6 +188,14 @@ void TestNetworkDriveStore::unreadableEntriesAreLeftOutAndKept_data()
     QTest::newRow("cut off") << "{\"NetworkDriveActivated\":true,\"NetworkDr";
     QTest::newRow("another JSON") << "[1,2]";
     QTest::newRow("no drive") << "{\"Version\":2}";
+    QTest::newRow("empty") << "";
+    QTest::newRow("blank") << " ";
+    QTest::newRow("null") << "null";
+    QTest::newRow("text") << "\"NetworkDriveActivated\"";
+    QTest::newRow("other case") << "{\"networkdriveactivated\":true}";
+    QTest::newRow("two in one") << "{\"NetworkDriveActivated\":true}{}";
+    QTest::newRow("deep") << QString(100'000, '[');
+    QTest::newRow("not text") << QString(QChar(0xd800));
     QTest::newRow("null byte") << QString("{\"a\":1}").replace(2, 1, QChar(0));
 }
 
@@ -187,6 +253,96 @@ void TestNetworkDriveStore::cutOffFileGivesNoCrash()
         file.close();
         QVERIFY(readAfresh().size() <= 2);
     }
+}
+
+void TestNetworkDriveStore::passwordIsInNoFileOfTheHome()
+{
+    QVERIFY(write({makeDrive("a"), makeDrive("b")}));
+    QVERIFY(write({makeDrive("b")}));
+    QDirIterator files(QDir::homePath(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    int count = 0;
+    while (files.hasNext()) {
+        QFile file(files.next());
+        QVERIFY(file.open(QFile::ReadOnly));
+        QVERIFY2(!file.readAll().contains("s3cret"), qPrintable(file.fileName()));
+        ++count;
+    }
+    QVERIFY(count > 0);
+}
+
+void TestNetworkDriveStore::killedSavingLeavesTheOldListOrTheNewOne()
+{
+    constexpr int kRounds = 50;
+    constexpr int kLatestMicroseconds = 60'000;
+    const QList<AutoMountNetworkDrive> few = {makeDrive("a")};
+    const QList<AutoMountNetworkDrive> many = {makeDrive("b"), makeDrive("c"), makeDrive("d")};
+    QSettings().setValue("LogLevel", 2);
+    int manyCount = 0;
+    QRandomGenerator random(1);
+    for (int round = 0; round < kRounds; ++round) {
+        // Also after a kill.
+        QVERIFY(write(few));
+        saveAndKill({many, few}, random.bounded(kLatestMicroseconds));
+        NetworkDriveStore store;
+        const QList<AutoMountNetworkDrive> found = store.read();
+        QVERIFY2(found == few || found == many, qPrintable(hosts(found).join(',')));
+        QCOMPARE(store.unreadableCount(), 0);
+        QCOMPARE(found.first().getUrl().password(), "s3cret-Word");
+        QCOMPARE(QSettings().value("LogLevel"), QVariant(2));
+        manyCount += found == many ? 1 : 0;
+    }
+    // Else nothing was seen.
+    QVERIFY(manyCount > 0 && manyCount < kRounds);
+    QVERIFY(write(few));
+}
+
+void TestNetworkDriveStore::lockOfTheDeadHoldsNobodyUp_data()
+{
+    QTest::addColumn<QByteArray>("lock");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("cut off") << QByteArray("123");
+    QTest::newRow("nonsense") << QByteArray("\n\n\n\n\n");
+    // No process has a number as high as this.
+    QTest::newRow("whole") << "999999999\nsaver\n" + QSysInfo::machineHostName().toUtf8() + "\n";
+    QTest::newRow("of another machine") << QByteArray("1\nsaver\nelsewhere\n");
+}
+
+void TestNetworkDriveStore::lockOfTheDeadHoldsNobodyUp()
+{
+    QFETCH(QByteArray, lock);
+    // For a machine that does ten other things.
+    constexpr int kBusyMilliseconds = 5000;
+    QVERIFY(write({makeDrive("a")}));
+    QFile file(lockOfTheSettings());
+    QVERIFY(file.open(QFile::WriteOnly));
+    QCOMPARE(file.write(lock), lock.size());
+    file.close();
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(write({makeDrive("b")}));
+    QVERIFY(timer.elapsed() < NetworkDriveStore::kPatienceMilliseconds + kBusyMilliseconds);
+    QVERIFY(!file.exists());
+    QCOMPARE(hosts(readAfresh()), QStringList("b"));
+}
+
+void TestNetworkDriveStore::lockOfTheLivingIsKept()
+{
+    constexpr int kShortMilliseconds = 300;
+    QVERIFY(write({makeDrive("a")}));
+    QLockFile lock(lockOfTheSettings());
+    QVERIFY(lock.lock());
+    // Older than any saving lasts.
+    QFile file(lockOfTheSettings());
+    QVERIFY(file.open(QFile::ReadWrite));
+    QVERIFY(
+        file.setFileTime(QDateTime::currentDateTime().addSecs(-3600), QFile::FileModificationTime));
+
+    QVERIFY(!NetworkDriveStore(kShortMilliseconds).write({makeDrive("b")}));
+
+    QVERIFY(file.exists());
+    lock.unlock();
+    QCOMPARE(hosts(readAfresh()), QStringList("a"));
+    QVERIFY(write({makeDrive("b")}));
 }
 
 int main(int argc, char **argv)

@@ -149,7 +149,7 @@ void TestTXJSONSerializer::indentedTextReadsTheSame()
 
 void TestTXJSONSerializer::indentedTextTakesSeveralLines()
 {
-    QCOMPARE(TXJSONSerializer::serialize(QVariantHash({{"a", QVariantList({1})}}), true),
+    QCOMPARE(TXJSONSerializer::serialize(QVariantHash({{"a", QVariantList() << 1}}), true),
              QByteArray("{\n    \"a\": [\n        1\n    ]\n}\n"));
 }
 
@@ -168,7 +168,7 @@ void TestTXJSONSerializer::textIsRead_data()
     row("exponent", "1.5e300", 1.5e300);
     row("whole number with a fraction", "1.0", qlonglong(1));
     row("empty array", "[]", QVariantList());
-    row("nested array", "[[1],[]]", QVariantList({QVariantList({qlonglong(1)}), QVariantList()}));
+    row("nested array", "[[1],[]]", QVariantList({QVariantList() << qlonglong(1), QVariantList()}));
     row("empty object", "{}", QVariantHash());
     row("object", "{\"a\":null}", QVariantHash({{"a", QVariant::fromValue(nullptr)}}));
     row("blanks before", QByteArray(100, ' ') + "{}", QVariantHash());

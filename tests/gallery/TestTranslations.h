@@ -3,8 +3,9 @@
 #include <QCoreApplication>
 #include <QString>
 
-/// Where the build has put gallerytest_fr.qm. Needs an application object.
+/// Where a test, as any program, finds its translations: the build has put gallerytest_fr.qm there.
+/// Needs an application object.
 inline QString testTranslationsFolder()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/gallery/translations");
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../Resources/translations");
 }

@@ -1,7 +1,9 @@
 #include "GalleryAppearance.h"
 #include "TestBase.h"
 
+#include <QCheckBox>
 #include <QStyle>
+#include <QTreeWidget>
 
 namespace {
 
@@ -22,6 +24,18 @@ qreal contrast(const QColor &left, const QColor &right)
     return (brighter + 0.05) / (darker + 0.05);
 }
 
+/// Of what is painted, the most visible on this ground.
+qreal bestContrast(const QImage &picture, const QColor &ground)
+{
+    qreal best = 1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            best = qMax(best, contrast(picture.pixelColor(x, y), ground));
+        }
+    }
+    return best;
+}
+
 } // namespace
 
 class TestGalleryAppearance : public TestBase
@@ -31,6 +45,7 @@ class TestGalleryAppearance : public TestBase
 private slots:
     void textsStandOutFromTheirGround_data();
     void textsStandOutFromTheirGround();
+    void uncheckedBoxesStandOutFromADarkGround();
     void openWindowsFollowAtOnce();
     void systemColoursComeBack();
     void styleIsFoundWithoutCase();
@@ -79,6 +94,24 @@ void TestGalleryAppearance::textsStandOutFromTheirGround()
 
         QVERIFY2(found >= ratio, qPrintable(QString::number(found)));
     }
+}
+
+void TestGalleryAppearance::uncheckedBoxesStandOutFromADarkGround()
+{
+    applyGalleryColours(GalleryColours::Dark);
+    const QPalette palette = QApplication::palette();
+    QCheckBox box;
+    box.ensurePolished();
+    QTreeWidget tree;
+    tree.setHeaderHidden(true);
+    auto *item = new QTreeWidgetItem(&tree, {QString()});
+    item->setCheckState(0, Qt::Unchecked);
+    tree.resize(100, 40);
+    tree.setFrameShape(QFrame::NoFrame);
+
+    // 3 is what parts of controls are to have.
+    QVERIFY(bestContrast(box.grab().toImage(), palette.color(QPalette::Window)) >= 3);
+    QVERIFY(bestContrast(tree.grab().toImage(), palette.color(QPalette::Base)) >= 3);
 }
 
 void TestGalleryAppearance::openWindowsFollowAtOnce()

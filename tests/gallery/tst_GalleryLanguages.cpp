@@ -2,9 +2,59 @@
 #include "TestBase.h"
 #include "TestTranslations.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 namespace {
+
+/// Files of a language of its own, for as long as the object lives: in the program's folder, whence
+/// they are installed, and named in a folder that lists nothing else, since other tests have files
+/// in the program's too.
+class OwnFiles
+{
+public:
+    OwnFiles() { removeFiles(); }
+    ~OwnFiles() { removeFiles(); }
+    OwnFiles(const OwnFiles &) = delete;
+    OwnFiles &operator=(const OwnFiles &) = delete;
+
+    [[nodiscard]] QString listFolder() const { return list.path(); }
+
+    [[nodiscard]] bool listFrench() const { return write(list.filePath("gallerytest_fr.qm")); }
+
+    [[nodiscard]] bool addDamaged() const
+    {
+        return write(inProgram(kDamaged)) && write(list.filePath(kDamaged));
+    }
+
+    [[nodiscard]] bool addWhole() const
+    {
+        return QFile::copy(inProgram("gallerytest_fr.qm"), inProgram(kWhole))
+            && write(list.filePath(kWhole));
+    }
+
+    void removeFiles() const
+    {
+        for (const QString &name : {kDamaged, kWhole}) {
+            QFile::remove(inProgram(name));
+            QFile::remove(list.filePath(name));
+        }
+    }
+
+private:
+    const QString kDamaged = QStringLiteral("languagesdamaged_eo.qm");
+    const QString kWhole = QStringLiteral("languageswhole_eo.qm");
+
+    static QString inProgram(const QString &name) { return testTranslationsFolder() + u'/' + name; }
+
+    static bool write(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write("no translation") > 0;
+    }
+
+    QTemporaryDir list;
+};
 
 QString translatedLog()
 {
@@ -27,6 +77,11 @@ private slots:
     void unknownCodeChangesNothing();
     void translationsGoWithTheObject();
     void localeFollowsTheLanguage();
+    void damagedFileIsToldAndTheOthersAreInstalled();
+    void errorsGoWithTheNextLanguage();
+    void changeIsTold();
+    void languageThatHasGoneGivesWayToEnglish();
+    void objectIsFoundWhileItLives();
 
 protected:
     void finish() override { QLocale::setDefault(QLocale::system()); }
@@ -129,6 +184,81 @@ void TestGalleryLanguages::localeFollowsTheLanguage()
 
     QVERIFY(languages.use("en"));
     QCOMPARE(QLocale(), QLocale("en"));
+}
+
+void TestGalleryLanguages::damagedFileIsToldAndTheOthersAreInstalled()
+{
+    const OwnFiles files;
+    QVERIFY(files.addDamaged());
+    QVERIFY(files.addWhole());
+    GalleryLanguages languages(files.listFolder());
+
+    QVERIFY(languages.use("eo"));
+
+    QCOMPARE(languages.errors().size(), 1);
+    QCOMPARE(languages.errors().first().domain, "LocalisationErrorDomain");
+    const QString told = languages.errors().first().getLocalizedDescription();
+    QVERIFY2(told.contains("languagesdamaged_eo.qm"), qPrintable(told));
+    QCOMPARE(translatedLog(), "Journal");
+}
+
+void TestGalleryLanguages::errorsGoWithTheNextLanguage()
+{
+    const OwnFiles files;
+    QVERIFY(files.addDamaged());
+    QVERIFY(files.listFrench());
+    GalleryLanguages languages(files.listFolder());
+    QVERIFY(languages.use("eo"));
+    QCOMPARE(languages.errors().size(), 1);
+
+    QVERIFY(!languages.use("xx"));
+    QCOMPARE(languages.errors().size(), 1);
+
+    QVERIFY(languages.use("fr"));
+    QVERIFY(languages.errors().isEmpty());
+}
+
+void TestGalleryLanguages::changeIsTold()
+{
+    GalleryLanguages languages(testTranslationsFolder());
+    const QSignalSpy changes(&languages, SIGNAL(changed()));
+
+    QVERIFY(languages.use("fr"));
+    QCOMPARE(changes.count(), 1);
+
+    QVERIFY(!languages.use("xx"));
+    QCOMPARE(changes.count(), 1);
+
+    languages.lookAgain();
+    QCOMPARE(changes.count(), 2);
+    QCOMPARE(languages.current(), "fr");
+    QCOMPARE(translatedLog(), "Journal");
+}
+
+void TestGalleryLanguages::languageThatHasGoneGivesWayToEnglish()
+{
+    const OwnFiles files;
+    QVERIFY(files.addWhole());
+    GalleryLanguages languages(files.listFolder());
+    QVERIFY(languages.use("eo"));
+    QCOMPARE(translatedLog(), "Journal");
+
+    files.removeFiles();
+    languages.lookAgain();
+
+    QCOMPARE(languages.current(), "en");
+    QCOMPARE(translatedLog(), "Log");
+}
+
+void TestGalleryLanguages::objectIsFoundWhileItLives()
+{
+    QCOMPARE(GalleryLanguages::instance(), nullptr);
+    {
+        const GalleryLanguages languages(testTranslationsFolder());
+        QCOMPARE(GalleryLanguages::instance(), &languages);
+        QCOMPARE(languages.translationsFolder(), testTranslationsFolder());
+    }
+    QCOMPARE(GalleryLanguages::instance(), nullptr);
 }
 
 int main(int argc, char **argv)

@@ -92,6 +92,7 @@ private slots:
     void placesThatCannotBeWrittenAreOneLine();
     void helpAndVersionNeedNoScreen_data();
     void helpAndVersionNeedNoScreen();
+    void resourcesLieBesideTheProgram_data();
     void resourcesLieBesideTheProgram();
 
 protected:
@@ -125,6 +126,9 @@ void TestTXGallery::everyPageIsGrabbed()
         QVERIFY(image.height() >= 740);
         QVERIFY2(countColours(image) > 50, qPrintable(entry.name()));
     }
+    // Nothing is left of the settings, passwords and drives of the pictures.
+    QVERIFY(!QFileInfo::exists(qEnvironmentVariable("XDG_CONFIG_HOME") + "/TXGUICommon"));
+    QVERIFY(!QFileInfo::exists(QDir::homePath() + "/Network Drives"));
 }
 
 void TestTXGallery::furtherWindowsAreGrabbed()
@@ -338,11 +342,19 @@ void TestTXGallery::helpAndVersionNeedNoScreen()
     QVERIFY2(outcome.errors.isEmpty(), qPrintable(outcome.errors));
 }
 
+void TestTXGallery::resourcesLieBesideTheProgram_data()
+{
+    QTest::addColumn<int>("side");
+    QTest::newRow("text_file_icon.png") << 64;
+    QTest::newRow("remote_folder.png") << 128;
+}
+
 void TestTXGallery::resourcesLieBesideTheProgram()
 {
-    const QImage icon(galleryFolder() + "/Resources/Images/text_file_icon.png");
+    QFETCH(int, side);
+    const QImage icon(galleryFolder() + "/Resources/Images/" + QTest::currentDataTag());
 
-    QCOMPARE(icon.size(), QSize(64, 64));
+    QCOMPARE(icon.size(), QSize(side, side));
     QCOMPARE(icon.pixelColor(0, 0).alpha(), 0);
     QVERIFY(countColours(icon) > 10);
 }

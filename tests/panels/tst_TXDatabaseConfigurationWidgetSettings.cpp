@@ -294,7 +294,7 @@ void TestTXDatabaseConfigurationWidgetSettings::portIsClamped_data()
     QTest::newRow("bytes") << QVariant(QByteArray("3307")) << 3307;
     QTest::newRow("words") << QVariant("x") << 1;
     QTest::newRow("none") << QVariant() << 1;
-    QTest::newRow("list") << QVariant(QVariantList({3307})) << 1;
+    QTest::newRow("list") << QVariant(QVariantList() << 3307) << 1;
     QTest::newRow("hash") << QVariant(QVariantHash({{"a", 3307}})) << 1;
 }
 

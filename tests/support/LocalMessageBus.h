@@ -5,7 +5,8 @@
 #include <QTemporaryDir>
 
 /// A message bus of its own for one test program, in place of the user's: dbus-daemon with a
-/// configuration and a socket in a temporary folder. Ends with the object.
+/// configuration and a socket in a temporary folder. Ends with the object, and with the thread that
+/// has started it, however that ends.
 ///
 /// A process finds its session bus once, at the first use: call start() before that. Programs that
 /// the bus is to start on demand are announced before start() too.
