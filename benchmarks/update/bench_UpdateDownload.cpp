@@ -1,11 +1,12 @@
+#include "GapMeter.h"
 #include "LocalUpdateService.h"
 #include "PeakMeter.h"
+#include "QuietPlatform.h"
 #include "RatioReporter.h"
 #include "TXCheckForUpdateWidget.h"
 #include "TXUpdateService.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
@@ -13,7 +14,6 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QVariantHash>
 
 #include <functional>
@@ -28,55 +28,6 @@ constexpr qint64 kMegabyte = qint64(1024) * 1024;
 constexpr qint64 kWarmUpBytes = 16 * kMegabyte;
 
 const QString kFileName = QStringLiteral("installer.bin");
-
-QtMessageHandler printAll = nullptr;
-
-/// Prints all but what the platform without a screen says of each window that comes up.
-void printImportant(QtMsgType type, const QMessageLogContext &context, const QString &text)
-{
-    if (!text.startsWith(QLatin1String("This plugin does not support "))) {
-        printAll(type, context, text);
-    }
-}
-
-/// While it lives the table of results is not torn by those words.
-class QuietPlatform
-{
-public:
-    QuietPlatform() { printAll = qInstallMessageHandler(printImportant); }
-    ~QuietPlatform() { qInstallMessageHandler(printAll); }
-
-    Q_DISABLE_COPY_MOVE(QuietPlatform)
-};
-
-/// The longest time in which this thread took no event.
-class GapMeter : public QObject
-{
-    Q_OBJECT
-
-public:
-    GapMeter()
-    {
-        timer.setTimerType(Qt::PreciseTimer);
-        connect(&timer, SIGNAL(timeout()), this, SLOT(tick()));
-        timer.start(1);
-        sinceTick.start();
-    }
-
-    [[nodiscard]] double milliseconds() const { return static_cast<double>(longest) / 1e6; }
-
-public slots:
-    void tick()
-    {
-        longest = qMax(longest, sinceTick.nsecsElapsed());
-        sinceTick.start();
-    }
-
-private:
-    QTimer timer;
-    QElapsedTimer sinceTick;
-    qint64 longest = 0;
-};
 
 void run(QObject *object, const char *signal, const std::function<bool()> &isDone)
 {
@@ -198,5 +149,3 @@ BENCHMARK(measure<downloadByLoop>)
     ->Arg(1024)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
-
-#include "bench_UpdateDownload.moc"
