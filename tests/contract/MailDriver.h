@@ -53,7 +53,7 @@ inline MailOutcome sendMail(const QHash<QString, QVariant> &settings,
     const QSignalSpy failed(sender, SIGNAL(mailSendingFailed(QString)));
     QSignalSpy gone(sender, SIGNAL(destroyed()));
     sender->sendMessage();
-    gone.wait(30000);
+    gone.wait(60000);
     return {int(succeeded.count() + failed.count()), !succeeded.isEmpty(),
             failed.isEmpty() ? QString() : failed.first().first().toString()};
 }
