@@ -1,0 +1,14 @@
+#include "SchedulePage.h"
+
+SchedulePage::SchedulePage(QWidget *parent)
+    : GalleryPage(parent)
+{
+    retranslate();
+}
+
+QString SchedulePage::description() const
+{
+    return {};
+}
+
+void SchedulePage::retranslate() { }

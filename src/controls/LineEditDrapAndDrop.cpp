@@ -1,0 +1,5 @@
+#include "LineEditDrapAndDrop.h"
+
+LineEditDrapAndDrop::LineEditDrapAndDrop(QWidget *parent)
+    : QLineEdit(parent)
+{ }

@@ -1,0 +1,5 @@
+#include "RotationLabel.h"
+
+RotationLabel::RotationLabel(QWidget *parent)
+    : QLabel(parent)
+{ }

@@ -1,0 +1,7 @@
+#include "TXGroupBoxBolded.h"
+
+TXGroupBoxBolded::TXGroupBoxBolded(QWidget *parent)
+    : QGroupBox(parent)
+{ }
+
+void TXGroupBoxBolded::setBoldTitle(bool) { }

@@ -1,0 +1,5 @@
+#include "TXSplitter.h"
+
+TXSplitter::TXSplitter(QWidget *parent)
+    : QSplitter(parent)
+{ }

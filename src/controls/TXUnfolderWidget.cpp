@@ -1,0 +1,5 @@
+#include "TXUnfolderWidget.h"
+
+TXUnfolderWidget::TXUnfolderWidget(QWidget *parent)
+    : QGroupBox(parent)
+{ }

@@ -1,0 +1,5 @@
+#include "TreeViewDragAndDrop.h"
+
+TreeViewDragAndDrop::TreeViewDragAndDrop(QWidget *parent)
+    : QTreeView(parent)
+{ }

@@ -1,0 +1,5 @@
+#include "AboutAppWindow.h"
+
+AboutAppWindow::AboutAppWindow(QWidget *parent)
+    : QDialog(parent)
+{ }

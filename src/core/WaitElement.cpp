@@ -1,0 +1,1 @@
+#include "WaitElement.h"

@@ -1,0 +1,5 @@
+#include "TXSelectDefaultEncodingWidget.h"
+
+TXSelectDefaultEncodingWidget::TXSelectDefaultEncodingWidget(QWidget *parent)
+    : QWidget(parent)
+{ }

@@ -1,0 +1,5 @@
+#include "TXTriggerEventWidget.h"
+
+TXTriggerEventWidget::TXTriggerEventWidget(QWidget *parent)
+    : QWidget(parent)
+{ }

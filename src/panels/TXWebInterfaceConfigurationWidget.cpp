@@ -1,0 +1,5 @@
+#include "TXWebInterfaceConfigurationWidget.h"
+
+TXWebInterfaceConfigurationWidget::TXWebInterfaceConfigurationWidget(QWidget *parent)
+    : QWidget(parent)
+{ }

@@ -1,0 +1,5 @@
+#include "TXCheckForUpdateConfigWidget.h"
+
+TXCheckForUpdateConfigWidget::TXCheckForUpdateConfigWidget(QWidget *parent)
+    : QWidget(parent)
+{ }
