@@ -34,6 +34,7 @@ EmissionList::EmissionList(QWidget *parent)
     grid->addWidget(lines, 1, 0, 1, 2);
     grid->setColumnStretch(0, 1);
     grid->setRowStretch(1, 1);
+    setTabOrder(clearButton, lines);
     connect(clearButton, SIGNAL(clicked()), this, SLOT(clear()));
 }
 

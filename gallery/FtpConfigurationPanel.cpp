@@ -1,5 +1,7 @@
 #include "FtpConfigurationPanel.h"
 
+#include "TabOrder.h"
+
 #include "FTPConfigurationWidget.h"
 
 #include <QCheckBox>
@@ -24,6 +26,7 @@ FtpConfigurationPanel::FtpConfigurationPanel(QWidget *parent)
         box->setChecked(true);
     }
     setUpLayout();
+    setTabOrderOfParts({widget, statusBox, importerBox, activeBox, eraseBox});
     retranslate();
     connect(statusBox, SIGNAL(toggled(bool)), this, SLOT(setStatusShown(bool)));
     connect(activeBox, SIGNAL(toggled(bool)), this, SLOT(setActiveShown(bool)));

@@ -10,16 +10,16 @@
 ListsPage::ListsPage(QWidget *parent)
     : GalleryPage(parent)
 {
-    auto *top = new QHBoxLayout;
-    top->setSpacing(GalleryPanel::kGap);
-    top->addWidget(new ChartTreePanel(this), 1);
-    top->addWidget(new PatchListPanel(this), 1);
-
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(GalleryPanel::kGap);
     rows->addWidget(new ComboBoxPanel(this));
-    rows->addLayout(top);
+
+    auto *columns = new QHBoxLayout;
+    columns->setSpacing(GalleryPanel::kGap);
+    columns->addWidget(new ChartTreePanel(this), 1);
+    columns->addWidget(new PatchListPanel(this), 1);
+    rows->addLayout(columns);
     rows->addWidget(new PatchRunsPanel(this));
     rows->addStretch();
 }

@@ -3,6 +3,7 @@
 #include "GalleryPanel.h"
 #include "LogPreview.h"
 #include "ScanPanel.h"
+#include "TabOrder.h"
 
 #include "TXLogManager.h"
 #include "TXLogPrint.h"
@@ -55,6 +56,7 @@ LogPage::LogPage(QWidget *parent)
     log->setMaximumCount(kMaximumEntries);
     previewLabel->setBuddy(preview);
     setUpLayout();
+    setTabOrderOfParts({scanPanel, lineBox, windowButton, preview});
     retranslate();
     connect(informationButton, SIGNAL(clicked()), this, SLOT(writeInformation()));
     connect(warningButton, SIGNAL(clicked()), this, SLOT(writeWarning()));

@@ -55,6 +55,7 @@ MailServerPanel::MailServerPanel(QWidget *parent)
     addOption(securityLabel, securityBox);
     addOption(nullptr, loginBox);
     addOption(troubleLabel, troubleBox);
+    setTabOrder(loginBox, troubleBox);
     retranslate();
     setSecurity(LocalMailServer::Security::StartTls);
     loginBox->setChecked(true);

@@ -6,6 +6,7 @@
 #include "ReportOutputPanel.h"
 #include "ReportView.h"
 #include "ReportViewBar.h"
+#include "TabOrder.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -20,6 +21,7 @@ ReportPage::ReportPage(QWidget *parent)
     , bar(new ReportViewBar(view, this))
 {
     setUpLayout();
+    setTabOrderOfParts({optionsPanel, outputPanel, bar, view});
     retranslate();
     connect(optionsPanel, SIGNAL(optionsChanged()), this, SLOT(showReport()));
     connect(outputPanel, SIGNAL(busyChanged(bool)), this, SLOT(setBusy(bool)));

@@ -1,6 +1,7 @@
 #include "ReportViewBar.h"
 
 #include "ReportView.h"
+#include "TabOrder.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -178,12 +179,15 @@ void ReportViewBar::setUpLayout()
     constexpr int kGroupGap = 18;
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    for (QWidget *widget : QList<QWidget *>{pageLabel, pageBox, countLabel, backButton, onButton}) {
+    const QList<QWidget *> paging = {pageLabel, pageBox, countLabel, backButton, onButton};
+    for (QWidget *widget : paging) {
         row->addWidget(widget);
     }
     row->addStretch();
     row->addSpacing(kGroupGap);
-    for (QWidget *widget : QList<QWidget *>{zoomLabel, zoomBox, smallerButton, largerButton}) {
+    const QList<QWidget *> zooming = {zoomLabel, zoomBox, smallerButton, largerButton};
+    for (QWidget *widget : zooming) {
         row->addWidget(widget);
     }
+    setTabOrderOfParts(paging + zooming);
 }

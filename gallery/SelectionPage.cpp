@@ -7,6 +7,7 @@
 #include "SelectionBarEmissions.h"
 #include "SelectionBarOptions.h"
 #include "SortedPresetBar.h"
+#include "TabOrder.h"
 
 #include "TXError.h"
 #include "TXSelectionItemWidget.h"
@@ -37,6 +38,7 @@ SelectionPage::SelectionPage(QWidget *parent)
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(2, 1);
+    setTabOrderOfParts({presets, options, sortedBar, emissions});
     connectPanels();
     sortedBar->showChosen(presets->shownPreset());
 }

@@ -23,6 +23,8 @@ SessionPanel::SessionPanel(QWidget *parent)
     , clearButton(new QPushButton(this))
 {
     setUpLayout();
+    setTabOrder(received, clearButton);
+    setTabOrder(clearButton, emissions);
     connect(clearButton, SIGNAL(clicked()), received, SLOT(clear()));
     connect(clearButton, SIGNAL(clicked()), emissions, SLOT(clear()));
 }

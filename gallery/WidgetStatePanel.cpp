@@ -1,6 +1,7 @@
 #include "WidgetStatePanel.h"
 
 #include "PatchWindow.h"
+#include "TabOrder.h"
 #include "WidgetStateTree.h"
 
 #include "TXWidgetUtilities.h"
@@ -31,6 +32,7 @@ WidgetStatePanel::WidgetStatePanel(QWidget *parent)
     treeLabel->setBuddy(tree);
     restoreButton->setEnabled(false);
     setUpLayout();
+    setTabOrderOfParts({openButton, disarrangeButton, saveButton, restoreButton, tree});
     retranslate();
     connect(openButton, SIGNAL(clicked()), this, SLOT(openWindow()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(saveState()));
