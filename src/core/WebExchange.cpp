@@ -60,26 +60,33 @@ WebAnswer answerIn(QNetworkReply &reply)
     return answer;
 }
 
+/// Sends, waits, and shows the reply with whether it has finished by itself.
+template<class Use>
+void sendAndUse(const WebExchange::Send &send, const Use &use)
+{
+    QNetworkAccessManager manager;
+    QNetworkReply *reply = send(manager);
+    const bool isFinished = waitFor(*reply);
+    use(*reply, isFinished);
+    reply->deleteLater();
+}
+
 } // namespace
 
 WebAnswer WebExchange::run(const Send &send)
 {
-    QNetworkAccessManager manager;
-    QNetworkReply *reply = send(manager);
-    waitFor(*reply);
-    WebAnswer answer = answerIn(*reply);
-    reply->deleteLater();
+    WebAnswer answer;
+    sendAndUse(send, [&answer](QNetworkReply &reply, bool) { answer = answerIn(reply); });
     return answer;
 }
 
 void WebExchange::run(const Send &send, const Receive &receive)
 {
-    QNetworkAccessManager manager;
-    QNetworkReply *reply = send(manager);
-    if (waitFor(*reply)) {
-        receive(*reply);
-    }
-    reply->deleteLater();
+    sendAndUse(send, [&receive](QNetworkReply &reply, bool isFinished) {
+        if (isFinished) {
+            receive(reply);
+        }
+    });
 }
 
 #include "WebExchange.moc"

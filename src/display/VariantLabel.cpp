@@ -1,6 +1,7 @@
 #include "VariantLabel.h"
 
 #include "AccessibleInterfaces.h"
+#include "ClippedText.h"
 #include "ColouredLineLayout.h"
 #include "FocusFrame.h"
 #include "RichLine.h"
@@ -68,11 +69,7 @@ QString VariantLabel::visibleText(qsizetype maximum) const
 {
     ensureMeasured();
     const QString words = richLine != nullptr ? richLine->text() : line->line().text();
-    if (words.size() <= maximum) {
-        return words;
-    }
-    const bool isPairCut = maximum > 0 && words[maximum - 1].isHighSurrogate();
-    return words.left(isPairCut ? maximum - 1 : maximum);
+    return ClippedText::start(words, maximum);
 }
 
 QSize VariantLabel::textSize() const

@@ -1,5 +1,6 @@
 #include "VariantPlainText.h"
 
+#include "ClippedText.h"
 #include "VariantKind.h"
 
 #include <QVariant>
@@ -104,10 +105,5 @@ QString VariantPlainText::fromVariant(const QVariant &value)
 {
     QString text;
     append(text, value);
-    if (isFull(text)) {
-        const bool isPairCut = text[kMostCharacters - 1].isHighSurrogate();
-        text.truncate(kMostCharacters - (isPairCut ? 1 : 0));
-        text.append(QChar(0x2026));
-    }
-    return text;
+    return ClippedText::clipped(text, kMostCharacters);
 }
