@@ -43,6 +43,7 @@ private slots:
     void lineEndsAtTheEdges();
     void frameMovesTheEndsOfTheLine_data();
     void frameMovesTheEndsOfTheLine();
+    void capsReachHalfAPixelIntoTheGap();
     void missingPictureLeavesNoGap();
     void damagedPictureLeavesNoGap();
     void hugeGripLeavesTheEnds();
@@ -217,6 +218,19 @@ void TestTXSplitter::frameMovesTheEndsOfTheLine()
     QVERIFY(isBlack(length / 2 - half - 1, kMiddle, ratio));
     QVERIFY(!isBlack(length / 2 - half + 1, kMiddle, ratio));
     QVERIFY(isBlack(length / 2 + half + 1, kMiddle, ratio));
+}
+
+void TestTXSplitter::capsReachHalfAPixelIntoTheGap()
+{
+    make(Qt::Horizontal);
+    const QImage picture = PixelProbe(*handle(), 2.0).image();
+    const int column = 2 * kMiddle;
+    const int start = 2 * (kLength - kGrip) / 2;
+    const int end = 2 * (kLength + kGrip) / 2;
+    QCOMPARE(picture.pixelColor(column, start), QColor(Qt::black));
+    QVERIFY(picture.pixelColor(column, start + 1) != QColor(Qt::black));
+    QVERIFY(picture.pixelColor(column, end - 2) != QColor(Qt::black));
+    QCOMPARE(picture.pixelColor(column, end - 1), QColor(Qt::black));
 }
 
 void TestTXSplitter::missingPictureLeavesNoGap()

@@ -63,7 +63,7 @@ private slots:
     void invisibleBoxHidesNothing();
     void grandchildrenAreNotAsked();
     void argumentDoesNotCount();
-    void staysFlat();
+    void flatnessStays();
     void childDeletedByAnotherDoesNoHarm();
     void clickAndSpaceToggle();
     void keyboardFocusIsVisible();
@@ -316,13 +316,15 @@ void TestTXUnfolderWidget::argumentDoesNotCount()
     QVERIFY(box->isChecked());
 }
 
-void TestTXUnfolderWidget::staysFlat()
+void TestTXUnfolderWidget::flatnessStays()
 {
     box->show();
     box->setChecked(false);
     QVERIFY(box->isFlat());
-    box->setFlat(false);
     box->setChecked(true);
+    QVERIFY(box->isFlat());
+    box->setFlat(false);
+    box->setChecked(false);
     QVERIFY(!box->isFlat());
 }
 
