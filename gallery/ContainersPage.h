@@ -2,6 +2,8 @@
 
 #include "GalleryPage.h"
 
+/// The containers and labels of the library: flow, square layout, splitter, folding and bold group
+/// boxes, rotated labels.
 class ContainersPage final : public GalleryPage
 {
     Q_OBJECT
@@ -12,5 +14,5 @@ public:
     [[nodiscard]] QString description() const override;
 
 protected:
-    void retranslate() override;
+    void retranslate() override { }
 };

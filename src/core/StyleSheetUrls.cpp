@@ -6,6 +6,8 @@ namespace {
 
 constexpr QStringView kFunction = u"url(";
 constexpr QStringView kOpenings = u"'|\"";
+/// What would end a string in single quotes.
+constexpr QStringView kEscaped = u"'\n\r\f";
 
 } // namespace
 
@@ -27,4 +29,23 @@ QString StyleSheetUrls::below(const QString &folder, const QString &sheet)
         }
     }
     return result += text.sliced(taken);
+}
+
+QString StyleSheetUrls::inSingleQuotes(const QString &path)
+{
+    QString result;
+    result.reserve(path.size());
+    for (const QChar character : path) {
+        if (character == u'\\') {
+            // By number, and twice: Qt puts the character in for the number before it reads the
+            // sheet, and would take "\\\\a" for a line break. Six digits, since another may follow.
+            result += QLatin1String("\\00005c\\00005c");
+            continue;
+        }
+        if (kEscaped.contains(character)) {
+            result += u'\\';
+        }
+        result += character;
+    }
+    return result;
 }

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// Makes the quoted places in a style sheet stand below a folder.
+/// Places of files in style sheets.
 class TXGUICOMMON_PRIVATE_EXPORT StyleSheetUrls
 {
 public:
@@ -17,4 +17,8 @@ public:
     /// Looks at text, not at rules: what stands in a comment changes too. Costs time in proportion
     /// to the sizes of the sheet and of the result.
     [[nodiscard]] static QString below(const QString &folder, const QString &sheet);
+
+    /// The path as it has to stand between the single quotes of `url('…')` to be found: an
+    /// apostrophe, a backslash and a line break are escaped, and everything else stays.
+    [[nodiscard]] static QString inSingleQuotes(const QString &path);
 };

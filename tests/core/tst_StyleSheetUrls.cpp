@@ -3,8 +3,11 @@
 #include "TestBase.h"
 
 #include <QElapsedTimer>
+#include <QFrame>
+#include <QImage>
 #include <QRandomGenerator>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 class TestStyleSheetUrls : public TestBase
 {
@@ -17,6 +20,9 @@ private slots:
     void folderComesInAsItIs();
     void findsWhatTheExpressionFinds();
     void costGrowsWithTheSheetAlone();
+    void pathIsFoundBetweenSingleQuotes_data();
+    void pathIsFoundBetweenSingleQuotes();
+    void ordinaryPathStays();
 };
 
 void TestStyleSheetUrls::placesStandBelowTheFolder_data()
@@ -136,6 +142,45 @@ void TestStyleSheetUrls::costGrowsWithTheSheetAlone()
         // Measured: 0.1 s; square costs would be hours.
         QVERIFY2(timer.elapsed() < 20'000, qPrintable(piece));
         QCOMPARE(result.size(), count * piece.size() + places * 5);
+    }
+}
+
+void TestStyleSheetUrls::pathIsFoundBetweenSingleQuotes_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("ordinary") << "tools";
+    QTest::newRow("blanks") << "colour  tools";
+    QTest::newRow("apostrophes") << "'Mia''s' tools'";
+    QTest::newRow("end of the rule") << "a');}*{color:red;}b{image:url('";
+    QTest::newRow("comment") << "a*";
+#ifndef Q_OS_WIN
+    QTest::newRow("backslashes") << "\\a\\\\0041\\'\\";
+    QTest::newRow("line breaks") << "\n'\r\n\f";
+#endif
+}
+
+void TestStyleSheetUrls::pathIsFoundBetweenSingleQuotes()
+{
+    QFETCH(QString, folder);
+    const QTemporaryDir place;
+    const QString path = place.filePath(folder) + "/red.png";
+    QVERIFY(QDir().mkpath(place.filePath(folder)));
+    QImage picture(20, 20, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(path));
+
+    QFrame frame;
+    frame.resize(20, 20);
+    frame.setStyleSheet("QFrame {image: url('" + StyleSheetUrls::inSingleQuotes(path) + "');}");
+
+    QCOMPARE(frame.grab().toImage().pixelColor(10, 10), QColor(Qt::red));
+}
+
+void TestStyleSheetUrls::ordinaryPathStays()
+{
+    for (const char *path :
+         {"", "/opt/Colour Tools/bin/a.png", "C:/Tools (x86)/a \"b\" %1 #&;,.png"}) {
+        QCOMPARE(StyleSheetUrls::inSingleQuotes(path), path);
     }
 }
 
