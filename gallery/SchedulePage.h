@@ -2,6 +2,8 @@
 
 #include "GalleryPage.h"
 
+/// The library's panels for a trigger event and for the default encoding of text files, each with
+/// the settings that a host keeps of it and with what the host does by them.
 class SchedulePage final : public GalleryPage
 {
     Q_OBJECT
@@ -12,5 +14,5 @@ public:
     [[nodiscard]] QString description() const override;
 
 protected:
-    void retranslate() override;
+    void retranslate() override { }
 };

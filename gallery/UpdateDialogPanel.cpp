@@ -21,6 +21,8 @@ namespace {
 /// Release notes may have megabytes.
 constexpr int kLongestValue = 200;
 
+constexpr int kNoPeriodDays = 0;
+
 QString downloadFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
@@ -54,10 +56,12 @@ UpdateDialogPanel::UpdateDialogPanel(QWidget *parent)
     , explanation(new QLabel(this))
     , view(new DictionaryView(this))
 {
-    // The gallery asks nobody without a click, however long it stands open.
-    updates->setAutoCheckPeriod(0);
+    // Without a service on this computer the gallery asks nobody, however long it stands open.
+    updates->setAutoCheckPeriod(kNoPeriodDays);
     explanation->setWordWrap(true);
     view->setTypesShown(false);
+    // Beside a text that wraps, a height that is to be ignored would be none at all.
+    view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setUpLayout();
     setServiceRunning(false);
     retranslate();
@@ -69,6 +73,10 @@ UpdateDialogPanel::UpdateDialogPanel(QWidget *parent)
 void UpdateDialogPanel::setServiceRunning(bool isRunning)
 {
     checkButton->setEnabled(isRunning);
+    if (!isRunning) {
+        // The settings panel may have set one.
+        updates->setAutoCheckPeriod(kNoPeriodDays);
+    }
 }
 
 void UpdateDialogPanel::check()

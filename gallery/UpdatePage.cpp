@@ -4,6 +4,7 @@
 #include "UpdateDialogPanel.h"
 #include "UpdateServicePanel.h"
 #include "UpdateSessionPanel.h"
+#include "UpdateSettingsPanel.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -13,11 +14,14 @@ UpdatePage::UpdatePage(QWidget *parent)
     , servicePanel(new UpdateServicePanel(this))
     , dialogPanel(new UpdateDialogPanel(this))
     , sessionPanel(new UpdateSessionPanel(this))
+    , settingsPanel(new UpdateSettingsPanel(this))
 {
     setUpLayout();
     const TXCheckForUpdateWidget *dialog = dialogPanel->dialog();
     connect(servicePanel, SIGNAL(logged(QString)), sessionPanel, SLOT(addReceived(QString)));
     connect(servicePanel, SIGNAL(runningChanged(bool)), dialogPanel, SLOT(setServiceRunning(bool)));
+    connect(servicePanel, SIGNAL(runningChanged(bool)), settingsPanel,
+            SLOT(setServiceRunning(bool)));
     connect(dialog, &TXCheckForUpdateWidget::stateChanged, sessionPanel,
             &UpdateSessionPanel::addState);
     connect(dialog, SIGNAL(updateRefreshed(QVariantHash)), sessionPanel,
@@ -80,4 +84,5 @@ void UpdatePage::setUpLayout()
     rows->setSpacing(GalleryPanel::kGap);
     rows->addWidget(servicePanel);
     rows->addLayout(columns, 1);
+    rows->addWidget(settingsPanel);
 }

@@ -7,9 +7,10 @@
 class UpdateDialogPanel;
 class UpdateServicePanel;
 class UpdateSessionPanel;
+class UpdateSettingsPanel;
 
-/// The library's update dialog beside a real update service on this computer, with what passes
-/// between them.
+/// The library's update dialog, and the panel for its settings, beside a real update service on
+/// this computer, with what passes between them.
 class UpdatePage final : public GalleryPage
 {
     Q_OBJECT
@@ -35,5 +36,6 @@ private:
     UpdateServicePanel *servicePanel;
     UpdateDialogPanel *dialogPanel;
     UpdateSessionPanel *sessionPanel;
+    UpdateSettingsPanel *settingsPanel;
     bool isFilling = false;
 };

@@ -1,5 +1,212 @@
 #include "TXTriggerEventWidget.h"
 
+#include "ui_TXTriggerEventWidget.h"
+
+#include <QLocale>
+#include <QSettings>
+#include <QTime>
+
+#include <algorithm>
+
+namespace {
+
+const QLatin1String kPeriodKey("Period");
+const QLatin1String kHourKey("HourInDay");
+const QLatin1String kDayKey("DayNumber");
+
+const QLatin1String kDebuggingSetting("MeasurementCleaningDebugging");
+
+/// As they are stored.
+enum Period : int {
+    EachMonth = 0,
+    EachWeek = 1,
+    EachDay = 2,
+    EachHour = 3,
+    EachMinute = 4,
+};
+
+/// Every month has this one, so that the event comes in every month.
+constexpr int kLastDayOfMonth = 28;
+constexpr int kDaysOfWeek = 7;
+constexpr int kHoursOfDay = 24;
+
+constexpr int kFirstDay = 1;
+constexpr int kFirstHour = 0;
+/// Stands for an hour that is missing too.
+constexpr int kSavedWithoutData = 1;
+
+bool isDebugging()
+{
+    return QSettings().value(kDebuggingSetting, false).toBool();
+}
+
+/// The number as it stands, also one that is not whole or beyond int: the lists have no such entry,
+/// where a conversion to int would find another one.
+double numberIn(const QVariant &value, int otherwise)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    return isNumber ? number : otherwise;
+}
+
+int placeOf(double number, const QComboBox &list)
+{
+    return list.findData(number, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
+}
+
+void selectIfThere(double number, QComboBox &list)
+{
+    const int place = placeOf(number, list);
+    if (place >= 0) {
+        list.setCurrentIndex(place);
+    }
+}
+
+QVariant selectedIn(const QComboBox *list)
+{
+    const QVariant selected = list ? list->currentData() : QVariant();
+    return selected.isValid() ? selected : QVariant(kSavedWithoutData);
+}
+
+} // namespace
+
 TXTriggerEventWidget::TXTriggerEventWidget(QWidget *parent)
     : QWidget(parent)
-{ }
+    , ui(std::make_unique<Ui::TXTriggerEventWidget>())
+{
+    setUpControls();
+    setUpPeriods();
+    setUpHours();
+    periodComboBox->setCurrentIndex(0);
+    currentTriggerPeriodChanged(0);
+    connect(periodComboBox, SIGNAL(currentIndexChanged(int)), this,
+            SLOT(currentTriggerPeriodChanged(int)));
+}
+
+TXTriggerEventWidget::~TXTriggerEventWidget() = default;
+
+void TXTriggerEventWidget::load(const QHash<QString, QVariant> &settings)
+{
+    if (!hasAllControls()) {
+        return;
+    }
+    const int place = placeOf(numberIn(settings.value(kPeriodKey), EachWeek), *periodComboBox);
+    periodComboBox->setCurrentIndex(place < 0 ? placeOf(EachWeek, *periodComboBox) : place);
+    // The days are those of the new period by now. Not-a-number reads as the first.
+    const double day = numberIn(settings.value(kDayKey), kFirstDay);
+    selectIfThere(std::max<double>(kFirstDay, day), *dayComboBox);
+    const double hour = numberIn(settings.value(kHourKey), kFirstHour);
+    selectIfThere(std::max<double>(kFirstHour, hour), *hourComboBox);
+}
+
+QHash<QString, QVariant> TXTriggerEventWidget::save()
+{
+    QHash<QString, QVariant> settings;
+    settings.insert(kPeriodKey, periodComboBox ? periodComboBox->currentData().toInt() : EachMonth);
+    settings.insert(kHourKey, selectedIn(hourComboBox));
+    settings.insert(kDayKey, selectedIn(dayComboBox));
+    return settings;
+}
+
+void TXTriggerEventWidget::setGroupBoxTitle(const QString &title)
+{
+    if (triggerBox) {
+        triggerBox->setTitle(title);
+    }
+}
+
+void TXTriggerEventWidget::addHourTriggerPeriod()
+{
+    if (isDebugging() || !periodComboBox) {
+        return;
+    }
+    disconnect(periodComboBox, SIGNAL(currentIndexChanged(int)), this,
+               SLOT(currentTriggerPeriodChanged(int)));
+    periodComboBox->addItem(tr("Each Hour"), EachHour);
+    connect(periodComboBox, SIGNAL(currentIndexChanged(int)), this,
+            SLOT(currentTriggerPeriodChanged(int)));
+}
+
+void TXTriggerEventWidget::currentTriggerPeriodChanged(int index)
+{
+    if (!hasAllControls() || index < 0 || index >= periodComboBox->count()) {
+        return;
+    }
+    const int period = periodComboBox->itemData(index).toInt();
+    showDaysOf(period);
+    enableDay(period == EachMonth || period == EachWeek);
+    enableHour(period != EachHour && !(period == EachMinute && isDebugging()));
+}
+
+void TXTriggerEventWidget::setUpControls()
+{
+    ui->setupUi(this);
+    triggerBox = ui->triggerBox;
+    periodComboBox = ui->triggerPeriodComboBox;
+    dayLabel = ui->dayLabel;
+    dayComboBox = ui->dayComboBox;
+    hourLabel = ui->hourLabel;
+    hourComboBox = ui->hourComboBox;
+}
+
+void TXTriggerEventWidget::setUpPeriods()
+{
+    periodComboBox->addItem(tr("Each Month"), EachMonth);
+    periodComboBox->addItem(tr("Each Week"), EachWeek);
+    periodComboBox->addItem(tr("Each Day"), EachDay);
+    if (isDebugging()) {
+        periodComboBox->addItem(tr("Each Hour"), EachHour);
+        periodComboBox->addItem(tr("Each Minute"), EachMinute);
+    }
+}
+
+void TXTriggerEventWidget::setUpHours()
+{
+    for (int hour = 0; hour < kHoursOfDay; ++hour) {
+        hourComboBox->addItem(QTime(hour, 0, 0, 0).toString(QStringLiteral("hh:mm ap")), hour);
+    }
+}
+
+bool TXTriggerEventWidget::hasAllControls() const
+{
+    return periodComboBox && dayLabel && dayComboBox && hourLabel && hourComboBox;
+}
+
+void TXTriggerEventWidget::showDaysOf(int period)
+{
+    if (period == EachMonth) {
+        fillWithDaysOfMonth();
+    } else if (period == EachWeek) {
+        fillWithDaysOfWeek();
+    }
+}
+
+void TXTriggerEventWidget::fillWithDaysOfMonth()
+{
+    dayComboBox->clear();
+    for (int day = 1; day <= kLastDayOfMonth; ++day) {
+        dayComboBox->addItem(QString::number(day), day);
+    }
+    dayComboBox->setCurrentIndex(0);
+}
+
+void TXTriggerEventWidget::fillWithDaysOfWeek()
+{
+    dayComboBox->clear();
+    for (int day = 1; day <= kDaysOfWeek; ++day) {
+        dayComboBox->addItem(QLocale().dayName(day, QLocale::LongFormat), day);
+    }
+    dayComboBox->setCurrentIndex(0);
+}
+
+void TXTriggerEventWidget::enableDay(bool isEnabled)
+{
+    dayComboBox->setEnabled(isEnabled);
+    dayLabel->setEnabled(isEnabled);
+}
+
+void TXTriggerEventWidget::enableHour(bool isEnabled)
+{
+    hourComboBox->setEnabled(isEnabled);
+    hourLabel->setEnabled(isEnabled);
+}
