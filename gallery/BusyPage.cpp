@@ -33,6 +33,8 @@ QString BusyPage::description() const
 void BusyPage::fillForPicture()
 {
     isPicture = true;
+    constexpr int kKindsForPicture = 4;
+    exportPanel->setKinds(kKindsForPicture);
     exportPanel->start();
     // Trees that every machine with Qt has, and enough in them to be under way for a while.
     scanPanel->setFolders(QDir::toNativeSeparators(QLibraryInfo::path(QLibraryInfo::PrefixPath)));

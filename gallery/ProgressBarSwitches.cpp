@@ -74,6 +74,7 @@ void ProgressBarSwitches::retranslate()
     invertedBox->setText(tr("In&verted"));
     uprightBox->setText(tr("&Upright"));
     bottomToTopBox->setText(tr("Text from bottom to to&p"));
+    bottomToTopBox->setToolTip(tr("Not every style writes on an upright bar; Fusion does not."));
 }
 
 void ProgressBarSwitches::setUpLayout()

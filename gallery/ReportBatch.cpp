@@ -9,6 +9,9 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr float kDonePercent = 100.0F;
@@ -21,6 +24,10 @@ constexpr PairOrder kOrders[] = {PairOrder::ByNumber, PairOrder::LargestFirst,
 constexpr QPageSize::PageSizeId kPapers[] = {QPageSize::A4, QPageSize::Letter, QPageSize::A5};
 constexpr QPageLayout::Orientation kOrientations[] = {QPageLayout::Portrait,
                                                       QPageLayout::Landscape};
+
+static_assert(std::size(kFormulas) * std::size(kOrders) * std::size(kPapers)
+                  * std::size(kOrientations)
+              == ReportBatch::kMostReports);
 
 ChartReportOptions chosen(DifferenceFormula formula, PairOrder order, QPageSize::PageSizeId paper,
                           QPageLayout::Orientation orientation)
@@ -35,7 +42,7 @@ ChartReportOptions chosen(DifferenceFormula formula, PairOrder order, QPageSize:
 
 } // namespace
 
-ReportBatch::ReportBatch()
+ReportBatch::ReportBatch(int reports)
 {
     for (const DifferenceFormula formula : kFormulas) {
         for (const PairOrder order : kOrders) {
@@ -46,6 +53,7 @@ ReportBatch::ReportBatch()
             }
         }
     }
+    choices.resize(std::clamp(reports, 1, kMostReports));
 }
 
 bool ReportBatch::run(ObservedProgress *progress, TXError *error)

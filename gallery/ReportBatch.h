@@ -9,12 +9,17 @@ class ChartReport;
 class ObservedProgress;
 class TXError;
 
-/// Exports the chart report as PDF once for each formula, order, paper and orientation, into a
-/// folder of its own that goes with it. GUI thread, since the report stands on scenes.
+/// Exports the chart report as PDF in several kinds, each of another formula, order, paper or
+/// orientation, into a folder of its own that goes with it. GUI thread, since the report stands on
+/// scenes.
 class ReportBatch
 {
 public:
-    ReportBatch();
+    /// How many kinds there are.
+    static constexpr int kMostReports = 36;
+
+    /// Is to write the first so many kinds; at least one and at most all.
+    explicit ReportBatch(int reports = kMostReports);
 
     /// How many reports there are to write.
     [[nodiscard]] int count() const { return int(choices.size()); }

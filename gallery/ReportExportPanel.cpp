@@ -2,6 +2,7 @@
 
 #include "ObservedProgress.h"
 #include "ReportBatch.h"
+#include "WheelGuard.h"
 
 #include "TXDisplayErrorMessageBox.h"
 #include "TXError.h"
@@ -13,16 +14,23 @@
 #include <QLocale>
 #include <QPointer>
 #include <QPushButton>
+#include <QSpinBox>
 
 ReportExportPanel::ReportExportPanel(QWidget *parent)
     : GalleryPanel(parent)
     , hint(new QLabel(this))
+    , kindsLabel(new QLabel(this))
+    , kindsBox(new QSpinBox(this))
     , exportButton(new QPushButton(this))
     , cancelButton(new QPushButton(this))
     , bar(new TXProgressBar(this))
     , endingLabel(new QLabel(this))
     , observed(std::make_unique<ObservedProgress>(bar))
 {
+    kindsBox->setRange(1, ReportBatch::kMostReports);
+    kindsBox->setValue(ReportBatch::kMostReports);
+    kindsLabel->setBuddy(kindsBox);
+    WheelGuard::protect(kindsBox);
     cancelButton->setEnabled(false);
     endingLabel->setTextFormat(Qt::PlainText);
     endingLabel->setWordWrap(true);
@@ -37,6 +45,11 @@ ReportExportPanel::~ReportExportPanel()
     cancel();
 }
 
+void ReportExportPanel::setKinds(int kinds)
+{
+    kindsBox->setValue(kinds);
+}
+
 void ReportExportPanel::start()
 {
     if (isRunning()) {
@@ -44,7 +57,7 @@ void ReportExportPanel::start()
     }
     // Both held here: while the work goes on the panel may be destroyed.
     const QPointer<ReportExportPanel> self(this);
-    const auto batch = std::make_shared<ReportBatch>();
+    const auto batch = std::make_shared<ReportBatch>(kindsBox->value());
     begin(batch);
 
     TXError error;
@@ -69,8 +82,9 @@ void ReportExportPanel::cancel()
 void ReportExportPanel::retranslate()
 {
     setTitle(tr("Report export on the GUI thread"));
-    hint->setText(tr("Writes the chart report as PDF for every formula, order, paper and "
-                     "orientation, into a temporary folder."));
+    hint->setText(tr("Writes the chart report as PDF, with other choices each time, into a "
+                     "temporary folder."));
+    kindsLabel->setText(tr("&Kinds:"));
     setButtonText(exportButton, tr("Export P&DFs"));
     setButtonText(cancelButton, tr("Ca&ncel"));
     bar->setAccessibleName(tr("Progress of the export"));
@@ -93,10 +107,11 @@ void ReportExportPanel::begin(const std::shared_ptr<ReportBatch> &batch)
     last = batch;
     ending = Ending::None;
     cancelButton->setEnabled(true);
-    if (exportButton->hasFocus()) {
+    if (exportButton->hasFocus() || kindsBox->hasFocus()) {
         cancelButton->setFocus();
     }
     exportButton->setEnabled(false);
+    kindsBox->setEnabled(false);
     showEnding();
     observed->startTask();
 }
@@ -111,6 +126,7 @@ void ReportExportPanel::end(Ending newEnding)
         exportButton->setFocus();
     }
     cancelButton->setEnabled(false);
+    kindsBox->setEnabled(true);
     showEnding();
     emit ended();
 }
@@ -143,14 +159,18 @@ void ReportExportPanel::setUpLayout()
 {
     hint->setWordWrap(true);
     auto *buttonRow = new QHBoxLayout;
+    buttonRow->addWidget(kindsLabel);
+    buttonRow->addWidget(kindsBox);
+    buttonRow->addSpacing(kGap);
     buttonRow->addWidget(exportButton);
     buttonRow->addWidget(cancelButton);
-    buttonRow->addWidget(endingLabel, 1);
+    buttonRow->addStretch();
 
     auto *rows = new QVBoxLayout(this);
     setMargins(rows);
     rows->addWidget(hint);
     rows->addLayout(buttonRow);
     rows->addWidget(bar);
+    rows->addWidget(endingLabel);
     rows->addStretch();
 }

@@ -7,6 +7,7 @@
 class ObservedProgress;
 class QLabel;
 class QPushButton;
+class QSpinBox;
 class ReportBatch;
 class TXProgressBar;
 
@@ -24,6 +25,9 @@ public:
 
     /// Where the export reports to. Lives as long as the panel.
     [[nodiscard]] ObservedProgress *progress() const { return observed.get(); }
+
+    /// How many kinds of the report the next export writes, 1 to ReportBatch::kMostReports.
+    void setKinds(int kinds);
 
     [[nodiscard]] bool isRunning() const { return running != nullptr; }
 
@@ -60,6 +64,8 @@ private:
     Ending ending = Ending::None;
 
     QLabel *hint;
+    QLabel *kindsLabel;
+    QSpinBox *kindsBox;
     QPushButton *exportButton;
     QPushButton *cancelButton;
     TXProgressBar *bar;

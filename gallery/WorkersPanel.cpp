@@ -63,7 +63,11 @@ void WorkersPanel::setFolders(const QString &text)
 
 bool WorkersPanel::isBarUnderWay() const
 {
-    return !bar->isHidden() && bar->value() > bar->minimum() && bar->value() < bar->maximum();
+    // In a huge folder the first percent may take long.
+    constexpr qint64 kFilesEnough = 500;
+    const bool isProgressSeen =
+        bar->value() > bar->minimum() || digests->sums().files > kFilesEnough;
+    return !bar->isHidden() && isProgressSeen;
 }
 
 void WorkersPanel::start()

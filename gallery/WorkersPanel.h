@@ -35,7 +35,7 @@ public:
 
     [[nodiscard]] bool isRunning() const { return digests->isRunning(); }
 
-    /// Whether the delegate shows the bar, with some progress on it.
+    /// Whether the delegate shows the bar, and there is progress to be seen.
     [[nodiscard]] bool isBarUnderWay() const;
 
 public slots:

@@ -28,6 +28,7 @@ private slots:
     void switchesChangeTheBar();
     void switchesStayWithANewDelegate();
     void exportWritesAllReports();
+    void numberOfReportsIsChosen();
     void exportMayBeCancelled();
     void barShowsTheExport();
     void finishesAreCountedUntilTheTimerStops();
@@ -242,6 +243,22 @@ void TestBusyPage::exportWritesAllReports()
     QTRY_VERIFY(barOf(exports())->isHidden());
 }
 
+void TestBusyPage::numberOfReportsIsChosen()
+{
+    const auto *label = labelOf(*exports(), "Kinds:");
+    auto *box = qobject_cast<QSpinBox *>(label->buddy());
+    QCOMPARE(box->minimum(), 1);
+    QCOMPARE(box->maximum(), 36);
+    box->setValue(2);
+    const auto *bar = barOf(exports())->findChild<QProgressBar *>();
+    QCOMPARE(bar->maximum(), 100);
+
+    exports()->start();
+
+    QVERIFY(allTexts(*exports()).contains("2 files, "));
+    QVERIFY(box->isEnabled());
+}
+
 void TestBusyPage::exportMayBeCancelled()
 {
     QTimer::singleShot(0, this, [this] {
@@ -328,7 +345,7 @@ void TestBusyPage::pictureShowsWorkUnderWay()
 
     QTRY_COMPARE_WITH_TIMEOUT(ready.count(), 1, 30000);
     QVERIFY(page()->isReady());
-    QVERIFY(allTexts(*exports()).contains("36 files, "));
+    QVERIFY(allTexts(*exports()).contains("4 files, "));
     QVERIFY(scan()->hasResult());
     QVERIFY(workers()->isBarUnderWay() || !workers()->isRunning());
     // Another page in front ends it.
