@@ -2,6 +2,12 @@
 
 #include "GalleryPage.h"
 
+class FolderScanPanel;
+class ReportExportPanel;
+class TaskFinishedPanel;
+class WorkersPanel;
+
+/// The spinner, the progress bar and the delegate between workers and bar, over real work.
 class BusyPage final : public GalleryPage
 {
     Q_OBJECT
@@ -11,6 +17,25 @@ public:
 
     [[nodiscard]] QString description() const override;
 
+    /// Shows an export that is done, and a scan and several workers that are under way as long as
+    /// the page is seen.
+    void fillForPicture() override;
+    [[nodiscard]] bool isReady() const override { return !isFilling; }
+
 protected:
     void retranslate() override;
+    void hideEvent(QHideEvent *event) override;
+
+private slots:
+    void checkReady();
+
+private:
+    void setUpLayout();
+
+    FolderScanPanel *scanPanel;
+    WorkersPanel *workersPanel;
+    ReportExportPanel *exportPanel;
+    TaskFinishedPanel *finishedPanel;
+    bool isFilling = false;
+    bool isPicture = false;
 };

@@ -5,6 +5,7 @@
 
 #include "TXDisplayErrorMessageBox.h"
 #include "TXError.h"
+#include "TXProgressBar.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -14,7 +15,6 @@
 #include <QLabel>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QUrl>
@@ -38,7 +38,7 @@ ReportOutputPanel::ReportOutputPanel(QWidget *parent)
     : GalleryPanel(parent)
     , exportButton(new QPushButton(this))
     , printButton(new QPushButton(this))
-    , progressBar(new QProgressBar(this))
+    , progressBar(new TXProgressBar(this))
     , cancelButton(new QPushButton(this))
     , endingLabel(new QLabel(this))
     , openButton(new QPushButton(this))
@@ -192,7 +192,6 @@ void ReportOutputPanel::retranslate()
     setButtonText(printButton, tr("Pri&nt..."));
     setButtonText(cancelButton, tr("&Cancel"));
     setButtonText(openButton, tr("&Open PDF"));
-    progressBar->setAccessibleName(tr("Progress"));
     showState();
 }
 

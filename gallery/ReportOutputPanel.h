@@ -12,9 +12,9 @@ class ChartReport;
 class ICompletionDelegate;
 class QLabel;
 class QPrinter;
-class QProgressBar;
 class QPushButton;
 class TXError;
+class TXProgressBar;
 class TXReportDocument;
 
 /// Takes the chart report to a PDF file or to a printer.
@@ -84,7 +84,7 @@ private:
 
     QPushButton *exportButton;
     QPushButton *printButton;
-    QProgressBar *progressBar;
+    TXProgressBar *progressBar;
     QPushButton *cancelButton;
     QLabel *endingLabel;
     QPushButton *openButton;

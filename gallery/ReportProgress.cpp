@@ -1,9 +1,10 @@
 #include "ReportProgress.h"
 
-#include <QCoreApplication>
-#include <QProgressBar>
+#include "TXProgressBar.h"
 
-ReportProgress::ReportProgress(QProgressBar *bar)
+#include <QCoreApplication>
+
+ReportProgress::ReportProgress(TXProgressBar *bar)
     : bar(bar)
 { }
 

@@ -4,7 +4,7 @@
 
 #include <QPointer>
 
-class QProgressBar;
+class TXProgressBar;
 
 /// Shows the progress of work on the GUI thread in a bar, and lets the program go on breathing: at
 /// each report events are handled, so that the work can be cancelled and windows are painted. What
@@ -13,7 +13,7 @@ class ReportProgress : public ICompletionDelegate
 {
 public:
     /// The bar stays the caller's and may be destroyed while the work goes on.
-    explicit ReportProgress(QProgressBar *bar);
+    explicit ReportProgress(TXProgressBar *bar);
 
     void onProgressionUpdated(QList<QString> path, float progress) override;
     void onMessageUpdated(QList<QString> path, const TXStringI18n &message) override;
@@ -21,5 +21,5 @@ public:
     void onMetadataEdited(QList<QString> path, QString key, QVariant value) override;
 
 private:
-    QPointer<QProgressBar> bar;
+    QPointer<TXProgressBar> bar;
 };

@@ -1,19 +1,16 @@
 #include "ScanPanel.h"
 
+#include "FolderJobBar.h"
 #include "FolderLogEntry.h"
 #include "LogGate.h"
+#include "WorkVeil.h"
 
 #include "TXLogManager.h"
 #include "TXResources.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QLocale>
-#include <QPushButton>
 #include <QTimer>
 
 #include <algorithm>
@@ -23,6 +20,8 @@ namespace {
 constexpr int kCountsIntervalMilliseconds = 100;
 constexpr int kValuePointsAboveNormal = 6;
 constexpr int kPictureGap = 7;
+constexpr int kSpinnerPixels = 36;
+constexpr int kSpinnerPlacePixels = 48;
 
 } // namespace
 
@@ -31,28 +30,21 @@ ScanPanel::ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent)
     , log(log)
     , gate(new LogGate(log, this))
     , countsTimer(new QTimer(this))
-    , folderLabel(new QLabel(this))
-    , folderEdit(new QLineEdit(QDir::toNativeSeparators(QDir::homePath()), this))
-    , browseButton(new QPushButton(this))
-    , startButton(new QPushButton(this))
-    , cancelButton(new QPushButton(this))
+    , bar(new FolderJobBar(this))
     , entries(makeTile(TXDisplayLittleInformationBulletStaticImage()))
     , warnings(makeTile(TXDisplayLittleWarningBulletStaticImage()))
     , errors(makeTile(TXDisplayLittleErrorBulletStaticImage()))
     , rate(makeTile())
+    , veil(new WorkVeil(new QWidget(this)))
 {
     scan = new FolderScan(
         [gate = gate](const FolderReport &report) { gate->append(makeFolderLogEntry(report)); },
         this);
-    folderLabel->setBuddy(folderEdit);
     countsTimer->setInterval(kCountsIntervalMilliseconds);
     setUpLayout();
     retranslate();
-    updateButtons();
-    connect(browseButton, SIGNAL(clicked()), this, SLOT(browse()));
-    connect(startButton, SIGNAL(clicked()), this, SLOT(start()));
-    connect(folderEdit, SIGNAL(returnPressed()), this, SLOT(start()));
-    connect(cancelButton, SIGNAL(clicked()), this, SLOT(cancel()));
+    connect(bar, SIGNAL(startWanted()), this, SLOT(start()));
+    connect(bar, SIGNAL(cancelWanted()), this, SLOT(cancel()));
     connect(countsTimer, SIGNAL(timeout()), this, SLOT(showCounts()));
     connect(scan, SIGNAL(finished(bool)), this, SLOT(scanFinished(bool)));
 }
@@ -66,8 +58,7 @@ ScanPanel::~ScanPanel()
 
 void ScanPanel::setFolders(const QString &text)
 {
-    folderEdit->setText(text);
-    folderEdit->setCursorPosition(0);
+    bar->setFolders(text);
 }
 
 void ScanPanel::start()
@@ -76,13 +67,13 @@ void ScanPanel::start()
         return;
     }
     gate->close();
-    if (!scan->start(paths())) {
+    if (!scan->start(bar->paths())) {
         return;
     }
     sinceStart.start();
     countsTimer->start();
-    updateButtons();
-    cancelButton->setFocus();
+    bar->setRunning(true);
+    veil->begin(kSpinnerPixels);
     showCounts();
 }
 
@@ -90,15 +81,6 @@ void ScanPanel::cancel()
 {
     scan->cancel();
     gate->open();
-}
-
-void ScanPanel::browse()
-{
-    const QString folder =
-        QFileDialog::getExistingDirectory(this, tr("Scan a Folder"), paths().value(0));
-    if (!folder.isEmpty()) {
-        setFolders(QDir::toNativeSeparators(folder));
-    }
 }
 
 void ScanPanel::showCounts()
@@ -119,11 +101,8 @@ void ScanPanel::scanFinished(bool isComplete)
     milliseconds = sinceStart.elapsed();
     countsTimer->stop();
     showCounts();
-    const bool hadFocus = cancelButton->hasFocus();
-    updateButtons();
-    if (hadFocus) {
-        startButton->setFocus();
-    }
+    bar->setRunning(false);
+    veil->end();
     const QSharedPointer<TXLogItem> entry =
         makeScanLogEntry(scan->counts(), milliseconds, isComplete);
     log->append(entry);
@@ -145,14 +124,6 @@ ScanPanel::Tile ScanPanel::makeTile(const QPixmap &picture)
 
 void ScanPanel::setUpLayout()
 {
-    auto *folderRow = new QHBoxLayout;
-    folderRow->addWidget(folderLabel);
-    folderRow->addWidget(folderEdit, 1);
-    folderRow->addWidget(browseButton);
-    folderRow->addSpacing(kGap);
-    folderRow->addWidget(startButton);
-    folderRow->addWidget(cancelButton);
-
     auto *tileRow = new QHBoxLayout;
     for (const Tile &tile : {entries, warnings, errors, rate}) {
         auto *valueRow = new QHBoxLayout;
@@ -165,48 +136,24 @@ void ScanPanel::setUpLayout()
         column->addWidget(tile.caption);
         tileRow->addLayout(column, 1);
     }
+    QWidget *spinnerPlace = veil->parentWidget();
+    spinnerPlace->setFixedSize(kSpinnerPlacePixels, kSpinnerPlacePixels);
+    tileRow->addWidget(spinnerPlace);
 
     auto *rows = new QVBoxLayout(this);
     setGaps(rows);
-    rows->addLayout(folderRow);
+    rows->addWidget(bar);
     rows->addLayout(tileRow);
-}
-
-void ScanPanel::updateButtons()
-{
-    startButton->setEnabled(!scan->isRunning());
-    folderEdit->setEnabled(!scan->isRunning());
-    browseButton->setEnabled(!scan->isRunning());
-    cancelButton->setEnabled(scan->isRunning());
 }
 
 void ScanPanel::retranslate()
 {
     setTitle(tr("Scan a folder"));
-    folderLabel->setText(tr("&Folder:"));
-    folderEdit->setToolTip(tr("Relative paths start at the program's folder; several paths are "
-                              "separated by \"%1\".")
-                               .arg(QDir::listSeparator()));
-    browseButton->setText(tr("&Browse..."));
-    startButton->setText(tr("S&tart Scan"));
-    cancelButton->setText(tr("&Cancel"));
+    bar->retranslate(
+        {tr("&Folder:"), tr("&Browse..."), tr("S&tart Scan"), tr("&Cancel"), tr("Scan a Folder")});
     entries.caption->setText(tr("Entries"));
     warnings.caption->setText(tr("Warnings"));
     errors.caption->setText(tr("Errors"));
     rate.caption->setText(tr("Entries a second"));
     showCounts();
-}
-
-QStringList ScanPanel::paths() const
-{
-    const QDir programFolder(QCoreApplication::applicationDirPath());
-    QStringList result;
-    const QStringList texts = folderEdit->text().split(QDir::listSeparator(), Qt::SkipEmptyParts);
-    for (const QString &text : texts) {
-        const QString path = QDir::fromNativeSeparators(text.trimmed());
-        if (!path.isEmpty()) {
-            result.append(QDir::cleanPath(programFolder.absoluteFilePath(path)));
-        }
-    }
-    return result;
 }

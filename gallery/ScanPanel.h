@@ -7,15 +7,16 @@
 #include <QPixmap>
 #include <QSharedPointer>
 
+class FolderJobBar;
 class LogGate;
 class QLabel;
-class QLineEdit;
-class QPushButton;
 class QTimer;
 class TXLogItem;
 class TXLogManager;
+class WorkVeil;
 
-/// The job "Scan a folder": which folder, start and cancel, and the numbers of the running scan.
+/// The job "Scan a folder": which folder, start and cancel, and the numbers of the running scan,
+/// with a spinner beside them.
 ///
 /// Each folder becomes an entry of the log, written from the scan's own threads; a last entry sums
 /// up. The panel stops a running scan when it goes.
@@ -27,8 +28,7 @@ public:
     explicit ScanPanel(const QSharedPointer<TXLogManager> &log, QWidget *parent = nullptr);
     ~ScanPanel() override;
 
-    /// Which folders are scanned, as the user would type them: absolute, or relative to the
-    /// program's folder, several with the system's list separator between them.
+    /// Which folders are scanned, as FolderJobBar::setFolders().
     void setFolders(const QString &text);
 
 public slots:
@@ -44,7 +44,6 @@ protected:
 
 private slots:
     void cancel();
-    void browse();
     void showCounts();
     void scanFinished(bool isComplete);
 
@@ -59,8 +58,6 @@ private:
 
     Tile makeTile(const QPixmap &picture = QPixmap());
     void setUpLayout();
-    void updateButtons();
-    [[nodiscard]] QStringList paths() const;
 
     QSharedPointer<TXLogManager> log;
     LogGate *gate;
@@ -69,13 +66,11 @@ private:
     QElapsedTimer sinceStart;
     qint64 milliseconds = 0;
 
-    QLabel *folderLabel;
-    QLineEdit *folderEdit;
-    QPushButton *browseButton;
-    QPushButton *startButton;
-    QPushButton *cancelButton;
+    FolderJobBar *bar;
     Tile entries;
     Tile warnings;
     Tile errors;
     Tile rate;
+    /// Stands over a place of its own, so that the numbers can be read.
+    WorkVeil *veil;
 };

@@ -10,6 +10,8 @@
 #include "ReportView.h"
 #include "TestBase.h"
 
+#include "TXProgressBar.h"
+
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
@@ -60,7 +62,11 @@ protected:
         return window->findChild<ReportOutputPanel *>();
     }
     [[nodiscard]] ReportView *view() const { return window->findChild<ReportView *>(); }
-    [[nodiscard]] QProgressBar *progress() const { return window->findChild<QProgressBar *>(); }
+    /// The bar within the library's progress bar.
+    [[nodiscard]] QProgressBar *progress() const
+    {
+        return window->findChild<TXProgressBar *>()->findChild<QProgressBar *>();
+    }
 
     /// Works, and acts once in the middle of it, when events are handled.
     void during(const Action &work, const Action &action)

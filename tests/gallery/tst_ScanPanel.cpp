@@ -4,6 +4,7 @@
 #include "TestBase.h"
 
 #include "TXLogManager.h"
+#include "WaitWidget.h"
 
 #include <QFileDialog>
 #include <QLabel>
@@ -23,6 +24,7 @@ private slots:
     void scanWritesAnEntryAFolderAndASum();
     void numbersAreShownAtTheEnd();
     void buttonsFollowTheRun();
+    void spinnerIsShownDuringTheRun();
     void cancelEndsTheRun();
     void severalFoldersAreSeparated();
     void relativeFoldersStartAtTheProgram();
@@ -150,6 +152,24 @@ void TestScanPanel::buttonsFollowTheRun()
     QTRY_VERIFY(button("Start Scan")->isEnabled());
     QVERIFY(field()->isEnabled());
     QVERIFY(!button("Cancel")->isEnabled());
+}
+
+void TestScanPanel::spinnerIsShownDuringTheRun()
+{
+    QVERIFY(!panel->findChild<WaitWidget *>());
+
+    DialogDriver::click(button("Start Scan"));
+
+    const auto *spinner = panel->findChild<WaitWidget *>();
+    QVERIFY(spinner && spinner->isVisible());
+    // It covers none of the numbers.
+    const QRect place(spinner->mapTo(panel.get(), QPoint()), spinner->size());
+    const auto labels = panel->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        QVERIFY(!label->isVisible() || !label->geometry().intersects(place));
+    }
+    QTRY_VERIFY(!panel->findChild<WaitWidget *>());
+    QVERIFY(button("Start Scan")->isEnabled());
 }
 
 void TestScanPanel::cancelEndsTheRun()
