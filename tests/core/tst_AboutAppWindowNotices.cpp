@@ -106,6 +106,8 @@ void TestAboutAppWindowNotices::prepare()
     temporary = std::make_unique<QTemporaryDir>();
     viewer = std::make_unique<NoticesViewer>();
     QVERIFY(QDir().mkpath(noticesFolder()));
+    // What a run that was killed has left.
+    QFile::remove(source());
     QVERIFY(QDir(temporary->path()).mkdir("tmp"));
     temporaryBefore = qgetenv("TMPDIR");
     qputenv("TMPDIR", QFile::encodeName(temporary->filePath("tmp")));
