@@ -2,6 +2,10 @@
 
 #include "GalleryPage.h"
 
+class AboutWindowPanel;
+class LogoPanel;
+
+/// The splash with the chain of its logos, and the About window with the legal notices.
 class AboutPage final : public GalleryPage
 {
     Q_OBJECT
@@ -10,7 +14,14 @@ public:
     explicit AboutPage(QWidget *parent = nullptr);
 
     [[nodiscard]] QString description() const override;
+    [[nodiscard]] QList<GalleryFurtherWindow> furtherWindows() override;
 
 protected:
-    void retranslate() override;
+    void retranslate() override { }
+
+private:
+    void setUpLayout();
+
+    LogoPanel *logoPanel;
+    AboutWindowPanel *aboutPanel;
 };

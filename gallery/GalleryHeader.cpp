@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyleFactory>
 
 namespace {
@@ -34,6 +35,7 @@ GalleryHeader::GalleryHeader(QWidget *parent)
     , coloursBox(new QComboBox(this))
     , styleBox(new QComboBox(this))
     , languageBox(new QComboBox(this))
+    , aboutButton(new QPushButton(this))
 {
     coloursLabel = makeBoxLabel(this, coloursBox);
     styleLabel = makeBoxLabel(this, styleBox);
@@ -52,6 +54,7 @@ GalleryHeader::GalleryHeader(QWidget *parent)
     connect(coloursBox, SIGNAL(activated(int)), this, SLOT(coloursActivated(int)));
     connect(styleBox, SIGNAL(activated(int)), this, SLOT(styleActivated(int)));
     connect(languageBox, SIGNAL(activated(int)), this, SLOT(languageActivated(int)));
+    connect(aboutButton, SIGNAL(clicked()), this, SIGNAL(aboutWanted()));
 }
 
 void GalleryHeader::setUpLayout()
@@ -75,6 +78,8 @@ void GalleryHeader::setUpLayout()
     layout->addSpacing(kGroupGap);
     layout->addWidget(languageLabel);
     layout->addWidget(languageBox);
+    layout->addSpacing(kGroupGap);
+    layout->addWidget(aboutButton);
 }
 
 void GalleryHeader::setColours(GalleryColours colours)
@@ -125,6 +130,12 @@ void GalleryHeader::retranslate()
     coloursLabel->setText(tr("P&alette"));
     styleLabel->setText(tr("&Style"));
     languageLabel->setText(tr("&Language"));
+    aboutButton->setText(tr("About..."));
+    // No letter of the text is free on every page. Set after the text, which takes it away.
+    const QKeySequence key(tr("Alt+Y", "key of the button About..."));
+    aboutButton->setShortcut(key);
+    aboutButton->setToolTip(
+        tr("About this program (%1)").arg(key.toString(QKeySequence::NativeText)));
     coloursBox->setItemText(0, tr("System"));
     coloursBox->setItemText(1, tr("Light"));
     coloursBox->setItemText(2, tr("Dark"));

@@ -7,8 +7,10 @@
 
 class QComboBox;
 class QLabel;
+class QPushButton;
 
-/// The strip at the top of the gallery: its name, and the choice of palette, style and language.
+/// The strip at the top of the gallery: its name, the choice of palette, style and
+/// language, and the way to the About window.
 ///
 /// It only shows and tells; whoever owns it acts on the choices.
 class GalleryHeader : public QWidget
@@ -35,6 +37,8 @@ signals:
     void styleChosen(const QString &key);
     /// Emitted when the user has picked a language, with its code.
     void languageChosen(const QString &code);
+    /// Emitted when the user wants to read about the program.
+    void aboutWanted();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -56,4 +60,5 @@ private:
     QComboBox *coloursBox;
     QComboBox *styleBox;
     QComboBox *languageBox;
+    QPushButton *aboutButton;
 };

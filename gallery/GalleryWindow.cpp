@@ -1,5 +1,6 @@
 #include "GalleryWindow.h"
 
+#include "GalleryAboutWindow.h"
 #include "GalleryHeader.h"
 #include "GalleryIcon.h"
 #include "GalleryLanguages.h"
@@ -72,6 +73,7 @@ GalleryWindow::GalleryWindow(GalleryLanguages &languages, const GallerySettings 
     connect(header, SIGNAL(coloursChosen(GalleryColours)), this, SLOT(useColours(GalleryColours)));
     connect(header, SIGNAL(styleChosen(QString)), this, SLOT(useStyle(QString)));
     connect(header, SIGNAL(languageChosen(QString)), this, SLOT(useLanguage(QString)));
+    connect(header, SIGNAL(aboutWanted()), this, SLOT(showAbout()));
     connect(&languages, SIGNAL(changed()), this, SLOT(showLanguages()));
     connect(list, SIGNAL(currentRowChanged(int)), this, SLOT(pageRowChanged(int)));
     retranslate();
@@ -187,6 +189,13 @@ void GalleryWindow::applyLooks(const GallerySettings &settings)
 void GalleryWindow::showLanguages()
 {
     header->setLanguages(languages.codes(), languages.current());
+}
+
+void GalleryWindow::showAbout()
+{
+    auto *about = new GalleryAboutWindow(GalleryAboutWindow::Version::WithQt, this);
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->open();
 }
 
 void GalleryWindow::setUpList()

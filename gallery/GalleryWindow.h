@@ -15,8 +15,8 @@ class QListWidget;
 class QScrollArea;
 class QStackedWidget;
 
-/// The gallery's window: a header with palette, style and language, the list of pages, and the
-/// page.
+/// The gallery's window: a header with palette, style, language and the way to the About window,
+/// the list of pages, and the page.
 ///
 /// Ctrl+Page Down and Ctrl+Page Up go to the next and the previous page, F6 moves the keyboard
 /// between the list and the page, Ctrl+Q ends the gallery. A page is made when it is first shown.
@@ -54,6 +54,7 @@ private slots:
     void useStyle(const QString &key);
     void useLanguage(const QString &code);
     void showLanguages();
+    void showAbout();
     void showNextPage();
     void showPreviousPage();
     void moveFocus();

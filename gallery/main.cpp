@@ -3,6 +3,7 @@
 #include "GalleryLanguages.h"
 #include "GalleryPage.h"
 #include "GallerySettings.h"
+#include "GallerySplash.h"
 #include "GalleryWindow.h"
 #include "StyleSheets.h"
 
@@ -55,6 +56,7 @@ void useSettingsIn(const QString &folder)
 
 int takePictures(const GalleryCommandLine &commandLine)
 {
+    StyleSheets::loadFonts();
     const QTemporaryDir settingsFolder;
     useSettingsIn(settingsFolder.path());
     QApplication::setCursorFlashTime(0);
@@ -77,11 +79,20 @@ int runGallery(const GalleryCommandLine &commandLine)
     if (settings.language.isEmpty()) {
         settings.language = languages.systemCode();
     }
-    GalleryWindow window(languages, combine(settings, commandLine));
+    settings = combine(settings, commandLine);
+    // The splash speaks it already.
+    languages.use(settings.language);
+    GallerySplash splash;
+    splash.open();
+    splash.tell(GallerySplash::tr("Loading the fonts..."));
+    StyleSheets::loadFonts();
+    splash.tell(GallerySplash::tr("Loading the pages..."));
+    GalleryWindow window(languages, settings);
     if (settings.geometry.isEmpty()) {
         window.resize(window.size().boundedTo(window.screen()->availableSize()));
     }
     window.show();
+    splash.finish(&window);
     window.currentPage()->startByItself();
     return QApplication::exec();
 }
@@ -104,6 +115,5 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QApplication application(argc, argv);
-    StyleSheets::loadFonts();
     return isForPictures ? takePictures(commandLine) : runGallery(commandLine);
 }

@@ -18,16 +18,17 @@ inline QString builtTranslation()
         + QStringLiteral("/core/translations/coretest_fr.qm");
 }
 
-/// An application in a temporary folder: "bin" with localisationhelper.cpp as its program, and room
-/// for "Resources" beside it.
+/// An application in a temporary folder: "bin" with localisationhelper.cpp, or another program of
+/// the tests, as its program, and room for "Resources" beside it.
 class InstalledHelper
 {
 public:
     /// The place is put between the temporary folder and "bin".
-    explicit InstalledHelper(const QString &place = QStringLiteral("app"))
+    explicit InstalledHelper(const QString &place = QStringLiteral("app"),
+                             const QString &helper = QStringLiteral("localisationhelper"))
         : home(QFileInfo(temporary.path()).canonicalFilePath() + u'/' + place)
     {
-        const QString program = QCoreApplication::applicationDirPath() + "/localisationhelper";
+        const QString program = QCoreApplication::applicationDirPath() + u'/' + helper;
         isInstalled = QDir().mkpath(programFolder()) && QFile::copy(program, programPath());
     }
 

@@ -199,14 +199,14 @@ void TestGalleryWindow::startingWritesNoSettings()
 void TestGalleryWindow::geometryAndPageAreRememberedWhenClosed()
 {
     open();
-    window->resize(780, 610);
+    window->resize(880, 610);
 
     window->close();
 
     const GallerySettings saved = GallerySettings::load();
     QCOMPARE(saved.page, pageOfWindow());
     open(saved);
-    QCOMPARE(window->size(), QSize(780, 610));
+    QCOMPARE(window->size(), QSize(880, 610));
 }
 
 void TestGalleryWindow::keysGoThroughThePages()

@@ -85,6 +85,8 @@ private slots:
     void scaleFactorDoublesThePicture();
     void picturesAreTakenWithoutAScreen();
     void languagesAreFoundBesideTheProgram();
+    void logoOfAPartnerIsKeptAtTheStart();
+    void picturesShowNoSplash();
     void rememberedSettingsAreLeftAlone();
     void mistakesAreOneLine_data();
     void mistakesAreOneLine();
@@ -102,6 +104,8 @@ protected:
 private:
     QString path(const QString &name) const { return folder->filePath(name); }
     QImage grabLog(const QStringList &arguments, const QString &name = "log.png");
+    void installWithLogo() const;
+    QProcessEnvironment environmentWithCommonData() const;
 
     QScopedPointer<QTemporaryDir> folder;
 };
@@ -231,6 +235,53 @@ void TestTXGallery::languagesAreFoundBesideTheProgram()
 
     const QRect titleAndList(0, 55, 500, 120);
     QVERIFY(QImage(path("fr.png")).copy(titleAndList) != QImage(path("en.png")).copy(titleAndList));
+}
+
+/// The program in the test's folder, with a partner's logo beside it.
+void TestTXGallery::installWithLogo() const
+{
+    QImage logo(40, 30, QImage::Format_RGB32);
+    logo.fill(Qt::red);
+    for (const char *name : {"bin", "Resources/Images", "common/Tovra Hue Works"}) {
+        QVERIFY(QDir(folder->path()).mkpath(name));
+    }
+    QVERIFY(QFile::copy(galleryFolder() + "/bin/TXGallery", path("bin/TXGallery")));
+    QVERIFY(logo.save(path("Resources/Images/oemLogo.png")));
+}
+
+QProcessEnvironment TestTXGallery::environmentWithCommonData() const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("ALLUSERSPROFILE", path("common"));
+    return environment;
+}
+
+/// That is what the splash does.
+void TestTXGallery::logoOfAPartnerIsKeptAtTheStart()
+{
+    installWithLogo();
+    QProcess process;
+    process.setProcessEnvironment(environmentWithCommonData());
+
+    process.start(path("bin/TXGallery"), {"--page", "controls"});
+
+    const QString copy = path("common/Tovra Hue Works/oemLogo_0.png");
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(copy), kProgramLimitMilliseconds);
+    QCOMPARE(QImage(copy).size(), QSize(40, 30));
+    process.terminate();
+    QVERIFY(process.waitForFinished(kProgramLimitMilliseconds));
+}
+
+void TestTXGallery::picturesShowNoSplash()
+{
+    installWithLogo();
+
+    const Outcome outcome =
+        runProgram(path("bin/TXGallery"), {"--page", "log", "--grab", path("shot.png")},
+                   environmentWithCommonData());
+
+    QCOMPARE(outcome.exitCode, 0);
+    QVERIFY(QDir(path("common/Tovra Hue Works")).isEmpty());
 }
 
 void TestTXGallery::rememberedSettingsAreLeftAlone()
