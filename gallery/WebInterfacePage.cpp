@@ -10,6 +10,7 @@
 
 #include "TXWebInterfaceConfigurationWidget.h"
 
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QSpinBox>
@@ -46,6 +47,15 @@ void WebInterfacePage::fillForPicture()
     settingsPanel->showSettings();
     serverPanel->setRunning(true);
     visit();
+}
+
+void WebInterfacePage::changeEvent(QEvent *event)
+{
+    // Links keep the colour of the palette under which the list was made.
+    if (event->type() == QEvent::PaletteChange) {
+        configuration->refresh();
+    }
+    GalleryPage::changeEvent(event);
 }
 
 void WebInterfacePage::retranslate()

@@ -23,6 +23,7 @@ public:
     [[nodiscard]] bool isReady() const override { return !isFilling; }
 
 protected:
+    void changeEvent(QEvent *event) override;
     void retranslate() override;
 
 private slots:

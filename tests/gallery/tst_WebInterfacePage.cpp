@@ -1,3 +1,4 @@
+#include "GalleryAppearance.h"
 #include "PageInWindow.h"
 #include "WebCertificate.h"
 #include "WebPageTest.h"
@@ -32,6 +33,7 @@ private slots:
     void pictureShowsAVisit();
     void pictureLeavesTheSavedSettings();
     void pictureComesWithoutAServerToo();
+    void linksFollowThePalette();
     void textsFollowTheLanguage();
     void mnemonicsAreDistinct();
     void everythingIsNamedAndReached();
@@ -246,6 +248,22 @@ void TestWebInterfacePage::pictureComesWithoutAServerToo()
     QVERIFY(!server->error().isEmpty());
     QVERIFY(server->error().contains("setup"));
     QVERIFY(lines(1).contains("Connection refused"));
+}
+
+void TestWebInterfacePage::linksFollowThePalette()
+{
+    press("Fill In Example");
+    const auto *list = configuration->findChild<QTextBrowser *>();
+    for (const auto colours : {GalleryColours::Dark, GalleryColours::Light}) {
+        applyGalleryColours(colours);
+        QCoreApplication::processEvents();
+        QTextCursor cursor(list->document());
+        cursor.setPosition(1);
+        QVERIFY(cursor.charFormat().isAnchor());
+        QCOMPARE(cursor.charFormat().foreground().color(),
+                 QApplication::palette().color(QPalette::Link));
+    }
+    applyGalleryColours(GalleryColours::System);
 }
 
 void TestWebInterfacePage::textsFollowTheLanguage()
