@@ -1,0 +1,77 @@
+#include "WebVisit.h"
+
+#include "RegularFile.h"
+#include "WebSettings.h"
+
+#include <QNetworkProxy>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+
+namespace {
+
+constexpr int kPatienceMilliseconds = 5000;
+
+QSslConfiguration trusting(const QString &certificate)
+{
+    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    configuration.setCaCertificates(isNoRegularFile(certificate)
+                                        ? QList<QSslCertificate>()
+                                        : QSslCertificate::fromPath(certificate));
+    return configuration;
+}
+
+} // namespace
+
+WebVisit::WebVisit(QObject *parent)
+    : QObject(parent)
+{
+    manager.setProxy(QNetworkProxy::NoProxy);
+}
+
+WebVisit::~WebVisit()
+{
+    drop();
+}
+
+void WebVisit::start(const WebSettings &settings)
+{
+    drop();
+    // Of a server that was here before, with another certificate.
+    manager.clearConnectionCache();
+    QNetworkRequest request(settings.url());
+    request.setTransferTimeout(kPatienceMilliseconds);
+    if (!settings.user.isEmpty()) {
+        const QByteArray login = (settings.user + u':' + settings.password).toUtf8();
+        request.setRawHeader("Authorization", "Basic " + login.toBase64());
+    }
+    if (settings.isSecure) {
+        request.setSslConfiguration(trusting(settings.certificate));
+    }
+    reply = manager.get(request);
+    connect(reply, SIGNAL(finished()), this, SLOT(takeAnswer()));
+}
+
+void WebVisit::takeAnswer()
+{
+    QNetworkReply *answer = reply;
+    reply = nullptr;
+    answer->deleteLater();
+    const QString place = answer->url().toString(QUrl::FullyEncoded);
+    const QVariant status = answer->attribute(QNetworkRequest::HttpStatusCodeAttribute);
+    emit ended(status.isValid()
+                   ? tr("%1: status %2, %3 bytes")
+                         .arg(place, status.toString(), QString::number(answer->readAll().size()))
+                   : tr("%1: %2").arg(place, answer->errorString()));
+}
+
+void WebVisit::drop()
+{
+    if (reply) {
+        reply->disconnect(this);
+        reply->abort();
+        reply->deleteLater();
+        reply = nullptr;
+    }
+}
