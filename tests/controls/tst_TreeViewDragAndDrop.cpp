@@ -280,12 +280,15 @@ void TestTreeViewDragAndDrop::strategyMayReplaceItself()
     const QWeakPointer<AskedStrategy> first = tree.strategy;
     auto second = QSharedPointer<AskedStrategy>::create();
     second->policy = {"second", &tree.questions, false};
-    tree.strategy->policy.whenAsked = [&tree, second] {
+    bool livesWhileAsked = false;
+    tree.strategy->policy.whenAsked = [&tree, &first, &livesWhileAsked, second] {
         tree.view.setDropStrategy(second);
+        livesWhileAsked = !first.isNull();
     };
     tree.strategy.reset();
 
     QVERIFY(tree.view.move(tree.data, tree.middle(0)));
+    QVERIFY(livesWhileAsked);
     QVERIFY(!first);
     QVERIFY(!tree.view.move(tree.data, tree.middle(0)));
 
