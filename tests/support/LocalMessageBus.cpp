@@ -1,11 +1,11 @@
 #include "LocalMessageBus.h"
 
+#include "ChildProcess.h"
+
 #include <QDir>
 #include <QFile>
 
 #include <csignal>
-#include <sys/prctl.h>
-#include <unistd.h>
 
 namespace {
 
@@ -30,15 +30,6 @@ const QString kConfiguration = QStringLiteral(R"(<!DOCTYPE busconfig PUBLIC
 </busconfig>
 )");
 
-/// Runs in the new process, before its program.
-void endWithParent(pid_t parent)
-{
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-    if (::getppid() != parent) {
-        ::_exit(1);
-    }
-}
-
 } // namespace
 
 LocalMessageBus::~LocalMessageBus()
@@ -59,7 +50,7 @@ bool LocalMessageBus::start()
         return false;
     }
     daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    daemon.setChildProcessModifier([parent = ::getpid()] { endWithParent(parent); });
+    endWithThisThread(daemon);
     daemon.start(QStringLiteral("/usr/bin/dbus-daemon"),
                  {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
                   QStringLiteral("--config-file=") + folder.filePath(QStringLiteral("bus.conf"))});
