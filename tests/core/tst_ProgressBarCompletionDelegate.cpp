@@ -481,12 +481,12 @@ void TestProgressBarCompletionDelegate::lockIsFreeBetweenLooks()
 
 void TestProgressBarCompletionDelegate::operationsAreReachedThroughTheInterface()
 {
-    ICompletionDelegate *plain = delegate.get();
+    ProgressBarCompletionDelegate *looking = delegate.release();
+    ICompletionDelegate *plain = looking;
     plain->onProgressionUpdated({}, 33.0F);
     plain->onMessageUpdated({}, TXStringI18n("Reading"));
-    look(*delegate);
+    look(*looking);
     QCOMPARE(bar->value(), 33);
-    delegate.release();
     delete plain;
     QCOMPARE(bar->value(), 33);
 }
