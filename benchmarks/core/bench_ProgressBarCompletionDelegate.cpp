@@ -42,7 +42,7 @@ struct Bare
     }
     void store(const QList<QString> &path, float value)
     {
-        const QList<QString> copy = path;
+        QList<QString> copy = path;
         benchmark::DoNotOptimize(copy);
         store(value);
     }

@@ -7,16 +7,13 @@
 
 #include <QLabel>
 #include <QMetaMethod>
-#include <QPointer>
 #include <QProgressBar>
-#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTimer>
 
 #include <cmath>
 #include <limits>
 #include <memory>
-#include <thread>
 
 namespace {
 
@@ -62,18 +59,6 @@ private slots:
     void logsAndMetadataDoNothing();
     void pathCountsForNothing();
     void nullBarIsASink();
-    void barMayGoFirst();
-    void stopTimerIsForGood();
-    void storedAfterStopAndNeverShown();
-    void slotMayStopTheTimer();
-    void slotMayDeleteTheDelegate_data();
-    void slotMayDeleteTheDelegate();
-    void slotMayDeleteTheDelegateWithinASecondLook();
-    void slotMayDeleteTheDelegateLater();
-    void slotMayDeleteTheBar();
-    void slotMayReport();
-    void lockIsHeldWhileTheEndIsTold();
-    void lockIsFreeBetweenLooks();
     void operationsAreReachedThroughTheInterface();
     void slotForTheTimerIsPrivate();
 
@@ -329,164 +314,14 @@ void TestProgressBarCompletionDelegate::nullBarIsASink()
     QCOMPARE(finished.count(), 0);
 }
 
-void TestProgressBarCompletionDelegate::barMayGoFirst()
-{
-    const QSignalSpy finished(delegate.get(), SIGNAL(taskFinished()));
-    report(5.0F);
-    look(*delegate);
-    bar.reset();
-    look(*delegate);
-    report(100.0F);
-    look(*delegate);
-    QCOMPARE(finished.count(), 0);
-}
-
-void TestProgressBarCompletionDelegate::stopTimerIsForGood()
-{
-    const QPointer<QTimer> timer = timerOf(*delegate);
-    delegate->stopTimer();
-    QVERIFY(!timer);
-    QVERIFY(delegate->children().isEmpty());
-    delegate->stopTimer();
-    QVERIFY(delegate->children().isEmpty());
-}
-
-void TestProgressBarCompletionDelegate::storedAfterStopAndNeverShown()
-{
-    report(30.0F);
-    look(*delegate);
-    delegate->stopTimer();
-    report(60.0F);
-    delegate->onMessageUpdated({}, TXStringI18n("Late"));
-    QVERIFY(bar->isVisible());
-    QCOMPARE(bar->value(), 30);
-    QCOMPARE(bar->findChild<QLabel *>()->text(), QString());
-    delegate.reset();
-    QVERIFY(bar->isVisible());
-    QCOMPARE(bar->value(), 30);
-}
-
-void TestProgressBarCompletionDelegate::slotMayStopTheTimer()
-{
-    const QPointer<QTimer> timer = timerOf(*delegate);
-    const QSignalSpy finished(delegate.get(), SIGNAL(taskFinished()));
-    connect(delegate.get(), &ProgressBarCompletionDelegate::taskFinished, this,
-            [this] { delegate->stopTimer(); });
-    QTRY_VERIFY(!timer); // in the timer's own signal
-    QCOMPARE(finished.count(), 1);
-    report(5.0F);
-}
-
-void TestProgressBarCompletionDelegate::slotMayDeleteTheDelegate_data()
-{
-    QTest::addColumn<bool>("byTimer");
-    QTest::newRow("in the timer's signal") << true;
-    QTest::newRow("in a call") << false;
-}
-
-void TestProgressBarCompletionDelegate::slotMayDeleteTheDelegate()
-{
-    QFETCH(bool, byTimer);
-    const QPointer<QObject> life = delegate.get();
-    connect(delegate.get(), &ProgressBarCompletionDelegate::taskFinished, this,
-            [this] { delegate.reset(); });
-    if (!byTimer) {
-        look(*life);
-    }
-    QTRY_VERIFY(!life);
-    QVERIFY(bar->isHidden());
-}
-
-void TestProgressBarCompletionDelegate::slotMayDeleteTheDelegateWithinASecondLook()
-{
-    const QPointer<QObject> life = delegate.get();
-    int looks = 0;
-    // As when a slot opens a dialog, whose event loop runs the timer.
-    connect(delegate.get(), &ProgressBarCompletionDelegate::taskFinished, this, [&] {
-        if (++looks < 3) {
-            look(*life);
-        } else {
-            delegate.reset();
-        }
-    });
-    look(*life);
-    QVERIFY(!life);
-    QCOMPARE(looks, 3);
-}
-
-void TestProgressBarCompletionDelegate::slotMayDeleteTheDelegateLater()
-{
-    const QPointer<ProgressBarCompletionDelegate> life = delegate.release();
-    connect(life, SIGNAL(taskFinished()), life, SLOT(deleteLater()));
-    QTRY_VERIFY(!life);
-}
-
-void TestProgressBarCompletionDelegate::slotMayDeleteTheBar()
-{
-    connect(delegate.get(), &ProgressBarCompletionDelegate::taskFinished, this,
-            [this] { bar.reset(); });
-    look(*delegate);
-    QVERIFY(!bar);
-    look(*delegate);
-}
-
-void TestProgressBarCompletionDelegate::slotMayReport()
-{
-    connect(delegate.get(), &ProgressBarCompletionDelegate::taskFinished, this, [this] {
-        report(15.0F);
-        delegate->onMessageUpdated({}, TXStringI18n("Next"));
-    });
-    look(*delegate);
-    QVERIFY(bar->isHidden());
-    look(*delegate);
-    QVERIFY(bar->isVisible());
-    QCOMPARE(bar->value(), 15);
-    QCOMPARE(bar->findChild<QLabel *>()->text(), "Next");
-}
-
-void TestProgressBarCompletionDelegate::lockIsHeldWhileTheEndIsTold()
-{
-    QSemaphore begun;
-    QSemaphore reported;
-    bool wasKeptWaiting = false;
-    std::thread worker;
-    connect(delegate.get(), &ProgressBarCompletionDelegate::taskFinished, this, [&] {
-        worker = std::thread([&] {
-            begun.release();
-            report(20.0F);
-            reported.release();
-        });
-        begun.acquire();
-        constexpr int kLongestWaitMilliseconds = 50;
-        wasKeptWaiting = !reported.tryAcquire(1, kLongestWaitMilliseconds);
-    });
-    look(*delegate);
-    worker.join();
-    QVERIFY(wasKeptWaiting);
-    QVERIFY(reported.tryAcquire());
-    look(*delegate);
-    QCOMPARE(bar->value(), 20);
-}
-
-void TestProgressBarCompletionDelegate::lockIsFreeBetweenLooks()
-{
-    look(*delegate);
-    std::thread([this] { report(20.0F); }).join();
-    look(*delegate);
-    QCOMPARE(bar->value(), 20);
-    std::thread([this] { report(21.0F); }).join();
-    look(*delegate);
-    QCOMPARE(bar->value(), 21);
-}
-
 void TestProgressBarCompletionDelegate::operationsAreReachedThroughTheInterface()
 {
-    ICompletionDelegate *plain = delegate.get();
+    ProgressBarCompletionDelegate *looking = delegate.release();
+    ICompletionDelegate *plain = looking;
     plain->onProgressionUpdated({}, 33.0F);
     plain->onMessageUpdated({}, TXStringI18n("Reading"));
-    look(*delegate);
+    look(*looking);
     QCOMPARE(bar->value(), 33);
-    delegate.release();
     delete plain;
     QCOMPARE(bar->value(), 33);
 }

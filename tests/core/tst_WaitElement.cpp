@@ -118,10 +118,10 @@ void TestWaitElement::alphaIsTruncated()
     QFETCH(double, alpha);
     QFETCH(int, seen);
     WaitElement constructed(Qt::black, kSize, alpha, kRectangle);
-    QVERIFY(painted(constructed).isNear(inside(15, 5), greyOf(seen), 1));
+    QVERIFY(painted(constructed).isNear(inside(15, 5), greyOf(seen), 0));
     WaitElement written(Qt::black, kSize, 50.0, kRectangle);
     written.setProperty(kAlpha, alpha);
-    QVERIFY(painted(written).isNear(inside(15, 5), greyOf(seen), 1));
+    QVERIFY(painted(written).isNear(inside(15, 5), greyOf(seen), 0));
 }
 
 void TestWaitElement::alphaOfTheColourCountsForNothing()
@@ -143,7 +143,7 @@ void TestWaitElement::rectangleBeginsAtTheOrigin()
     WaitElement element(Qt::black, kSize, 200.0, kRectangle);
     const PixelProbe probe = painted(element, ratio);
     for (const QPoint &place : {inside(2, 2), inside(27, 2), inside(2, 7), inside(27, 7)}) {
-        QVERIFY(probe.isNear(place, greyOf(200), 1));
+        QVERIFY(probe.isNear(place, greyOf(200), 0));
     }
     for (const QPoint &place : {inside(-2, 5), inside(32, 5), inside(15, -2), inside(15, 12)}) {
         QCOMPARE(probe.at(place), QColor(Qt::white));
@@ -170,7 +170,7 @@ void TestWaitElement::ellipseIsAroundTheOrigin()
     WaitElement element(Qt::black, kSize, 200.0, kEllipse);
     const PixelProbe probe = painted(element, ratio);
     for (const QPoint &place : {inside(0, 0), inside(-13, 0), inside(12, 0), inside(0, -4)}) {
-        QVERIFY(probe.isNear(place, greyOf(200), 1));
+        QVERIFY(probe.isNear(place, greyOf(200), 0));
     }
     for (const QPoint &place : {inside(-13, -4), inside(12, 3), inside(17, 0), inside(0, 7)}) {
         QCOMPARE(probe.at(place), QColor(Qt::white));
@@ -277,7 +277,7 @@ void TestWaitElement::fadesFrom240To10In800Milliseconds()
     element.startAnimation();
     element.findChild<QPropertyAnimation *>()->setCurrentTime(time);
     QCOMPARE(element.property(kAlpha).toDouble(), alpha);
-    QVERIFY(painted(element).isNear(inside(15, 5), greyOf(int(alpha)), 1));
+    QVERIFY(painted(element).isNear(inside(15, 5), greyOf(int(alpha)), 0));
 }
 
 void TestWaitElement::startWhileFadingChangesNothing()
