@@ -127,7 +127,7 @@ private:
     void takeOut(QLayoutItem *item, int index);
     void rearrange();
     void settleLater();
-    [[nodiscard]] QSize measure() const;
+    [[nodiscard]] QSize measure();
     void fixSizes(QSize size);
     [[nodiscard]] bool isWaitingToBeShown(const QWidget *widget) const;
     void showNewWidgets();
