@@ -32,7 +32,7 @@ bool LayoutItems::isInside(const QObject *place, const QObject *object)
 
 bool LayoutItems::fitInto(const QObject *place, QLayoutItem *item)
 {
-    if (dynamic_cast<QWidgetItem *>(item) && !item->widget()) {
+    if (!item || (dynamic_cast<QWidgetItem *>(item) && !item->widget())) {
         return false; // Qt does not look before it asks the widget
     }
     const QLayout *layout = item->layout();

@@ -14,7 +14,7 @@ namespace LayoutItems {
 
 /// True when a layout that is `place` can take the item and own it: it has a widget if it is the
 /// kind that must have one, a layout has no parent yet, and neither it nor anything in it holds the
-/// place. Costs one step for each item in nested layouts.
+/// place. False for null. Costs one step for each item in nested layouts.
 [[nodiscard]] bool fitInto(const QObject *place, QLayoutItem *item);
 
 } // namespace LayoutItems

@@ -356,11 +356,11 @@ void TXWidgetListWidget::settleLater()
 }
 
 /// The size that holds every widget's hint.
-QSize TXWidgetListWidget::measure() const
+QSize TXWidgetListWidget::measure()
 {
     QSize cell(-1, -1);
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        if (const QWidget *widget = items.at(i)->widget()) {
+    for (int i = 0; i < count(); ++i) {
+        if (const QWidget *widget = widgetAt(i)) {
             cell = cell.expandedTo(widget->sizeHint());
         }
     }
@@ -370,8 +370,8 @@ QSize TXWidgetListWidget::measure() const
 
 void TXWidgetListWidget::fixSizes(QSize size)
 {
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        if (QWidget *widget = items.at(i)->widget()) {
+    for (int i = 0; i < count(); ++i) {
+        if (QWidget *widget = widgetAt(i)) {
             widget->setFixedSize(possibleSize(size));
         }
     }
@@ -385,12 +385,13 @@ bool TXWidgetListWidget::isWaitingToBeShown(const QWidget *widget) const
 }
 
 /// Shows what has come to a visible list, as Qt's layouts do. Each show() would lay the whole grid
-/// out at once; one layout after all of them is enough.
+/// out at once; one layout after all of them is enough. What remains is a search of Qt's own among
+/// the siblings for each, to be felt from 10,000 new widgets at a time on.
 void TXWidgetListWidget::showNewWidgets()
 {
     ui->gridLayout->setEnabled(false);
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        QWidget *const widget = items.at(i)->widget();
+    for (int i = 0; i < count(); ++i) {
+        QWidget *const widget = widgetAt(i);
         if (isWaitingToBeShown(widget)) {
             widget->show();
         }

@@ -34,8 +34,8 @@ class TXWidgetListWidget;
 /// stays visible too. A widget or layout that is destroyed, or taken elsewhere by
 /// QWidget::setParent(), leaves the list by itself.
 ///
-/// Ignored is what is null, in the list already, a layout that has a parent, or anything that this
-/// list is inside of; it stays the caller's.
+/// Ignored is null, an item that is in the list already, a layout that has a parent, and anything
+/// that this list is inside of. What is ignored stays the caller's.
 ///
 /// The tab order is that in which the widgets came, as in every layout.
 ///
@@ -127,7 +127,7 @@ private:
     void takeOut(QLayoutItem *item, int index);
     void rearrange();
     void settleLater();
-    [[nodiscard]] QSize measure() const;
+    [[nodiscard]] QSize measure();
     void fixSizes(QSize size);
     [[nodiscard]] bool isWaitingToBeShown(const QWidget *widget) const;
     void showNewWidgets();

@@ -144,6 +144,8 @@ void TestTXWidgetListWidgetBadInput::deletedWidgetsOfAShownListCloseTheGap()
         widgets.append(append());
     }
     QTRY_VERIFY(widgets.constLast()->isVisible());
+    const int step = 40 + gridOf(*list)->horizontalSpacing();
+    QTRY_COMPARE(widgets.at(1)->x() - widgets.at(0)->x(), step);
     const QPoint place = widgets.at(1)->pos();
     delete widgets.at(1);
     widgets.at(2)->deleteLater();
