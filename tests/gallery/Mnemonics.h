@@ -25,7 +25,9 @@ inline QStringList clashingMnemonics(const QWidget &widget)
     }
     const auto boxes = widget.findChildren<QGroupBox *>();
     for (const QGroupBox *box : boxes) {
-        texts.append(box->title());
+        if (box->isVisibleTo(&widget)) {
+            texts.append(box->title());
+        }
     }
 
     QSet<QString> seen;
