@@ -55,6 +55,8 @@ void TXSelectDefaultEncodingWidget::load(const QHash<QString, QVariant> &setting
     selectEncoding(settings.value(kEncodingKey, defaultEncoding()));
 }
 
+// The signature is that of the hosts.
+// NOLINTNEXTLINE(readability-make-member-function-const)
 QHash<QString, QVariant> TXSelectDefaultEncodingWidget::save()
 {
     return {{kEncodingKey, selectedEncoding()}};

@@ -374,10 +374,10 @@ void TestTXTriggerEventWidget::hoursOfferedTwiceStandThereTwice()
     panel.widget.addHourTriggerPeriod();
     QCOMPARE(valuesOf(*panel.periods), QList<int>({0, 1, 2, 3, 3}));
 
-    // One connection is left: one change clears the days once.
-    QSignalSpy clearings(panel.days->model(), SIGNAL(rowsInserted(QModelIndex, int, int)));
+    // One connection is left: one change fills in the days once.
+    QSignalSpy insertions(panel.days->model(), SIGNAL(rowsInserted(QModelIndex, int, int)));
     panel.selectPeriod(EachWeek);
-    QCOMPARE(clearings.count(), 7);
+    QCOMPARE(insertions.count(), 7);
 }
 
 void TestTXTriggerEventWidget::offeringHoursChangesNothingElse()

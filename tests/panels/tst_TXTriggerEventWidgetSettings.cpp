@@ -275,7 +275,7 @@ void TestTXTriggerEventWidgetSettings::savedWithoutDataIsOne()
     panel.hours->clear();
     QCOMPARE(panel.widget.save(), settingsOf(EachMonth, 1, 1));
 
-    // One hour when missing is 0 in load(), and 1 in save().
+    // A missing hour is 0 for load(), and 1 here.
     panel.hours->addItem("some time");
     panel.days->addItem("some day");
     QCOMPARE(panel.widget.save(), settingsOf(EachMonth, 1, 1));
