@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr qint64 kBlockBytes = 64 * 1024;
+constexpr qint64 kBlockBytes = 65536;
 constexpr double kWholePercent = 100;
 /// 100 is for the end alone.
 constexpr double kNearlyDonePercent = 99.9;

@@ -22,8 +22,6 @@ ObservedProgress::ObservedProgress(TXProgressBar *bar, QObject *parent)
     policy.setRetainSizeWhenHidden(true);
     bar->setSizePolicy(policy);
     auto *message = bar->findChild<QLabel *>(QStringLiteral("progressMessage"));
-    // Names of files are no markup.
-    message->setTextFormat(Qt::PlainText);
     message->setFixedWidth(kMessageWidthPixels);
     paintedBar->installEventFilter(this);
     makeDelegate();

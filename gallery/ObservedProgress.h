@@ -22,8 +22,8 @@ class ObservedProgress final : public QObject, public ICompletionDelegate
     Q_OBJECT
 
 public:
-    /// The bar stays the caller's. It keeps its room while it is hidden, and shows messages as
-    /// plain text in a field that does not move with their length.
+    /// The bar stays the caller's. It keeps its room while it is hidden, and shows messages in a
+    /// field that does not move with their length.
     explicit ObservedProgress(TXProgressBar *bar, QObject *parent = nullptr);
     ~ObservedProgress() override;
 

@@ -106,6 +106,7 @@ void TestLargestFolders::threadsMayAddTogether()
 {
     LargestFolders folders;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&folders, i] {
             for (int k = 0; k < 2000; ++k) {

@@ -73,6 +73,7 @@ void TestObservedProgress::reportsOfAllThreadsAreCounted()
 {
     progress->startTask();
     std::vector<std::thread> threads;
+    threads.reserve(8);
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([this] {
             for (int k = 0; k < 1000; ++k) {
