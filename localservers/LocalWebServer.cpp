@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr qint64 kLargestCertificate = 1024 * 1024;
+constexpr qint64 kLargestCertificate = 1 << 20;
 
 /// As the script begins what it refuses.
 const QString kRefusal = QStringLiteral("cannot serve: ");

@@ -13,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QTextBrowser>
+#include <QTextCursor>
 
 #include <memory>
 
@@ -66,14 +67,9 @@ protected:
     /// The link of the panel that leads to this computer itself.
     [[nodiscard]] QUrl link() const
     {
-        const QString text =
-            configuration->findChild<QTextBrowser *>("hostTextEdit")->toPlainText();
-        const qsizetype place = text.indexOf("://127.0.0.1");
-        const qsizetype start = text.lastIndexOf(QChar('h'), place);
-        QString url = text.mid(start);
-        url.truncate(url.indexOf(QChar(QChar::Nbsp)) < 0 ? url.indexOf(QChar(' '))
-                                                         : url.indexOf(QChar(QChar::Nbsp)));
-        return QUrl(url, QUrl::StrictMode);
+        const auto *list = configuration->findChild<QTextBrowser *>("hostTextEdit");
+        const QTextCursor found = list->document()->find(QStringLiteral("//127.0.0.1"));
+        return {found.charFormat().anchorHref(), QUrl::StrictMode};
     }
 
     [[nodiscard]] QString lines(int list) const

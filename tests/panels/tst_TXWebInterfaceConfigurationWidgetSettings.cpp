@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QSet>
 #include <QSpinBox>
+#include <QStringConverter>
 
 #include <limits>
 #include <memory>
