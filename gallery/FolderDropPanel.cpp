@@ -20,8 +20,8 @@ namespace {
 
 constexpr int kViewHeight = 220;
 constexpr int kRules = 4;
-/// Behind three columns of buttons.
-constexpr int kRuleColumn = 3;
+/// Behind three columns of buttons and one that is free.
+constexpr int kRuleColumn = 4;
 constexpr int kButtonGap = 6;
 
 } // namespace
@@ -209,6 +209,7 @@ void FolderDropPanel::setUpLayout()
     works->addWidget(outButton, 1, 2);
     works->addWidget(ruleLabel, 0, kRuleColumn);
     works->addWidget(ruleBox, 1, kRuleColumn);
+    works->setColumnMinimumWidth(kRuleColumn - 1, kButtonGap);
     works->setColumnStretch(kRuleColumn + 1, 1);
 
     auto *rows = new QVBoxLayout(this);

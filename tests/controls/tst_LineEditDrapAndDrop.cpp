@@ -5,7 +5,6 @@
 #include <QDropEvent>
 #include <QMetaMethod>
 #include <QMimeData>
-#include <QPointer>
 #include <QSignalSpy>
 
 #include <memory>
@@ -81,7 +80,7 @@ private slots:
     void tenThousandUrlsComeInOnePiece();
     void dropIsReportedWhateverItsFirstUrlIs();
     void dropOfTextDoesNothing();
-    void dropOfAnEmptyListDoesNothing();
+    void dropOfAnEmptyListIsReportedAsSuch();
     void textStaysAsItWas();
     void mayBeDeletedByWhoHearsOfTheDrop();
 };
@@ -239,16 +238,19 @@ void TestLineEditDrapAndDrop::dropOfTextDoesNothing()
     QCOMPARE(field.text(), QString());
 }
 
-void TestLineEditDrapAndDrop::dropOfAnEmptyListDoesNothing()
+void TestLineEditDrapAndDrop::dropOfAnEmptyListIsReportedAsSuch()
 {
     QMimeData data;
     data.setUrls({});
     DropField field;
     const QSignalSpy dropped(&field, SIGNAL(urlFileListHaveBeenDropped(QList<QUrl>)));
 
-    QCOMPARE(field.drop(&data), data.hasUrls());
+    QVERIFY(data.hasUrls());
+    QVERIFY(!field.enter(&data));
+    QVERIFY(field.drop(&data));
 
-    QCOMPARE(dropped.size(), data.hasUrls() ? 1 : 0);
+    QCOMPARE(dropped.size(), 1);
+    QCOMPARE(urlsIn(dropped), QList<QUrl>());
 }
 
 void TestLineEditDrapAndDrop::textStaysAsItWas()

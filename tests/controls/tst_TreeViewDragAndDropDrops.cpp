@@ -4,7 +4,6 @@
 #include "TreeDropHelpers.h"
 
 #include <QEnterEvent>
-#include <QPointer>
 #include <QStandardItemModel>
 
 #include <memory>

@@ -4,7 +4,6 @@
 #include "TreeDropHelpers.h"
 
 #include <QIdentityProxyModel>
-#include <QPointer>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 
@@ -381,7 +380,7 @@ void TestTreeViewDragAndDropModels::exchangedSourceIsNoHarm()
     tree.folders.model.updateExpandState();
     QCOMPARE(spies.counts(), (QList<qsizetype>{0, 0, 0, 0}));
     others.model.updateExpandState();
-    QVERIFY(spies.hasToBeExpanded.size() > 0);
+    QVERIFY(!spies.hasToBeExpanded.isEmpty());
 
     tree.proxy.setSourceModel(nullptr);
     others.model.updateExpandState();
