@@ -44,7 +44,7 @@ void AboutWindowPanel::retranslate()
                       .arg(QDir::toNativeSeparators(QDir::tempPath())));
 }
 
-void AboutWindowPanel::openWindow()
+void AboutWindowPanel::openWindow() const
 {
     aboutWindow()->open();
 }

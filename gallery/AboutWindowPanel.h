@@ -23,7 +23,7 @@ protected:
     void retranslate() override;
 
 private slots:
-    void openWindow();
+    void openWindow() const;
     void openNotices();
 
 private:

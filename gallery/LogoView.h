@@ -15,10 +15,10 @@ public:
     explicit LogoView(QWidget *parent = nullptr);
 
     /// What the link is, also for users who do not see it.
-    void setTitle(const QString &title);
+    void setTitle(const QString &text);
 
     /// Where its file is. None by default.
-    void setPath(const QString &path);
+    void setPath(const QString &text);
 
     /// A null picture leaves the place empty. The words are plain text.
     void showLogo(const QPixmap &picture, const QString &text);

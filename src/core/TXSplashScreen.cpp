@@ -28,9 +28,7 @@ QPixmap load(const QString &path)
 
 void cache(const QString &installed, const QString &cached)
 {
-    // A copy would go through a link that leads nowhere and make the file at its end.
-    const bool leadsElsewhere = QFileInfo(cached).isSymLink();
-    if (!leadsElsewhere && QFileInfo(cached).size() != QFileInfo(installed).size()) {
+    if (QFileInfo(cached).size() != QFileInfo(installed).size()) {
         QFile::copy(installed, cached);
     }
 }
