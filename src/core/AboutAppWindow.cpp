@@ -135,7 +135,7 @@ void AboutAppWindow::changeEvent(QEvent *event)
     }
 }
 
-void AboutAppWindow::displayPatents()
+void AboutAppWindow::displayPatents() const
 {
     const QString name = patentFileName();
     // Empty where the folder that the system names is missing: the target would lie in the root.

@@ -62,7 +62,7 @@ protected:
 
 private slots:
     /// Opens a copy of the legal notices in the system's viewer. What fails is not told.
-    void displayPatents();
+    void displayPatents() const;
 
 private:
     std::unique_ptr<Ui::AboutAppWindow> ui;

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTextBlock>
 #include <QTextDocument>
 
 namespace {
@@ -247,7 +248,7 @@ void TestAboutAppWindow::webSiteDocumentIsAsWritten()
 
     const QString html = label(window, "companyWebSiteLabel")->text();
     for (const char *part :
-         {"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0//EN\" "
+         {"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0//EN\"",
           "\"http://www.w3.org/TR/REC-html40/strict.dtd\">",
           "<meta name=\"qrichtext\" content=\"1\" />", "p, li { white-space: pre-wrap; }",
           "font-family:'Lucida Grande'; font-size:13pt; font-weight:400; font-style:normal;",

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QImage>
+#include <QImageReader>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
