@@ -2,10 +2,102 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>AboutPage</name>
+    <message>
+        <source>The picture that a program shows while it starts, which a partner can replace by a logo, and the window that tells what the program is.</source>
+        <translation>Das Bild, das ein Programm beim Start zeigt und das ein Partner durch sein Logo ersetzen kann, und das Fenster, das sagt, was das Programm ist.</translation>
+    </message>
+</context>
+<context>
+    <name>AboutWindowPanel</name>
+    <message>
+        <source>About window</source>
+        <translation>Info-Fenster</translation>
+    </message>
+    <message>
+        <source>With the &amp;version of Qt</source>
+        <translation>Mit der &amp;Version von Qt</translation>
+    </message>
+    <message>
+        <source>Open About &amp;Window</source>
+        <translation>Info-&amp;Fenster öffnen</translation>
+    </message>
+    <message>
+        <source>Open Legal &amp;Notices</source>
+        <translation>Rechtliche &amp;Hinweise öffnen</translation>
+    </message>
+    <message>
+        <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
+        <translation>Die Hinweise werden aus einer Kopie im Ordner „%1“ geöffnet.</translation>
+    </message>
+    <message>
+        <source>There are no notices at &quot;%1&quot;.</source>
+        <translation>Unter „%1“ sind keine Hinweise.</translation>
+    </message>
+</context>
+<context>
     <name>AccessPage</name>
     <message>
         <source>A program whose user interface can be locked behind a password. The dialogs ask for it; the program keeps it and does the locking, here of the work area.</source>
         <translation>Ein Programm, dessen Oberfläche sich hinter einem Passwort sperren lässt. Die Dialoge fragen danach; das Programm bewahrt es auf und sperrt, hier den Arbeitsbereich.</translation>
+    </message>
+</context>
+<context>
+    <name>BoldTitlePanel</name>
+    <message>
+        <source>Bold titles</source>
+        <translation>Fette Titel</translation>
+    </message>
+    <message>
+        <source>Proof, bold title</source>
+        <translation>Proof, fetter Titel</translation>
+    </message>
+    <message>
+        <source>Proof, bold font</source>
+        <translation>Proof, fette Schrift</translation>
+    </message>
+    <message>
+        <source>Add R&amp;esult</source>
+        <translation>&amp;Ergebnis hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Update Weights</source>
+        <translation>Schrift&amp;gewichte auffrischen</translation>
+    </message>
+    <message>
+        <source>Not passed</source>
+        <translation>Nicht bestanden</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Mean ΔE %1</source>
+        <translation>Mittleres ΔE %1</translation>
+    </message>
+    <message>
+        <source>Largest ΔE %1</source>
+        <translation>Größtes ΔE %1</translation>
+    </message>
+    <message>
+        <source>%1: ΔE %2</source>
+        <translation>%1: ΔE %2</translation>
+    </message>
+</context>
+<context>
+    <name>BusyPage</name>
+    <message>
+        <source>A spinner over a list that is being filled, and progress bars that many threads, or the GUI thread itself, report to while they work.</source>
+        <translation>Ein Spinner über einer Liste, die gefüllt wird, und Fortschrittsbalken, an die viele Threads oder der GUI-Thread selbst während der Arbeit melden.</translation>
+    </message>
+    <message>
+        <source>Several workers</source>
+        <translation>Mehrere Arbeiter</translation>
+    </message>
+    <message>
+        <source>Report export</source>
+        <translation>Export des Berichts</translation>
     </message>
 </context>
 <context>
@@ -700,6 +792,13 @@
     </message>
 </context>
 <context>
+    <name>ContainersPage</name>
+    <message>
+        <source>What holds other widgets: a flow of equal cells, a square, splitters with a grip, group boxes that fold or have a bold title; and labels that are turned.</source>
+        <translation>Was andere Widgets aufnimmt: gleiche Zellen im Fluss, ein Quadrat, Teiler mit Griff, Gruppen, die sich falten lassen oder einen fetten Titel haben; und gedrehte Beschriftungen.</translation>
+    </message>
+</context>
+<context>
     <name>ControlsPage</name>
     <message>
         <source>Numbers with a slider beside them, switches, and spin boxes that read as a plain value when they are disabled; and the state of a whole window in one call.</source>
@@ -951,6 +1050,32 @@
     </message>
 </context>
 <context>
+    <name>DragDropEmissions</name>
+    <message>
+        <source>Signals</source>
+        <translation>Signale</translation>
+    </message>
+    <message>
+        <source>Signals o&amp;f the page: %1</source>
+        <translation>Si&amp;gnale der Seite: %1</translation>
+    </message>
+    <message>
+        <source>Signals of the page</source>
+        <translation>Signale der Seite</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>DragDropPage</name>
+    <message>
+        <source>A field that takes files dropped from here or from any program, and folders that are sorted by dragging, in two views that stay in step.</source>
+        <translation>Ein Feld, auf das sich Dateien von hier oder aus jedem Programm ziehen lassen, und Ordner, die durch Ziehen sortiert werden, in zwei Ansichten, die im Gleichschritt bleiben.</translation>
+    </message>
+</context>
+<context>
     <name>DriveManagerPanel</name>
     <message>
         <source>Manager window</source>
@@ -1051,6 +1176,80 @@
     <message>
         <source>&amp;Clear</source>
         <translation>&amp;Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>EncodedTextFile</name>
+    <message>
+        <source>There is no codec &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Codec „%1“.</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>Sie ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>Sie kann nicht gelesen werden: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>EncodingPanel</name>
+    <message>
+        <source>Text File</source>
+        <translation>Textdatei</translation>
+    </message>
+    <message>
+        <source>Text files (*.txt);;All files (*)</source>
+        <translation>Textdateien (*.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Default encoding</source>
+        <translation>Standardkodierung</translation>
+    </message>
+    <message>
+        <source>Sav&amp;e</source>
+        <translation>Sp&amp;eichern</translation>
+    </message>
+    <message>
+        <source>Loa&amp;d</source>
+        <translation>La&amp;den</translation>
+    </message>
+    <message>
+        <source>&amp;Text file:</source>
+        <translation>&amp;Textdatei:</translation>
+    </message>
+    <message>
+        <source>Example in UTF-8</source>
+        <translation>Beispiel in UTF-8</translation>
+    </message>
+    <message>
+        <source>Example in ISO-8859-1</source>
+        <translation>Beispiel in ISO-8859-1</translation>
+    </message>
+    <message>
+        <source>Choose &amp;File...</source>
+        <translation>Datei &amp;wählen...</translation>
+    </message>
+    <message>
+        <source>Text of the file</source>
+        <translation>Text der Datei</translation>
+    </message>
+    <message>
+        <source>The file is not shown. %1</source>
+        <translation>Die Datei wird nicht gezeigt. %1</translation>
+    </message>
+    <message>
+        <source>Bytes read as %1: %2.</source>
+        <translation>Als %1 gelesene Bytes: %2.</translation>
+    </message>
+    <message>
+        <source>Places that this encoding cannot read: %1.</source>
+        <translation>Stellen, die diese Kodierung nicht lesen kann: %1.</translation>
+    </message>
+    <message>
+        <source>The rest of the file is not shown.</source>
+        <translation>Der Rest der Datei wird nicht gezeigt.</translation>
     </message>
 </context>
 <context>
@@ -1319,6 +1518,198 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
 </context>
 <context>
+    <name>FileDigests</name>
+    <message>
+        <source>Looking for files</source>
+        <translation>Dateien werden gesucht</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
+</context>
+<context>
+    <name>FileDropPanel</name>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Files of the &amp;gallery:</source>
+        <translation>Date&amp;ien der Galerie:</translation>
+    </message>
+    <message>
+        <source>Files of the gallery</source>
+        <translation>Dateien der Galerie</translation>
+    </message>
+    <message>
+        <source>&amp;Put Into Field</source>
+        <translation>Ins &amp;Feld setzen</translation>
+    </message>
+    <message>
+        <source>&amp;Dropped file:</source>
+        <translation>Abgelegte &amp;Datei:</translation>
+    </message>
+    <message>
+        <source>Drop files here</source>
+        <translation>Dateien hier ablegen</translation>
+    </message>
+    <message>
+        <source>Nothing dropped yet</source>
+        <translation>Noch nichts abgelegt</translation>
+    </message>
+    <message>
+        <source>Dropped: %1</source>
+        <translation>Abgelegt: %1</translation>
+    </message>
+    <message>
+        <source>Dropped: %1, not on this computer: %2</source>
+        <translation>Abgelegt: %1, davon nicht auf diesem Rechner: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FolderDropPanel</name>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>In your own &amp;order:</source>
+        <translation>In &amp;eigener Ordnung:</translation>
+    </message>
+    <message>
+        <source>In alphab&amp;etical order:</source>
+        <translation>In alpha&amp;betischer Ordnung:</translation>
+    </message>
+    <message>
+        <source>Folders in your own order</source>
+        <translation>Ordner in eigener Ordnung</translation>
+    </message>
+    <message>
+        <source>Folders in alphabetical order</source>
+        <translation>Ordner in alphabetischer Ordnung</translation>
+    </message>
+    <message>
+        <source>&amp;May be dropped:</source>
+        <translation>Darf abgelegt &amp;werden:</translation>
+    </message>
+    <message>
+        <source>Onto folders and between them</source>
+        <translation>Auf Ordner und zwischen sie</translation>
+    </message>
+    <message>
+        <source>Onto folders only</source>
+        <translation>Nur auf Ordner</translation>
+    </message>
+    <message>
+        <source>Between folders only</source>
+        <translation>Nur zwischen Ordner</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>En&amp;tfernen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>Move &amp;In</source>
+        <translation>&amp;Hinein</translation>
+    </message>
+    <message>
+        <source>Move Ou&amp;t</source>
+        <translation>He&amp;raus</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>New folder %1</source>
+        <translation>Neuer Ordner %1</translation>
+    </message>
+    <message>
+        <source>“%1” is removed</source>
+        <translation>„%1“ ist entfernt</translation>
+    </message>
+    <message>
+        <source>“%1” is moved</source>
+        <translation>„%1“ ist verschoben</translation>
+    </message>
+    <message>
+        <source>“%1” cannot move there</source>
+        <translation>„%1“ kann dorthin nicht</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Papers</source>
+        <translation>Papiere</translation>
+    </message>
+    <message>
+        <source>Uncoated</source>
+        <translation>Ungestrichen</translation>
+    </message>
+    <message>
+        <source>Coated, glossy</source>
+        <translation>Gestrichen, glänzend</translation>
+    </message>
+    <message>
+        <source>Coated, matt</source>
+        <translation>Gestrichen, matt</translation>
+    </message>
+    <message>
+        <source>Proofs</source>
+        <translation>Proofs</translation>
+    </message>
+    <message>
+        <source>Screens</source>
+        <translation>Bildschirme</translation>
+    </message>
+    <message>
+        <source>Studio</source>
+        <translation>Studio</translation>
+    </message>
+    <message>
+        <source>Laptops</source>
+        <translation>Laptops</translation>
+    </message>
+    <message>
+        <source>Charts</source>
+        <translation>Testtafeln</translation>
+    </message>
+    <message>
+        <source>24 colours</source>
+        <translation>24 Farben</translation>
+    </message>
+    <message>
+        <source>Grey steps</source>
+        <translation>Graustufen</translation>
+    </message>
+</context>
+<context>
+    <name>FolderJobBar</name>
+    <message>
+        <source>Relative paths start at the program&apos;s folder; several paths are separated by &quot;%1&quot;.</source>
+        <translation>Relative Pfade beginnen im Ordner des Programms; mehrere Pfade werden durch „%1“ getrennt.</translation>
+    </message>
+</context>
+<context>
     <name>FolderLogEntry</name>
     <message>
         <source>The folder is empty.</source>
@@ -1387,6 +1778,128 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     <message>
         <source>Errors: %1</source>
         <translation>Fehler: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FolderScanPanel</name>
+    <message>
+        <source>Folder scan with a spinner</source>
+        <translation>Ordnersuche mit Spinner</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>S&amp;tart Scan</source>
+        <translation>Suche s&amp;tarten</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>Scan a Folder</source>
+        <translation>Ordner durchsuchen</translation>
+    </message>
+    <message>
+        <source>Spinner si&amp;ze:</source>
+        <translation>&amp;Größe des Spinners:</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 Pixel</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Changed last</source>
+        <translation>Zuletzt geändert</translation>
+    </message>
+    <message>
+        <source>Largest folders</source>
+        <translation>Größte Ordner</translation>
+    </message>
+    <message>
+        <source>%1 folders, %2 files, %3 so far</source>
+        <translation>%1 Ordner, %2 Dateien, %3 bis jetzt</translation>
+    </message>
+    <message>
+        <source>%1 folders, %2 files, %3</source>
+        <translation>%1 Ordner, %2 Dateien, %3</translation>
+    </message>
+    <message>
+        <source>%1 folders, %2 files, %3; cancelled</source>
+        <translation>%1 Ordner, %2 Dateien, %3; abgebrochen</translation>
+    </message>
+</context>
+<context>
+    <name>FoldingPanel</name>
+    <message>
+        <source>Folding group box</source>
+        <translation>Faltbare Gruppe</translation>
+    </message>
+    <message>
+        <source>C&amp;onversion</source>
+        <translation>K&amp;onvertierung</translation>
+    </message>
+    <message>
+        <source>Rendering intent:</source>
+        <translation>Rendering Intent:</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perzeptiv</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Relativ farbmetrisch</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Absolut farbmetrisch</translation>
+    </message>
+    <message>
+        <source>&amp;Black point compensation</source>
+        <translation>Tiefen&amp;kompensierung</translation>
+    </message>
+    <message>
+        <source>Simulate the paper</source>
+        <translation>Papier simulieren</translation>
+    </message>
+    <message>
+        <source>The black point counts for relative colorimetric alone.</source>
+        <translation>Der Schwarzpunkt zählt nur bei relativ farbmetrisch.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the note hidden</source>
+        <translation>&amp;Hinweis verborgen halten</translation>
+    </message>
+    <message>
+        <source>black point compensated</source>
+        <translation>Schwarzpunkt kompensiert</translation>
+    </message>
+    <message>
+        <source>paper simulated</source>
+        <translation>Papier simuliert</translation>
     </message>
 </context>
 <context>
@@ -1521,6 +2034,17 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
 </context>
 <context>
+    <name>GalleryAboutWindow</name>
+    <message>
+        <source>TXGUICommon Gallery</source>
+        <translation>TXGUICommon-Galerie</translation>
+    </message>
+    <message>
+        <source>with Qt %1</source>
+        <translation>mit Qt %1</translation>
+    </message>
+</context>
+<context>
     <name>GalleryCommandLine</name>
     <message>
         <source>There is no page &quot;%1&quot;. The pages are: %2.</source>
@@ -1644,6 +2168,19 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
         <source>Language</source>
         <translation>Sprache</translation>
     </message>
+    <message>
+        <source>About...</source>
+        <translation>Über...</translation>
+    </message>
+    <message>
+        <source>Alt+Y</source>
+        <comment>key of the button About...</comment>
+        <translation>Alt+Y</translation>
+    </message>
+    <message>
+        <source>About this program (%1)</source>
+        <translation>Über dieses Programm (%1)</translation>
+    </message>
 </context>
 <context>
     <name>GalleryPages</name>
@@ -1718,6 +2255,41 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     <message>
         <source>Language and style</source>
         <translation>Sprache und Stil</translation>
+    </message>
+    <message>
+        <source>Busy and progress</source>
+        <translation>Arbeit und Fortschritt</translation>
+    </message>
+    <message>
+        <source>Containers and labels</source>
+        <translation>Container und Label</translation>
+    </message>
+    <message>
+        <source>Drag and drop</source>
+        <translation>Ziehen und Ablegen</translation>
+    </message>
+    <message>
+        <source>Web interface</source>
+        <translation>Weboberfläche</translation>
+    </message>
+    <message>
+        <source>Trigger and encoding</source>
+        <translation>Auslöser und Kodierung</translation>
+    </message>
+    <message>
+        <source>Splash and About</source>
+        <translation>Startbild und Info</translation>
+    </message>
+</context>
+<context>
+    <name>GallerySplash</name>
+    <message>
+        <source>Loading the fonts...</source>
+        <translation>Schriften werden geladen...</translation>
+    </message>
+    <message>
+        <source>Loading the pages...</source>
+        <translation>Seiten werden geladen...</translation>
     </message>
 </context>
 <context>
@@ -1939,6 +2511,61 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     <message>
         <source>Blue to yellow</source>
         <translation>Blau bis Gelb</translation>
+    </message>
+</context>
+<context>
+    <name>LabPlanePanel</name>
+    <message>
+        <source>Square layout and rotated labels</source>
+        <translation>Quadratisches Layout und gedrehte Beschriftungen</translation>
+    </message>
+    <message>
+        <source>b*: blue to yellow</source>
+        <translation>b*: Blau bis Gelb</translation>
+    </message>
+    <message>
+        <source>a*: green to red</source>
+        <translation>a*: Grün bis Rot</translation>
+    </message>
+    <message>
+        <source>Lig&amp;htness:</source>
+        <translation>He&amp;lligkeit:</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical axis:</source>
+        <translation>&amp;Vertikale Achse:</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Aufrecht</translation>
+    </message>
+    <message>
+        <source>Clockwise</source>
+        <translation>Im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>Counter-clockwise</source>
+        <translation>Gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>&amp;Margins:</source>
+        <translation>Rän&amp;der:</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Pu&amp;t Back</source>
+        <translation>Z&amp;urücklegen</translation>
+    </message>
+    <message>
+        <source>&amp;Take Out</source>
+        <translation>Hera&amp;usnehmen</translation>
+    </message>
+    <message>
+        <source>Colours of lightness %1, with the patches of the chart</source>
+        <translation>Farben der Helligkeit %1 mit den Feldern der Testtafel</translation>
     </message>
 </context>
 <context>
@@ -2177,6 +2804,97 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     <message>
         <source>An error, written by hand</source>
         <translation>Ein Fehler, von Hand geschrieben</translation>
+    </message>
+</context>
+<context>
+    <name>LogoPanel</name>
+    <message>
+        <source>%1 × %2 pixels, %3</source>
+        <translation>%1 × %2 Pixel, %3</translation>
+    </message>
+    <message>
+        <source>Logo of the splash</source>
+        <translation>Logo des Startbilds</translation>
+    </message>
+    <message>
+        <source>Installed logo</source>
+        <translation>Installiertes Logo</translation>
+    </message>
+    <message>
+        <source>Copy that is kept</source>
+        <translation>Aufbewahrte Kopie</translation>
+    </message>
+    <message>
+        <source>Shown at the start</source>
+        <translation>Beim Start gezeigt</translation>
+    </message>
+    <message>
+        <source>&amp;Put In a Logo...</source>
+        <translation>&amp;Logo einsetzen...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Logo...</source>
+        <translation>Logo &amp;entfernen...</translation>
+    </message>
+    <message>
+        <source>Remove &amp;Copy...</source>
+        <translation>&amp;Kopie entfernen...</translation>
+    </message>
+    <message>
+        <source>Show Splas&amp;h</source>
+        <translation>Startbild &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Put In a Logo</source>
+        <translation>Logo einsetzen</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Remove the installed logo &quot;%1&quot;?</source>
+        <translation>Das installierte Logo „%1“ entfernen?</translation>
+    </message>
+    <message>
+        <source>Remove the copy &quot;%1&quot;?</source>
+        <translation>Die Kopie „%1“ entfernen?</translation>
+    </message>
+    <message>
+        <source>Click to close.</source>
+        <translation>Klicken schließt das Bild.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>There is none.</source>
+        <translation>Es gibt keines.</translation>
+    </message>
+    <message>
+        <source>There is none yet.</source>
+        <translation>Es gibt noch keine.</translation>
+    </message>
+    <message>
+        <source>Nothing: there is no picture.</source>
+        <translation>Nichts: Es gibt kein Bild.</translation>
+    </message>
+    <message>
+        <source>The installed logo.</source>
+        <translation>Das installierte Logo.</translation>
+    </message>
+    <message>
+        <source>The copy, since there is no installed logo.</source>
+        <translation>Die Kopie, da kein Logo installiert ist.</translation>
+    </message>
+    <message>
+        <source>The gallery&apos;s own picture.</source>
+        <translation>Das eigene Bild der Galerie.</translation>
     </message>
 </context>
 <context>
@@ -2426,6 +3144,25 @@ Drucksaal</translation>
     </message>
 </context>
 <context>
+    <name>OemLogo</name>
+    <message>
+        <source>The logo &quot;%1&quot; cannot be written: %2.</source>
+        <translation>Das Logo „%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>No copy is kept: the folder &quot;%1&quot; cannot be written.</source>
+        <translation>Es wird keine Kopie aufbewahrt: In den Ordner „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>No copy is kept: there is no folder &quot;%1&quot;.</source>
+        <translation>Es wird keine Kopie aufbewahrt: Den Ordner „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The logo &quot;%1&quot; cannot be removed: %2.</source>
+        <translation>Das Logo „%1“ kann nicht entfernt werden: %2.</translation>
+    </message>
+</context>
+<context>
     <name>OverviewPanel</name>
     <message>
         <source>Overview</source>
@@ -2441,6 +3178,13 @@ Drucksaal</translation>
     <message>
         <source>Configuration pages that plug-ins bring, with the settings that they give back, and a dialog that stands in a page as well as in a window.</source>
         <translation>Konfigurationsseiten aus Plug-ins, mit den Einstellungen, die sie zurückgeben, und ein Dialog, der in einer Seite wie in einem Fenster steht.</translation>
+    </message>
+</context>
+<context>
+    <name>PartProgress</name>
+    <message>
+        <source>Report %1 of %2: %3</source>
+        <translation>Bericht %1 von %2: %3</translation>
     </message>
 </context>
 <context>
@@ -2529,6 +3273,69 @@ Drucksaal</translation>
     </message>
 </context>
 <context>
+    <name>PatchFlowPanel</name>
+    <message>
+        <source>Flow of equal cells</source>
+        <translation>Gleiche Zellen im Fluss</translation>
+    </message>
+    <message>
+        <source>Swatches in rows</source>
+        <translation>Farbfelder in Reihen</translation>
+    </message>
+    <message>
+        <source>S&amp;watches:</source>
+        <translation>&amp;Farbfelder:</translation>
+    </message>
+    <message>
+        <source>&amp;Position:</source>
+        <translation>&amp;Position:</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>E&amp;infügen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>En&amp;tfernen</translation>
+    </message>
+    <message>
+        <source>Empt&amp;y</source>
+        <translation>Lee&amp;ren</translation>
+    </message>
+    <message>
+        <source>&amp;Frame:</source>
+        <translation>Rah&amp;men:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Kasten</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Tafel</translation>
+    </message>
+    <message>
+        <source>Of the style</source>
+        <translation>Vom Stil</translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation>&amp;Namen</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels each</source>
+        <translation>je %1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>No swatch</source>
+        <translation>Kein Farbfeld</translation>
+    </message>
+</context>
+<context>
     <name>PatchListPanel</name>
     <message>
         <source>List with separators</source>
@@ -2599,6 +3406,39 @@ Drucksaal</translation>
     </message>
 </context>
 <context>
+    <name>PatchSplitPanel</name>
+    <message>
+        <source>Splitters</source>
+        <translation>Teiler</translation>
+    </message>
+    <message>
+        <source>Patches to look at</source>
+        <translation>Felder zum Ansehen</translation>
+    </message>
+    <message>
+        <source>Si&amp;de by side</source>
+        <translation>Ne&amp;beneinander</translation>
+    </message>
+    <message>
+        <source>&amp;Grip width:</source>
+        <translation>&amp;Weite des Griffs:</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>L* %1
+a* %2
+b* %3
+On the screen: %4</source>
+        <translation>L* %1
+a* %2
+b* %3
+Auf dem Bildschirm: %4</translation>
+    </message>
+</context>
+<context>
     <name>PatchSwatchesPanel</name>
     <message>
         <source>Patches of the chart</source>
@@ -2607,6 +3447,13 @@ Drucksaal</translation>
     <message>
         <source>On the left of each patch charts made before November 2014, on the right those made since. A patch whose difference reaches the limit is framed.</source>
         <translation>Links in jedem Feld Tafeln von vor November 2014, rechts die seither. Ein Feld, dessen Abstand den Grenzwert erreicht, ist gerahmt.</translation>
+    </message>
+</context>
+<context>
+    <name>PatchTint</name>
+    <message>
+        <source>%1, %2 %</source>
+        <translation>%1, %2 %</translation>
     </message>
 </context>
 <context>
@@ -2856,6 +3703,37 @@ Drucksaal</translation>
     </message>
 </context>
 <context>
+    <name>ProgressBarSwitches</name>
+    <message>
+        <source>Show te&amp;xt</source>
+        <translation>Text &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>For&amp;mat:</source>
+        <translation>For&amp;mat:</translation>
+    </message>
+    <message>
+        <source>%p stands for the percentage, %v for the value, %m for the number of steps.</source>
+        <translation>%p steht für die Prozente, %v für den Wert, %m für die Zahl der Schritte.</translation>
+    </message>
+    <message>
+        <source>In&amp;verted</source>
+        <translation>Umge&amp;kehrt</translation>
+    </message>
+    <message>
+        <source>&amp;Upright</source>
+        <translation>Au&amp;frecht</translation>
+    </message>
+    <message>
+        <source>Text from bottom to to&amp;p</source>
+        <translation>Text von u&amp;nten nach oben</translation>
+    </message>
+    <message>
+        <source>Not every style writes on an upright bar; Fusion does not.</source>
+        <translation>Nicht jeder Stil schreibt auf einen aufrechten Balken; Fusion nicht.</translation>
+    </message>
+</context>
+<context>
     <name>ReceivedMailsPanel</name>
     <message>
         <source>Received mails</source>
@@ -2900,6 +3778,45 @@ Drucksaal</translation>
     <message>
         <source>no</source>
         <translation>nein</translation>
+    </message>
+</context>
+<context>
+    <name>ReportExportPanel</name>
+    <message>
+        <source>Report export on the GUI thread</source>
+        <translation>Export des Berichts im GUI-Thread</translation>
+    </message>
+    <message>
+        <source>Writes the chart report as PDF, with other choices each time, into a temporary folder.</source>
+        <translation>Schreibt den Bericht der Testtafel als PDF, jedes Mal mit anderer Auswahl, in einen temporären Ordner.</translation>
+    </message>
+    <message>
+        <source>&amp;Kinds:</source>
+        <translation>&amp;Varianten:</translation>
+    </message>
+    <message>
+        <source>Export P&amp;DFs</source>
+        <translation>PDFs e&amp;xportieren</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>Abb&amp;rechen</translation>
+    </message>
+    <message>
+        <source>Progress of the export</source>
+        <translation>Fortschritt des Exports</translation>
+    </message>
+    <message>
+        <source>%1 files, %2 pages, %3</source>
+        <translation>%1 Dateien, %2 Seiten, %3</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 files, %2 pages, %3</source>
+        <translation>Abgebrochen nach %1 Dateien, %2 Seiten, %3</translation>
+    </message>
+    <message>
+        <source>The export has failed.</source>
+        <translation>Der Export ist fehlgeschlagen.</translation>
     </message>
 </context>
 <context>
@@ -3010,10 +3927,6 @@ Drucksaal</translation>
     <message>
         <source>&amp;Open PDF</source>
         <translation>PDF öff&amp;nen</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
     </message>
     <message numerus="yes">
         <source>%n page(s) in &quot;%1&quot;</source>
@@ -3189,10 +4102,6 @@ Drucksaal</translation>
         <translation>&amp;Ordner:</translation>
     </message>
     <message>
-        <source>Relative paths start at the program&apos;s folder; several paths are separated by &quot;%1&quot;.</source>
-        <translation>Relative Pfade beginnen im Ordner des Programms; mehrere Pfade werden durch „%1“ getrennt.</translation>
-    </message>
-    <message>
         <source>&amp;Browse...</source>
         <translation>&amp;Durchsuchen …</translation>
     </message>
@@ -3219,6 +4128,13 @@ Drucksaal</translation>
     <message>
         <source>Entries a second</source>
         <translation>Einträge je Sekunde</translation>
+    </message>
+</context>
+<context>
+    <name>SchedulePage</name>
+    <message>
+        <source>The panels that set when an event comes back, and in which encoding text files are read. Save, and the gallery works out the next events, and reads a file anew.</source>
+        <translation>Die Felder, die festlegen, wann ein Ereignis wiederkehrt und in welcher Kodierung Textdateien gelesen werden. Nach dem Speichern errechnet die Galerie die nächsten Ereignisse und liest eine Datei neu.</translation>
     </message>
 </context>
 <context>
@@ -3543,6 +4459,88 @@ Drucksaal</translation>
     </message>
 </context>
 <context>
+    <name>TaskFinishedPanel</name>
+    <message>
+        <source>runs</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>taskFinished() comes again and again</source>
+        <translation>taskFinished() kommt immer wieder</translation>
+    </message>
+    <message>
+        <source>Delegate</source>
+        <translation>Delegat</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Aufgabe</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>Timer</translation>
+    </message>
+    <message>
+        <source>taskFinished()</source>
+        <translation>taskFinished()</translation>
+    </message>
+    <message>
+        <source>Delegates</source>
+        <translation>Delegaten</translation>
+    </message>
+    <message>
+        <source>A delegate tells it five times a second while no task runs, until its timer is stopped.</source>
+        <translation>Ein Delegat meldet es fünfmal in der Sekunde, während keine Aufgabe läuft, bis sein Timer angehalten wird.</translation>
+    </message>
+    <message>
+        <source>St&amp;op Timer</source>
+        <translation>Timer sto&amp;ppen</translation>
+    </message>
+    <message>
+        <source>New Dele&amp;gate</source>
+        <translation>Delegat &amp;wechseln</translation>
+    </message>
+</context>
+<context>
+    <name>TriggerPanel</name>
+    <message>
+        <source>The event never comes.</source>
+        <translation>Das Ereignis kommt nie.</translation>
+    </message>
+    <message>
+        <source>By the settings that are kept, the event comes next on:</source>
+        <translation>Nach den gespeicherten Einstellungen kommt das Ereignis als Nächstes am:</translation>
+    </message>
+    <message>
+        <source>Trigger event</source>
+        <translation>Auslösendes Ereignis</translation>
+    </message>
+    <message>
+        <source>Offer &amp;hours</source>
+        <translation>St&amp;unden anbieten</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>S&amp;peichern</translation>
+    </message>
+    <message>
+        <source>L&amp;oad</source>
+        <translation>&amp;Laden</translation>
+    </message>
+    <message>
+        <source>Calibration of the instrument</source>
+        <translation>Kalibrierung des Messgeräts</translation>
+    </message>
+</context>
+<context>
     <name>UnlockScreen</name>
     <message>
         <source>The work area is locked</source>
@@ -3682,6 +4680,33 @@ Drucksaal</translation>
     <message>
         <source>Signals of t&amp;he dialog:</source>
         <translation>Si&amp;gnale des Dialogs:</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateSettingsPanel</name>
+    <message>
+        <source>Settings of updates</source>
+        <translation>Einstellungen der Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Loa&amp;d Settings</source>
+        <translation>Einstellungen la&amp;den</translation>
+    </message>
+    <message>
+        <source>Save Se&amp;ttings</source>
+        <translation>Einstellungen s&amp;peichern</translation>
+    </message>
+    <message>
+        <source>Stored settings</source>
+        <translation>Gespeicherte Einstellungen</translation>
+    </message>
+    <message>
+        <source>The dialog above checks by itself every %1 days.</source>
+        <translation>Das Fenster darüber sucht von selbst alle %1 Tage.</translation>
+    </message>
+    <message>
+        <source>The dialog above does not check by itself.</source>
+        <translation>Das Fenster darüber sucht nicht von selbst.</translation>
     </message>
 </context>
 <context>
@@ -3865,6 +4890,199 @@ Drucksaal</translation>
     </message>
 </context>
 <context>
+    <name>WebCertificate</name>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <translation>der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+</context>
+<context>
+    <name>WebInterfacePage</name>
+    <message>
+        <source>The panel for the web interface of a program, beside a real web server that serves a page of the gallery. Only this computer reaches it, at the link with 127.0.0.1; the other links work once other computers may connect.</source>
+        <translation>Das Feld für die Weboberfläche eines Programms, neben einem echten Webserver, der eine Seite der Galerie ausliefert. Nur dieser Rechner erreicht ihn, über den Link mit 127.0.0.1; die anderen Links gelten, sobald andere Rechner zugelassen sind.</translation>
+    </message>
+    <message>
+        <source>Web interface panel</source>
+        <translation>Feld der Weboberfläche</translation>
+    </message>
+</context>
+<context>
+    <name>WebServerPanel</name>
+    <message>
+        <source>Web server</source>
+        <translation>Webserver</translation>
+    </message>
+    <message>
+        <source>Other com&amp;puters may connect</source>
+        <translation>Andere Rechner z&amp;ulassen</translation>
+    </message>
+    <message>
+        <source>Without it the server listens on 127.0.0.1 only, and no other link of the panel leads to it.</source>
+        <translation>Ohne dies lauscht der Server nur auf 127.0.0.1, und kein anderer Link des Felds führt zu ihm.</translation>
+    </message>
+    <message>
+        <source>Visi&amp;t the Page</source>
+        <translation>Seite &amp;besuchen</translation>
+    </message>
+    <message>
+        <source>the box &quot;Enabled&quot; of the panel is not checked</source>
+        <translation>das Kästchen „Aktiviert“ des Felds ist nicht angekreuzt</translation>
+    </message>
+    <message>
+        <source>HTTPS needs a certificate file</source>
+        <translation>HTTPS braucht eine Zertifikatsdatei</translation>
+    </message>
+</context>
+<context>
+    <name>WebSessionPanel</name>
+    <message>
+        <source>What the server &amp;got:</source>
+        <translation>Was der Server be&amp;kam:</translation>
+    </message>
+    <message>
+        <source>&amp;Own visits:</source>
+        <translation>Ei&amp;gene Besuche:</translation>
+    </message>
+</context>
+<context>
+    <name>WebSettingsPanel</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Offer &amp;HTTPS</source>
+        <translation>&amp;HTTPS anbieten</translation>
+    </message>
+    <message>
+        <source>Make &amp;Certificate</source>
+        <translation>Zertif&amp;ikat erzeugen</translation>
+    </message>
+    <message>
+        <source>Fill In E&amp;xample</source>
+        <translation>Beispiel ein&amp;tragen</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Settings</source>
+        <translation>Einstellungen &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Sav&amp;e</source>
+        <translation>Sp&amp;eichern</translation>
+    </message>
+    <message>
+        <source>Loa&amp;d</source>
+        <translation>La&amp;den</translation>
+    </message>
+    <message>
+        <source>Settings of the web interface</source>
+        <translation>Einstellungen der Weboberfläche</translation>
+    </message>
+    <message>
+        <source>Saved in the settings of the gallery.</source>
+        <translation>In den Einstellungen der Galerie gespeichert.</translation>
+    </message>
+    <message>
+        <source>Loaded from the settings of the gallery.</source>
+        <translation>Aus den Einstellungen der Galerie geladen.</translation>
+    </message>
+    <message>
+        <source>Nothing has been saved yet.</source>
+        <translation>Es wurde noch nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The example is for the user &quot;%1&quot; with the password &quot;%2&quot;.</source>
+        <translation>Das Beispiel ist für den Benutzer „%1“ mit dem Passwort „%2“.</translation>
+    </message>
+    <message>
+        <source>A certificate for localhost and 127.0.0.1 is in %1. A browser warns of it.</source>
+        <translation>Ein Zertifikat für localhost und 127.0.0.1 liegt in %1. Ein Browser warnt davor.</translation>
+    </message>
+    <message>
+        <source>No certificate was made: %1</source>
+        <translation>Es wurde kein Zertifikat erzeugt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>WebStatusPage</name>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <translation>Qt</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>Prozess</translation>
+    </message>
+    <message>
+        <source>This page was made</source>
+        <translation>Diese Seite entstand</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>everybody</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Mean %1, largest %2.</source>
+        <translation>Mittel %1, größtes %2.</translation>
+    </message>
+    <message>
+        <source>TXGUICommon Gallery</source>
+        <translation>TXGUICommon-Galerie</translation>
+    </message>
+    <message>
+        <source>How it is served</source>
+        <translation>Wie sie ausgeliefert wird</translation>
+    </message>
+    <message>
+        <source>Pages of the gallery</source>
+        <translation>Seiten der Galerie</translation>
+    </message>
+    <message>
+        <source>Patches of the chart, older and newer, with ΔE 2000</source>
+        <translation>Felder der Testtafel, ältere und neuere, mit ΔE 2000</translation>
+    </message>
+</context>
+<context>
+    <name>WebVisit</name>
+    <message>
+        <source>%1: status %2, %3 bytes</source>
+        <translation>%1: Status %2, %3 Bytes</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>WidgetStatePanel</name>
     <message>
         <source>Widget state</source>
@@ -3908,6 +5126,65 @@ Drucksaal</translation>
     <message>
         <source>Bytes</source>
         <translation>Byte</translation>
+    </message>
+</context>
+<context>
+    <name>WorkersPanel</name>
+    <message>
+        <source>Several workers, one delegate</source>
+        <translation>Mehrere Arbeiter, ein Delegat</translation>
+    </message>
+    <message>
+        <source>Files &amp;in:</source>
+        <translation>Dateien &amp;in:</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>D&amp;urchsuchen...</translation>
+    </message>
+    <message>
+        <source>&amp;Read Files</source>
+        <translation>Dateien &amp;lesen</translation>
+    </message>
+    <message>
+        <source>Canc&amp;el</source>
+        <translation>Abbr&amp;echen</translation>
+    </message>
+    <message>
+        <source>Read the Files of a Folder</source>
+        <translation>Die Dateien eines Ordners lesen</translation>
+    </message>
+    <message>
+        <source>T&amp;hreads:</source>
+        <translation>T&amp;hreads:</translation>
+    </message>
+    <message>
+        <source>Progress of the workers</source>
+        <translation>Fortschritt der Arbeiter</translation>
+    </message>
+    <message>
+        <source>Reports of the workers</source>
+        <translation>Meldungen der Arbeiter</translation>
+    </message>
+    <message>
+        <source>Paintings of the bar</source>
+        <translation>Zeichnungen des Balkens</translation>
+    </message>
+    <message>
+        <source>Files read</source>
+        <translation>Gelesene Dateien</translation>
+    </message>
+    <message>
+        <source>Read in a second</source>
+        <translation>Je Sekunde gelesen</translation>
+    </message>
+    <message>
+        <source>%1 in %2 s; %3 files are copies of others, %4 could not be read.</source>
+        <translation>%1 in %2 s; %3 Dateien sind Kopien anderer, %4 waren nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 in %2 s; %3 files are copies of others, %4 could not be read.</source>
+        <translation>Abgebrochen nach %1 in %2 s; %3 Dateien sind Kopien anderer, %4 waren nicht lesbar.</translation>
     </message>
 </context>
 </TS>

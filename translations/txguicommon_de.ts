@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>AboutAppWindow</name>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Patent and Legal Notices</source>
+        <translation>Patente und rechtliche Hinweise</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+</context>
+<context>
     <name>AutoMountManagerMainWindow</name>
     <message>
         <source>AutoMount Manager</source>
@@ -646,6 +665,25 @@ Bitte prüfen Sie, ob auf Ihrem Rechner ein PDF-Programm installiert ist</transl
     </message>
 </context>
 <context>
+    <name>TXCheckForUpdateConfigWidget</name>
+    <message>
+        <source>Check For Updates</source>
+        <translation>Suche nach Aktualisierungen</translation>
+    </message>
+    <message>
+        <source>Automatically Check for Updates</source>
+        <translation>Automatisch nach Aktualisierungen suchen</translation>
+    </message>
+    <message>
+        <source>Check for Updates at Startup</source>
+        <translation>Beim Start nach Aktualisierungen suchen</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Jetzt suchen</translation>
+    </message>
+</context>
+<context>
     <name>TXCheckForUpdateWidget</name>
     <message>
         <source>Check for Updates</source>
@@ -1123,6 +1161,17 @@ Die Anwendung wird beendet.</translation>
     </message>
 </context>
 <context>
+    <name>TXProgressBar</name>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
     <name>TXReportDocument</name>
     <message>
         <source>This is not a file name.</source>
@@ -1182,6 +1231,17 @@ Die Anwendung wird beendet.</translation>
     </message>
 </context>
 <context>
+    <name>TXSelectDefaultEncodingWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>Default Encoding</source>
+        <translation>Standardkodierung</translation>
+    </message>
+</context>
+<context>
     <name>TXSelectionItemWidget</name>
     <message>
         <source>Form</source>
@@ -1226,6 +1286,49 @@ Die Anwendung wird beendet.</translation>
     <message>
         <source>Create New</source>
         <translation>Neu anlegen</translation>
+    </message>
+</context>
+<context>
+    <name>TXTriggerEventWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Auslöser</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Each Hour</source>
+        <translation>Jede Stunde</translation>
+    </message>
+    <message>
+        <source>Each Month</source>
+        <translation>Jeden Monat</translation>
+    </message>
+    <message>
+        <source>Each Week</source>
+        <translation>Jede Woche</translation>
+    </message>
+    <message>
+        <source>Each Day</source>
+        <translation>Jeden Tag</translation>
+    </message>
+    <message>
+        <source>Each Minute</source>
+        <translation>Jede Minute</translation>
     </message>
 </context>
 <context>
@@ -1332,10 +1435,91 @@ Die Anwendung wird beendet.</translation>
     </message>
 </context>
 <context>
+    <name>TXWebInterfaceConfigurationWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Enable HTTPS</source>
+        <translation>HTTPS aktivieren</translation>
+    </message>
+    <message>
+        <source>Certificate file</source>
+        <translation>Zertifikatsdatei</translation>
+    </message>
+    <message>
+        <source>Certificate File...</source>
+        <translation>Zertifikatsdatei...</translation>
+    </message>
+    <message>
+        <source>Choose certificate file</source>
+        <translation>Zertifikatsdatei wählen</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Active Addresses:</source>
+        <translation>Aktive Adressen:</translation>
+    </message>
+    <message>
+        <source>Choose Certificate File</source>
+        <translation>Zertifikatsdatei wählen</translation>
+    </message>
+    <message>
+        <source>Certificate Files (*.pem)</source>
+        <translation>Zertifikatsdateien (*.pem)</translation>
+    </message>
+    <message>
+        <source>&amp;nbsp;&amp;nbsp;&amp;nbsp;(to be used only from this computer)</source>
+        <translation>&amp;nbsp;&amp;nbsp;&amp;nbsp;(nur von diesem Rechner aus zu benutzen)</translation>
+    </message>
+</context>
+<context>
+    <name>TXWidgetListWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+</context>
+<context>
     <name>VariantMoreButton</name>
     <message>
         <source>Show %L1 more of %L2</source>
         <translation>%L1 weitere von %L2 zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>WaitWidget</name>
+    <message>
+        <source>Busy</source>
+        <translation>Beschäftigt</translation>
     </message>
 </context>
 </TS>
