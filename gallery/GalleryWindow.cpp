@@ -277,12 +277,12 @@ void GalleryWindow::retranslate()
     // Dates and numbers of views follow the widget's locale, which does not change by itself.
     setLocale(QLocale());
     list->setAccessibleName(tr("Pages"));
-    int width = kListMinimumWidth;
     for (int row = 0; row < list->count(); ++row) {
         list->item(row)->setText(galleryPages()[row].translatedTitle());
-        width = std::max(width, list->sizeHintForColumn(0));
     }
-    list->setFixedWidth(width);
+    // A low window needs the scroll bar beside the longest title.
+    const int barWidth = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, list);
+    list->setFixedWidth(std::max(kListMinimumWidth, list->sizeHintForColumn(0) + barWidth));
     if (list->currentRow() >= 0) {
         showPageTexts();
     }

@@ -5,7 +5,7 @@
 namespace {
 
 constexpr int kTextMargin = 16;
-constexpr int kVerticalPadding = 10;
+constexpr int kVerticalPadding = 8;
 constexpr qreal kCornerRadius = 6;
 constexpr qreal kGap = 1.5;
 constexpr qreal kBarWidth = 3;

@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>&amp;Update Weights</source>
-        <translation>Schrift&amp;gewichte auffrischen</translation>
+        <translation>&amp;Gewichte auffrischen</translation>
     </message>
     <message>
         <source>Not passed</source>
@@ -2541,11 +2541,11 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>Clockwise</source>
-        <translation>Im Uhrzeigersinn</translation>
+        <translation>Rechtsherum</translation>
     </message>
     <message>
         <source>Counter-clockwise</source>
-        <translation>Gegen den Uhrzeigersinn</translation>
+        <translation>Linksherum</translation>
     </message>
     <message>
         <source>&amp;Margins:</source>
