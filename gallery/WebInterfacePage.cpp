@@ -1,6 +1,7 @@
 #include "WebInterfacePage.h"
 
 #include "GalleryPanel.h"
+#include "TabOrder.h"
 #include "WebServerPanel.h"
 #include "WebSessionPanel.h"
 #include "WebSettings.h"
@@ -97,4 +98,5 @@ void WebInterfacePage::setUpLayout()
     rows->addWidget(serverPanel);
     rows->addLayout(columns, 1);
     rows->addWidget(settingsPanel);
+    setTabOrderOfParts({serverPanel, configurationBox, sessionPanel, settingsPanel});
 }

@@ -56,9 +56,9 @@ private:
     void setUpLayout();
 
     TXWebInterfaceConfigurationWidget *configuration;
+    QPushButton *exampleButton;
     QCheckBox *offerBox;
     QPushButton *certificateButton;
-    QPushButton *exampleButton;
     QPushButton *showButton;
     QPushButton *saveButton;
     QPushButton *loadButton;

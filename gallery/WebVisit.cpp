@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int kPatienceMilliseconds = 5000;
+constexpr qint64 kLargestAnswer = 1 << 20;
 
 QSslConfiguration trusting(const QString &certificate)
 {
@@ -28,6 +29,9 @@ WebVisit::WebVisit(QObject *parent)
     : QObject(parent)
 {
     manager.setProxy(QNetworkProxy::NoProxy);
+    patience.setSingleShot(true);
+    patience.setInterval(kPatienceMilliseconds);
+    connect(&patience, SIGNAL(timeout()), this, SLOT(giveUp()));
 }
 
 WebVisit::~WebVisit()
@@ -41,7 +45,6 @@ void WebVisit::start(const WebSettings &settings)
     // Of a server that was here before, with another certificate.
     manager.clearConnectionCache();
     QNetworkRequest request(settings.url());
-    request.setTransferTimeout(kPatienceMilliseconds);
     if (!settings.user.isEmpty()) {
         const QByteArray login = (settings.user + u':' + settings.password).toUtf8();
         request.setRawHeader("Authorization", "Basic " + login.toBase64());
@@ -50,20 +53,30 @@ void WebVisit::start(const WebSettings &settings)
         request.setSslConfiguration(trusting(settings.certificate));
     }
     reply = manager.get(request);
+    // A longer answer is not read on, and the time runs out.
+    reply->setReadBufferSize(kLargestAnswer);
     connect(reply, SIGNAL(finished()), this, SLOT(takeAnswer()));
+    patience.start();
 }
 
 void WebVisit::takeAnswer()
 {
+    patience.stop();
     QNetworkReply *answer = reply;
     reply = nullptr;
     answer->deleteLater();
     const QString place = answer->url().toString(QUrl::FullyEncoded);
     const QVariant status = answer->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    emit ended(status.isValid()
+    const bool isWhole = answer->error() != QNetworkReply::OperationCanceledError;
+    emit ended(status.isValid() && isWhole
                    ? tr("%1: status %2, %3 bytes")
                          .arg(place, status.toString(), QString::number(answer->readAll().size()))
                    : tr("%1: %2").arg(place, answer->errorString()));
+}
+
+void WebVisit::giveUp()
+{
+    reply->abort();
 }
 
 void WebVisit::drop()

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QTimer>
 
 class QNetworkReply;
 struct WebSettings;
@@ -20,11 +21,9 @@ public:
     /// A visit that is under way ends without a word.
     ~WebVisit() override;
 
-    /// Starts a visit, in the place of one that is under way, and returns at once. It takes 5
-    /// seconds at most.
+    /// Starts a visit, in the place of one that is under way, and returns at once. It is given up
+    /// after 5 seconds, and so is an answer of more than 1 MiB.
     void start(const WebSettings &settings);
-
-    [[nodiscard]] bool isUnderWay() const { return !reply.isNull(); }
 
 signals:
     /// The answer is there, or will not come; in words.
@@ -32,10 +31,13 @@ signals:
 
 private slots:
     void takeAnswer();
+    void giveUp();
 
 private:
     void drop();
 
     QNetworkAccessManager manager;
     QPointer<QNetworkReply> reply;
+    // Of the whole visit: another program at the port may send a byte now and then.
+    QTimer patience;
 };

@@ -21,13 +21,6 @@ void LocalWebServer::setUser(const QString &name, const QString &newPassword)
     password = newPassword;
 }
 
-void LocalWebServer::setContent(const QString &html)
-{
-    content = html;
-    // Before start() it goes with the options; a server that cannot take it ends.
-    static_cast<void>(tell({{QStringLiteral("content"), content}}));
-}
-
 bool LocalWebServer::tellsOfSettings(const QString &error)
 {
     return error.contains(kRefusal);

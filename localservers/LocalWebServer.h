@@ -9,15 +9,16 @@
 /// path, for one user or for everybody.
 ///
 /// It is the one server here that other computers may reach, when it is told so. GET and HEAD of
-/// the path are answered with the page, all else with 401 without the user's name and password, or
-/// with 404. Slashes in a row count as one, and "." and ".." as what they mean: some clients
-/// shorten them. log() holds a line for each request, "127.0.0.1: GET /web/, 200", without its
-/// query and without passwords; beyond 10,000 a line tells that there are no more.
+/// the path are answered with the page, those of all else with 401 without the user's name and
+/// password, or with 404, and other methods with 501. Slashes in a row count as one, and "." and
+/// ".." as what they mean: some clients shorten them. log() holds a line for each request,
+/// "127.0.0.1: GET /web/, 200", without its query and without passwords; beyond 10,000 a line tells
+/// that there are no more.
 ///
-/// A client that says nothing for ten seconds is sent away, and 64 connections are served at a
-/// time.
+/// A client that says nothing for ten seconds is sent away. 64 connections are served at a time;
+/// beyond that a new one takes the place of the oldest.
 ///
-/// What is set counts from the next start() on, but for the page.
+/// What is set counts from the next start() on.
 class LocalWebServer : public LocalServer
 {
     Q_OBJECT
@@ -48,9 +49,8 @@ public:
     /// beginning, for HTTP.
     void setCertificate(const QString &file) { certificate = file; }
 
-    /// The page as HTML. Blocks until a running server has it, and serves it from the next request
-    /// on.
-    void setContent(const QString &html);
+    /// The page as HTML.
+    void setContent(const QString &html) { content = html; }
 
     /// Whether this error() is about what has been set: the port, the certificate.
     [[nodiscard]] static bool tellsOfSettings(const QString &error);

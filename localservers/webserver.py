@@ -2,16 +2,18 @@
 
 Options: host and port (0 for any free one), path (encoded, with the slashes around it), user and
 password (no user: everybody), certificate (a PEM file with certificate and key; empty: plain HTTP)
-and content, the page as HTML. Messages: another content.
+and content, the page as HTML.
 
 What is wrong with the options is told in words behind REFUSAL, and ends the server.
 """
 import base64
 import binascii
+import contextlib
 import errno
 import hmac
 import http.server
 import posixpath
+import re
 import socket
 import socketserver
 import ssl
@@ -24,7 +26,7 @@ import serverlink
 REFUSAL = "cannot serve: "
 # A client that says nothing for so long is not coming back.
 SILENCE_SECONDS = 10
-# Whoever comes beyond waits until one of them has gone.
+# Whoever comes beyond takes the place of the one that came first.
 MOST_CONNECTIONS = 64
 # The program that started this one keeps all lines.
 MOST_LOG_LINES = 10000
@@ -53,14 +55,11 @@ class Site:
 
     def __init__(self, options):
         self.path = plain(options["path"])
-        self.user = options["user"].encode()
-        self.password = options["password"].encode()
-        self.take(options)
+        # Half a character can be typed, but not sent.
+        self.user, self.password, self.content = (
+            options[name].encode("utf-8", "replace") for name in ("user", "password", "content"))
         self.lines_left = MOST_LOG_LINES
         self.lock = threading.Lock()
-
-    def take(self, message):
-        self.content = message["content"].encode("utf-8", "replace")
 
     def lets_in(self, authorization):
         """Whether these credentials, the header of a request, are those of the user."""
@@ -99,7 +98,8 @@ class Connection(http.server.BaseHTTPRequestHandler):
 
     def do_GET(self):
         site = self.server.site
-        target = self.path.partition("?")[0]
+        # The bytes as they came: some clients do not encode them.
+        target = self.path.partition("?")[0].encode("latin-1")
         if not site.lets_in(self.headers.get("Authorization")):
             self._answer(401, b"<p>Name and password, please.</p>",
                          ("WWW-Authenticate", 'Basic realm="TXGallery", charset="UTF-8"'))
@@ -121,9 +121,10 @@ class Connection(http.server.BaseHTTPRequestHandler):
             self.wfile.write(body)
 
     def log_request(self, code="-", size="-"):
-        # Without the query, in which forms may send anything.
+        # Without the query, in which forms may send anything, and without a login in the URL.
         words = self.requestline.split()
-        asked = " ".join([self.command or "?"] + [w.partition("?")[0] for w in words[1:2]])
+        targets = [re.sub("//.*@", "//", word.partition("?")[0]) for word in words[1:2]]
+        asked = " ".join([self.command or "?"] + targets)
         self.server.site.log(f"{self.client_address[0]}: {asked}, {int(code)}")
 
     def log_message(self, format, *arguments):
@@ -142,6 +143,9 @@ class Service(socketserver.ThreadingMixIn, socketserver.TCPServer):
         self.site = site
         self.context = context_with(options["certificate"]) if options["certificate"] else None
         self.places = threading.Semaphore(MOST_CONNECTIONS)
+        self.lock = threading.Lock()
+        # In the order in which they came.
+        self.connections = {}
         super().__init__((options["host"], options["port"]), Connection)
 
     def get_request(self):
@@ -152,7 +156,12 @@ class Service(socketserver.ThreadingMixIn, socketserver.TCPServer):
             plain, server_side=True, do_handshake_on_connect=False), address
 
     def process_request(self, request, client_address):
-        self.places.acquire()
+        if not self.places.acquire(blocking=False):
+            # One that sends a byte now and then would keep its place for ever.
+            self._send_away_oldest()
+            self.places.acquire()
+        with self.lock:
+            self.connections[request] = True
         try:
             super().process_request(request, client_address)
         except RuntimeError:
@@ -166,7 +175,14 @@ class Service(socketserver.ThreadingMixIn, socketserver.TCPServer):
         finally:
             self.places.release()
 
+    def _send_away_oldest(self):
+        # Unless it goes by itself.
+        with self.lock, contextlib.suppress(OSError, StopIteration):
+            socket.socket.shutdown(next(iter(self.connections)), socket.SHUT_RDWR)
+
     def shutdown_request(self, request):
+        with self.lock:
+            self.connections.pop(request, None)
         try:
             # Says goodbye without waiting for the client's: some wait for the end of the line.
             socket.socket.shutdown(request, socket.SHUT_RD)
@@ -216,11 +232,8 @@ def service_with(options, site):
 
 
 def serve():
-    # A message may only come once the server is ready.
-    sites = []
-    options = serverlink.begin(lambda message: sites[0].take(message))
-    sites.append(Site(options))
-    service = service_with(options, sites[0])
+    options = serverlink.begin()
+    service = service_with(options, Site(options))
     serverlink.ready(service.server_address[1])
     service.serve_forever()
 

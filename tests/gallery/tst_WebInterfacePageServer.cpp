@@ -5,6 +5,7 @@
 #include <QDesktopServices>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
 
 /// The web server of the page, and what it serves.
 class TestWebInterfacePageServer : public WebPageTest
@@ -25,6 +26,8 @@ private slots:
     void serverThatCannotStartIsToldInWords_data();
     void serverThatCannotStartIsToldInWords();
     void takenPortIsToldInWords();
+    void endlessAnswerIsGivenUp_data();
+    void endlessAnswerIsGivenUp();
     void pageMayGoDuringAVisit();
     void serverGoesWithThePage();
 };
@@ -251,6 +254,44 @@ void TestWebInterfacePageServer::takenPortIsToldInWords()
     const QString words = QStringLiteral("port %1 is taken by another program");
     QVERIFY2(server->error().contains(words.arg(other.serverPort())), qPrintable(server->error()));
     QVERIFY(!server->error().contains("setup"));
+}
+
+void TestWebInterfacePageServer::endlessAnswerIsGivenUp_data()
+{
+    QTest::addColumn<int>("step");
+    QTest::addColumn<int>("milliseconds");
+    QTest::newRow("byte by byte") << 1 << 500;
+    QTest::newRow("as fast as can be") << 100'000 << 0;
+}
+
+void TestWebInterfacePageServer::endlessAnswerIsGivenUp()
+{
+    QFETCH(int, step);
+    QFETCH(int, milliseconds);
+    QTcpServer endless;
+    QVERIFY(endless.listen(QHostAddress(QHostAddress::LocalHost)));
+    QTimer pump;
+    QTcpSocket *client = nullptr;
+    connect(&endless, &QTcpServer::newConnection, this, [&] {
+        client = endless.nextPendingConnection();
+        client->write("HTTP/1.1 200 OK\r\n\r\n");
+        pump.start(milliseconds);
+    });
+    qint64 written = 0;
+    connect(&pump, &QTimer::timeout, this, [&] {
+        if (client->bytesToWrite() == 0) {
+            written += client->write(QByteArray(step, 'x'));
+        }
+    });
+    configuration->load({{"Enabled", true}, {"Port", int(endless.serverPort())}});
+
+    press("Visit the Page");
+
+    QTRY_VERIFY_WITH_TIMEOUT(lines(1).contains("Operation canceled"), kPatienceMilliseconds);
+    pump.stop();
+    QVERIFY(written > 0);
+    // What was read, and what the system holds between the two.
+    QVERIFY2(written < (1 << 26), qPrintable(QString::number(written)));
 }
 
 void TestWebInterfacePageServer::pageMayGoDuringAVisit()

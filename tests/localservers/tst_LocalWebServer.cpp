@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QSignalSpy>
 #include <QTcpSocket>
+#include <QTimer>
 
 namespace {
 
@@ -49,18 +50,24 @@ private slots:
     void onlyTheUserIsLetIn();
     void pageIsServedOverHttps();
     void plainRequestToHttpsIsHarmless();
-    void contentMayChangeWhileRunning();
+    void contentCountsFromTheNextStart();
     void headersKeepThePageHarmless();
     void otherMethodsAreRefused();
+    void bytesOfThePathNeedNoEncoding();
     void requestsAreLoggedWithoutSecrets();
+    void loginInTheTargetIsNotLogged();
     void brokenRequestsAreHarmless_data();
     void brokenRequestsAreHarmless();
     void silentClientsDoNotStopOthers();
+    void slowClientsDoNotStopOthers();
     void stopFreesThePortForTheNextStart();
     void loopbackIsTheOnlyPlaceByDefault();
     void everyAddressIsServedWhenWanted();
 
 private:
+    /// What the server sends back for these bytes.
+    [[nodiscard]] QByteArray answerTo(const QByteArray &request) const;
+
     /// Another one than 127.0.0.1, as 127.0.0.2 is on any Linux.
     const QHostAddress otherAddress = QHostAddress(QStringLiteral("127.0.0.2"));
     std::unique_ptr<LocalWebServer> server;
@@ -79,6 +86,17 @@ void TestLocalWebServer::finish()
 {
     server.reset();
     folder.reset();
+}
+
+QByteArray TestLocalWebServer::answerTo(const QByteArray &request) const
+{
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress(QHostAddress::LocalHost), server->port());
+    socket.write(request);
+    static_cast<void>(
+        QTest::qWaitFor([&socket] { return socket.state() == QAbstractSocket::UnconnectedState; },
+                        kPatienceMilliseconds));
+    return socket.readAll();
 }
 
 void TestLocalWebServer::pageIsServedAtItsPathAlone_data()
@@ -158,6 +176,8 @@ void TestLocalWebServer::onlyTheUserIsLetIn_data()
     QTest::newRow("no colon") << "mia"
                               << "" << QByteArray("mia") << 401;
     QTest::newRow("non-ASCII") << zoe << "ä:b" << (zoe + ":ä:b").toUtf8() << 200;
+    QTest::newRow("half a character")
+        << QString(QChar(0xd800)) << "s3cret" << QByteArray("?:s3cret") << 200;
 }
 
 void TestLocalWebServer::onlyTheUserIsLetIn()
@@ -212,21 +232,19 @@ void TestLocalWebServer::plainRequestToHttpsIsHarmless()
     QCOMPARE(server->error(), QString());
 }
 
-void TestLocalWebServer::contentMayChangeWhileRunning()
+void TestLocalWebServer::contentCountsFromTheNextStart()
 {
     QVERIFY2(server->start(), qPrintable(server->error()));
-    const quint16 port = server->port();
+    const QByteArray first = fetchPage(urlOf(*server, QStringLiteral("/"))).body;
 
     server->setContent(QStringLiteral("second \"page\" \n") + QChar(0xd800));
 
+    QCOMPARE(fetchPage(urlOf(*server, QStringLiteral("/"))).body, first);
+    server->stop();
+    QVERIFY2(server->start(), qPrintable(server->error()));
     // Half a character cannot be sent.
     QCOMPARE(fetchPage(urlOf(*server, QStringLiteral("/"))).body,
              QByteArray("second \"page\" \n?"));
-    QCOMPARE(server->port(), port);
-    server->stop();
-    server->setContent(QStringLiteral("third"));
-    QVERIFY2(server->start(), qPrintable(server->error()));
-    QCOMPARE(fetchPage(urlOf(*server, QStringLiteral("/"))).body, QByteArray("third"));
 }
 
 void TestLocalWebServer::headersKeepThePageHarmless()
@@ -244,6 +262,26 @@ void TestLocalWebServer::otherMethodsAreRefused()
     QCOMPARE(fetchPage(url, {{}, {}, "HEAD"}).status, 200);
     QCOMPARE(fetchPage(url, {{}, {}, "HEAD"}).body, QByteArray());
     QCOMPARE(fetchPage(url).status, 200);
+}
+
+void TestLocalWebServer::bytesOfThePathNeedNoEncoding()
+{
+    server->setPath(QStringLiteral("/zo%C3%AB/"));
+    QVERIFY2(server->start(), qPrintable(server->error()));
+
+    QVERIFY(answerTo("GET /zo\xc3\xab/ HTTP/1.0\r\n\r\n").contains(" 200 OK\r\n"));
+}
+
+void TestLocalWebServer::loginInTheTargetIsNotLogged()
+{
+    QVERIFY2(server->start(), qPrintable(server->error()));
+
+    QVERIFY(!answerTo("GET http://mia:s3@cret@127.0.0.1/a@b HTTP/1.0\r\n\r\n").isEmpty());
+    QVERIFY(!answerTo("GET /user@host/ HTTP/1.0\r\n\r\n").isEmpty());
+
+    const QStringList expected = {QStringLiteral("127.0.0.1: GET http://b, 404"),
+                                  QStringLiteral("127.0.0.1: GET /user@host/, 404")};
+    QCOMPARE(server->log(), expected);
 }
 
 void TestLocalWebServer::requestsAreLoggedWithoutSecrets()
@@ -318,6 +356,35 @@ void TestLocalWebServer::silentClientsDoNotStopOthers()
 
     const QUrl url = urlOf(*server, QStringLiteral("/"), QStringLiteral("https"));
     QCOMPARE(fetchPage(url, {{}, certificate.certificateFile()}).status, 200);
+}
+
+void TestLocalWebServer::slowClientsDoNotStopOthers()
+{
+    QVERIFY2(server->start(), qPrintable(server->error()));
+    // More than there are places, and none is ever silent for long.
+    QTcpSocket slow[80];
+    for (QTcpSocket &socket : slow) {
+        socket.connectToHost(QHostAddress(QHostAddress::LocalHost), server->port());
+        QVERIFY(socket.waitForConnected(kPatienceMilliseconds));
+    }
+    QTimer drops;
+    const auto writeDrops = [&slow] {
+        for (QTcpSocket &socket : slow) {
+            if (socket.state() == QAbstractSocket::ConnectedState) {
+                socket.write("G");
+            }
+        }
+    };
+    connect(&drops, &QTimer::timeout, this, writeDrops);
+    drops.start(1000);
+
+    QCOMPARE(fetchPage(urlOf(*server, QStringLiteral("/"))).status, 200);
+
+    // The first ones have gone, the last one is served.
+    QTRY_COMPARE_WITH_TIMEOUT(slow[0].state(), QAbstractSocket::UnconnectedState,
+                              kPatienceMilliseconds);
+    QCOMPARE(slow[79].state(), QAbstractSocket::ConnectedState);
+    QCOMPARE(server->error(), QString());
 }
 
 void TestLocalWebServer::stopFreesThePortForTheNextStart()
