@@ -31,8 +31,8 @@ private:
 
     GalleryAboutWindow *plainWindow;
     GalleryAboutWindow *windowWithQt;
-    QCheckBox *detailBox;
     QPushButton *windowButton;
+    QCheckBox *detailBox;
     QPushButton *noticesButton;
     QLabel *note;
 };

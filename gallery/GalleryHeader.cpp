@@ -7,7 +7,9 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyle>
 #include <QStyleFactory>
 
 namespace {
@@ -17,6 +19,27 @@ constexpr int kSideMargin = 20;
 constexpr int kTopMargin = 12;
 constexpr int kGroupGap = 18;
 constexpr int kNamePointsAboveNormal = 3;
+
+/// Gives way on a small screen, where its text ends with an ellipsis.
+class NameLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return {0, QLabel::minimumSizeHint().height()};
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter painter(this);
+        style()->drawItemText(
+            &painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+            fontMetrics().elidedText(text(), Qt::ElideRight, width()), foregroundRole());
+    }
+};
 
 QLabel *makeBoxLabel(QWidget *parent, QComboBox *box)
 {
@@ -31,7 +54,7 @@ QLabel *makeBoxLabel(QWidget *parent, QComboBox *box)
 GalleryHeader::GalleryHeader(QWidget *parent)
     : QWidget(parent)
     , logo(new QLabel(this))
-    , name(new QLabel(this))
+    , name(new NameLabel(this))
     , coloursBox(new QComboBox(this))
     , styleBox(new QComboBox(this))
     , languageBox(new QComboBox(this))
@@ -69,6 +92,7 @@ void GalleryHeader::setUpLayout()
     layout->addWidget(logo);
     layout->addSpacing(4);
     layout->addWidget(name);
+    layout->addSpacing(kGroupGap);
     layout->addStretch();
     layout->addWidget(coloursLabel);
     layout->addWidget(coloursBox);

@@ -70,7 +70,7 @@ void PatchFlowPanel::retranslate()
     positionLabel->setText(tr("&Position:"));
     setButtonText(insertButton, tr("&Insert"));
     setButtonText(removeButton, tr("&Remove"));
-    setButtonText(emptyButton, tr("Empt&y"));
+    setButtonText(emptyButton, tr("&Clear"));
     frameLabel->setText(tr("&Frame:"));
     frameBox->setItemText(NoFrame, tr("None"));
     frameBox->setItemText(BoxFrame, tr("Box"));

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 #include <QPixmap>
 
 namespace {
@@ -22,8 +23,13 @@ QPixmap load(const QString &path)
 {
     const QFileInfo info(path);
     // To open a pipe would wait for somebody who writes, and a device may have no end. What is not
-    // there is left to QPixmap, which also tries suffixes.
-    return info.exists() && !info.isFile() ? QPixmap() : QPixmap(path);
+    // there is left to QImage, which also tries suffixes.
+    if (path.isEmpty() || (info.exists() && !info.isFile())) {
+        return {};
+    }
+    // Not QPixmap(path): it would give again what it has read before, if the file has been replaced
+    // within a second by one of the same size.
+    return QPixmap::fromImage(QImage(path));
 }
 
 void cache(const QString &installed, const QString &cached)

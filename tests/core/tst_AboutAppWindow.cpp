@@ -71,6 +71,7 @@ private slots:
     void formIsAsDesigned();
     void controlsAreInTheirLayouts();
     void nothingIsAskedBeforeItIsShown();
+    void linkStandsThereFromTheStart();
     void everyShowFillsTheWindow();
     void titleAndNameAreTheApplications();
     void versionLine_data();
@@ -154,6 +155,18 @@ void TestAboutAppWindow::nothingIsAskedBeforeItIsShown()
 
     QVERIFY(window.calls > 0);
     QCOMPARE(nameLabel(window)->text(), "Colour Tool");
+}
+
+/// As the other texts of the form do, until the window is filled.
+void TestAboutAppWindow::linkStandsThereFromTheStart()
+{
+    const TestAboutWindow window;
+
+    const auto [target, text] = linkOf(label(window, "companyWebSiteLabel")->text());
+
+    QVERIFY(!text.isEmpty());
+    QCOMPARE(target, text);
+    QCOMPARE(label(window, "companyWebSiteLabel")->textFormat(), Qt::RichText);
 }
 
 void TestAboutAppWindow::everyShowFillsTheWindow()

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -63,6 +64,7 @@ protected:
     void finish() override;
 
 private slots:
+    void slotIsPrivate();
     void copyIsOpened();
     void specialCharactersReachTheViewer_data();
     void specialCharactersReachTheViewer();
@@ -148,6 +150,15 @@ QStringList TestAboutAppWindowNotices::everythingBelow() const
     }
     paths.sort();
     return paths;
+}
+
+void TestAboutAppWindowNotices::slotIsPrivate()
+{
+    const QMetaObject &meta = AboutAppWindow::staticMetaObject;
+
+    const QMetaMethod slot = meta.method(meta.indexOfSlot("displayPatents()"));
+
+    QCOMPARE(slot.access(), QMetaMethod::Private);
 }
 
 void TestAboutAppWindowNotices::copyIsOpened()

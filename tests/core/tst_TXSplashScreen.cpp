@@ -5,6 +5,7 @@
 #include "TestBase.h"
 
 #include <QBuffer>
+#include <QDateTime>
 #include <QGuiApplication>
 #include <QImage>
 #include <QJsonObject>
@@ -66,6 +67,7 @@ private slots:
     void newLogoOfAnotherSizeIsShownAndLeavesTheCache();
     void withoutLogosTheDefaultIsShown();
     void defaultMayLackItsSuffix();
+    void fileReplacedByOneOfTheSameSizeIsReadAgain();
     void withoutAnythingTheSplashIsEmpty();
     void whatIsNoPictureCountsAsMissing_data();
     void whatIsNoPictureCountsAsMissing();
@@ -220,6 +222,23 @@ void TestTXSplashScreen::defaultMayLackItsSuffix()
     QVERIFY(write("default.png", portableNetworkGraphic(Qt::blue)));
 
     QCOMPARE(shownColour(7, path("default")), "#0000ff");
+}
+
+void TestTXSplashScreen::fileReplacedByOneOfTheSameSizeIsReadAgain()
+{
+    const QDateTime written(QDate(2024, 1, 1), QTime(12, 0));
+    const auto shown = [this, &written](Qt::GlobalColor colour) {
+        QFile file(path("default.png"));
+        if (!file.open(QFile::WriteOnly) || file.write(picture(colour)) < 0 || !file.flush()
+            || !file.setFileTime(written, QFile::FileModificationTime)) {
+            return QColor();
+        }
+        file.close();
+        return TXSplashScreen::pixmap(-12345, file.fileName()).toImage().pixelColor(0, 0);
+    };
+
+    QCOMPARE(shown(Qt::red), QColor(Qt::red));
+    QCOMPARE(shown(Qt::blue), QColor(Qt::blue));
 }
 
 void TestTXSplashScreen::withoutAnythingTheSplashIsEmpty()

@@ -194,12 +194,12 @@ void TestContainersPage::swatchIsInsertedAndRemovedAtItsPosition()
 
 void TestContainersPage::emptyFlowTakesASwatchAgain()
 {
-    click("Empty");
+    click("Clear");
     QCOMPARE(flow()->count(), 0);
     QCOMPARE(page->findChildren<PatchChip *>().size(), 0);
     QVERIFY(isRead(*page, "No swatch"));
     QVERIFY(!buttonOf(*page, "Remove")->isEnabled());
-    QVERIFY(!buttonOf(*page, "Empty")->isEnabled());
+    QVERIFY(!buttonOf(*page, "Clear")->isEnabled());
 
     click("Insert");
     QCOMPARE(flow()->count(), 1);

@@ -1,3 +1,4 @@
+#include "GalleryHeader.h"
 #include "GalleryLanguages.h"
 #include "GalleryPage.h"
 #include "GalleryPages.h"
@@ -35,6 +36,7 @@ private slots:
     void f6MovesBetweenListAndPage();
     void tabReachesListAndChoices();
     void everyControlHasAnAccessibleName();
+    void headerFitsOnASmallScreen();
     void mnemonicsDoNotClashOnAnyPage();
     void closingWhileAJobRunsEndsCleanly();
 
@@ -265,6 +267,24 @@ void TestGalleryWindow::everyControlHasAnAccessibleName()
             const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
             QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
                      widget->metaObject()->className());
+        }
+    }
+}
+
+/// Of 1366 pixels at 200 %.
+void TestGalleryWindow::headerFitsOnASmallScreen()
+{
+    open();
+
+    window->resize(683, 384);
+
+    QCOMPARE(window->width(), 683);
+    auto *header = window->findChild<GalleryHeader *>();
+    const auto parts = header->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget *part : parts) {
+        QVERIFY(header->rect().contains(part->geometry()));
+        for (const QWidget *other : parts) {
+            QVERIFY(other == part || !other->geometry().intersects(part->geometry()));
         }
     }
 }
