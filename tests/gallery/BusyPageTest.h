@@ -6,10 +6,7 @@
 #include "GalleryLanguages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
-#include "ObservedProgress.h"
 #include "PageChecks.h"
-#include "ReportExportPanel.h"
-#include "TaskFinishedPanel.h"
 #include "TestBase.h"
 #include "WorkersPanel.h"
 
@@ -67,23 +64,12 @@ protected:
     [[nodiscard]] BusyPage *page() const { return qobject_cast<BusyPage *>(window->currentPage()); }
     [[nodiscard]] FolderScanPanel *scan() const { return window->findChild<FolderScanPanel *>(); }
     [[nodiscard]] WorkersPanel *workers() const { return window->findChild<WorkersPanel *>(); }
-    [[nodiscard]] ReportExportPanel *exports() const
-    {
-        return window->findChild<ReportExportPanel *>();
-    }
-    [[nodiscard]] TaskFinishedPanel *finished() const
-    {
-        return window->findChild<TaskFinishedPanel *>();
-    }
     [[nodiscard]] QList<WaitWidget *> spinners() const
     {
         return scan()->findChildren<WaitWidget *>();
     }
-    static TXProgressBar *barOf(const QWidget *panel)
-    {
-        return panel->findChild<TXProgressBar *>();
-    }
-    static QTreeWidget *tableOf(const QWidget *panel) { return panel->findChild<QTreeWidget *>(); }
+    [[nodiscard]] TXProgressBar *bar() const { return workers()->findChild<TXProgressBar *>(); }
+    [[nodiscard]] QTreeWidget *list() const { return scan()->findChild<QTreeWidget *>(); }
 
     std::unique_ptr<QTemporaryDir> folder;
     std::unique_ptr<GalleryLanguages> languages;
