@@ -1,15 +1,61 @@
-#include "BusyPageTest.h"
+#include "BusyPage.h"
+#include "DialogDriver.h"
+#include "FolderScanPanel.h"
+#include "GalleryLanguages.h"
+#include "GallerySettings.h"
+#include "GalleryWindow.h"
+#include "PageChecks.h"
+#include "TestBase.h"
+#include "WorkersPanel.h"
+
+#include "TXProgressBar.h"
+#include "WaitWidget.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTreeWidget>
 
-/// What the page shows of its work.
-class TestBusyPage : public BusyPageTest
+#include <memory>
+
+/// What the page shows of its work. Each test finds it open in the gallery's window, and a folder
+/// with a few files.
+class TestBusyPage : public TestBase
 {
     Q_OBJECT
+
+protected:
+    void prepare() override
+    {
+        QLocale::setDefault(QLocale("en"));
+        folder = std::make_unique<QTemporaryDir>();
+        write("inks/cyan/a", QByteArray(3000, 'c'));
+        write("inks/magenta/b", QByteArray(5000, 'm'));
+        write("inks/magenta/c", QByteArray(3000, 'c'));
+        GallerySettings settings;
+        settings.page = "busy";
+        languages = std::make_unique<GalleryLanguages>(QString());
+        window = std::make_unique<GalleryWindow>(*languages, settings);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QVERIFY(page());
+        scan()->setFolders(folder->filePath("inks"));
+        workers()->setFolders(folder->filePath("inks"));
+    }
+
+    void finish() override
+    {
+        window.reset();
+        languages.reset();
+        folder.reset();
+        QLocale::setDefault(QLocale::system());
+    }
 
 private slots:
     void pageFitsTheWindow();
@@ -25,10 +71,45 @@ private slots:
     void numberOfThreadsIsChosen();
     void switchesChangeTheBar();
     void pictureShowsWorkUnderWay();
+    void windowMayGoWhileThreadsWork();
+    void windowMayGoOnceTheBarIsShown();
+    void windowMayBeClosedWhileThreadsWork();
 
 private:
     void scanToTheEnd();
     void readToTheEnd();
+    /// Starts all that has threads, on more than is done in a moment.
+    void startThreads()
+    {
+        scan()->setFolders(QDir::rootPath());
+        workers()->setFolders("/usr");
+        DialogDriver::click(buttonOf(*scan(), "Start Scan"));
+        DialogDriver::click(buttonOf(*workers(), "Read Files"));
+        QVERIFY(scan()->isRunning() && workers()->isRunning());
+    }
+
+    void write(const QString &name, const QByteArray &content) const
+    {
+        const QString path = folder->filePath(name);
+        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
+
+    [[nodiscard]] BusyPage *page() const { return qobject_cast<BusyPage *>(window->currentPage()); }
+    [[nodiscard]] FolderScanPanel *scan() const { return window->findChild<FolderScanPanel *>(); }
+    [[nodiscard]] WorkersPanel *workers() const { return window->findChild<WorkersPanel *>(); }
+    [[nodiscard]] QList<WaitWidget *> spinners() const
+    {
+        return scan()->findChildren<WaitWidget *>();
+    }
+    [[nodiscard]] TXProgressBar *bar() const { return workers()->findChild<TXProgressBar *>(); }
+    [[nodiscard]] QTreeWidget *list() const { return scan()->findChild<QTreeWidget *>(); }
+
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<GalleryLanguages> languages;
+    std::unique_ptr<GalleryWindow> window;
 };
 
 void TestBusyPage::scanToTheEnd()
@@ -206,6 +287,37 @@ void TestBusyPage::pictureShowsWorkUnderWay()
     // Another page in front ends it.
     window->showPage(0);
     QTRY_VERIFY(!scan()->isRunning() && !workers()->isRunning());
+}
+
+void TestBusyPage::windowMayGoWhileThreadsWork()
+{
+    startThreads();
+
+    window.reset();
+
+    QVERIFY(!window);
+}
+
+void TestBusyPage::windowMayGoOnceTheBarIsShown()
+{
+    startThreads();
+    QTRY_VERIFY(!bar()->isHidden());
+
+    window.reset();
+
+    QVERIFY(!window);
+}
+
+void TestBusyPage::windowMayBeClosedWhileThreadsWork()
+{
+    startThreads();
+
+    window->close();
+    QVERIFY(!window->isVisible());
+    QCoreApplication::processEvents();
+    window.reset();
+
+    QVERIFY(!window);
 }
 
 int main(int argc, char **argv)
