@@ -3,8 +3,6 @@
 #include "GalleryPage.h"
 
 class FolderScanPanel;
-class ReportExportPanel;
-class TaskFinishedPanel;
 class WorkersPanel;
 
 /// The spinner, the progress bar and the delegate between workers and bar, over real work.
@@ -17,13 +15,12 @@ public:
 
     [[nodiscard]] QString description() const override;
 
-    /// Shows an export that is done, and a scan and several workers that are under way as long as
-    /// the page is seen.
+    /// Shows a scan and several workers that are under way as long as the page is seen.
     void fillForPicture() override;
     [[nodiscard]] bool isReady() const override { return !isFilling; }
 
 protected:
-    void retranslate() override;
+    void retranslate() override { }
     void hideEvent(QHideEvent *event) override;
 
 private slots:
@@ -34,8 +31,6 @@ private:
 
     FolderScanPanel *scanPanel;
     WorkersPanel *workersPanel;
-    ReportExportPanel *exportPanel;
-    TaskFinishedPanel *finishedPanel;
     bool isFilling = false;
     bool isPicture = false;
 };

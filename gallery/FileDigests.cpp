@@ -96,10 +96,15 @@ void FileDigests::find(const QStringList &folders)
 
 void FileDigests::findIn(const QString &folder)
 {
-    QDirIterator walk(folder, QDir::Files | QDir::Hidden | QDir::NoSymLinks,
-                      QDirIterator::Subdirectories);
+    // Folders too, or cancel() would have to wait for the next file.
+    QDirIterator walk(
+        folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks,
+        QDirIterator::Subdirectories);
     while (!isCancelled && entries.size() < kMaximumFiles && walk.hasNext()) {
         const QString path = walk.next();
+        if (walk.fileInfo().isDir()) {
+            continue;
+        }
         const qint64 size = walk.fileInfo().size();
         entries.append({path, size});
         totalBytes += double(size);

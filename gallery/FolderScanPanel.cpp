@@ -170,6 +170,9 @@ void FolderScanPanel::setUpLayout()
     list->setRootIsDecorated(false);
     list->setUniformRowHeights(true);
     list->setFixedHeight(kListHeightPixels);
+    for (const int column : {SizeColumn, FilesColumn}) {
+        list->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+    }
     list->header()->setStretchLastSection(false);
     list->header()->setSectionResizeMode(FolderColumn, QHeaderView::Stretch);
     list->setTextElideMode(Qt::ElideMiddle);

@@ -9,7 +9,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProgressBar>
 
 namespace {
 
@@ -28,7 +27,6 @@ ProgressBarSwitches::ProgressBarSwitches(TXProgressBar *bar, QWidget *parent)
     , formatEdit(new QLineEdit(bar->format(), this))
     , invertedBox(new QCheckBox(this))
     , uprightBox(new QCheckBox(this))
-    , bottomToTopBox(new QCheckBox(this))
 {
     textBox->setChecked(bar->isTextVisible());
     formatEdit->setMaxLength(kLongestFormat);
@@ -37,7 +35,7 @@ ProgressBarSwitches::ProgressBarSwitches(TXProgressBar *bar, QWidget *parent)
     setUpLayout();
     retranslate();
     apply();
-    for (QCheckBox *box : {textBox, invertedBox, uprightBox, bottomToTopBox}) {
+    for (QCheckBox *box : {textBox, invertedBox, uprightBox}) {
         connect(box, SIGNAL(toggled(bool)), this, SLOT(apply()));
     }
     connect(formatEdit, SIGNAL(textChanged(QString)), this, SLOT(apply()));
@@ -51,10 +49,6 @@ void ProgressBarSwitches::apply()
     bar->setInvertedAppearance(invertedBox->isChecked());
     bar->setOrientation(isUpright ? Qt::Vertical : Qt::Horizontal);
     bar->setMinimumHeight(isUpright ? kUprightHeightPixels : 0);
-    bar->setTextDirection(bottomToTopBox->isChecked() ? QProgressBar::BottomToTop
-                                                      : QProgressBar::TopToBottom);
-    // Horizontal text has no such direction.
-    bottomToTopBox->setEnabled(isUpright);
 }
 
 void ProgressBarSwitches::changeEvent(QEvent *event)
@@ -73,8 +67,6 @@ void ProgressBarSwitches::retranslate()
                               "of steps."));
     invertedBox->setText(tr("In&verted"));
     uprightBox->setText(tr("&Upright"));
-    bottomToTopBox->setText(tr("Text from bottom to to&p"));
-    bottomToTopBox->setToolTip(tr("Not every style writes on an upright bar; Fusion does not."));
 }
 
 void ProgressBarSwitches::setUpLayout()
@@ -87,6 +79,5 @@ void ProgressBarSwitches::setUpLayout()
     row->addWidget(formatEdit);
     row->addWidget(invertedBox);
     row->addWidget(uprightBox);
-    row->addWidget(bottomToTopBox);
     row->addStretch();
 }

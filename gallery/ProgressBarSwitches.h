@@ -17,12 +17,11 @@ public:
     /// The bar has to outlive the switches.
     explicit ProgressBarSwitches(TXProgressBar *bar, QWidget *parent = nullptr);
 
-public slots:
-    /// Sets the bar to what is chosen here, after something else has changed it.
-    void apply();
-
 protected:
     void changeEvent(QEvent *event) override;
+
+private slots:
+    void apply();
 
 private:
     void retranslate();
@@ -34,5 +33,4 @@ private:
     QLineEdit *formatEdit;
     QCheckBox *invertedBox;
     QCheckBox *uprightBox;
-    QCheckBox *bottomToTopBox;
 };

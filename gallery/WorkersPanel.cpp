@@ -20,6 +20,7 @@ namespace {
 constexpr int kCountsIntervalMilliseconds = 100;
 constexpr int kThreadsChosenFirst = 4;
 constexpr int kValuePointsAboveNormal = 6;
+constexpr int kMessageWidthPixels = 230;
 constexpr qint64 kMillisecondsPerSecond = 1000;
 
 } // namespace
@@ -45,12 +46,12 @@ WorkersPanel::WorkersPanel(QWidget *parent)
     threadsLabel->setBuddy(threadsBox);
     WheelGuard::protect(threadsBox);
     countsTimer->setInterval(kCountsIntervalMilliseconds);
+    keepRoomForTheBar();
     setUpLayout();
     retranslate();
     connect(jobBar, SIGNAL(startWanted()), this, SLOT(start()));
     connect(jobBar, SIGNAL(cancelWanted()), this, SLOT(cancel()));
     connect(countsTimer, SIGNAL(timeout()), this, SLOT(showCounts()));
-    connect(observed.get(), SIGNAL(renewed()), switches, SLOT(apply()));
     connect(digests.get(), SIGNAL(finished(bool)), this, SLOT(jobFinished(bool)));
 }
 
@@ -76,7 +77,7 @@ void WorkersPanel::start()
         return;
     }
     ending = Ending::None;
-    observed->startTask();
+    observed->startCounting();
     sinceStart.start();
     digests->start(jobBar->paths(), threadsBox->value());
     jobBar->setRunning(true);
@@ -112,7 +113,6 @@ void WorkersPanel::jobFinished(bool isComplete)
     milliseconds = sinceStart.elapsed();
     ending = isComplete ? Ending::Complete : Ending::Cancelled;
     countsTimer->stop();
-    observed->endTask();
     jobBar->setRunning(false);
     threadsBox->setEnabled(true);
     showCounts();
@@ -140,8 +140,8 @@ QString WorkersPanel::endingText() const
     const QLocale shown = locale();
     const FileDigestSums sums = digests->sums();
     const QString text = ending == Ending::Complete
-        ? tr("%1 in %2 s; %3 files are copies of others, %4 could not be read.")
-        : tr("Cancelled after %1 in %2 s; %3 files are copies of others, %4 could not be read.");
+        ? tr("%1 in %2 s; copies of other files: %3, not readable: %4.")
+        : tr("Cancelled after %1 in %2 s; copies of other files: %3, not readable: %4.");
     constexpr int kDecimals = 2;
     const double seconds = double(milliseconds) / double(kMillisecondsPerSecond);
     return text.arg(shown.formattedDataSize(sums.bytes), shown.toString(seconds, 'f', kDecimals),
@@ -156,6 +156,16 @@ WorkersPanel::Tile WorkersPanel::makeTile()
     tile.value->setFont(valueFont);
     tile.caption->setForegroundRole(QPalette::PlaceholderText);
     return tile;
+}
+
+/// The page stays as it is while the bar comes and goes, and the bar while messages do.
+void WorkersPanel::keepRoomForTheBar()
+{
+    QSizePolicy policy = bar->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    bar->setSizePolicy(policy);
+    auto *message = bar->findChild<QLabel *>(QStringLiteral("progressMessage"));
+    message->setFixedWidth(kMessageWidthPixels);
 }
 
 void WorkersPanel::setUpLayout()

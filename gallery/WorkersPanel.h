@@ -27,9 +27,6 @@ public:
     /// Cancels a running job and waits for its threads.
     ~WorkersPanel() override;
 
-    /// Where the workers report to. Lives as long as the panel.
-    [[nodiscard]] ObservedProgress *progress() const { return observed.get(); }
-
     /// As FolderJobBar::setFolders().
     void setFolders(const QString &text);
 
@@ -67,6 +64,7 @@ private:
     };
 
     Tile makeTile();
+    void keepRoomForTheBar();
     void setUpLayout();
     [[nodiscard]] QString endingText() const;
 
