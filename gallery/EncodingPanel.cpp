@@ -202,14 +202,15 @@ void EncodingPanel::setUpLayout()
     file->addWidget(fileButton);
 
     auto *reading = new QVBoxLayout;
+    reading->setSpacing(kGap);
+    reading->addWidget(view, 1);
     reading->addLayout(file);
-    reading->addWidget(text, 1);
     reading->addWidget(note);
 
     auto *columns = new QHBoxLayout;
     columns->setSpacing(kGap);
-    columns->addWidget(view, 1);
     columns->addLayout(reading, 1);
+    columns->addWidget(text, 1);
 
     auto *rows = new QVBoxLayout(this);
     setGaps(rows);

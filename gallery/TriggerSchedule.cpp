@@ -34,8 +34,12 @@ bool isDue(QDate date, int period, int day)
 QDateTime momentOf(QDate date, int hour, const QTimeZone &zone)
 {
     const QDateTime moment(date, QTime(hour, 0), zone);
-    // Left out by summer time.
-    return moment.isValid() ? moment : QDateTime(date, QTime((hour + 1) % kHoursPerDay, 0), zone);
+    if (moment.isValid()) {
+        return moment;
+    }
+    // Left out by summer time. The hour after it may be the first of the next day.
+    const QDateTime later = QDateTime(date, QTime(hour, 0), Qt::UTC).addSecs(kSecondsPerHour);
+    return {later.date(), later.time(), zone};
 }
 
 QDateTime nextOnADay(int period, int day, int hour, const QDateTime &after)

@@ -6,6 +6,7 @@
 #include "TXCheckForUpdateConfigWidget.h"
 #include "TXCheckForUpdateWidget.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -34,10 +35,12 @@ UpdateSettingsPanel::UpdateSettingsPanel(QWidget *parent)
     , widget(new TXCheckForUpdateConfigWidget(this))
     , loadButton(new QPushButton(this))
     , saveButton(new QPushButton(this))
+    , viewLabel(new QLabel(this))
     , view(new DictionaryView(this))
     , periodLabel(new QLabel(this))
 {
     widget->load();
+    viewLabel->setBuddy(view);
     setUpLayout();
     setTexts();
     setServiceRunning(false);
@@ -75,14 +78,19 @@ void UpdateSettingsPanel::setTexts()
     setTitle(tr("Settings of updates"));
     setButtonText(loadButton, tr("Loa&d Settings"));
     setButtonText(saveButton, tr("Save Se&ttings"));
+    viewLabel->setText(tr("Stored settings:"));
     view->setAccessibleName(tr("Stored settings"));
 }
 
-/// Makes the widget anew, as it is stored, with its texts in the language of the moment.
+/// Makes the widget anew, as it stands, with its texts in the language of the moment.
 void UpdateSettingsPanel::renew()
 {
     auto *renewed = new TXCheckForUpdateConfigWidget(this);
-    renewed->load();
+    // What is shown may not be stored yet.
+    const auto boxes = widget->findChildren<QCheckBox *>();
+    for (const QCheckBox *box : boxes) {
+        renewed->findChild<QCheckBox *>(box->objectName())->setChecked(box->isChecked());
+    }
     replaceWidget(widget, renewed, loadButton);
     widget = renewed;
 }
@@ -108,6 +116,7 @@ void UpdateSettingsPanel::setUpLayout()
     left->addLayout(buttons);
 
     auto *right = new QVBoxLayout;
+    right->addWidget(viewLabel);
     right->addWidget(view, 1);
     right->addWidget(periodLabel);
 

@@ -37,6 +37,7 @@ private:
     TXCheckForUpdateConfigWidget *widget;
     QPushButton *loadButton;
     QPushButton *saveButton;
+    QLabel *viewLabel;
     DictionaryView *view;
     QLabel *periodLabel;
 };

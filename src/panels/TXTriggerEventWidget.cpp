@@ -129,7 +129,7 @@ void TXTriggerEventWidget::addHourTriggerPeriod()
 
 void TXTriggerEventWidget::currentTriggerPeriodChanged(int index)
 {
-    if (!hasAllControls() || index < 0 || index >= periodComboBox->count()) {
+    if (!hasAllControls()) {
         return;
     }
     const int period = periodComboBox->itemData(index).toInt();

@@ -54,7 +54,7 @@ public:
 
     /// The settings, with the three keys of load() at each call, each as int. What is disabled is
     /// saved too, so that a daily event still has a day. Where no day or no hour is selected that
-    /// key is 1.
+    /// key is 1; where no period is, it is 0.
     QHash<QString, QVariant> save();
 
     /// The text above the panel, "Trigger" at first.
@@ -68,7 +68,8 @@ public:
 public slots:
     /// Fills in the days of the period at this place of the list, the first of them selected, and
     /// enables what the period needs; a period without days keeps those of the one before. The
-    /// panel calls it itself. A place outside the list is ignored.
+    /// panel calls it itself. A place outside the list counts as each month, which is what save()
+    /// gives where nothing is selected.
     void currentTriggerPeriodChanged(int index);
 
 private:

@@ -1,11 +1,9 @@
 #include "TXStringI18n.h"
 
-#include "TXFlatString.h"
+#include "StringI18nHelpers.h"
 #include "TestBase.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QHash>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QProcess>
@@ -14,74 +12,15 @@
 #include <QTemporaryDir>
 #include <QTranslator>
 
-namespace {
-
-/// A language that is a table; a source with another context or disambiguation is not in it.
-class TableTranslator : public QTranslator
-{
-public:
-    using Table = QHash<QByteArray, QString>;
-
-    explicit TableTranslator(Table table)
-        : table(std::move(table))
-    { }
-
-    bool isEmpty() const override { return false; }
-
-    QString translate(const char *context, const char *source, const char *disambiguation,
-                      int n) const override
-    {
-        QByteArray key = QByteArray(context) + '|' + source + '|' + disambiguation;
-        if (n >= 0) {
-            key += n == 1 ? "|one" : "|many";
-        }
-        return table.value(key);
-    }
-
-private:
-    Table table;
-};
-
-TableTranslator german()
-{
-    return TableTranslator({
-        {"Files|Copied %1 to %2|", QStringLiteral("Nach %2 wurde %1 kopiert")},
-        {"Files|Empty|", QStringLiteral("Leer")},
-        {"Files|Empty|verb", QStringLiteral("Leeren")},
-        {"|No context|", QStringLiteral("Ohne Kontext")},
-        {"Files|%n file(s) in %1||one", QStringLiteral("Eine Datei in %1")},
-        {"Files|%n file(s) in %1||many", QStringLiteral("%n Dateien in %1")},
-        {"Files|Blank|", QStringLiteral("")},
-    });
-}
-
-/// Installed for as long as it lives.
-class InstalledGerman
-{
-public:
-    InstalledGerman() { QCoreApplication::installTranslator(&translator); }
-    ~InstalledGerman() { QCoreApplication::removeTranslator(&translator); }
-
-private:
-    TableTranslator translator = german();
-};
-
-TXStringI18n copied()
-{
-    return TXStringI18n("Files", "Copied %1 to %2", nullptr, -1)
-        .arg(QStringLiteral("a.png"))
-        .arg(QStringLiteral("/b"));
-}
-
-TXStringI18n plain(const QString &text)
-{
-    return TXStringI18n::fromString(text);
-}
-
-} // namespace
+using StringI18nTest::copied;
+using StringI18nTest::german;
+using StringI18nTest::InstalledGerman;
+using StringI18nTest::plain;
+using StringI18nTest::TableTranslator;
 
 Q_DECLARE_METATYPE(TXStringI18n)
 
+/// Texts that are translated when they are shown.
 class TestTXStringI18n : public TestBase
 {
     Q_OBJECT
@@ -110,21 +49,6 @@ private slots:
     void oneLongArgumentIsFilled();
     void argumentsBeyondTheMostAreLeftOut();
     void fieldWidthIsLimited();
-    void plainTextStaysUnchanged_data();
-    void plainTextStaysUnchanged();
-    void plainTextIsNeitherCopiedNorTranslated();
-    void plainTextTakesArguments();
-    void shownMessageReadsBackReadable();
-    void flatFormGivesAnEqualText_data();
-    void flatFormGivesAnEqualText();
-    void flatFormIsPrintableAscii();
-    void flatFormStaysTranslatable();
-    void damagedFlatFormIsPlainText();
-    void intactLineOfOtherFieldsIsPlainText_data();
-    void intactLineOfOtherFieldsIsPlainText();
-    void constructorDoesNotReadFlatForms();
-    void textsThatDifferAreNotEqual_data();
-    void textsThatDifferAreNotEqual();
     void objectIsSmall();
 };
 
@@ -416,187 +340,6 @@ void TestTXStringI18n::fieldWidthIsLimited()
     QCOMPARE(text.arg(QString(), INT_MAX).toString(nullptr).size(), kWidest);
     QCOMPARE(text.arg(QString(), INT_MIN).toString(nullptr).size(), kWidest);
     QVERIFY(text.arg(QString(), INT_MAX) == text.arg(QString(), kWidest));
-}
-
-void TestTXStringI18n::plainTextStaysUnchanged_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addRow("null") << QString();
-    QTest::addRow("words") << "There is no Network Drive letter available.";
-    QTest::addRow("markers") << "100 %1 %n %L2";
-    QTest::addRow("several lines") << "a\nb\r\n\tc";
-    QTest::addRow("not ASCII") << QStringLiteral("\u00e9 \u4e2d \U0001F600");
-    QTest::addRow("NUL") << QString(QChar(0));
-    QTest::addRow("unpaired surrogate") << QString(QChar(0xd800));
-    QTest::addRow("only the mark") << "@TXi18n1:";
-    QTest::addRow("mark and separator") << "@TXi18n1:;";
-    QTest::addRow("mark and words") << "@TXi18n1:00000000;hello";
-}
-
-void TestTXStringI18n::plainTextStaysUnchanged()
-{
-    QFETCH(QString, text);
-
-    QCOMPARE(plain(text).toString(nullptr), text);
-    QCOMPARE(plain(text).toFlatString(), text);
-}
-
-void TestTXStringI18n::plainTextIsNeitherCopiedNorTranslated()
-{
-    const InstalledGerman installed;
-    const QString text = QString::fromLatin1("No context");
-
-    const TXStringI18n fromText = plain(text);
-
-    QCOMPARE(fromText.toString(nullptr), text);
-    QCOMPARE(static_cast<const void *>(fromText.toString(nullptr).constData()),
-             static_cast<const void *>(text.constData()));
-}
-
-void TestTXStringI18n::plainTextTakesArguments()
-{
-    const TXStringI18n text = plain(QStringLiteral("%1 of %2"));
-
-    QCOMPARE(text.arg(QStringLiteral("a")).arg(QStringLiteral("b")).toString(nullptr),
-             QStringLiteral("a of b"));
-}
-
-void TestTXStringI18n::shownMessageReadsBackReadable()
-{
-    const InstalledGerman installed;
-    const QString shown = copied().toString(nullptr);
-
-    QCOMPARE(TXStringI18n::fromString(shown).toString(nullptr), shown);
-}
-
-void TestTXStringI18n::flatFormGivesAnEqualText_data()
-{
-    QTest::addColumn<TXStringI18n>("text");
-    const QString strange = QStringLiteral("a;b%3b \n\u00e9") + QChar(0) + QChar(0xdc00);
-
-    QTest::addRow("empty") << TXStringI18n();
-    QTest::addRow("source") << TXStringI18n("No context");
-    QTest::addRow("arguments") << copied();
-    QTest::addRow("all of it") << TXStringI18n("Files", "%n %1;%2", "a;b", 7)
-                                      .arg(strange, -12, u'\n')
-                                      .arg(QString(), 3, QChar(0xd800));
-    QTest::addRow("largest number") << TXStringI18n("Files", "%n", nullptr, INT_MAX);
-    QTest::addRow("negative number") << TXStringI18n("Files", "%n", nullptr, INT_MIN);
-    QTest::addRow("bytes that are not UTF-8") << TXStringI18n("\xff", "\xfe\x80", "\xc3", -1);
-    QTest::addRow("plain") << plain(strange);
-    QTest::addRow("plain like a flat form") << plain(TXFlatString::join({copied().toFlatString()}));
-    const TXStringI18n nested = plain(TXFlatString::join({copied().toFlatString()}));
-    QTest::addRow("twice") << plain(TXFlatString::join({nested.toFlatString()}));
-    QTest::addRow("plain of foreign fields") << plain(TXFlatString::join({"a", "b"}));
-}
-
-void TestTXStringI18n::flatFormGivesAnEqualText()
-{
-    QFETCH(TXStringI18n, text);
-
-    const TXStringI18n back = TXStringI18n::fromString(text.toFlatString());
-
-    QVERIFY(back == text);
-    QCOMPARE(back.toString(nullptr), text.toString(nullptr));
-    QCOMPARE(back.toFlatString(), text.toFlatString());
-}
-
-void TestTXStringI18n::flatFormIsPrintableAscii()
-{
-    const QString flat = TXStringI18n("Files", "\xc3\xa9\n%1", nullptr, -1)
-                             .arg(QStringLiteral("\u4e2d\t"))
-                             .toFlatString();
-
-    for (const QChar character : flat) {
-        QVERIFY(character > u' ' && character <= u'~');
-    }
-}
-
-void TestTXStringI18n::flatFormStaysTranslatable()
-{
-    const TXStringI18n back = TXStringI18n::fromString(copied().toFlatString());
-    const InstalledGerman installed;
-
-    QCOMPARE(back.toString(nullptr), QStringLiteral("Nach /b wurde a.png kopiert"));
-}
-
-void TestTXStringI18n::damagedFlatFormIsPlainText()
-{
-    const QString flat = copied().toFlatString();
-    for (qsizetype i = 0; i < flat.size(); ++i) {
-        QString changed = flat;
-        changed[i] = QChar(flat.at(i).unicode() ^ 1);
-        const QStringList damaged = {changed, flat.left(i), QString(flat).remove(i, 1),
-                                     QString(flat).insert(i, u'x')};
-        for (const QString &text : damaged) {
-            QCOMPARE(TXStringI18n::fromString(text).toString(nullptr), text);
-            QCOMPARE(TXStringI18n::fromString(text).toFlatString(), text);
-        }
-    }
-    QCOMPARE(TXStringI18n::fromString(flat + u'\n').toString(nullptr), QString(flat + u'\n'));
-}
-
-void TestTXStringI18n::intactLineOfOtherFieldsIsPlainText_data()
-{
-    QTest::addColumn<QStringList>("fields");
-    QTest::addRow("two") << QStringList{"Files", "Empty"};
-    QTest::addRow("half an argument") << QStringList{"Files", "%1", "", "-1", "a"};
-    QTest::addRow("no source") << QStringList{"Files", "", "", "-1"};
-    QTest::addRow("words for the number") << QStringList{"Files", "%1", "", "many"};
-    QTest::addRow("words for the width") << QStringList{"Files", "%1", "", "-1", "a", "wide", " "};
-    QTest::addRow("too wide") << QStringList{"Files", "%1", "", "-1", "a", "65536", " "};
-    QTest::addRow("too wide, left-aligned")
-        << QStringList{"Files", "%1", "", "-1", "a", "-2147483648", " "};
-    QTest::addRow("no fill character") << QStringList{"Files", "%1", "", "-1", "a", "0", ""};
-    QStringList many = {"Files", "%1", "", "-1"};
-    for (int i = 0; i <= TXStringI18n::kMostArguments; ++i) {
-        many << "a"
-             << "0"
-             << " ";
-    }
-    QTest::addRow("too many arguments") << many;
-}
-
-void TestTXStringI18n::intactLineOfOtherFieldsIsPlainText()
-{
-    QFETCH(QStringList, fields);
-    const QString line = TXFlatString::join(fields);
-
-    QCOMPARE(TXStringI18n::fromString(line).toString(nullptr), line);
-}
-
-void TestTXStringI18n::constructorDoesNotReadFlatForms()
-{
-    const QString flat = copied().toFlatString();
-
-    QCOMPARE(TXStringI18n(flat.toLatin1().constData()).toString(nullptr), flat);
-}
-
-void TestTXStringI18n::textsThatDifferAreNotEqual_data()
-{
-    QTest::addColumn<TXStringI18n>("text");
-    QTest::addRow("empty") << TXStringI18n();
-    QTest::addRow("source") << TXStringI18n("Files", "Empty %1", nullptr, -1);
-    QTest::addRow("context") << TXStringI18n("Filed", "Empty", nullptr, -1);
-    QTest::addRow("disambiguation") << TXStringI18n("Files", "Empty", "verb", -1);
-    QTest::addRow("number") << TXStringI18n("Files", "Empty", nullptr, 1);
-    const TXStringI18n base("Files", "Empty", nullptr, -1);
-    QTest::addRow("argument") << base.arg(QStringLiteral("a"));
-    QTest::addRow("plain") << plain(QStringLiteral("Empty"));
-}
-
-void TestTXStringI18n::textsThatDifferAreNotEqual()
-{
-    QFETCH(TXStringI18n, text);
-    const TXStringI18n base("Files", "Empty", nullptr, -1);
-
-    QVERIFY(base != text);
-    QVERIFY(text != base);
-    QVERIFY(text == text);
-    QVERIFY(base == TXStringI18n("Files", "Empty", "", -1));
-    QVERIFY(base.arg(QStringLiteral("a")) != base.arg(QStringLiteral("b")));
-    QVERIFY(base.arg(QStringLiteral("a")) != base.arg(QStringLiteral("a"), 1));
-    QVERIFY(base.arg(QStringLiteral("a")) != base.arg(QStringLiteral("a"), 0, u'.'));
 }
 
 void TestTXStringI18n::objectIsSmall()

@@ -33,6 +33,7 @@ private slots:
     void missingSettingsAreMondayAtMidnight();
     void hourIsThatOfTheZone();
     void hourThatSummerTimeLeavesOutComesLater();
+    void hourLeftOutAtTheEndOfADayComesOnTheNext();
     void hourThatComesTwiceCountsOnce();
     void fullHourIsThatOfTheZone();
 };
@@ -150,6 +151,20 @@ void TestTriggerSchedule::hourThatSummerTimeLeavesOutComesLater()
     QCOMPARE(events.size(), 2);
     QCOMPARE(events.at(0), QDateTime(QDate(2026, 3, 29), QTime(3, 0), berlin));
     QCOMPARE(events.at(1), QDateTime(QDate(2026, 3, 30), QTime(2, 0), berlin));
+}
+
+void TestTriggerSchedule::hourLeftOutAtTheEndOfADayComesOnTheNext()
+{
+    // At 23 on 28 March 2026 it becomes midnight.
+    const QTimeZone nuuk("America/Nuuk");
+    QVERIFY(nuuk.isValid());
+    const QDateTime after(QDate(2026, 3, 28), QTime(12, 0), nuuk);
+
+    const QList<QDateTime> events = nextEvents(settingsOf(2, 1, 23), after, 2);
+
+    QCOMPARE(events.size(), 2);
+    QCOMPARE(events.at(0), QDateTime(QDate(2026, 3, 29), QTime(0, 0), nuuk));
+    QCOMPARE(events.at(1), QDateTime(QDate(2026, 3, 29), QTime(23, 0), nuuk));
 }
 
 void TestTriggerSchedule::hourThatComesTwiceCountsOnce()

@@ -19,6 +19,7 @@ private slots:
     void loadingShowsWhatIsStored();
     void checkNowAsksTheLocalService();
     void textsFollowTheLanguage();
+    void newLanguageKeepsWhatIsNotStored();
 
 private:
     [[nodiscard]] UpdateSettingsPanel *panel() const
@@ -127,6 +128,20 @@ void TestUpdatePageSettings::textsFollowTheLanguage()
     QCoreApplication::removeTranslator(&translator);
     QCoreApplication::sendPostedEvents();
     QVERIFY(buttonOf(*page, "Check Now"));
+}
+
+void TestUpdatePageSettings::newLanguageKeepsWhatIsNotStored()
+{
+    switchOn();
+    DialogDriver::click(box("automaticCheckBox"));
+    QVERIFY(!box("automaticCheckBox")->isChecked());
+
+    QEvent event(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(panel(), &event);
+
+    QVERIFY(!box("automaticCheckBox")->isChecked());
+    QVERIFY(box("atStartupCheckBox")->isChecked());
+    QCOMPARE(stored("CheckForUpdatesAutoPeriod"), QString());
 }
 
 int main(int argc, char **argv)

@@ -85,6 +85,11 @@ void TestTXSelectDefaultEncodingWidget::formIsAsDesigned()
     QCOMPARE(label->text(), "Default Encoding");
     QCOMPARE(label->buddy(), list);
     QCOMPARE(row->itemAt(1)->widget(), list);
+
+    // Width to spare goes to the list.
+    panel->resize(800, 40);
+    panel->show();
+    QCOMPARE(label->width(), label->sizeHint().width());
 }
 
 void TestTXSelectDefaultEncodingWidget::nothingIsDeclaredForConnections()

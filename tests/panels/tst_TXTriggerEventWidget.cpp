@@ -29,6 +29,7 @@ private slots:
     void formIsAsDesigned();
     void titleCanBeSet();
     void partsStandInARow();
+    void labelsStandCloseToTheirLists();
     void tabGoesThroughTheLists();
     void theOnlyMethodIsTheSlot();
 
@@ -47,8 +48,8 @@ private slots:
     void daysOfTheWeekAreNamedInTheLanguage();
     void daysStayForPeriodsWithoutAny();
     void samePeriodAgainDoesNothing();
-    void placeOutsideTheListDoesNothing_data();
-    void placeOutsideTheListDoesNothing();
+    void placeOutsideTheListIsEachMonth_data();
+    void placeOutsideTheListIsEachMonth();
 
     void hoursCanBeOffered();
     void hoursOfferedTwiceStandThereTwice();
@@ -101,6 +102,19 @@ void TestTXTriggerEventWidget::partsStandInARow()
              QStringList({"periodLabel", "triggerPeriodComboBox", "dayLabel", "dayComboBox",
                           "hourLabel", "hourComboBox"}));
     QCOMPARE(texts, QStringList({"Period", "Day", "Hour"}));
+}
+
+void TestTXTriggerEventWidget::labelsStandCloseToTheirLists()
+{
+    Panel panel;
+    panel.widget.resize(1200, 60);
+    panel.widget.show();
+
+    // Width to spare goes to the lists.
+    for (const auto *label : panel.widget.findChildren<QLabel *>()) {
+        QCOMPARE(label->width(), label->sizeHint().width());
+        QVERIFY(label->buddy()->width() > 300);
+    }
 }
 
 void TestTXTriggerEventWidget::tabGoesThroughTheLists()
@@ -331,7 +345,7 @@ void TestTXTriggerEventWidget::samePeriodAgainDoesNothing()
     QCOMPARE(removals.count(), 0);
 }
 
-void TestTXTriggerEventWidget::placeOutsideTheListDoesNothing_data()
+void TestTXTriggerEventWidget::placeOutsideTheListIsEachMonth_data()
 {
     QTest::addColumn<int>("place");
     QTest::newRow("none") << -1;
@@ -339,7 +353,7 @@ void TestTXTriggerEventWidget::placeOutsideTheListDoesNothing_data()
     QTest::newRow("far behind") << 2000000000;
 }
 
-void TestTXTriggerEventWidget::placeOutsideTheListDoesNothing()
+void TestTXTriggerEventWidget::placeOutsideTheListIsEachMonth()
 {
     QFETCH(int, place);
     Panel panel;
@@ -348,8 +362,16 @@ void TestTXTriggerEventWidget::placeOutsideTheListDoesNothing()
 
     panel.widget.currentTriggerPeriodChanged(place);
 
-    QCOMPARE(panel.days->count(), 7);
-    QCOMPARE(panel.days->currentIndex(), 2);
+    QCOMPARE(panel.days->count(), 28);
+    QCOMPARE(panel.days->currentIndex(), 0);
+    QVERIFY(panel.days->isEnabled());
+    QVERIFY(panel.hours->isEnabled());
+
+    // As is saved of a list that a host has emptied.
+    panel.selectPeriod(EachDay);
+    panel.periods->clear();
+    QCOMPARE(panel.widget.save().value("Period"), QVariant(0));
+    QVERIFY(panel.days->isEnabled());
 }
 
 void TestTXTriggerEventWidget::hoursCanBeOffered()

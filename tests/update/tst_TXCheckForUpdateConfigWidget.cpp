@@ -98,6 +98,7 @@ protected:
 private slots:
     void formIsAsDesigned();
     void tabGoesDownThePanel();
+    void titleIsBoldUnlessSwitchedOff_data();
     void titleIsBoldUnlessSwitchedOff();
     void theOnlyMethodIsTheSlot();
     void newPanelIsNotFilledIn();
@@ -169,20 +170,31 @@ void TestTXCheckForUpdateConfigWidget::tabGoesDownThePanel()
     QVERIFY(checkNow->hasFocus());
 }
 
+void TestTXCheckForUpdateConfigWidget::titleIsBoldUnlessSwitchedOff_data()
+{
+    QTest::addColumn<QVariant>("switched");
+    QTest::addColumn<int>("weight");
+    QTest::newRow("at first") << QVariant() << int(QFont::Bold);
+    QTest::newRow("on") << QVariant(true) << int(QFont::Bold);
+    QTest::newRow("off") << QVariant(false) << int(QFont::Normal);
+}
+
 void TestTXCheckForUpdateConfigWidget::titleIsBoldUnlessSwitchedOff()
 {
-    panel->setBoldGroupBoxTitle(false);
-    panel->show();
-    QVERIFY(!part<QWidget>(*panel, "groupBox")->font().bold());
+    QFETCH(QVariant, switched);
+    QFETCH(int, weight);
+    if (switched.isValid()) {
+        panel->setBoldGroupBoxTitle(switched.toBool());
+    }
 
-    TXCheckForUpdateConfigWidget bold;
-    bold.setBoldGroupBoxTitle(true);
-    bold.show();
-    // As the group box by itself does it.
-    TXGroupBoxBolded box;
-    box.setBoldTitle(true);
-    box.show();
-    QCOMPARE(part<QWidget>(bold, "groupBox")->font().bold(), box.font().bold());
+    panel->show();
+
+    QCOMPARE(int(part<QWidget>(*panel, "groupBox")->font().weight()), weight);
+    for (const QWidget *control :
+         {static_cast<QWidget *>(automatic), static_cast<QWidget *>(atStartup),
+          static_cast<QWidget *>(checkNow)}) {
+        QCOMPARE(int(control->font().weight()), int(QFont::Normal));
+    }
 }
 
 void TestTXCheckForUpdateConfigWidget::theOnlyMethodIsTheSlot()
