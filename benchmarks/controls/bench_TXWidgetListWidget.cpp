@@ -94,7 +94,8 @@ void resize(benchmark::State &state)
     }
 }
 
-/// Fills a window before it is shown; making and deleting the labels counts for all.
+/// Fills a window before it is shown; making and deleting the labels counts for all. Ours lays all
+/// out with each label, and puts that off when it has done so too often.
 template<class Shown>
 void append(benchmark::State &state)
 {

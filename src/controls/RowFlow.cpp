@@ -30,12 +30,6 @@ bool RowFlow::isEndSpacer(const QLayoutItem *item) const
     return item == horizontalSpacer || item == verticalSpacer;
 }
 
-bool RowFlow::goesOnWith(QSize hint, int availableWidth) const
-{
-    return cell.expandedTo(hint) == cell && availableWidth == width
-        && cell.width() + grid->horizontalSpacing() == step;
-}
-
 QSize RowFlow::cellSize() const
 {
     return cell;

@@ -26,8 +26,6 @@ public:
 
     /// True for the two spacers, which are never placed among the items.
     [[nodiscard]] bool isEndSpacer(const QLayoutItem *item) const;
-    /// True when the flow would not change for a cell that has to hold this size, at this width.
-    [[nodiscard]] bool goesOnWith(QSize hint, int availableWidth) const;
     /// The size of each cell.
     [[nodiscard]] QSize cellSize() const;
 

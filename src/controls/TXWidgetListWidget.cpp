@@ -14,13 +14,9 @@
 
 namespace {
 
-/// A list of up to so many items is laid out as a whole with each append(), which then sees that a
-/// size hint of an earlier widget has changed.
-constexpr qsizetype kItemsAlwaysLaidOut = 32;
-
 /// So many items may be laid out by changes of the list before control goes back to the event loop:
-/// hundreds of insertions are seen at once, thousands do not cost the square.
-constexpr qsizetype kItemsPerTurn = 100'000;
+/// a thousand changes of a thousand items are seen at once, any number does not cost the square.
+constexpr qsizetype kItemsPerTurn = 1'000'000;
 
 /// Without any hint the cell is (-1, -1), which Qt would warn of.
 QSize possibleSize(QSize cell)
@@ -127,21 +123,12 @@ void TXWidgetListWidget::insert(int index, QLayoutItem *item)
     if (!isTakeable(item)) {
         return;
     }
-    const bool isLast = index < 0 || index >= items.size();
-    const bool isGoingOn = isLast && canGoOnWith(*item);
-    items.insert(isLast ? items.size() : index, item);
+    const bool isInside = index >= 0 && index < items.size();
+    items.insert(isInside ? index : items.size(), item);
     watch(item);
     // Into the grid in any case, which owns all items, also when the pass has to wait.
     flow->placeLast(item);
-    settleLater();
-    if (!isGoingOn) {
-        rearrange();
-        return;
-    }
-    isPassDue = true; // for hints that have changed
-    if (QWidget *widget = item->widget()) {
-        widget->setFixedSize(possibleSize(flow->cellSize()));
-    }
+    rearrange();
 }
 
 bool TXWidgetListWidget::removeAt(int index)
@@ -186,7 +173,6 @@ void TXWidgetListWidget::reorganize()
     {
         // Hints and resizing run the widgets' own code, which may change the list.
         const QScopedValueRollback<bool> pass(isInPass, true);
-        isStale = false;
         isPassDue = false;
         const QSize cell = measure();
         fixSizes(cell);
@@ -258,7 +244,6 @@ void TXWidgetListWidget::dropItemsOf(QObject *object)
         }
     }
     if (!dropped.isEmpty()) {
-        isStale = true;
         isPassDue = true;
         settleLater();
     }
@@ -277,17 +262,6 @@ void TXWidgetListWidget::settle()
 bool TXWidgetListWidget::isTakeable(QLayoutItem *item) const
 {
     return item && !objectOf.contains(item) && LayoutItems::fitInto(ui->gridLayout, item);
-}
-
-/// True when a pass over all items would leave each where it is and place this one behind them.
-bool TXWidgetListWidget::canGoOnWith(const QLayoutItem &item) const
-{
-    if (items.size() < kItemsAlwaysLaidOut || isStale || isInPass) {
-        return false;
-    }
-    const QWidget *widget = item.widget();
-    const QSize hint = widget ? widget->sizeHint() : QSize();
-    return flow->goesOnWith(hint, ui->scrollArea->width());
 }
 
 void TXWidgetListWidget::watch(QLayoutItem *item)
@@ -343,7 +317,6 @@ void TXWidgetListWidget::rearrange()
         allowance -= items.size();
         reorganize();
     } else {
-        isStale = true;
         isPassDue = true;
     }
 }

@@ -1,48 +1,12 @@
 #include "QSingleItemSquareLayout.h"
 
 #include "PixelProbe.h"
+#include "SquareLayoutHelpers.h"
 #include "TestBase.h"
 
 #include <QBoxLayout>
-#include <QLabel>
-#include <QPointer>
 
 #include <memory>
-
-namespace {
-
-/// A widget filled with red, of no least size.
-class RedWidget : public QWidget
-{
-public:
-    explicit RedWidget(QWidget *parent = nullptr)
-        : QWidget(parent)
-    {
-        setAutoFillBackground(true);
-        setPalette(QPalette(Qt::red));
-    }
-};
-
-/// An item with a least size of its own, which counts its lives.
-class CountedItem : public QSpacerItem
-{
-public:
-    CountedItem()
-        : QSpacerItem(0, 0)
-    {
-        ++alive;
-    }
-    ~CountedItem() override { --alive; }
-    CountedItem(const CountedItem &) = delete;
-    CountedItem &operator=(const CountedItem &) = delete;
-
-    [[nodiscard]] QSize minimumSize() const override { return {30, 20}; }
-    [[nodiscard]] QSize sizeHint() const override { return {300, 200}; }
-
-    static inline int alive = 0;
-};
-
-} // namespace
 
 class TestQSingleItemSquareLayout : public TestBase
 {
@@ -67,10 +31,8 @@ private slots:
     void rectanglesAreComparedByTheirCorners();
     void emptyLayoutForgetsTheRectangle();
     void bothSizesAreTheItemsMinimum();
-    void emptyLayoutHasNoSize();
     void takesAllSpace();
     void secondItemIsIgnored();
-    void nullIsIgnored();
     void replacingLaysOutInTheFormerSquare();
     void replacingWithTheSameItemChangesNothing();
     void onlyTheFirstIndexHoldsAnItem();
@@ -81,17 +43,7 @@ private slots:
     void hiddenWidgetStaysHidden();
     void widgetShownLateIsLaidOut();
     void followsEveryResize();
-    void oddSizesDoNoHarm();
-    void deletedWidgetLeaves();
-    void deletedWidgetOfAnotherParentLeaves();
-    void widgetTakenElsewhereLeaves();
-    void removedWidgetLeaves();
     void innerLayoutIsLaidOut();
-    void deletedInnerLayoutLeaves();
-    void layoutIsNotNestedInItself();
-    void layoutWithAParentIsRefused();
-    void widgetIsNotNestedInItself();
-    void itemWithoutItsWidgetIsRefused();
     void squareIsPainted_data();
     void squareIsPainted();
 
@@ -262,15 +214,6 @@ void TestQSingleItemSquareLayout::bothSizesAreTheItemsMinimum()
     QCOMPARE(layout->minimumSize(), QSize(30, 20));
 }
 
-void TestQSingleItemSquareLayout::emptyLayoutHasNoSize()
-{
-    QCOMPARE(layout->sizeHint(), QSize(0, 0));
-    QCOMPARE(layout->minimumSize(), QSize(0, 0));
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    QCOMPARE(window->sizeHint(), QSize(0, 0));
-}
-
 void TestQSingleItemSquareLayout::takesAllSpace()
 {
     QCOMPARE(layout->expandingDirections(), Qt::Horizontal | Qt::Vertical);
@@ -292,15 +235,6 @@ void TestQSingleItemSquareLayout::secondItemIsIgnored()
     QCOMPARE(layout->itemAt(0), item);
     QCOMPARE(item->widget(), first);
     QCOMPARE(CountedItem::alive, 1); // what was refused is the caller's
-}
-
-void TestQSingleItemSquareLayout::nullIsIgnored()
-{
-    layout->add(nullptr);
-    layout->addItem(nullptr);
-    layout->addWidget(nullptr);
-    QVERIFY(!layout->hasItem());
-    QVERIFY(!layout->replaceItem(nullptr));
 }
 
 void TestQSingleItemSquareLayout::replacingLaysOutInTheFormerSquare()
@@ -437,74 +371,6 @@ void TestQSingleItemSquareLayout::followsEveryResize()
     }
 }
 
-void TestQSingleItemSquareLayout::oddSizesDoNoHarm()
-{
-    auto *widget = new RedWidget(window.get());
-    widget->show();
-    window->show();
-    layout->addWidget(widget);
-    layout->setContentsMargins(500, 500, 500, 500);
-    for (const QSize &size : {QSize(200, 100), QSize(1, 1), QSize(0, 0), QSize(-5, 30),
-                              QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)}) {
-        layout->setGeometry(QRect(QPoint(0, 0), size));
-        QCOMPARE(layout->geometry().size(), layout->calculateProperSize(size));
-        QVERIFY(widget->width() >= 0);
-        QVERIFY(widget->height() >= 0);
-    }
-}
-
-void TestQSingleItemSquareLayout::deletedWidgetLeaves()
-{
-    window->show();
-    auto *widget = new RedWidget;
-    layout->addWidget(widget);
-    QCoreApplication::processEvents();
-    delete widget;
-    QVERIFY(!layout->hasItem());
-    window->resize(300, 300);
-    layout->addWidget(new RedWidget);
-    QVERIFY(layout->hasItem());
-}
-
-void TestQSingleItemSquareLayout::deletedWidgetOfAnotherParentLeaves()
-{
-    auto stranger = std::make_unique<RedWidget>();
-    layout->add(new QWidgetItem(stranger.get()));
-    QVERIFY(layout->hasItem());
-    stranger.reset();
-    QVERIFY(!layout->hasItem());
-    window->show();
-    QCOMPARE(layout->sizeHint(), QSize(0, 0));
-
-    // Neither the widget's end nor the layout's is told once the item is out.
-    auto other = std::make_unique<RedWidget>();
-    auto *item = new QWidgetItem(other.get());
-    layout->add(item);
-    QCOMPARE(layout->take(), item);
-    layout->add(new CountedItem);
-    other.reset();
-    delete item;
-    QVERIFY(layout->hasItem());
-}
-
-void TestQSingleItemSquareLayout::widgetTakenElsewhereLeaves()
-{
-    auto *widget = new RedWidget;
-    layout->addWidget(widget);
-    QWidget other;
-    widget->setParent(&other);
-    QVERIFY(!layout->hasItem());
-}
-
-void TestQSingleItemSquareLayout::removedWidgetLeaves()
-{
-    auto *widget = new RedWidget;
-    layout->addWidget(widget);
-    layout->removeWidget(widget);
-    QVERIFY(!layout->hasItem());
-    QCOMPARE(widget->parentWidget(), window.get());
-}
-
 void TestQSingleItemSquareLayout::innerLayoutIsLaidOut()
 {
     auto *inner = new QHBoxLayout;
@@ -520,74 +386,6 @@ void TestQSingleItemSquareLayout::innerLayoutIsLaidOut()
     const std::unique_ptr<QLayoutItem> taken(layout->take());
     QCOMPARE(taken->layout(), inner);
     QVERIFY(!inner->parent());
-}
-
-void TestQSingleItemSquareLayout::deletedInnerLayoutLeaves()
-{
-    auto *inner = new QHBoxLayout;
-    layout->add(inner);
-    delete inner;
-    QVERIFY(!layout->hasItem());
-    const QPointer<QHBoxLayout> next = new QHBoxLayout;
-    layout->add(next);
-    delete layout;
-    QVERIFY(!next);
-}
-
-void TestQSingleItemSquareLayout::layoutIsNotNestedInItself()
-{
-    layout->add(layout);
-    QVERIFY(!layout->hasItem());
-    QVERIFY(!layout->replaceItem(layout));
-    QVERIFY(!layout->hasItem());
-
-    QSingleItemSquareLayout alone(0);
-    alone.add(&alone);
-    QVERIFY(!alone.hasItem());
-    auto *outer = new QHBoxLayout;
-    auto *inner = new QSingleItemSquareLayout(0);
-    outer->addLayout(inner);
-    inner->add(outer);
-    QVERIFY(!inner->hasItem());
-    delete outer;
-}
-
-void TestQSingleItemSquareLayout::layoutWithAParentIsRefused()
-{
-    QWidget other;
-    auto *owned = new QHBoxLayout(&other);
-    layout->add(owned);
-    QVERIFY(!layout->hasItem());
-    QCOMPARE(other.layout(), owned);
-}
-
-void TestQSingleItemSquareLayout::widgetIsNotNestedInItself()
-{
-    QWidget outer;
-    window->setParent(&outer, Qt::Window); // an owner beyond the border of a window
-    layout->addWidget(window.get());
-    layout->addWidget(&outer);
-    QVERIFY(!layout->hasItem());
-    QVERIFY(!outer.parentWidget());
-
-    QWidgetItem around(&outer);
-    layout->add(&around);
-    QVERIFY(!layout->hasItem());
-
-    QHBoxLayout deeper;
-    deeper.addItem(new QWidgetItem(window.get()));
-    layout->add(&deeper);
-    QVERIFY(!layout->hasItem());
-    window->setParent(nullptr);
-}
-
-void TestQSingleItemSquareLayout::itemWithoutItsWidgetIsRefused()
-{
-    QWidgetItem empty(nullptr);
-    layout->add(&empty);
-    QVERIFY(!layout->hasItem());
-    QVERIFY(!layout->replaceItem(&empty));
-    QVERIFY(!layout->hasItem());
 }
 
 void TestQSingleItemSquareLayout::squareIsPainted_data()
