@@ -17,7 +17,7 @@ FilesToDrag::FilesToDrag(const QString &folderPath, QWidget *parent)
     while (files.hasNext() && paths.size() < kMaximumFiles) {
         paths.append(folder.relativeFilePath(files.next()));
     }
-    paths.sort();
+    paths.sort(Qt::CaseInsensitive);
     for (const QString &path : qAsConst(paths)) {
         auto *item = new QListWidgetItem(QDir::toNativeSeparators(path), this);
         item->setData(Qt::UserRole, QUrl::fromLocalFile(folder.absoluteFilePath(path)));

@@ -132,6 +132,11 @@ protected:
         TreeViewDragAndDrop::dragMoveEvent(event);
         reportOver(this, event);
     }
+    void dropEvent(QDropEvent *event) override
+    {
+        TreeViewDragAndDrop::dropEvent(event);
+        report({"dropped", objectName()});
+    }
     void startDrag(Qt::DropActions actions) override
     {
         report({"dragging"});

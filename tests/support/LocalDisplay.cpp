@@ -6,16 +6,29 @@
 
 namespace {
 
-constexpr int kStartMilliseconds = 30000;
-constexpr int kEndMilliseconds = 3000;
+constexpr int kPatienceMilliseconds = 60000;
 
 void stop(QProcess &process)
 {
-    process.terminate();
-    if (!process.waitForFinished(kEndMilliseconds)) {
-        process.kill();
-        process.waitForFinished(kEndMilliseconds);
+    if (process.state() == QProcess::NotRunning) {
+        return;
     }
+    process.terminate();
+    if (!process.waitForFinished(kPatienceMilliseconds)) {
+        process.kill();
+        process.waitForFinished(kPatienceMilliseconds);
+    }
+}
+
+/// False when the program ends without one.
+bool waitForLine(QProcess &process)
+{
+    while (!process.canReadLine()) {
+        if (!process.waitForReadyRead(kPatienceMilliseconds)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -28,7 +41,7 @@ LocalDisplay::~LocalDisplay()
 
 bool LocalDisplay::start()
 {
-    return startServer() && startWindowManager();
+    return startServer() && startWindowManager() && releaseMouse();
 }
 
 QProcessEnvironment LocalDisplay::environment() const
@@ -60,7 +73,8 @@ bool LocalDisplay::releaseMouse() const
 
 bool LocalDisplay::startServer()
 {
-    endWithThisThread(server);
+    // Killed, it would leave its socket behind.
+    endWithThisThread(server, SIGTERM);
     // What the server says about keyboards is not of interest; it writes the number it has taken
     // once programs can connect.
     server.setStandardErrorFile(QProcess::nullDevice());
@@ -68,11 +82,11 @@ bool LocalDisplay::startServer()
                  {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                   QStringLiteral("0"), QStringLiteral("1024x768x24"), QStringLiteral("-noreset"),
                   QStringLiteral("-nolisten"), QStringLiteral("tcp")});
-    if (!server.waitForReadyRead(kStartMilliseconds)) {
+    if (!waitForLine(server)) {
         return false;
     }
-    name = QLatin1Char(':') + QString::fromLatin1(server.readAll().trimmed());
-    return name.size() > 1;
+    name = QLatin1Char(':') + QString::fromLatin1(server.readLine().trimmed());
+    return true;
 }
 
 bool LocalDisplay::startWindowManager()
@@ -80,11 +94,17 @@ bool LocalDisplay::startWindowManager()
     endWithThisThread(windowManager);
     windowManager.setProcessEnvironment(environment());
     windowManager.setStandardErrorFile(QProcess::nullDevice());
-    // It runs this command once it manages the windows.
+    // It runs this command once it manages the windows; before, it may have things of its own to
+    // say.
     windowManager.start(QStringLiteral("openbox"),
                         {QStringLiteral("--sm-disable"), QStringLiteral("--startup"),
                          QStringLiteral("/bin/echo ready")});
-    return windowManager.waitForReadyRead(kStartMilliseconds);
+    while (waitForLine(windowManager)) {
+        if (windowManager.readLine().trimmed() == "ready") {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool LocalDisplay::work(const QStringList &arguments) const
@@ -94,6 +114,6 @@ bool LocalDisplay::work(const QStringList &arguments) const
     mouse.setProcessEnvironment(environment());
     mouse.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     mouse.start(QStringLiteral("xdotool"), arguments);
-    return mouse.waitForFinished(kStartMilliseconds) && mouse.exitStatus() == QProcess::NormalExit
-        && mouse.exitCode() == 0;
+    return mouse.waitForFinished(kPatienceMilliseconds)
+        && mouse.exitStatus() == QProcess::NormalExit && mouse.exitCode() == 0;
 }

@@ -10,7 +10,7 @@ class QPoint;
 /// memory, with a window manager, and a mouse that the test moves.
 ///
 /// The server takes a display number that is free. Everything ends with the object, and with the
-/// thread that has started it, however that ends.
+/// thread that has started it, however that ends, and leaves no socket behind.
 class LocalDisplay
 {
 public:
@@ -23,8 +23,8 @@ public:
     /// Stops the window manager, then the server.
     ~LocalDisplay();
 
-    /// Starts the server and the window manager. False when one of the programs is missing or does
-    /// not come up in 30 seconds.
+    /// Starts the server and the window manager, and tries the mouse. False when one of the
+    /// programs is missing or does not come up in a minute.
     [[nodiscard]] bool start();
 
     /// For programs that are to show their windows here.

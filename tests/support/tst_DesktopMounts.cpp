@@ -1,3 +1,4 @@
+#include "ChildProcess.h"
 #include "DesktopMounts.h"
 #include "LocalSambaServer.h"
 #include "TestBase.h"
@@ -32,20 +33,6 @@ QString gioSays(const QStringList &arguments, const QByteArray &input = {})
 QString locationOn(const LocalSambaServer &server)
 {
     return QString("smb://127.0.0.1:%1/pictures").arg(server.port());
-}
-
-/// The processes in whose surroundings the folder stands.
-QStringList processesOf(const QString &folder)
-{
-    QStringList found;
-    const QStringList processes = QDir("/proc").entryList({"[0-9]*"}, QDir::Dirs);
-    for (const QString &process : processes) {
-        QFile file("/proc/" + process + "/environ");
-        if (file.open(QFile::ReadOnly) && file.readAll().contains(folder.toUtf8())) {
-            found.append(process);
-        }
-    }
-    return found;
 }
 
 } // namespace
