@@ -88,16 +88,8 @@
 <context>
     <name>BusyPage</name>
     <message>
-        <source>A spinner over a list that is being filled, and progress bars that many threads, or the GUI thread itself, report to while they work.</source>
-        <translation>Ein Spinner über einer Liste, die gefüllt wird, und Fortschrittsbalken, an die viele Threads oder der GUI-Thread selbst während der Arbeit melden.</translation>
-    </message>
-    <message>
-        <source>Several workers</source>
-        <translation>Mehrere Arbeiter</translation>
-    </message>
-    <message>
-        <source>Report export</source>
-        <translation>Export des Berichts</translation>
+        <source>A spinner over a list that is being filled, and a progress bar that many threads report to while they work.</source>
+        <translation>Ein Spinner über einer Liste, die gefüllt wird, und ein Fortschrittsbalken, an den viele Threads während der Arbeit melden.</translation>
     </message>
 </context>
 <context>
@@ -3181,13 +3173,6 @@ Drucksaal</translation>
     </message>
 </context>
 <context>
-    <name>PartProgress</name>
-    <message>
-        <source>Report %1 of %2: %3</source>
-        <translation>Bericht %1 von %2: %3</translation>
-    </message>
-</context>
-<context>
     <name>PasswordFieldCell</name>
     <message>
         <source>Program reads</source>
@@ -3299,10 +3284,6 @@ Drucksaal</translation>
         <translation>En&amp;tfernen</translation>
     </message>
     <message>
-        <source>Empt&amp;y</source>
-        <translation>Lee&amp;ren</translation>
-    </message>
-    <message>
         <source>&amp;Frame:</source>
         <translation>Rah&amp;men:</translation>
     </message>
@@ -3333,6 +3314,10 @@ Drucksaal</translation>
     <message>
         <source>No swatch</source>
         <translation>Kein Farbfeld</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>Lee&amp;ren</translation>
     </message>
 </context>
 <context>
@@ -3724,14 +3709,6 @@ Auf dem Bildschirm: %4</translation>
         <source>&amp;Upright</source>
         <translation>Au&amp;frecht</translation>
     </message>
-    <message>
-        <source>Text from bottom to to&amp;p</source>
-        <translation>Text von u&amp;nten nach oben</translation>
-    </message>
-    <message>
-        <source>Not every style writes on an upright bar; Fusion does not.</source>
-        <translation>Nicht jeder Stil schreibt auf einen aufrechten Balken; Fusion nicht.</translation>
-    </message>
 </context>
 <context>
     <name>ReceivedMailsPanel</name>
@@ -3778,45 +3755,6 @@ Auf dem Bildschirm: %4</translation>
     <message>
         <source>no</source>
         <translation>nein</translation>
-    </message>
-</context>
-<context>
-    <name>ReportExportPanel</name>
-    <message>
-        <source>Report export on the GUI thread</source>
-        <translation>Export des Berichts im GUI-Thread</translation>
-    </message>
-    <message>
-        <source>Writes the chart report as PDF, with other choices each time, into a temporary folder.</source>
-        <translation>Schreibt den Bericht der Testtafel als PDF, jedes Mal mit anderer Auswahl, in einen temporären Ordner.</translation>
-    </message>
-    <message>
-        <source>&amp;Kinds:</source>
-        <translation>&amp;Varianten:</translation>
-    </message>
-    <message>
-        <source>Export P&amp;DFs</source>
-        <translation>PDFs e&amp;xportieren</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel</source>
-        <translation>Abb&amp;rechen</translation>
-    </message>
-    <message>
-        <source>Progress of the export</source>
-        <translation>Fortschritt des Exports</translation>
-    </message>
-    <message>
-        <source>%1 files, %2 pages, %3</source>
-        <translation>%1 Dateien, %2 Seiten, %3</translation>
-    </message>
-    <message>
-        <source>Cancelled after %1 files, %2 pages, %3</source>
-        <translation>Abgebrochen nach %1 Dateien, %2 Seiten, %3</translation>
-    </message>
-    <message>
-        <source>The export has failed.</source>
-        <translation>Der Export ist fehlgeschlagen.</translation>
     </message>
 </context>
 <context>
@@ -4459,57 +4397,6 @@ Auf dem Bildschirm: %4</translation>
     </message>
 </context>
 <context>
-    <name>TaskFinishedPanel</name>
-    <message>
-        <source>runs</source>
-        <translation>läuft</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>keine</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>angehalten</translation>
-    </message>
-    <message>
-        <source>taskFinished() comes again and again</source>
-        <translation>taskFinished() kommt immer wieder</translation>
-    </message>
-    <message>
-        <source>Delegate</source>
-        <translation>Delegat</translation>
-    </message>
-    <message>
-        <source>Task</source>
-        <translation>Aufgabe</translation>
-    </message>
-    <message>
-        <source>Timer</source>
-        <translation>Timer</translation>
-    </message>
-    <message>
-        <source>taskFinished()</source>
-        <translation>taskFinished()</translation>
-    </message>
-    <message>
-        <source>Delegates</source>
-        <translation>Delegaten</translation>
-    </message>
-    <message>
-        <source>A delegate tells it five times a second while no task runs, until its timer is stopped.</source>
-        <translation>Ein Delegat meldet es fünfmal in der Sekunde, während keine Aufgabe läuft, bis sein Timer angehalten wird.</translation>
-    </message>
-    <message>
-        <source>St&amp;op Timer</source>
-        <translation>Timer sto&amp;ppen</translation>
-    </message>
-    <message>
-        <source>New Dele&amp;gate</source>
-        <translation>Delegat &amp;wechseln</translation>
-    </message>
-</context>
-<context>
     <name>TriggerPanel</name>
     <message>
         <source>The event never comes.</source>
@@ -4707,6 +4594,10 @@ Auf dem Bildschirm: %4</translation>
     <message>
         <source>The dialog above does not check by itself.</source>
         <translation>Das Fenster darüber sucht nicht von selbst.</translation>
+    </message>
+    <message>
+        <source>Stored settings:</source>
+        <translation>Gespeicherte Einstellungen:</translation>
     </message>
 </context>
 <context>
@@ -5179,12 +5070,12 @@ Auf dem Bildschirm: %4</translation>
         <translation>Je Sekunde gelesen</translation>
     </message>
     <message>
-        <source>%1 in %2 s; %3 files are copies of others, %4 could not be read.</source>
-        <translation>%1 in %2 s; %3 Dateien sind Kopien anderer, %4 waren nicht lesbar.</translation>
+        <source>%1 in %2 s; copies of other files: %3, not readable: %4.</source>
+        <translation>%1 in %2 s; Kopien anderer Dateien: %3, nicht lesbar: %4.</translation>
     </message>
     <message>
-        <source>Cancelled after %1 in %2 s; %3 files are copies of others, %4 could not be read.</source>
-        <translation>Abgebrochen nach %1 in %2 s; %3 Dateien sind Kopien anderer, %4 waren nicht lesbar.</translation>
+        <source>Cancelled after %1 in %2 s; copies of other files: %3, not readable: %4.</source>
+        <translation>Abgebrochen nach %1 in %2 s; Kopien anderer Dateien: %3, nicht lesbar: %4.</translation>
     </message>
 </context>
 </TS>

@@ -38,7 +38,7 @@ QSize RotationLabel::minimumSizeHint() const
 
 void RotationLabel::changeEvent(QEvent *event)
 {
-    QFrame::changeEvent(event);
+    QFrame::changeEvent(event); // NOLINT(bugprone-parent-virtual-call)
     if (event->type() == QEvent::ApplicationFontChange || event->type() == QEvent::FontChange) {
         updateGeometry();
         update();
@@ -48,7 +48,7 @@ void RotationLabel::changeEvent(QEvent *event)
 // The handler of QLabel would draw the text upright below this one.
 void RotationLabel::paintEvent(QPaintEvent *event)
 {
-    QFrame::paintEvent(event);
+    QFrame::paintEvent(event); // NOLINT(bugprone-parent-virtual-call)
     QPainter painter(this);
     QRect area = contentsRect();
     if (rotationOption == RotateClockwise) {
