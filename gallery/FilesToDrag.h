@@ -11,8 +11,8 @@ public:
     /// More files than that are not listed.
     static constexpr int kMaximumFiles = 200;
 
-    /// Lists the files below the folder, sorted by their path in it. A folder that is missing is
-    /// an empty list.
+    /// Lists the files below the folder, sorted by their path in it, in which case does not count.
+    /// A folder that is missing is an empty list.
     explicit FilesToDrag(const QString &folderPath, QWidget *parent = nullptr);
 
     /// The selected files, in the order of the list.

@@ -186,7 +186,7 @@ void TestDragDropPage::everyTextFollowsTheLanguage()
 void TestDragDropPage::selectedFilesComeInTheirOrder()
 {
     QTemporaryDir folder;
-    for (const QString &name : {QString("b.icc"), QString("a.icc"), QString("sub/c.icc")}) {
+    for (const QString &name : {QString("B.icc"), QString("a.icc"), QString("sub/c.icc")}) {
         QVERIFY(QDir(folder.path()).mkpath("sub"));
         QFile file(folder.filePath(name));
         QVERIFY(file.open(QFile::WriteOnly));
