@@ -6,6 +6,7 @@
 #include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QIdentityProxyModel>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
 #include <QStringListModel>

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLayout>
 #include <QSignalSpy>
 
 /// What is shown and named, and how it is reached.

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QStyle>
 
 #include <algorithm>
 #include <memory>

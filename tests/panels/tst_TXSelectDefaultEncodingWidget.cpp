@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QTextCodec>
+#include <QTranslator>
 
 #include <algorithm>
 #include <memory>
