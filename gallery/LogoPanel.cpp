@@ -13,7 +13,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QImageReader>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
@@ -27,16 +26,6 @@ constexpr int kViewGap = 20;
 
 /// Where pictures were looked for last, among the application's settings.
 const QString kFolderKey = QStringLiteral("Gallery/LogoFolder");
-
-QString patterns()
-{
-    QStringList patterns;
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const QByteArray &format : formats) {
-        patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
-    }
-    return patterns.join(QLatin1Char(' '));
-}
 
 bool isThere(const QString &path)
 {
@@ -126,8 +115,7 @@ void LogoPanel::putLogo()
     const QString path = TXFileDialog::getOpenFileName(
         this, tr("Put In a Logo"),
         QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
-        tr("Pictures (%1)").arg(patterns()) + QStringLiteral(";;") + tr("All files (*)"), nullptr,
-        {}, kFolderKey);
+        PictureFile::dialogFilter(), nullptr, {}, kFolderKey);
     if (!path.isEmpty()) {
         const WaitCursor wait;
         readAgain(OemLogo::put(path));

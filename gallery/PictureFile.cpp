@@ -78,6 +78,17 @@ PictureFile PictureFile::read(const QString &path)
     return file;
 }
 
+QString PictureFile::dialogFilter()
+{
+    QStringList patterns;
+    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    for (const QByteArray &format : formats) {
+        patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
+    }
+    return tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' '))) + QStringLiteral(";;")
+        + tr("All files (*)");
+}
+
 QString PictureFile::shortName() const
 {
     const QString name = QFileInfo(path).fileName();

@@ -1,5 +1,6 @@
 #include "PicturesPanel.h"
 
+#include "PictureFile.h"
 #include "PictureSet.h"
 
 #include "TXFileDialog.h"
@@ -7,7 +8,6 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QImageReader>
 #include <QLabel>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -21,17 +21,6 @@ namespace {
 const QString kFolderKey = QStringLiteral("Gallery/PicturesFolder");
 
 constexpr int kMessageLines = 3;
-
-/// "*.png *.jpg ..." for all formats that can be read.
-QString patterns()
-{
-    QStringList patterns;
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const QByteArray &format : formats) {
-        patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
-    }
-    return patterns.join(QLatin1Char(' '));
-}
 
 /// With the number as its key with Alt. A name may hold "&".
 QString boxText(qsizetype index, QString name)
@@ -125,8 +114,7 @@ void PicturesPanel::browse()
     const QStringList paths = TXFileDialog::getOpenFileNames(
         this, tr("Open Pictures"),
         QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
-        tr("Pictures (%1)").arg(patterns()) + QStringLiteral(";;") + tr("All files (*)"), nullptr,
-        {}, kFolderKey);
+        PictureFile::dialogFilter(), nullptr, {}, kFolderKey);
     if (!paths.isEmpty()) {
         emit filesChosen(paths);
     }

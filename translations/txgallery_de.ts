@@ -2841,14 +2841,6 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
         <translation>Logo einsetzen</translation>
     </message>
     <message>
-        <source>Pictures (%1)</source>
-        <translation>Bilder (%1)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Remove the installed logo &quot;%1&quot;?</source>
         <translation>Das installierte Logo „%1“ entfernen?</translation>
     </message>
@@ -3534,13 +3526,6 @@ Auf dem Bildschirm: %4</translation>
         <source>&quot;%1&quot; is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
         <translation>„%1“ ist zu groß: %2 × %3 Pixel, die mehr als %4 MB Speicher brauchen.</translation>
     </message>
-</context>
-<context>
-    <name>PicturesPanel</name>
-    <message>
-        <source>Open Pictures</source>
-        <translation>Bilder öffnen</translation>
-    </message>
     <message>
         <source>Pictures (%1)</source>
         <translation>Bilder (%1)</translation>
@@ -3548,6 +3533,13 @@ Auf dem Bildschirm: %4</translation>
     <message>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>PicturesPanel</name>
+    <message>
+        <source>Open Pictures</source>
+        <translation>Bilder öffnen</translation>
     </message>
     <message>
         <source>Pictures</source>
