@@ -36,8 +36,8 @@ public:
     /// large file takes seconds, and what is no file does not block.
     [[nodiscard]] static PictureFile read(const QString &path);
 
-    /// What a file dialog offers: "Pictures (*.png *.jpg ...)" with all formats that can be read, and
-    /// all files.
+    /// What a file dialog offers: "Pictures (*.png *.jpg ...)" with all formats that can be read,
+    /// and all files.
     [[nodiscard]] static QString dialogFilter();
 
     /// The name without the folder, its middle left out when it is long.
