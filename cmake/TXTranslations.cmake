@@ -1,5 +1,15 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS LinguistTools)
 
+# tx_translation_files(<variable> <module>)
+#
+# The files with the texts of a module, such as "txguicommon", one a language.
+function(tx_translation_files variable module)
+  list(TRANSFORM TXGUICOMMON_LANGUAGES
+    REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/translations/${module}_\\1.ts"
+    OUTPUT_VARIABLE files)
+  set(${variable} ${files} PARENT_SCOPE)
+endfunction()
+
 # tx_add_translations(<target> <to> <file.ts>...)
 #
 # Releases the translations into the folder <to> before the target, each again when it has changed.
