@@ -19,18 +19,20 @@ function(tx_add_translations target to)
   qt_add_lrelease(${target} TS_FILES ${ARGN} OPTIONS -silent)
 endfunction()
 
-# tx_add_translations_update(<folder of sources> <file.ts>...)
+# tx_add_translations_update(<module> <folder of sources>...)
 #
-# Lets the target translations-update, which no build includes, bring the files into step with the
-# texts of the sources. A TXStringI18n is read like translate(), and so its texts have two forms, of
-# which the first is shown: they have no number.
-function(tx_add_translations_update sources)
+# Lets the target translations-update, which no build includes, bring the module's files into step
+# with the texts of the sources. A TXStringI18n is read like translate(), and so its texts have two
+# forms, of which the first is shown: they have no number.
+function(tx_add_translations_update module)
+  tx_translation_files(files ${module})
+  add_custom_target(${module}-translations-update
+    COMMAND Qt6::lupdate -silent -locations none -no-obsolete
+      -tr-function-alias translate+=TXStringI18n
+      ${ARGN} -ts ${files}
+    VERBATIM)
   if(NOT TARGET translations-update)
     add_custom_target(translations-update)
   endif()
-  add_custom_command(TARGET translations-update POST_BUILD
-    COMMAND Qt6::lupdate -silent -locations none -no-obsolete
-      -tr-function-alias translate+=TXStringI18n
-      ${sources} -ts ${ARGN}
-    VERBATIM)
+  add_dependencies(translations-update ${module}-translations-update)
 endfunction()
