@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Open Legal &amp;Notices</source>
-        <translation>Abrir avisos &amp;legales</translation>
+        <translation>A&amp;brir avisos legales</translation>
     </message>
     <message>
         <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
@@ -58,11 +58,11 @@
     </message>
     <message>
         <source>Add R&amp;esult</source>
-        <translation>Añadir &amp;resultado</translation>
+        <translation>Añadir res&amp;ultado</translation>
     </message>
     <message>
         <source>&amp;Update Weights</source>
-        <translation>Act&amp;ualizar grosores</translation>
+        <translation>Actuali&amp;zar grosores</translation>
     </message>
     <message>
         <source>Not passed</source>
@@ -376,7 +376,7 @@
     </message>
     <message>
         <source>&amp;Grid lines</source>
-        <translation>Líneas de &amp;cuadrícula</translation>
+        <translation>&amp;Líneas de cuadrícula</translation>
     </message>
     <message>
         <source>Patch</source>
@@ -575,11 +575,11 @@
     <name>ColourPresetForm</name>
     <message>
         <source>Rendering &amp;intent:</source>
-        <translation>&amp;Propósito de representación:</translation>
+        <translation>Propósito de &amp;representación:</translation>
     </message>
     <message>
         <source>&amp;Black point compensation</source>
-        <translation>&amp;Compensación de punto negro</translation>
+        <translation>Compensación &amp;de punto negro</translation>
     </message>
     <message>
         <source>In&amp;k limit:</source>
@@ -630,7 +630,7 @@
     </message>
     <message>
         <source>Ca&amp;ncel Edit</source>
-        <translation>Ca&amp;ncelar edición</translation>
+        <translation>&amp;Cancelar edición</translation>
     </message>
     <message>
         <source>Delete Preset</source>
@@ -728,7 +728,7 @@
     </message>
     <message>
         <source>Pa&amp;per:</source>
-        <translation>&amp;Papel:</translation>
+        <translation>P&amp;apel:</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>Ask for &amp;Credentials...</source>
-        <translation>&amp;Pedir credenciales...</translation>
+        <translation>Pe&amp;dir credenciales...</translation>
     </message>
     <message>
         <source>Offer to r&amp;emember</source>
@@ -867,7 +867,7 @@
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problema:</translation>
+        <translation>Proble&amp;ma:</translation>
     </message>
     <message>
         <source>None</source>
@@ -898,7 +898,7 @@
     </message>
     <message>
         <source>S&amp;how Settings</source>
-        <translation>&amp;Mostrar ajustes</translation>
+        <translation>Mostrar &amp;ajustes</translation>
     </message>
     <message>
         <source>Sav&amp;e</source>
@@ -906,7 +906,7 @@
     </message>
     <message>
         <source>As&amp;k...</source>
-        <translation>Pre&amp;guntar...</translation>
+        <translation>Pregu&amp;ntar...</translation>
     </message>
     <message>
         <source>Settings of the database</source>
@@ -980,7 +980,7 @@
     </message>
     <message>
         <source>Pa&amp;irs:</source>
-        <translation>&amp;Pares:</translation>
+        <translation>Pa&amp;res:</translation>
     </message>
     <message>
         <source>Same patches</source>
@@ -1038,7 +1038,7 @@
     </message>
     <message>
         <source>S&amp;wap</source>
-        <translation>&amp;Intercambiar</translation>
+        <translation>I&amp;ntercambiar</translation>
     </message>
 </context>
 <context>
@@ -1049,7 +1049,7 @@
     </message>
     <message>
         <source>Signals o&amp;f the page: %1</source>
-        <translation>&amp;Señales de la página: %1</translation>
+        <translation>Señales &amp;de la página: %1</translation>
     </message>
     <message>
         <source>Signals of the page</source>
@@ -1075,7 +1075,7 @@
     </message>
     <message>
         <source>S&amp;hare:</source>
-        <translation>&amp;Recurso compartido:</translation>
+        <translation>Recur&amp;so compartido:</translation>
     </message>
     <message>
         <source>Add &amp;Drive</source>
@@ -1122,11 +1122,11 @@
     <name>DriveSessionPanel</name>
     <message>
         <source>Lo&amp;g of the drives:</source>
-        <translation>Re&amp;gistro de las unidades:</translation>
+        <translation>Registro de las &amp;unidades:</translation>
     </message>
     <message>
         <source>S&amp;ignals of the manager:</source>
-        <translation>&amp;Señales del gestor:</translation>
+        <translation>Señales del &amp;gestor:</translation>
     </message>
 </context>
 <context>
@@ -1160,7 +1160,7 @@
     </message>
     <message>
         <source>Open as &amp;Window</source>
-        <translation>Abrir como &amp;ventana</translation>
+        <translation>&amp;Abrir como ventana</translation>
     </message>
 </context>
 <context>
@@ -1201,11 +1201,11 @@
     </message>
     <message>
         <source>Sav&amp;e</source>
-        <translation>&amp;Guardar</translation>
+        <translation>Guar&amp;dar</translation>
     </message>
     <message>
         <source>Loa&amp;d</source>
-        <translation>&amp;Cargar</translation>
+        <translation>Ca&amp;rgar</translation>
     </message>
     <message>
         <source>&amp;Text file:</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Choose &amp;File...</source>
-        <translation>&amp;Elegir archivo...</translation>
+        <translation>Elegir &amp;archivo...</translation>
     </message>
     <message>
         <source>Text of the file</source>
@@ -1268,15 +1268,15 @@
     </message>
     <message>
         <source>&amp;Information</source>
-        <translation>&amp;Información</translation>
+        <translation>In&amp;formación</translation>
     </message>
     <message>
         <source>&amp;Question</source>
-        <translation>&amp;Pregunta</translation>
+        <translation>Pre&amp;gunta</translation>
     </message>
     <message>
         <source>&amp;Warning</source>
-        <translation>&amp;Advertencia</translation>
+        <translation>Ad&amp;vertencia</translation>
     </message>
     <message>
         <source>&amp;Critical</source>
@@ -1285,22 +1285,22 @@
     <message>
         <source>In&amp;formation</source>
         <comment>with details</comment>
-        <translation>In&amp;formación</translation>
+        <translation>Infor&amp;mación</translation>
     </message>
     <message>
         <source>Q&amp;uestion</source>
         <comment>with details</comment>
-        <translation>P&amp;regunta</translation>
+        <translation>Preg&amp;unta</translation>
     </message>
     <message>
         <source>War&amp;ning</source>
         <comment>with details</comment>
-        <translation>Ad&amp;vertencia</translation>
+        <translation>Adverte&amp;ncia</translation>
     </message>
     <message>
         <source>C&amp;ritical</source>
         <comment>with details</comment>
-        <translation>Crí&amp;tico</translation>
+        <translation>C&amp;rítico</translation>
     </message>
     <message>
         <source>%1, short</source>
@@ -1323,7 +1323,7 @@
     </message>
     <message>
         <source>E&amp;xample:</source>
-        <translation>&amp;Ejemplo:</translation>
+        <translation>E&amp;jemplo:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -1363,7 +1363,7 @@
     </message>
     <message>
         <source>Com&amp;plete text:</source>
-        <translation>Texto com&amp;pleto:</translation>
+        <translation>Texto comp&amp;leto:</translation>
     </message>
     <message>
         <source>An error with nothing to say opens no box.</source>
@@ -1502,11 +1502,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     <name>FeedbackSessionPanel</name>
     <message>
         <source>What the service &amp;got:</source>
-        <translation>Lo que &amp;recibió el servicio:</translation>
+        <translation>Lo que recibió el &amp;servicio:</translation>
     </message>
     <message>
         <source>Signals of t&amp;he form and its dialog:</source>
-        <translation>&amp;Señales del formulario y su diálogo:</translation>
+        <translation>Señales del &amp;formulario y su diálogo:</translation>
     </message>
 </context>
 <context>
@@ -1536,11 +1536,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Put Into Field</source>
-        <translation>&amp;Poner en el campo</translation>
+        <translation>Poner en el ca&amp;mpo</translation>
     </message>
     <message>
         <source>&amp;Dropped file:</source>
-        <translation>Archivo &amp;soltado:</translation>
+        <translation>&amp;Archivo soltado:</translation>
     </message>
     <message>
         <source>Drop files here</source>
@@ -1571,7 +1571,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>In alphab&amp;etical order:</source>
-        <translation>En orden &amp;alfabético:</translation>
+        <translation>En orden al&amp;fabético:</translation>
     </message>
     <message>
         <source>Folders in your own order</source>
@@ -1583,7 +1583,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;May be dropped:</source>
-        <translation>Se &amp;puede soltar:</translation>
+        <translation>Se puede solta&amp;r:</translation>
     </message>
     <message>
         <source>Onto folders and between them</source>
@@ -1788,7 +1788,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>S&amp;tart Scan</source>
-        <translation>&amp;Iniciar exploración</translation>
+        <translation>Inici&amp;ar exploración</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -1800,7 +1800,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Spinner si&amp;ze:</source>
-        <translation>&amp;Tamaño del indicador:</translation>
+        <translation>Tamaño &amp;del indicador:</translation>
     </message>
     <message>
         <source>%1 pixels</source>
@@ -1871,7 +1871,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Black point compensation</source>
-        <translation>&amp;Compensación de punto negro</translation>
+        <translation>Compensación de punto ne&amp;gro</translation>
     </message>
     <message>
         <source>Simulate the paper</source>
@@ -1883,7 +1883,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Keep the note hidden</source>
-        <translation>&amp;Mantener oculta la nota</translation>
+        <translation>M&amp;antener oculta la nota</translation>
     </message>
     <message>
         <source>black point compensated</source>
@@ -1926,7 +1926,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Show stat&amp;us</source>
-        <translation>Mostrar &amp;estado</translation>
+        <translation>Mo&amp;strar estado</translation>
     </message>
     <message>
         <source>Show &amp;box &quot;Active&quot;</source>
@@ -1934,11 +1934,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Show box &quot;&amp;Erase&quot;</source>
-        <translation>Mostrar casilla «&amp;Borrar»</translation>
+        <translation>Mos&amp;trar casilla «Borrar»</translation>
     </message>
     <message>
         <source>&amp;Importer</source>
-        <translation>&amp;Importador</translation>
+        <translation>I&amp;mportador</translation>
     </message>
 </context>
 <context>
@@ -1968,7 +1968,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problema:</translation>
+        <translation>Pro&amp;blema:</translation>
     </message>
     <message>
         <source>None</source>
@@ -1991,11 +1991,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     <name>FtpSessionPanel</name>
     <message>
         <source>What the server &amp;got:</source>
-        <translation>Lo que &amp;recibió el servidor:</translation>
+        <translation>Lo &amp;que recibió el servidor:</translation>
     </message>
     <message>
         <source>Signals of t&amp;he panel:</source>
-        <translation>&amp;Señales del panel:</translation>
+        <translation>Señales &amp;del panel:</translation>
     </message>
 </context>
 <context>
@@ -2006,11 +2006,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>&amp;Mostrar ajustes</translation>
+        <translation>Mostrar a&amp;justes</translation>
     </message>
     <message>
         <source>I&amp;mport Dialog...</source>
-        <translation>Diálogo de &amp;importación...</translation>
+        <translation>Diálo&amp;go de importación...</translation>
     </message>
     <message>
         <source>E&amp;xport Dialog...</source>
@@ -2323,7 +2323,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Scal&amp;e:</source>
-        <translation>&amp;Escala:</translation>
+        <translation>E&amp;scala:</translation>
     </message>
     <message>
         <source> %</source>
@@ -2490,7 +2490,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Blue-yellow b*:</source>
-        <translation>&amp;Azul-amarillo b*:</translation>
+        <translation>Azul-amarillo &amp;b*:</translation>
     </message>
     <message>
         <source>Lightness</source>
@@ -2521,11 +2521,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Lig&amp;htness:</source>
-        <translation>&amp;Claridad:</translation>
+        <translation>Clari&amp;dad:</translation>
     </message>
     <message>
         <source>&amp;Vertical axis:</source>
-        <translation>&amp;Eje vertical:</translation>
+        <translation>E&amp;je vertical:</translation>
     </message>
     <message>
         <source>Upright</source>
@@ -2553,7 +2553,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Take Out</source>
-        <translation>&amp;Sacar</translation>
+        <translation>Sa&amp;car</translation>
     </message>
     <message>
         <source>Colours of lightness %1, with the patches of the chart</source>
@@ -2575,7 +2575,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Texts of the gallery:</source>
-        <translation>&amp;Textos de la galería:</translation>
+        <translation>Textos de la &amp;galería:</translation>
     </message>
     <message>
         <source>Texts of the gallery</source>
@@ -2583,7 +2583,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Import Translation...</source>
-        <translation>&amp;Importar traducción...</translation>
+        <translation>Impo&amp;rtar traducción...</translation>
     </message>
     <message>
         <source>There are no translations in %1</source>
@@ -2661,11 +2661,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>MD5 &amp;digest</source>
-        <translation>resumen &amp;MD5</translation>
+        <translation>re&amp;sumen MD5</translation>
     </message>
     <message>
         <source>&amp;plain text</source>
-        <translation>&amp;texto sin cifrar</translation>
+        <translation>te&amp;xto sin cifrar</translation>
     </message>
     <message>
         <source>Stored at the moment</source>
@@ -2681,11 +2681,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;First Password...</source>
-        <translation>&amp;Primera contraseña...</translation>
+        <translation>Primera &amp;contraseña...</translation>
     </message>
     <message>
         <source>C&amp;hange Password...</source>
-        <translation>&amp;Cambiar contraseña...</translation>
+        <translation>Ca&amp;mbiar contraseña...</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -2759,15 +2759,15 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Information</source>
-        <translation>&amp;Información</translation>
+        <translation>In&amp;formación</translation>
     </message>
     <message>
         <source>&amp;Warning</source>
-        <translation>&amp;Advertencia</translation>
+        <translation>A&amp;dvertencia</translation>
     </message>
     <message>
         <source>&amp;Error</source>
-        <translation>&amp;Error</translation>
+        <translation>E&amp;rror</translation>
     </message>
     <message>
         <source>&amp;Qt Warning</source>
@@ -2779,7 +2779,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Open Log Window</source>
-        <translation>Abrir ventana del &amp;registro</translation>
+        <translation>A&amp;brir ventana del registro</translation>
     </message>
     <message>
         <source>Live view of the log</source>
@@ -2822,7 +2822,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Put In a Logo...</source>
-        <translation>&amp;Poner un logotipo...</translation>
+        <translation>Poner un &amp;logotipo...</translation>
     </message>
     <message>
         <source>&amp;Remove Logo...</source>
@@ -2940,7 +2940,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problema:</translation>
+        <translation>Pro&amp;blema:</translation>
     </message>
     <message>
         <source>None</source>
@@ -2964,7 +2964,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>Login &amp;needed</source>
-        <translation>Exigir &amp;inicio de sesión</translation>
+        <translation>Exigir inicio &amp;de sesión</translation>
     </message>
 </context>
 <context>
@@ -2975,11 +2975,11 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>Open &amp;Manual</source>
-        <translation>Abrir &amp;manual</translation>
+        <translation>A&amp;brir manual</translation>
     </message>
     <message>
         <source>Open a Missin&amp;g One</source>
-        <translation>Abrir uno &amp;inexistente</translation>
+        <translation>Abrir uno inexi&amp;stente</translation>
     </message>
     <message>
         <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
@@ -3002,7 +3002,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>Amo&amp;unt:</source>
-        <translation>&amp;Cantidad:</translation>
+        <translation>Can&amp;tidad:</translation>
     </message>
     <message>
         <source>%1 rows</source>
@@ -3010,11 +3010,11 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>&amp;Make Table</source>
-        <translation>Crear &amp;tabla</translation>
+        <translation>Crear ta&amp;bla</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>Ca&amp;ncelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -3092,7 +3092,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>ΔE ab&amp;ove:</source>
-        <translation>ΔE &amp;mayor que:</translation>
+        <translation>ΔE mayor &amp;que:</translation>
     </message>
     <message>
         <source>all</source>
@@ -3100,11 +3100,11 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>Rows per &amp;page:</source>
-        <translation>Filas por &amp;página:</translation>
+        <translation>&amp;Filas por página:</translation>
     </message>
     <message>
         <source>&amp;Remove Rows</source>
-        <translation>&amp;Quitar filas</translation>
+        <translation>Q&amp;uitar filas</translation>
     </message>
     <message>
         <source>Stateme&amp;nt:</source>
@@ -3195,7 +3195,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>Set &amp;by the Program</source>
-        <translation>Poner desde el &amp;programa</translation>
+        <translation>Poner desde el pro&amp;grama</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -3207,7 +3207,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>T&amp;XPasswordLineEdit</source>
-        <translation>T&amp;XPasswordLineEdit</translation>
+        <translation>TXPass&amp;wordLineEdit</translation>
     </message>
     <message>
         <source>&amp;QLineEdit</source>
@@ -3261,15 +3261,15 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>S&amp;watches:</source>
-        <translation>&amp;Muestras:</translation>
+        <translation>Mues&amp;tras:</translation>
     </message>
     <message>
         <source>&amp;Position:</source>
-        <translation>&amp;Posición:</translation>
+        <translation>Po&amp;sición:</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation>&amp;Insertar</translation>
+        <translation>I&amp;nsertar</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -3301,7 +3301,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation>&amp;Nombres</translation>
+        <translation>Nom&amp;bres</translation>
     </message>
     <message>
         <source>%1 × %2 pixels each</source>
@@ -3324,7 +3324,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>Line &amp;Below</source>
-        <translation>&amp;Línea debajo</translation>
+        <translation>Línea &amp;debajo</translation>
     </message>
     <message>
         <source>Choose a row, and switch its line.</source>
@@ -3351,7 +3351,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>&amp;Compare Again</source>
-        <translation>&amp;Comparar de nuevo</translation>
+        <translation>Compa&amp;rar de nuevo</translation>
     </message>
     <message>
         <source>Compares the chosen rows. Make the last column narrow: first the time goes, then the end of the date.</source>
@@ -3398,7 +3398,7 @@ Sala de impresión</translation>
     </message>
     <message>
         <source>&amp;Grip width:</source>
-        <translation>&amp;Ancho del tirador:</translation>
+        <translation>Anc&amp;ho del tirador:</translation>
     </message>
     <message>
         <source> px</source>
@@ -3547,7 +3547,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Open Pictures...</source>
-        <translation>&amp;Abrir imágenes...</translation>
+        <translation>A&amp;brir imágenes...</translation>
     </message>
     <message>
         <source>Show &amp;Chart</source>
@@ -3632,7 +3632,7 @@ En la pantalla: %4</translation>
     <name>PrintJobForm</name>
     <message>
         <source>Pape&amp;r:</source>
-        <translation>&amp;Papel:</translation>
+        <translation>P&amp;apel:</translation>
     </message>
     <message>
         <source>Coated, 115 g/m²</source>
@@ -3672,18 +3672,18 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Delta &amp;E tolerance:</source>
-        <translation>Tolerancia de Delta &amp;E:</translation>
+        <translation>Tolerancia de &amp;Delta E:</translation>
     </message>
     <message>
         <source>Black point c&amp;ompensation</source>
-        <translation>&amp;Compensación de punto negro</translation>
+        <translation>Compensación de punto &amp;negro</translation>
     </message>
 </context>
 <context>
     <name>ProgressBarSwitches</name>
     <message>
         <source>Show te&amp;xt</source>
-        <translation>Mostrar te&amp;xto</translation>
+        <translation>M&amp;ostrar texto</translation>
     </message>
     <message>
         <source>For&amp;mat:</source>
@@ -3695,11 +3695,11 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>In&amp;verted</source>
-        <translation>&amp;Invertida</translation>
+        <translation>Inver&amp;tida</translation>
     </message>
     <message>
         <source>&amp;Upright</source>
-        <translation>&amp;Vertical</translation>
+        <translation>Vertica&amp;l</translation>
     </message>
 </context>
 <context>
@@ -3710,7 +3710,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Mails:</source>
-        <translation>&amp;Correos:</translation>
+        <translation>Correo&amp;s:</translation>
     </message>
     <message>
         <source>From</source>
@@ -3738,7 +3738,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Clea&amp;r</source>
-        <translation>&amp;Vaciar</translation>
+        <translation>Va&amp;ciar</translation>
     </message>
     <message>
         <source>yes</source>
@@ -3769,7 +3769,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Paper:</source>
-        <translation>&amp;Papel:</translation>
+        <translation>P&amp;apel:</translation>
     </message>
     <message>
         <source>O&amp;rientation:</source>
@@ -3844,11 +3844,11 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Export PDF...</source>
-        <translation>&amp;Exportar PDF...</translation>
+        <translation>E&amp;xportar PDF...</translation>
     </message>
     <message>
         <source>Pri&amp;nt...</source>
-        <translation>&amp;Imprimir...</translation>
+        <translation>I&amp;mprimir...</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -3856,7 +3856,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Open PDF</source>
-        <translation>&amp;Abrir PDF</translation>
+        <translation>A&amp;brir PDF</translation>
     </message>
     <message numerus="yes">
         <source>%n page(s) in &quot;%1&quot;</source>
@@ -3990,7 +3990,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problema:</translation>
+        <translation>Pro&amp;blema:</translation>
     </message>
     <message>
         <source>None</source>
@@ -4033,7 +4033,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>S&amp;tart Scan</source>
-        <translation>&amp;Iniciar exploración</translation>
+        <translation>Inici&amp;ar exploración</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -4094,7 +4094,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>in the bo&amp;x</source>
-        <translation>en la &amp;lista</translation>
+        <translation>e&amp;n la lista</translation>
     </message>
     <message>
         <source>in a &amp;menu</source>
@@ -4106,7 +4106,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Sho&amp;w the label:</source>
-        <translation>Mostrar la &amp;etiqueta:</translation>
+        <translation>Mos&amp;trar la etiqueta:</translation>
     </message>
     <message>
         <source>Text of the label</source>
@@ -4159,7 +4159,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Clea&amp;r</source>
-        <translation>&amp;Vaciar</translation>
+        <translation>Va&amp;ciar</translation>
     </message>
 </context>
 <context>
@@ -4170,11 +4170,11 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Browse This Server...</source>
-        <translation>&amp;Examinar este servidor...</translation>
+        <translation>E&amp;xaminar este servidor...</translation>
     </message>
     <message>
         <source>Browse the &amp;Network...</source>
-        <translation>Examinar la &amp;red...</translation>
+        <translation>Examinar &amp;la red...</translation>
     </message>
     <message>
         <source>Chosen: %1</source>
@@ -4270,7 +4270,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Paper:</source>
-        <translation>&amp;Papel:</translation>
+        <translation>P&amp;apel:</translation>
     </message>
     <message>
         <source>Coated</source>
@@ -4286,7 +4286,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Tri&amp;m marks</source>
-        <translation>&amp;Marcas de corte</translation>
+        <translation>Marcas &amp;de corte</translation>
     </message>
     <message>
         <source>drawn by the shipped sheet</source>
@@ -4298,7 +4298,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Print Pr&amp;oof</source>
-        <translation>&amp;Imprimir prueba</translation>
+        <translation>I&amp;mprimir prueba</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -4369,7 +4369,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Turn All On</source>
-        <translation>&amp;Encender todos</translation>
+        <translation>Encender &amp;todos</translation>
     </message>
     <message>
         <source>on</source>
@@ -4446,11 +4446,11 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Check for &amp;Updates</source>
-        <translation>Buscar &amp;actualizaciones</translation>
+        <translation>&amp;Buscar actualizaciones</translation>
     </message>
     <message>
         <source>Show in F&amp;older</source>
-        <translation>Mostrar en la &amp;carpeta</translation>
+        <translation>&amp;Mostrar en la carpeta</translation>
     </message>
     <message>
         <source>Release</source>
@@ -4569,7 +4569,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Loa&amp;d Settings</source>
-        <translation>&amp;Cargar ajustes</translation>
+        <translation>Cargar &amp;ajustes</translation>
     </message>
     <message>
         <source>Save Se&amp;ttings</source>
@@ -4600,7 +4600,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Hover effects</source>
-        <translation>Efectos al &amp;pasar el ratón</translation>
+        <translation>Efectos al pasar el &amp;ratón</translation>
     </message>
     <message>
         <source>Lights the innermost value under the mouse.</source>
@@ -4608,7 +4608,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Preview</source>
-        <translation>&amp;Vista previa</translation>
+        <translation>Vi&amp;sta previa</translation>
     </message>
     <message>
         <source>Shows what lists and dictionaries hold in their line.</source>
@@ -4699,7 +4699,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;valueChanged: %1</source>
-        <translation>&amp;valueChanged: %1</translation>
+        <translation>value&amp;Changed: %1</translation>
     </message>
     <message>
         <source>Emissions of valueChanged</source>
@@ -4726,7 +4726,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>As&amp;k the Service</source>
-        <translation>&amp;Preguntar al servicio</translation>
+        <translation>Preguntar &amp;al servicio</translation>
     </message>
 </context>
 <context>
@@ -4806,7 +4806,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Visi&amp;t the Page</source>
-        <translation>&amp;Visitar la página</translation>
+        <translation>Visitar &amp;la página</translation>
     </message>
     <message>
         <source>the box &quot;Enabled&quot; of the panel is not checked</source>
@@ -4821,11 +4821,11 @@ En la pantalla: %4</translation>
     <name>WebSessionPanel</name>
     <message>
         <source>What the server &amp;got:</source>
-        <translation>Lo que &amp;recibió el servidor:</translation>
+        <translation>Lo &amp;que recibió el servidor:</translation>
     </message>
     <message>
         <source>&amp;Own visits:</source>
-        <translation>Visitas &amp;propias:</translation>
+        <translation>Vi&amp;sitas propias:</translation>
     </message>
 </context>
 <context>
@@ -4840,11 +4840,11 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Make &amp;Certificate</source>
-        <translation>Crear ce&amp;rtificado</translation>
+        <translation>Crear cer&amp;tificado</translation>
     </message>
     <message>
         <source>Fill In E&amp;xample</source>
-        <translation>Rellenar &amp;ejemplo</translation>
+        <translation>Relle&amp;nar ejemplo</translation>
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
@@ -4856,7 +4856,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Loa&amp;d</source>
-        <translation>&amp;Cargar</translation>
+        <translation>Ca&amp;rgar</translation>
     </message>
     <message>
         <source>Settings of the web interface</source>
@@ -4981,7 +4981,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Keep State</source>
-        <translation>&amp;Guardar estado</translation>
+        <translation>Guardar e&amp;stado</translation>
     </message>
     <message>
         <source>&amp;Disarrange</source>
@@ -4993,7 +4993,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>K&amp;ept state:</source>
-        <translation>&amp;Estado guardado:</translation>
+        <translation>Estado &amp;guardado:</translation>
     </message>
     <message>
         <source>Kept state</source>
@@ -5019,19 +5019,19 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Files &amp;in:</source>
-        <translation>Archivos e&amp;n:</translation>
+        <translation>Archi&amp;vos en:</translation>
     </message>
     <message>
         <source>Bro&amp;wse...</source>
-        <translation>E&amp;xaminar...</translation>
+        <translation>Exa&amp;minar...</translation>
     </message>
     <message>
         <source>&amp;Read Files</source>
-        <translation>&amp;Leer archivos</translation>
+        <translation>Leer archivo&amp;s</translation>
     </message>
     <message>
         <source>Canc&amp;el</source>
-        <translation>&amp;Cancelar</translation>
+        <translation>Cancela&amp;r</translation>
     </message>
     <message>
         <source>Read the Files of a Folder</source>

@@ -58,11 +58,11 @@
     </message>
     <message>
         <source>Add R&amp;esult</source>
-        <translation>Ajouter un &amp;résultat</translation>
+        <translation>A&amp;jouter un résultat</translation>
     </message>
     <message>
         <source>&amp;Update Weights</source>
-        <translation>Actualiser les &amp;graisses</translation>
+        <translation>Ra&amp;fraîchir les graisses</translation>
     </message>
     <message>
         <source>Not passed</source>
@@ -376,7 +376,7 @@
     </message>
     <message>
         <source>&amp;Grid lines</source>
-        <translation>&amp;Lignes de la grille</translation>
+        <translation>Lignes de la &amp;grille</translation>
     </message>
     <message>
         <source>Patch</source>
@@ -583,7 +583,7 @@
     </message>
     <message>
         <source>In&amp;k limit:</source>
-        <translation>&amp;Limite d’encrage&#xa0;:</translation>
+        <translation>Limite &amp;d’encrage&#xa0;:</translation>
     </message>
     <message>
         <source>Paper white:</source>
@@ -630,7 +630,7 @@
     </message>
     <message>
         <source>Ca&amp;ncel Edit</source>
-        <translation>A&amp;nnuler la modification</translation>
+        <translation>Annuler la modifica&amp;tion</translation>
     </message>
     <message>
         <source>Delete Preset</source>
@@ -867,7 +867,7 @@
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problème&#xa0;:</translation>
+        <translation>Problè&amp;me&#xa0;:</translation>
     </message>
     <message>
         <source>None</source>
@@ -898,7 +898,7 @@
     </message>
     <message>
         <source>S&amp;how Settings</source>
-        <translation>Afficher les &amp;paramètres</translation>
+        <translation>A&amp;fficher les paramètres</translation>
     </message>
     <message>
         <source>Sav&amp;e</source>
@@ -1049,7 +1049,7 @@
     </message>
     <message>
         <source>Signals o&amp;f the page: %1</source>
-        <translation>&amp;Signaux de la page&#xa0;: %1</translation>
+        <translation>Signau&amp;x de la page&#xa0;: %1</translation>
     </message>
     <message>
         <source>Signals of the page</source>
@@ -1079,15 +1079,15 @@
     </message>
     <message>
         <source>Add &amp;Drive</source>
-        <translation>Ajouter un &amp;lecteur</translation>
+        <translation>Ajouter &amp;un lecteur</translation>
     </message>
     <message>
         <source>Re&amp;move Added Drives</source>
-        <translation>&amp;Supprimer les lecteurs ajoutés</translation>
+        <translation>Supprimer les lec&amp;teurs ajoutés</translation>
     </message>
     <message>
         <source>Show F&amp;older</source>
-        <translation>Afficher le &amp;dossier</translation>
+        <translation>A&amp;fficher le dossier</translation>
     </message>
     <message>
         <source>Check &quot;Enabled&quot;, and all active drives in the list are connected, your own too. A connected drive is a link in &quot;%1&quot;. The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
@@ -1126,7 +1126,7 @@
     </message>
     <message>
         <source>S&amp;ignals of the manager:</source>
-        <translation>&amp;Signaux du gestionnaire&#xa0;:</translation>
+        <translation>Signaux du &amp;gestionnaire&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1201,11 +1201,11 @@
     </message>
     <message>
         <source>Sav&amp;e</source>
-        <translation>&amp;Enregistrer</translation>
+        <translation>E&amp;nregistrer</translation>
     </message>
     <message>
         <source>Loa&amp;d</source>
-        <translation>&amp;Charger</translation>
+        <translation>C&amp;harger</translation>
     </message>
     <message>
         <source>&amp;Text file:</source>
@@ -1272,15 +1272,15 @@
     </message>
     <message>
         <source>&amp;Question</source>
-        <translation>&amp;Question</translation>
+        <translation>Questio&amp;n</translation>
     </message>
     <message>
         <source>&amp;Warning</source>
-        <translation>&amp;Avertissement</translation>
+        <translation>A&amp;vertissement</translation>
     </message>
     <message>
         <source>&amp;Critical</source>
-        <translation>&amp;Critique</translation>
+        <translation>C&amp;ritique</translation>
     </message>
     <message>
         <source>In&amp;formation</source>
@@ -1295,12 +1295,12 @@
     <message>
         <source>War&amp;ning</source>
         <comment>with details</comment>
-        <translation>A&amp;vertissement</translation>
+        <translation>Avertisse&amp;ment</translation>
     </message>
     <message>
         <source>C&amp;ritical</source>
         <comment>with details</comment>
-        <translation>C&amp;ritique</translation>
+        <translation>Criti&amp;que</translation>
     </message>
     <message>
         <source>%1, short</source>
@@ -1327,7 +1327,7 @@
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>&amp;Parcourir...</translation>
+        <translation>C&amp;hoisir...</translation>
     </message>
     <message>
         <source>Reads another file as a colour profile.</source>
@@ -1347,15 +1347,15 @@
     </message>
     <message>
         <source>&amp;Description:</source>
-        <translation>&amp;Description&#xa0;:</translation>
+        <translation>Descri&amp;ption&#xa0;:</translation>
     </message>
     <message>
         <source>D&amp;omain:</source>
-        <translation>D&amp;omaine&#xa0;:</translation>
+        <translation>&amp;Domaine&#xa0;:</translation>
     </message>
     <message>
         <source>N&amp;ested errors:</source>
-        <translation>Erreurs &amp;imbriquées&#xa0;:</translation>
+        <translation>Erreurs im&amp;briquées&#xa0;:</translation>
     </message>
     <message>
         <source>One a line; two blanks put it below the line above</source>
@@ -1420,11 +1420,11 @@
     </message>
     <message>
         <source>Add F&amp;ield</source>
-        <translation>&amp;Ajouter un champ</translation>
+        <translation>Ajouter &amp;un champ</translation>
     </message>
     <message>
         <source>Re&amp;move Field</source>
-        <translation>&amp;Supprimer le champ</translation>
+        <translation>Supprimer le &amp;champ</translation>
     </message>
 </context>
 <context>
@@ -1447,7 +1447,7 @@
     </message>
     <message>
         <source>Open as &amp;Dialog</source>
-        <translation>Ouvrir comme &amp;dialogue</translation>
+        <translation>&amp;Ouvrir comme dialogue</translation>
     </message>
     <message>
         <source>A note goes to port 5050 of this computer, and nowhere else; the service takes it there while it is on. The form waits for the answer as long as it takes, and nothing can be pressed meanwhile.
@@ -1502,11 +1502,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     <name>FeedbackSessionPanel</name>
     <message>
         <source>What the service &amp;got:</source>
-        <translation>&amp;Reçu par le service&#xa0;:</translation>
+        <translation>Reçu &amp;par le service&#xa0;:</translation>
     </message>
     <message>
         <source>Signals of t&amp;he form and its dialog:</source>
-        <translation>&amp;Signaux du formulaire et de son dialogue&#xa0;:</translation>
+        <translation>Signaux du &amp;formulaire et de son dialogue&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1536,11 +1536,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Put Into Field</source>
-        <translation>&amp;Placer dans le champ</translation>
+        <translation>Placer dans le &amp;champ</translation>
     </message>
     <message>
         <source>&amp;Dropped file:</source>
-        <translation>Fichier &amp;déposé&#xa0;:</translation>
+        <translation>&amp;Fichier déposé&#xa0;:</translation>
     </message>
     <message>
         <source>Drop files here</source>
@@ -1567,11 +1567,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>In your own &amp;order:</source>
-        <translation>Dans votre &amp;propre ordre&#xa0;:</translation>
+        <translation>Da&amp;ns votre propre ordre&#xa0;:</translation>
     </message>
     <message>
         <source>In alphab&amp;etical order:</source>
-        <translation>Dans l’ordre &amp;alphabétique&#xa0;:</translation>
+        <translation>Dans l’ordre alp&amp;habétique&#xa0;:</translation>
     </message>
     <message>
         <source>Folders in your own order</source>
@@ -1603,11 +1603,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;New Folder</source>
-        <translation>&amp;Nouveau dossier</translation>
+        <translation>No&amp;uveau dossier</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Supprimer</translation>
+        <translation>Su&amp;pprimer</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
@@ -1788,11 +1788,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>S&amp;tart Scan</source>
-        <translation>&amp;Lancer l’analyse</translation>
+        <translation>La&amp;ncer l’analyse</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
+        <translation>Annule&amp;r</translation>
     </message>
     <message>
         <source>Scan a Folder</source>
@@ -1847,7 +1847,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>C&amp;onversion</source>
-        <translation>C&amp;onversion</translation>
+        <translation>Con&amp;version</translation>
     </message>
     <message>
         <source>Rendering intent:</source>
@@ -1871,7 +1871,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Black point compensation</source>
-        <translation>&amp;Compensation du point noir</translation>
+        <translation>Compensation d&amp;u point noir</translation>
     </message>
     <message>
         <source>Simulate the paper</source>
@@ -1883,7 +1883,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Keep the note hidden</source>
-        <translation>&amp;Garder la remarque masquée</translation>
+        <translation>Garder la remarque cac&amp;hée</translation>
     </message>
     <message>
         <source>black point compensated</source>
@@ -1968,7 +1968,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problème&#xa0;:</translation>
+        <translation>Pro&amp;blème&#xa0;:</translation>
     </message>
     <message>
         <source>None</source>
@@ -1991,11 +1991,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     <name>FtpSessionPanel</name>
     <message>
         <source>What the server &amp;got:</source>
-        <translation>&amp;Reçu par le serveur&#xa0;:</translation>
+        <translation>Reçu &amp;par le serveur&#xa0;:</translation>
     </message>
     <message>
         <source>Signals of t&amp;he panel:</source>
-        <translation>&amp;Signaux du panneau&#xa0;:</translation>
+        <translation>Si&amp;gnaux du panneau&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -2006,15 +2006,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>Afficher les &amp;paramètres</translation>
+        <translation>A&amp;fficher les paramètres</translation>
     </message>
     <message>
         <source>I&amp;mport Dialog...</source>
-        <translation>Dialogue d’&amp;importation...</translation>
+        <translation>Dialogue d’i&amp;mportation...</translation>
     </message>
     <message>
         <source>E&amp;xport Dialog...</source>
-        <translation>Dialogue d’&amp;exportation...</translation>
+        <translation>Dialogue d’e&amp;xportation...</translation>
     </message>
     <message>
         <source>Where the jobs come from</source>
@@ -2299,7 +2299,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     <name>ImageViewBar</name>
     <message>
         <source>&amp;Fit</source>
-        <translation>&amp;Ajuster</translation>
+        <translation>Ajus&amp;ter</translation>
     </message>
     <message>
         <source>The whole picture in each zone, also when the window changes</source>
@@ -2331,7 +2331,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>O&amp;verlay</source>
-        <translation>&amp;Surimpression</translation>
+        <translation>Suri&amp;mpression</translation>
     </message>
     <message>
         <source>Names of the pictures, outlines and numbers of the patches</source>
@@ -2482,7 +2482,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Li&amp;ghtness L*:</source>
-        <translation>C&amp;larté L*&#xa0;:</translation>
+        <translation>&amp;Clarté L*&#xa0;:</translation>
     </message>
     <message>
         <source>Gree&amp;n-red a*:</source>
@@ -2521,11 +2521,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Lig&amp;htness:</source>
-        <translation>C&amp;larté&#xa0;:</translation>
+        <translation>&amp;Clarté&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Vertical axis:</source>
-        <translation>Axe &amp;vertical&#xa0;:</translation>
+        <translation>A&amp;xe vertical&#xa0;:</translation>
     </message>
     <message>
         <source>Upright</source>
@@ -2575,7 +2575,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Texts of the gallery:</source>
-        <translation>&amp;Textes de la galerie&#xa0;:</translation>
+        <translation>Textes de la &amp;galerie&#xa0;:</translation>
     </message>
     <message>
         <source>Texts of the gallery</source>
@@ -2583,7 +2583,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Import Translation...</source>
-        <translation>&amp;Importer une traduction...</translation>
+        <translation>Importer &amp;une traduction...</translation>
     </message>
     <message>
         <source>There are no translations in %1</source>
@@ -2661,11 +2661,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>MD5 &amp;digest</source>
-        <translation>&amp;empreinte MD5</translation>
+        <translation>emprein&amp;te MD5</translation>
     </message>
     <message>
         <source>&amp;plain text</source>
-        <translation>&amp;texte en clair</translation>
+        <translation>te&amp;xte en clair</translation>
     </message>
     <message>
         <source>Stored at the moment</source>
@@ -2677,15 +2677,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Loc&amp;k...</source>
-        <translation>&amp;Verrouiller...</translation>
+        <translation>Ve&amp;rrouiller...</translation>
     </message>
     <message>
         <source>&amp;First Password...</source>
-        <translation>&amp;Premier mot de passe...</translation>
+        <translation>Premier mot &amp;de passe...</translation>
     </message>
     <message>
         <source>C&amp;hange Password...</source>
-        <translation>&amp;Modifier le mot de passe...</translation>
+        <translation>Modi&amp;fier le mot de passe...</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -2763,7 +2763,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Warning</source>
-        <translation>&amp;Avertissement</translation>
+        <translation>A&amp;vertissement</translation>
     </message>
     <message>
         <source>&amp;Error</source>
@@ -2775,7 +2775,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Live &amp;view:</source>
-        <translation>&amp;Vue en direct&#xa0;:</translation>
+        <translation>Vue en dire&amp;ct&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Open Log Window</source>
@@ -2826,7 +2826,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Remove Logo...</source>
-        <translation>&amp;Supprimer le logo...</translation>
+        <translation>Su&amp;pprimer le logo...</translation>
     </message>
     <message>
         <source>Remove &amp;Copy...</source>
@@ -2897,7 +2897,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>Afficher les &amp;paramètres</translation>
+        <translation>A&amp;fficher les paramètres</translation>
     </message>
     <message>
         <source>Dear Mia,
@@ -2924,7 +2924,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Se&amp;curity:</source>
-        <translation>&amp;Sécurité&#xa0;:</translation>
+        <translation>Sé&amp;curité&#xa0;:</translation>
     </message>
     <message>
         <source>Plain</source>
@@ -2975,11 +2975,11 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Open &amp;Manual</source>
-        <translation>Ouvrir le &amp;manuel</translation>
+        <translation>&amp;Ouvrir le manuel</translation>
     </message>
     <message>
         <source>Open a Missin&amp;g One</source>
-        <translation>Ouvrir un manuel m&amp;anquant</translation>
+        <translation>Ouvrir un manu&amp;el manquant</translation>
     </message>
     <message>
         <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
@@ -2994,11 +2994,11 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Fol&amp;der of the internal database:</source>
-        <translation>&amp;Dossier de la base de données interne&#xa0;:</translation>
+        <translation>Dossier de la &amp;base de données interne&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>&amp;Parcourir...</translation>
+        <translation>Par&amp;courir...</translation>
     </message>
     <message>
         <source>Amo&amp;unt:</source>
@@ -3010,11 +3010,11 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>&amp;Make Table</source>
-        <translation>&amp;Créer la table</translation>
+        <translation>Créer la &amp;table</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
+        <translation>A&amp;nnuler</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -3104,7 +3104,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>&amp;Remove Rows</source>
-        <translation>&amp;Supprimer les lignes</translation>
+        <translation>Supprimer les li&amp;gnes</translation>
     </message>
     <message>
         <source>Stateme&amp;nt:</source>
@@ -3195,7 +3195,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Set &amp;by the Program</source>
-        <translation>Définir par le &amp;programme</translation>
+        <translation>Défi&amp;nir par le programme</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -3207,7 +3207,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>T&amp;XPasswordLineEdit</source>
-        <translation>T&amp;XPasswordLineEdit</translation>
+        <translation>TXPass&amp;wordLineEdit</translation>
     </message>
     <message>
         <source>&amp;QLineEdit</source>
@@ -3273,15 +3273,15 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Supprimer</translation>
+        <translation>Supp&amp;rimer</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation>&amp;Vider</translation>
+        <translation>Vi&amp;der</translation>
     </message>
     <message>
         <source>&amp;Frame:</source>
-        <translation>&amp;Cadre&#xa0;:</translation>
+        <translation>&amp;Bordure&#xa0;:</translation>
     </message>
     <message>
         <source>None</source>
@@ -3394,11 +3394,11 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Si&amp;de by side</source>
-        <translation>&amp;Côte à côte</translation>
+        <translation>Cô&amp;te à côte</translation>
     </message>
     <message>
         <source>&amp;Grip width:</source>
-        <translation>&amp;Largeur de la poignée&#xa0;:</translation>
+        <translation>Lar&amp;geur de la poignée&#xa0;:</translation>
     </message>
     <message>
         <source> px</source>
@@ -3648,7 +3648,7 @@ b* %3
     </message>
     <message>
         <source>Rendering &amp;intent:</source>
-        <translation>Mode de &amp;rendu&#xa0;:</translation>
+        <translation>&amp;Mode de rendu&#xa0;:</translation>
     </message>
     <message>
         <source>Relative colorimetric</source>
@@ -3668,7 +3668,7 @@ b* %3
     </message>
     <message>
         <source>Total i&amp;nk limit:</source>
-        <translation>&amp;Limite d’encrage totale&#xa0;:</translation>
+        <translation>Limite d’en&amp;crage totale&#xa0;:</translation>
     </message>
     <message>
         <source>Delta &amp;E tolerance:</source>
@@ -3676,7 +3676,7 @@ b* %3
     </message>
     <message>
         <source>Black point c&amp;ompensation</source>
-        <translation>&amp;Compensation du point noir</translation>
+        <translation>Compensat&amp;ion du point noir</translation>
     </message>
 </context>
 <context>
@@ -3699,7 +3699,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Upright</source>
-        <translation>Ver&amp;tical</translation>
+        <translation>Verti&amp;cal</translation>
     </message>
 </context>
 <context>
@@ -3710,7 +3710,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Mails:</source>
-        <translation>&amp;Courriels&#xa0;:</translation>
+        <translation>C&amp;ourriels&#xa0;:</translation>
     </message>
     <message>
         <source>From</source>
@@ -3734,11 +3734,11 @@ b* %3
     </message>
     <message>
         <source>As it cam&amp;e:</source>
-        <translation>Tel que &amp;reçu&#xa0;:</translation>
+        <translation>&amp;Tel que reçu&#xa0;:</translation>
     </message>
     <message>
         <source>Clea&amp;r</source>
-        <translation>&amp;Vider</translation>
+        <translation>Vi&amp;der</translation>
     </message>
     <message>
         <source>yes</source>
@@ -3848,11 +3848,11 @@ b* %3
     </message>
     <message>
         <source>Pri&amp;nt...</source>
-        <translation>&amp;Imprimer...</translation>
+        <translation>I&amp;mprimer...</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
+        <translation>A&amp;nnuler</translation>
     </message>
     <message>
         <source>&amp;Open PDF</source>
@@ -3990,7 +3990,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problème&#xa0;:</translation>
+        <translation>P&amp;roblème&#xa0;:</translation>
     </message>
     <message>
         <source>None</source>
@@ -4033,11 +4033,11 @@ b* %3
     </message>
     <message>
         <source>S&amp;tart Scan</source>
-        <translation>&amp;Lancer l’analyse</translation>
+        <translation>La&amp;ncer l’analyse</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
+        <translation>Annule&amp;r</translation>
     </message>
     <message>
         <source>Scan a Folder</source>
@@ -4075,7 +4075,7 @@ b* %3
     </message>
     <message>
         <source>Si&amp;gnals of the bar: %1</source>
-        <translation>&amp;Signaux de la barre&#xa0;: %1</translation>
+        <translation>Signaux de la &amp;barre&#xa0;: %1</translation>
     </message>
     <message>
         <source>Signals of the bar</source>
@@ -4094,7 +4094,7 @@ b* %3
     </message>
     <message>
         <source>in the bo&amp;x</source>
-        <translation>dans la &amp;liste déroulante</translation>
+        <translation>da&amp;ns la liste déroulante</translation>
     </message>
     <message>
         <source>in a &amp;menu</source>
@@ -4102,11 +4102,11 @@ b* %3
     </message>
     <message>
         <source>Names can be &amp;typed over</source>
-        <translation>&amp;Noms modifiables par saisie</translation>
+        <translation>Noms modifiables &amp;par saisie</translation>
     </message>
     <message>
         <source>Sho&amp;w the label:</source>
-        <translation>&amp;Afficher le libellé&#xa0;:</translation>
+        <translation>A&amp;fficher le libellé&#xa0;:</translation>
     </message>
     <message>
         <source>Text of the label</source>
@@ -4159,7 +4159,7 @@ b* %3
     </message>
     <message>
         <source>Clea&amp;r</source>
-        <translation>&amp;Vider</translation>
+        <translation>Vi&amp;der</translation>
     </message>
 </context>
 <context>
@@ -4170,11 +4170,11 @@ b* %3
     </message>
     <message>
         <source>&amp;Browse This Server...</source>
-        <translation>&amp;Parcourir ce serveur...</translation>
+        <translation>Parcourir &amp;ce serveur...</translation>
     </message>
     <message>
         <source>Browse the &amp;Network...</source>
-        <translation>Parcourir le &amp;réseau...</translation>
+        <translation>Parc&amp;ourir le réseau...</translation>
     </message>
     <message>
         <source>Chosen: %1</source>
@@ -4404,7 +4404,7 @@ b* %3
     </message>
     <message>
         <source>Offer &amp;hours</source>
-        <translation>Proposer les &amp;heures</translation>
+        <translation>&amp;Proposer les heures</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
@@ -4450,7 +4450,7 @@ b* %3
     </message>
     <message>
         <source>Show in F&amp;older</source>
-        <translation>Afficher dans le d&amp;ossier</translation>
+        <translation>A&amp;fficher dans le dossier</translation>
     </message>
     <message>
         <source>Release</source>
@@ -4558,7 +4558,7 @@ b* %3
     </message>
     <message>
         <source>Signals of t&amp;he dialog:</source>
-        <translation>&amp;Signaux du dialogue&#xa0;:</translation>
+        <translation>Si&amp;gnaux du dialogue&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -4608,7 +4608,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Preview</source>
-        <translation>&amp;Aperçu</translation>
+        <translation>A&amp;perçu</translation>
     </message>
     <message>
         <source>Shows what lists and dictionaries hold in their line.</source>
@@ -4699,7 +4699,7 @@ b* %3
     </message>
     <message>
         <source>&amp;valueChanged: %1</source>
-        <translation>&amp;valueChanged&#xa0;: %1</translation>
+        <translation>valueC&amp;hanged&#xa0;: %1</translation>
     </message>
     <message>
         <source>Emissions of valueChanged</source>
@@ -4798,7 +4798,7 @@ b* %3
     </message>
     <message>
         <source>Other com&amp;puters may connect</source>
-        <translation>&amp;Autoriser d’autres ordinateurs</translation>
+        <translation>Autoriser d’autres &amp;ordinateurs</translation>
     </message>
     <message>
         <source>Without it the server listens on 127.0.0.1 only, and no other link of the panel leads to it.</source>
@@ -4806,7 +4806,7 @@ b* %3
     </message>
     <message>
         <source>Visi&amp;t the Page</source>
-        <translation>&amp;Visiter la page</translation>
+        <translation>Visi&amp;ter la page</translation>
     </message>
     <message>
         <source>the box &quot;Enabled&quot; of the panel is not checked</source>
@@ -4825,7 +4825,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Own visits:</source>
-        <translation>Visites p&amp;ropres&#xa0;:</translation>
+        <translation>Visites &amp;propres&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -4840,7 +4840,7 @@ b* %3
     </message>
     <message>
         <source>Make &amp;Certificate</source>
-        <translation>Créer un &amp;certificat</translation>
+        <translation>Créer &amp;un certificat</translation>
     </message>
     <message>
         <source>Fill In E&amp;xample</source>
@@ -4848,7 +4848,7 @@ b* %3
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>Afficher les &amp;paramètres</translation>
+        <translation>A&amp;fficher les paramètres</translation>
     </message>
     <message>
         <source>Sav&amp;e</source>
@@ -5023,15 +5023,15 @@ b* %3
     </message>
     <message>
         <source>Bro&amp;wse...</source>
-        <translation>&amp;Parcourir...</translation>
+        <translation>Parc&amp;ourir...</translation>
     </message>
     <message>
         <source>&amp;Read Files</source>
-        <translation>&amp;Lire les fichiers</translation>
+        <translation>L&amp;ire les fichiers</translation>
     </message>
     <message>
         <source>Canc&amp;el</source>
-        <translation>&amp;Annuler</translation>
+        <translation>Ann&amp;uler</translation>
     </message>
     <message>
         <source>Read the Files of a Folder</source>

@@ -58,7 +58,7 @@
     </message>
     <message>
         <source>Add R&amp;esult</source>
-        <translation>Aggiungi &amp;risultato</translation>
+        <translation>Aggi&amp;ungi risultato</translation>
     </message>
     <message>
         <source>&amp;Update Weights</source>
@@ -583,7 +583,7 @@
     </message>
     <message>
         <source>In&amp;k limit:</source>
-        <translation>&amp;Limite d&apos;inchiostro:</translation>
+        <translation>Limite &amp;d&apos;inchiostro:</translation>
     </message>
     <message>
         <source>Paper white:</source>
@@ -736,7 +736,7 @@
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation>&amp;Rinomina</translation>
+        <translation>Ri&amp;nomina</translation>
     </message>
     <message>
         <source>Light of a tungsten lamp, the ultraviolet undefined</source>
@@ -805,11 +805,11 @@
     </message>
     <message>
         <source>Ask for &amp;Credentials...</source>
-        <translation>Chiedi le &amp;credenziali...</translation>
+        <translation>C&amp;hiedi le credenziali...</translation>
     </message>
     <message>
         <source>Offer to r&amp;emember</source>
-        <translation>Offri di ricor&amp;dare</translation>
+        <translation>&amp;Offri di ricordare</translation>
     </message>
     <message>
         <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether &quot;Remember&quot; is checked.</source>
@@ -902,11 +902,11 @@
     </message>
     <message>
         <source>Sav&amp;e</source>
-        <translation>&amp;Salva</translation>
+        <translation>Sal&amp;va</translation>
     </message>
     <message>
         <source>As&amp;k...</source>
-        <translation>&amp;Chiedi...</translation>
+        <translation>C&amp;hiedi...</translation>
     </message>
     <message>
         <source>Settings of the database</source>
@@ -1038,7 +1038,7 @@
     </message>
     <message>
         <source>S&amp;wap</source>
-        <translation>&amp;Scambia</translation>
+        <translation>S&amp;cambia</translation>
     </message>
 </context>
 <context>
@@ -1075,7 +1075,7 @@
     </message>
     <message>
         <source>S&amp;hare:</source>
-        <translation>Condi&amp;visione:</translation>
+        <translation>Co&amp;ndivisione:</translation>
     </message>
     <message>
         <source>Add &amp;Drive</source>
@@ -1083,7 +1083,7 @@
     </message>
     <message>
         <source>Re&amp;move Added Drives</source>
-        <translation>&amp;Rimuovi le unità aggiunte</translation>
+        <translation>Rimuovi le unità &amp;aggiunte</translation>
     </message>
     <message>
         <source>Show F&amp;older</source>
@@ -1122,11 +1122,11 @@
     <name>DriveSessionPanel</name>
     <message>
         <source>Lo&amp;g of the drives:</source>
-        <translation>&amp;Registro delle unità:</translation>
+        <translation>Registro &amp;delle unità:</translation>
     </message>
     <message>
         <source>S&amp;ignals of the manager:</source>
-        <translation>&amp;Segnali della gestione:</translation>
+        <translation>Segnali della &amp;gestione:</translation>
     </message>
 </context>
 <context>
@@ -1167,7 +1167,7 @@
     <name>EmissionList</name>
     <message>
         <source>&amp;Clear</source>
-        <translation>&amp;Svuota</translation>
+        <translation>S&amp;vuota</translation>
     </message>
 </context>
 <context>
@@ -1201,15 +1201,15 @@
     </message>
     <message>
         <source>Sav&amp;e</source>
-        <translation>&amp;Salva</translation>
+        <translation>S&amp;alva</translation>
     </message>
     <message>
         <source>Loa&amp;d</source>
-        <translation>&amp;Carica</translation>
+        <translation>Ca&amp;rica</translation>
     </message>
     <message>
         <source>&amp;Text file:</source>
-        <translation>File di &amp;testo:</translation>
+        <translation>&amp;File di testo:</translation>
     </message>
     <message>
         <source>Example in UTF-8</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Choose &amp;File...</source>
-        <translation>Scegli &amp;file...</translation>
+        <translation>Sce&amp;gli file...</translation>
     </message>
     <message>
         <source>Text of the file</source>
@@ -1268,11 +1268,11 @@
     </message>
     <message>
         <source>&amp;Information</source>
-        <translation>&amp;Informazione</translation>
+        <translation>In&amp;formazione</translation>
     </message>
     <message>
         <source>&amp;Question</source>
-        <translation>&amp;Domanda</translation>
+        <translation>Do&amp;manda</translation>
     </message>
     <message>
         <source>&amp;Warning</source>
@@ -1285,7 +1285,7 @@
     <message>
         <source>In&amp;formation</source>
         <comment>with details</comment>
-        <translation>In&amp;formazione</translation>
+        <translation>Informa&amp;zione</translation>
     </message>
     <message>
         <source>Q&amp;uestion</source>
@@ -1327,7 +1327,7 @@
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>&amp;Sfoglia...</translation>
+        <translation>Sfo&amp;glia...</translation>
     </message>
     <message>
         <source>Reads another file as a colour profile.</source>
@@ -1335,7 +1335,7 @@
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation>&amp;Titolo:</translation>
+        <translation>T&amp;itolo:</translation>
     </message>
     <message>
         <source>Title</source>
@@ -1351,7 +1351,7 @@
     </message>
     <message>
         <source>D&amp;omain:</source>
-        <translation>A&amp;mbito:</translation>
+        <translation>Am&amp;bito:</translation>
     </message>
     <message>
         <source>N&amp;ested errors:</source>
@@ -1420,11 +1420,11 @@
     </message>
     <message>
         <source>Add F&amp;ield</source>
-        <translation>Aggiungi &amp;campo</translation>
+        <translation>&amp;Aggiungi campo</translation>
     </message>
     <message>
         <source>Re&amp;move Field</source>
-        <translation>&amp;Rimuovi campo</translation>
+        <translation>Rimuovi &amp;campo</translation>
     </message>
 </context>
 <context>
@@ -1471,7 +1471,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Ans&amp;wer:</source>
-        <translation>&amp;Risposta:</translation>
+        <translation>Ris&amp;posta:</translation>
     </message>
     <message>
         <source>Accepted</source>
@@ -1502,11 +1502,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     <name>FeedbackSessionPanel</name>
     <message>
         <source>What the service &amp;got:</source>
-        <translation>Che cosa ha ri&amp;cevuto il servizio:</translation>
+        <translation>Che cosa &amp;ha ricevuto il servizio:</translation>
     </message>
     <message>
         <source>Signals of t&amp;he form and its dialog:</source>
-        <translation>&amp;Segnali del modulo e del suo dialogo:</translation>
+        <translation>Segnali del &amp;modulo e del suo dialogo:</translation>
     </message>
 </context>
 <context>
@@ -1528,7 +1528,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Files of the &amp;gallery:</source>
-        <translation>File della &amp;galleria:</translation>
+        <translation>&amp;File della galleria:</translation>
     </message>
     <message>
         <source>Files of the gallery</source>
@@ -1540,7 +1540,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Dropped file:</source>
-        <translation>File &amp;rilasciato:</translation>
+        <translation>File rilas&amp;ciato:</translation>
     </message>
     <message>
         <source>Drop files here</source>
@@ -1567,11 +1567,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>In your own &amp;order:</source>
-        <translation>In ordine &amp;personale:</translation>
+        <translation>In &amp;ordine personale:</translation>
     </message>
     <message>
         <source>In alphab&amp;etical order:</source>
-        <translation>In ordine &amp;alfabetico:</translation>
+        <translation>In ordine alfa&amp;betico:</translation>
     </message>
     <message>
         <source>Folders in your own order</source>
@@ -1583,7 +1583,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;May be dropped:</source>
-        <translation>Rilascio &amp;consentito:</translation>
+        <translation>R&amp;ilascio consentito:</translation>
     </message>
     <message>
         <source>Onto folders and between them</source>
@@ -1603,7 +1603,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;New Folder</source>
-        <translation>&amp;Nuova cartella</translation>
+        <translation>N&amp;uova cartella</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -1611,7 +1611,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation>Sposta &amp;su</translation>
+        <translation>S&amp;posta su</translation>
     </message>
     <message>
         <source>Move Do&amp;wn</source>
@@ -1619,11 +1619,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Move &amp;In</source>
-        <translation>Sposta &amp;dentro</translation>
+        <translation>Sposta de&amp;ntro</translation>
     </message>
     <message>
         <source>Move Ou&amp;t</source>
-        <translation>Sposta &amp;fuori</translation>
+        <translation>Spost&amp;a fuori</translation>
     </message>
     <message>
         <source>New folder</source>
@@ -1784,11 +1784,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>&amp;Sfoglia...</translation>
+        <translation>S&amp;foglia...</translation>
     </message>
     <message>
         <source>S&amp;tart Scan</source>
-        <translation>A&amp;vvia scansione</translation>
+        <translation>Avvia sca&amp;nsione</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -1871,7 +1871,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Black point compensation</source>
-        <translation>Compensazione del &amp;punto nero</translation>
+        <translation>Compensazione &amp;del punto nero</translation>
     </message>
     <message>
         <source>Simulate the paper</source>
@@ -1883,7 +1883,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Keep the note hidden</source>
-        <translation>&amp;Tieni nascosta la nota</translation>
+        <translation>Ti&amp;eni nascosta la nota</translation>
     </message>
     <message>
         <source>black point compensated</source>
@@ -1926,7 +1926,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Show stat&amp;us</source>
-        <translation>Mostra &amp;stato</translation>
+        <translation>&amp;Mostra stato</translation>
     </message>
     <message>
         <source>Show &amp;box &quot;Active&quot;</source>
@@ -1938,7 +1938,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Importer</source>
-        <translation>&amp;Importazione</translation>
+        <translation>Importa&amp;zione</translation>
     </message>
 </context>
 <context>
@@ -1956,7 +1956,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Protoc&amp;ol:</source>
-        <translation>P&amp;rotocollo:</translation>
+        <translation>&amp;Protocollo:</translation>
     </message>
     <message>
         <source>FTP</source>
@@ -1968,7 +1968,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problema:</translation>
+        <translation>Pro&amp;blema:</translation>
     </message>
     <message>
         <source>None</source>
@@ -1991,11 +1991,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     <name>FtpSessionPanel</name>
     <message>
         <source>What the server &amp;got:</source>
-        <translation>Che cosa ha ri&amp;cevuto il server:</translation>
+        <translation>Che cosa &amp;ha ricevuto il server:</translation>
     </message>
     <message>
         <source>Signals of t&amp;he panel:</source>
-        <translation>&amp;Segnali del pannello:</translation>
+        <translation>Segnali &amp;del pannello:</translation>
     </message>
 </context>
 <context>
@@ -2006,15 +2006,15 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>&amp;Mostra impostazioni</translation>
+        <translation>Mostra impostazio&amp;ni</translation>
     </message>
     <message>
         <source>I&amp;mport Dialog...</source>
-        <translation>Finestra di &amp;importazione...</translation>
+        <translation>&amp;Finestra di importazione...</translation>
     </message>
     <message>
         <source>E&amp;xport Dialog...</source>
-        <translation>Finestra di &amp;esportazione...</translation>
+        <translation>Finestr&amp;a di esportazione...</translation>
     </message>
     <message>
         <source>Where the jobs come from</source>
@@ -2521,11 +2521,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Lig&amp;htness:</source>
-        <translation>&amp;Luminosità:</translation>
+        <translation>Lu&amp;minosità:</translation>
     </message>
     <message>
         <source>&amp;Vertical axis:</source>
-        <translation>Asse &amp;verticale:</translation>
+        <translation>&amp;Asse verticale:</translation>
     </message>
     <message>
         <source>Upright</source>
@@ -2541,7 +2541,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Margins:</source>
-        <translation>&amp;Margini:</translation>
+        <translation>&amp;Bordi:</translation>
     </message>
     <message>
         <source> px</source>
@@ -2553,7 +2553,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Take Out</source>
-        <translation>&amp;Togli</translation>
+        <translation>To&amp;gli</translation>
     </message>
     <message>
         <source>Colours of lightness %1, with the patches of the chart</source>
@@ -2575,7 +2575,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Texts of the gallery:</source>
-        <translation>&amp;Testi della galleria:</translation>
+        <translation>Testi &amp;della galleria:</translation>
     </message>
     <message>
         <source>Texts of the gallery</source>
@@ -2618,11 +2618,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     <name>LocalServerPanel</name>
     <message>
         <source>Ser&amp;ver:</source>
-        <translation>Ser&amp;ver:</translation>
+        <translation>Se&amp;rver:</translation>
     </message>
     <message>
         <source>&amp;Fill In the Panel</source>
-        <translation>&amp;Compila il pannello</translation>
+        <translation>Compila &amp;il pannello</translation>
     </message>
     <message>
         <source>on, at %1</source>
@@ -2661,7 +2661,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>MD5 &amp;digest</source>
-        <translation>&amp;impronta MD5</translation>
+        <translation>impro&amp;nta MD5</translation>
     </message>
     <message>
         <source>&amp;plain text</source>
@@ -2763,7 +2763,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>&amp;Warning</source>
-        <translation>&amp;Avviso</translation>
+        <translation>A&amp;vviso</translation>
     </message>
     <message>
         <source>&amp;Error</source>
@@ -2775,11 +2775,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Live &amp;view:</source>
-        <translation>&amp;Vista dal vivo:</translation>
+        <translation>Vista &amp;dal vivo:</translation>
     </message>
     <message>
         <source>&amp;Open Log Window</source>
-        <translation>Apri la &amp;finestra del registro</translation>
+        <translation>Apri la finestra del &amp;registro</translation>
     </message>
     <message>
         <source>Live view of the log</source>
@@ -2834,7 +2834,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Show Splas&amp;h</source>
-        <translation>Mostra &amp;schermata di avvio</translation>
+        <translation>&amp;Mostra schermata di avvio</translation>
     </message>
     <message>
         <source>Put In a Logo</source>
@@ -2897,7 +2897,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>&amp;Mostra impostazioni</translation>
+        <translation>Mostra im&amp;postazioni</translation>
     </message>
     <message>
         <source>Dear Mia,
@@ -2924,7 +2924,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>Se&amp;curity:</source>
-        <translation>&amp;Sicurezza:</translation>
+        <translation>Sicure&amp;zza:</translation>
     </message>
     <message>
         <source>Plain</source>
@@ -2940,7 +2940,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problema:</translation>
+        <translation>Pro&amp;blema:</translation>
     </message>
     <message>
         <source>None</source>
@@ -2975,11 +2975,11 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>Open &amp;Manual</source>
-        <translation>Apri &amp;manuale</translation>
+        <translation>Apri man&amp;uale</translation>
     </message>
     <message>
         <source>Open a Missin&amp;g One</source>
-        <translation>Apri un manuale m&amp;ancante</translation>
+        <translation>Apri un manuale c&amp;he manca</translation>
     </message>
     <message>
         <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
@@ -2994,11 +2994,11 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>Fol&amp;der of the internal database:</source>
-        <translation>&amp;Cartella del database interno:</translation>
+        <translation>Cartella &amp;del database interno:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>&amp;Sfoglia...</translation>
+        <translation>S&amp;foglia...</translation>
     </message>
     <message>
         <source>Amo&amp;unt:</source>
@@ -3010,7 +3010,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>&amp;Make Table</source>
-        <translation>Crea &amp;tabella</translation>
+        <translation>&amp;Crea tabella</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -3100,15 +3100,15 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>Rows per &amp;page:</source>
-        <translation>Righe per &amp;pagina:</translation>
+        <translation>Ri&amp;ghe per pagina:</translation>
     </message>
     <message>
         <source>&amp;Remove Rows</source>
-        <translation>&amp;Rimuovi righe</translation>
+        <translation>Rim&amp;uovi righe</translation>
     </message>
     <message>
         <source>Stateme&amp;nt:</source>
-        <translation>&amp;Istruzione:</translation>
+        <translation>Istru&amp;zione:</translation>
     </message>
     <message>
         <source>A click on No. or ΔE sorts: these columns have an index.</source>
@@ -3195,7 +3195,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>Set &amp;by the Program</source>
-        <translation>Imposta dal &amp;programma</translation>
+        <translation>Imposta dal pro&amp;gramma</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -3265,7 +3265,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>&amp;Position:</source>
-        <translation>&amp;Posizione:</translation>
+        <translation>Posi&amp;zione:</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
@@ -3277,11 +3277,11 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation>&amp;Svuota</translation>
+        <translation>S&amp;vuota</translation>
     </message>
     <message>
         <source>&amp;Frame:</source>
-        <translation>C&amp;ornice:</translation>
+        <translation>Ri&amp;quadro:</translation>
     </message>
     <message>
         <source>None</source>
@@ -3324,7 +3324,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>Line &amp;Below</source>
-        <translation>Linea &amp;sotto</translation>
+        <translation>L&amp;inea sotto</translation>
     </message>
     <message>
         <source>Choose a row, and switch its line.</source>
@@ -3351,7 +3351,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>&amp;Compare Again</source>
-        <translation>&amp;Confronta di nuovo</translation>
+        <translation>Confronta &amp;di nuovo</translation>
     </message>
     <message>
         <source>Compares the chosen rows. Make the last column narrow: first the time goes, then the end of the date.</source>
@@ -3394,11 +3394,11 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>Si&amp;de by side</source>
-        <translation>&amp;Affiancati</translation>
+        <translation>A&amp;ffiancati</translation>
     </message>
     <message>
         <source>&amp;Grip width:</source>
-        <translation>&amp;Larghezza della maniglia:</translation>
+        <translation>Larg&amp;hezza della maniglia:</translation>
     </message>
     <message>
         <source> px</source>
@@ -3547,11 +3547,11 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>&amp;Open Pictures...</source>
-        <translation>&amp;Apri immagini...</translation>
+        <translation>Apri &amp;immagini...</translation>
     </message>
     <message>
         <source>Show &amp;Chart</source>
-        <translation>Mostra &amp;tavola</translation>
+        <translation>Mostra ta&amp;vola</translation>
     </message>
     <message>
         <source>Shown:</source>
@@ -3668,7 +3668,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Total i&amp;nk limit:</source>
-        <translation>&amp;Limite totale d&apos;inchiostro:</translation>
+        <translation>Li&amp;mite totale d&apos;inchiostro:</translation>
     </message>
     <message>
         <source>Delta &amp;E tolerance:</source>
@@ -3676,18 +3676,18 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Black point c&amp;ompensation</source>
-        <translation>Compensazione del punto &amp;nero</translation>
+        <translation>Compensa&amp;zione del punto nero</translation>
     </message>
 </context>
 <context>
     <name>ProgressBarSwitches</name>
     <message>
         <source>Show te&amp;xt</source>
-        <translation>Mostra &amp;testo</translation>
+        <translation>M&amp;ostra testo</translation>
     </message>
     <message>
         <source>For&amp;mat:</source>
-        <translation>&amp;Formato:</translation>
+        <translation>For&amp;mato:</translation>
     </message>
     <message>
         <source>%p stands for the percentage, %v for the value, %m for the number of steps.</source>
@@ -3695,7 +3695,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>In&amp;verted</source>
-        <translation>&amp;Invertita</translation>
+        <translation>Inve&amp;rtita</translation>
     </message>
     <message>
         <source>&amp;Upright</source>
@@ -3734,11 +3734,11 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>
-        <translation>Com&apos;è a&amp;rrivato:</translation>
+        <translation>&amp;Com&apos;è arrivato:</translation>
     </message>
     <message>
         <source>Clea&amp;r</source>
-        <translation>&amp;Svuota</translation>
+        <translation>S&amp;vuota</translation>
     </message>
     <message>
         <source>yes</source>
@@ -3761,11 +3761,11 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>&amp;Tolerance:</source>
-        <translation>&amp;Tolleranza:</translation>
+        <translation>Tolle&amp;ranza:</translation>
     </message>
     <message>
         <source>Pa&amp;irs:</source>
-        <translation>Co&amp;ppie:</translation>
+        <translation>C&amp;oppie:</translation>
     </message>
     <message>
         <source>&amp;Paper:</source>
@@ -3773,7 +3773,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>O&amp;rientation:</source>
-        <translation>&amp;Orientamento:</translation>
+        <translation>Orie&amp;ntamento:</translation>
     </message>
     <message>
         <source>CIE76</source>
@@ -3848,7 +3848,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Pri&amp;nt...</source>
-        <translation>&amp;Stampa...</translation>
+        <translation>Sta&amp;mpa...</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -3943,7 +3943,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Pa&amp;ge:</source>
-        <translation>&amp;Pagina:</translation>
+        <translation>Pa&amp;gina:</translation>
     </message>
     <message>
         <source>&amp;Zoom:</source>
@@ -4029,11 +4029,11 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>&amp;Sfoglia...</translation>
+        <translation>S&amp;foglia...</translation>
     </message>
     <message>
         <source>S&amp;tart Scan</source>
-        <translation>A&amp;vvia scansione</translation>
+        <translation>Avvia sca&amp;nsione</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -4075,7 +4075,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Si&amp;gnals of the bar: %1</source>
-        <translation>S&amp;egnali della barra: %1</translation>
+        <translation>Segnali della &amp;barra: %1</translation>
     </message>
     <message>
         <source>Signals of the bar</source>
@@ -4159,7 +4159,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Clea&amp;r</source>
-        <translation>&amp;Svuota</translation>
+        <translation>S&amp;vuota</translation>
     </message>
 </context>
 <context>
@@ -4170,11 +4170,11 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>&amp;Browse This Server...</source>
-        <translation>&amp;Sfoglia questo server...</translation>
+        <translation>Sfoglia &amp;questo server...</translation>
     </message>
     <message>
         <source>Browse the &amp;Network...</source>
-        <translation>Sfoglia la &amp;rete...</translation>
+        <translation>S&amp;foglia la rete...</translation>
     </message>
     <message>
         <source>Chosen: %1</source>
@@ -4266,7 +4266,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>&amp;Job:</source>
-        <translation>&amp;Lavoro:</translation>
+        <translation>La&amp;voro:</translation>
     </message>
     <message>
         <source>&amp;Paper:</source>
@@ -4286,7 +4286,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Tri&amp;m marks</source>
-        <translation>Crocini di &amp;taglio</translation>
+        <translation>Croci&amp;ni di taglio</translation>
     </message>
     <message>
         <source>drawn by the shipped sheet</source>
@@ -4298,7 +4298,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Print Pr&amp;oof</source>
-        <translation>&amp;Stampa prova colore</translation>
+        <translation>Stampa &amp;prova colore</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -4330,7 +4330,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Te&amp;xt as applied:</source>
-        <translation>&amp;Testo come applicato:</translation>
+        <translation>Testo come &amp;applicato:</translation>
     </message>
     <message>
         <source>Text as applied</source>
@@ -4369,7 +4369,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>&amp;Turn All On</source>
-        <translation>&amp;Accendi tutti</translation>
+        <translation>Accen&amp;di tutti</translation>
     </message>
     <message>
         <source>on</source>
@@ -4408,7 +4408,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
-        <translation>&amp;Salva</translation>
+        <translation>Sal&amp;va</translation>
     </message>
     <message>
         <source>L&amp;oad</source>
@@ -4554,11 +4554,11 @@ Sullo schermo: %4</translation>
     <name>UpdateSessionPanel</name>
     <message>
         <source>What the service &amp;got:</source>
-        <translation>Che cosa ha ri&amp;cevuto il servizio:</translation>
+        <translation>Che cosa &amp;ha ricevuto il servizio:</translation>
     </message>
     <message>
         <source>Signals of t&amp;he dialog:</source>
-        <translation>&amp;Segnali della finestra:</translation>
+        <translation>Segnali &amp;della finestra:</translation>
     </message>
 </context>
 <context>
@@ -4569,11 +4569,11 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Loa&amp;d Settings</source>
-        <translation>Ca&amp;rica impostazioni</translation>
+        <translation>Carica &amp;impostazioni</translation>
     </message>
     <message>
         <source>Save Se&amp;ttings</source>
-        <translation>Sa&amp;lva impostazioni</translation>
+        <translation>Salva i&amp;mpostazioni</translation>
     </message>
     <message>
         <source>Stored settings:</source>
@@ -4699,7 +4699,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>&amp;valueChanged: %1</source>
-        <translation>&amp;valueChanged: %1</translation>
+        <translation>valueC&amp;hanged: %1</translation>
     </message>
     <message>
         <source>Emissions of valueChanged</source>
@@ -4718,7 +4718,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>&amp;Gallery Settings</source>
-        <translation>&amp;Impostazioni della galleria</translation>
+        <translation>Impostazioni della &amp;galleria</translation>
     </message>
     <message>
         <source>JSO&amp;N File...</source>
@@ -4726,7 +4726,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>As&amp;k the Service</source>
-        <translation>Interroga il &amp;servizio</translation>
+        <translation>&amp;Interroga il servizio</translation>
     </message>
 </context>
 <context>
@@ -4798,7 +4798,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Other com&amp;puters may connect</source>
-        <translation>Altri com&amp;puter possono connettersi</translation>
+        <translation>Altri co&amp;mputer possono connettersi</translation>
     </message>
     <message>
         <source>Without it the server listens on 127.0.0.1 only, and no other link of the panel leads to it.</source>
@@ -4806,7 +4806,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Visi&amp;t the Page</source>
-        <translation>&amp;Visita la pagina</translation>
+        <translation>Visita la pa&amp;gina</translation>
     </message>
     <message>
         <source>the box &quot;Enabled&quot; of the panel is not checked</source>
@@ -4821,11 +4821,11 @@ Sullo schermo: %4</translation>
     <name>WebSessionPanel</name>
     <message>
         <source>What the server &amp;got:</source>
-        <translation>Che cosa ha ri&amp;cevuto il server:</translation>
+        <translation>Che cosa ha ricevuto &amp;il server:</translation>
     </message>
     <message>
         <source>&amp;Own visits:</source>
-        <translation>Visite p&amp;roprie:</translation>
+        <translation>Visite &amp;proprie:</translation>
     </message>
 </context>
 <context>
@@ -4844,15 +4844,15 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Fill In E&amp;xample</source>
-        <translation>&amp;Inserisci esempio</translation>
+        <translation>I&amp;nserisci esempio</translation>
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>&amp;Mostra impostazioni</translation>
+        <translation>Mostra imposta&amp;zioni</translation>
     </message>
     <message>
         <source>Sav&amp;e</source>
-        <translation>&amp;Salva</translation>
+        <translation>S&amp;alva</translation>
     </message>
     <message>
         <source>Loa&amp;d</source>
@@ -4981,19 +4981,19 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>&amp;Keep State</source>
-        <translation>&amp;Conserva stato</translation>
+        <translation>Conse&amp;rva stato</translation>
     </message>
     <message>
         <source>&amp;Disarrange</source>
-        <translation>&amp;Scompiglia</translation>
+        <translation>Sco&amp;mpiglia</translation>
     </message>
     <message>
         <source>&amp;Restore State</source>
-        <translation>&amp;Ripristina stato</translation>
+        <translation>Ri&amp;pristina stato</translation>
     </message>
     <message>
         <source>K&amp;ept state:</source>
-        <translation>Stato conser&amp;vato:</translation>
+        <translation>Stato co&amp;nservato:</translation>
     </message>
     <message>
         <source>Kept state</source>
@@ -5023,15 +5023,15 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Bro&amp;wse...</source>
-        <translation>&amp;Sfoglia...</translation>
+        <translation>Sfo&amp;glia...</translation>
     </message>
     <message>
         <source>&amp;Read Files</source>
-        <translation>&amp;Leggi file</translation>
+        <translation>L&amp;eggi file</translation>
     </message>
     <message>
         <source>Canc&amp;el</source>
-        <translation>&amp;Annulla</translation>
+        <translation>Ann&amp;ulla</translation>
     </message>
     <message>
         <source>Read the Files of a Folder</source>
@@ -5039,7 +5039,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>T&amp;hreads:</source>
-        <translation>&amp;Thread:</translation>
+        <translation>T&amp;hread:</translation>
     </message>
     <message>
         <source>Progress of the workers</source>

@@ -110,10 +110,11 @@ QList<Message> messagesInSources(const QString &folder)
     return done ? messagesOf(file) : QList<Message>();
 }
 
-/// The places for arguments, each once, in order.
+/// The places for arguments, each once, in order. The number of a text with forms for numbers is
+/// not among them: "one page" tells it in words.
 QStringList placesIn(const QString &text)
 {
-    static const QRegularExpression pattern("%L?\\d{1,2}|%n|\\{[a-z]+\\}");
+    static const QRegularExpression pattern("%L?\\d{1,2}|\\{[a-z]+\\}");
     QStringList places;
     for (auto match = pattern.globalMatch(text); match.hasNext();) {
         places.append(match.next().captured());
