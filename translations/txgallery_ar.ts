@@ -28,11 +28,11 @@
     </message>
     <message>
         <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
-        <translation>تُفتح الإشعارات من نسخة في المجلد «%1».</translation>
+        <translation>تُفتح الإشعارات من نسخة في المجلد «‎%1».</translation>
     </message>
     <message>
         <source>There are no notices at &quot;%1&quot;.</source>
-        <translation>لا توجد إشعارات في «%1».</translation>
+        <translation>لا توجد إشعارات في «‎%1».</translation>
     </message>
 </context>
 <context>
@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>&amp;Update Weights</source>
-        <translation>تحديث الأوزان (&amp;U)</translation>
+        <translation>تحديث سُمك الخط (&amp;U)</translation>
     </message>
     <message>
         <source>Not passed</source>
@@ -246,7 +246,7 @@
     </message>
     <message>
         <source>CIELAB under D50 for the 2° observer, shown in sRGB</source>
-        <translation>CIELAB تحت D50 لمراقب 2°، معروضة في sRGB</translation>
+        <translation>قيم CIELAB تحت D50 لمراقب 2°، معروضة في sRGB</translation>
     </message>
     <message>
         <source>Differences of the 24 patches</source>
@@ -278,15 +278,15 @@
     </message>
     <message>
         <source>%1 of each patch, tolerance %2</source>
-        <translation>%1 لكل رقعة، التفاوت المسموح %2</translation>
+        <translation>الفرق %1 لكل رقعة، التفاوت المسموح %2</translation>
     </message>
     <message>
         <source>ΔE*ab: CIE76, the distance in CIELAB. CIE 15, Colorimetry.</source>
-        <translation>ΔE*ab: CIE76، المسافة في CIELAB. CIE 15, Colorimetry.</translation>
+        <translation>‏ΔE*ab: CIE76، المسافة في CIELAB. CIE 15, Colorimetry.</translation>
     </message>
     <message>
         <source>ΔE00: CIEDE2000, all weights 1. CIE 142:2001; ISO/CIE 11664-6.</source>
-        <translation>ΔE00: CIEDE2000، جميع الأوزان 1. CIE 142:2001; ISO/CIE 11664-6.</translation>
+        <translation>‏ΔE00: CIEDE2000، جميع الأوزان 1. CIE 142:2001; ISO/CIE 11664-6.</translation>
     </message>
     <message>
         <source>G. Sharma, W. Wu, E. N. Dalal: The CIEDE2000 color-difference formula. Color Research and Application 30 (2005).</source>
@@ -297,7 +297,7 @@
     <name>ChartReportTables</name>
     <message>
         <source>No.</source>
-        <translation>الرقم</translation>
+        <translation>رقم</translation>
     </message>
     <message>
         <source>Patch</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is no rendering intent.</source>
-        <translation>«%1» ليس هدف عرض.</translation>
+        <translation>‏«%1» ليس هدف عرض.</translation>
     </message>
     <message>
         <source>Perceptual</source>
@@ -528,7 +528,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; cannot be read.</source>
-        <translation>تتعذر قراءة المجلد «%1».</translation>
+        <translation>تتعذر قراءة المجلد «‎%1».</translation>
     </message>
     <message>
         <source>Nothing can be duplicated.</source>
@@ -536,11 +536,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be imported.</source>
-        <translation>يتعذر استيراد «%1».</translation>
+        <translation>يتعذر استيراد «‎%1».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be written.</source>
-        <translation>تتعذر كتابة «%1».</translation>
+        <translation>تتعذر كتابة «‎%1».</translation>
     </message>
     <message>
         <source>That is the folder of the presets themselves.</source>
@@ -568,7 +568,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
-        <translation>يتعذر إنشاء المجلد «%1».</translation>
+        <translation>يتعذر إنشاء المجلد «‎%1».</translation>
     </message>
 </context>
 <context>
@@ -654,7 +654,7 @@
     </message>
     <message>
         <source>Files in &quot;%1&quot; that are no presets, and are left as they are: %2</source>
-        <translation>ملفات في «%1» ليست إعدادات مسبقة، وتُترك كما هي: %2</translation>
+        <translation>ملفات في «‎%1» ليست إعدادات مسبقة، وتُترك كما هي: ‎%2</translation>
     </message>
     <message>
         <source>Save Preset</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether &quot;Remember&quot; is checked.</source>
-        <translation>مع هذا الخيار يستدعي الحوار البرنامج عند كل «موافق» إذا كان الحقلان مملوءين؛ ويسأل البرنامج بنفسه هل خانة «تذكّر» محددة.</translation>
+        <translation>مع هذا الخيار يستدعي الحوار البرنامج عند كل «حسنًا» إذا كان الحقلان مملوءين؛ ويسأل البرنامج بنفسه هل خانة «تذكّر» محددة.</translation>
     </message>
     <message>
         <source>Not asked yet.</source>
@@ -1091,19 +1091,19 @@
     </message>
     <message>
         <source>Check &quot;Enabled&quot;, and all active drives in the list are connected, your own too. A connected drive is a link in &quot;%1&quot;. The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
-        <translation>حدّد «مُمكّن» لتوصيل جميع محركات الأقراص النشطة في القائمة، ومنها محركات أقراصك. محرك الأقراص المتصل رابط في «%1». لا يعرف المحرِّر أي منفذ: فمحرك الأقراص الذي تُدخله أو تحرّره يقود إلى المنفذ القياسي 445، لا إلى الخادم أعلاه. تُزال محركات الأقراص المضافة عند إنهاء المعرض؛ أما الذي حرّرته فهو لك ويبقى.</translation>
+        <translation>حدّد «مُمكّن» لتوصيل جميع محركات الأقراص النشطة في القائمة، ومنها محركات أقراصك. محرك الأقراص المتصل رابط في «‎%1». لا يعرف المحرِّر أي منفذ: فمحرك الأقراص الذي تُدخله أو تحرّره يقود إلى المنفذ القياسي 445، لا إلى الخادم أعلاه. تُزال محركات الأقراص المضافة عند إنهاء المعرض؛ أما الذي حرّرته فهو لك ويبقى.</translation>
     </message>
     <message>
         <source>Added: %1.</source>
-        <translation>تمت الإضافة: %1.</translation>
+        <translation>تمت الإضافة: ‎%1‎.</translation>
     </message>
     <message>
         <source>Added: %1. Check &quot;Enabled&quot; to have it connected.</source>
-        <translation>تمت الإضافة: %1. حدّد «مُمكّن» لتوصيله.</translation>
+        <translation>تمت الإضافة: ‎%1‎. حدّد «مُمكّن» لتوصيله.</translation>
     </message>
     <message>
         <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with &quot;-&quot;.</source>
-        <translation>%1 أصبح لك الآن، ويقود إلى المنفذ %2: لا يعرف المحرِّر أي منفذ. أزِله بالزر «-».</translation>
+        <translation>محرك الأقراص ‎%1‎ أصبح لك الآن، ويقود إلى المنفذ %2: لا يعرف المحرِّر أي منفذ. أزِله بالزر «-».</translation>
     </message>
     <message>
         <source>All drive letters are taken.</source>
@@ -1111,11 +1111,11 @@
     </message>
     <message>
         <source>No drive has been connected yet: there is no folder &quot;%1&quot;.</source>
-        <translation>لم يوصَّل أي محرك أقراص بعد: لا يوجد مجلد «%1».</translation>
+        <translation>لم يوصَّل أي محرك أقراص بعد: لا يوجد مجلد «‎%1».</translation>
     </message>
     <message>
         <source>No program shows the folder &quot;%1&quot;.</source>
-        <translation>لا يوجد برنامج يعرض المجلد «%1».</translation>
+        <translation>لا يوجد برنامج يعرض المجلد «‎%1».</translation>
     </message>
 </context>
 <context>
@@ -1140,15 +1140,15 @@
     <name>EmbeddingPanel</name>
     <message>
         <source>OK was clicked, and the dialog stays in the page.</source>
-        <translation>نُقر «موافق»، ويبقى الحوار في الصفحة.</translation>
+        <translation>نُقر «حسنًا»، ويبقى الحوار في الصفحة.</translation>
     </message>
     <message>
         <source>OK closed the window; its colour was taken over.</source>
-        <translation>أغلق «موافق» النافذة؛ وأُخذ لونها.</translation>
+        <translation>أغلق «حسنًا» النافذة؛ وأُخذ لونها.</translation>
     </message>
     <message>
         <source>Cancel closed the window; the colour stays as it was.</source>
-        <translation>أغلق «إلغاء» النافذة؛ ويبقى اللون كما كان.</translation>
+        <translation>أغلق «ألغِ» النافذة؛ ويبقى اللون كما كان.</translation>
     </message>
     <message>
         <source>A dialog in two places</source>
@@ -1343,7 +1343,7 @@
     </message>
     <message>
         <source>Without a title the domain stands in</source>
-        <translation>بلا عنوان يحل المجال محله</translation>
+        <translation>بلا عنوان يحل مجال الخطأ محله</translation>
     </message>
     <message>
         <source>&amp;Description:</source>
@@ -1351,7 +1351,7 @@
     </message>
     <message>
         <source>D&amp;omain:</source>
-        <translation>المجال (&amp;O):</translation>
+        <translation>مجال الخطأ (&amp;O):</translation>
     </message>
     <message>
         <source>N&amp;ested errors:</source>
@@ -1475,15 +1475,15 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Accepted</source>
-        <translation>مقبولة</translation>
+        <translation>قبول</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation>مرفوضة</translation>
+        <translation>رفض</translation>
     </message>
     <message>
         <source>Accepted after %1 seconds</source>
-        <translation>مقبولة بعد %1 ث</translation>
+        <translation>قبول بعد %1 ث</translation>
     </message>
     <message>
         <source>Answer that breaks off</source>
@@ -1517,7 +1517,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Reading %1</source>
-        <translation>تجري قراءة %1</translation>
+        <translation>تجري قراءة ‎%1</translation>
     </message>
 </context>
 <context>
@@ -1709,15 +1709,15 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Broken link: %1</source>
-        <translation>رابط معطوب: %1</translation>
+        <translation>رابط معطوب: ‎%1</translation>
     </message>
     <message>
         <source>Very long name: %1</source>
-        <translation>اسم طويل جدًا: %1</translation>
+        <translation>اسم طويل جدًا: ‎%1</translation>
     </message>
     <message>
         <source>No right to read: %1</source>
-        <translation>لا صلاحية للقراءة: %1</translation>
+        <translation>لا صلاحية للقراءة: ‎%1</translation>
     </message>
     <message>
         <source>No right to list the folder.</source>
@@ -1749,7 +1749,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Folder %1</source>
-        <translation>المجلد %1</translation>
+        <translation>المجلد ‎%1</translation>
     </message>
     <message>
         <source>Scan finished after %1 s</source>
@@ -1902,12 +1902,12 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>There are no fonts in %1</source>
-        <translation>لا توجد خطوط في %1</translation>
+        <translation>لا توجد خطوط في ‎%1</translation>
     </message>
     <message>
         <source>%1, from %2</source>
         <comment>family and file</comment>
-        <translation>%1، من %2</translation>
+        <translation>الخط %1 من الملف ‎%2</translation>
     </message>
     <message>
         <source>This file is no font.</source>
@@ -1938,7 +1938,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>&amp;Importer</source>
-        <translation>استيراد (&amp;I)</translation>
+        <translation>للاستيراد (&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -2107,7 +2107,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     <name>GalleryGrabber</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
-        <translation>يتعذر إنشاء المجلد «%1».</translation>
+        <translation>يتعذر إنشاء المجلد «‎%1».</translation>
     </message>
     <message>
         <source>The page &quot;%1&quot; was not ready after %2 seconds.</source>
@@ -2115,7 +2115,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>The picture &quot;%1&quot; cannot be written: %2.</source>
-        <translation>تتعذر كتابة الصورة «%1»: %2.</translation>
+        <translation>تتعذر كتابة الصورة «‎%1»: %2.</translation>
     </message>
 </context>
 <context>
@@ -2222,7 +2222,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>FTP</source>
-        <translation>FTP</translation>
+        <translation>‏FTP</translation>
     </message>
     <message>
         <source>Database</source>
@@ -2307,7 +2307,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>S&amp;hare</source>
-        <translation>الحصة (&amp;H)</translation>
+        <translation>ملاءمة الحصة (&amp;H)</translation>
     </message>
     <message>
         <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
@@ -2420,31 +2420,31 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>&quot;%1&quot; is not known.</source>
-        <translation>«%1» غير معروف.</translation>
+        <translation>‏«%1» غير معروف.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no text.</source>
-        <translation>«%1» ليس نصًا.</translation>
+        <translation>‏«%1» ليس نصًا.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither true nor false.</source>
-        <translation>«%1» ليس true ولا false.</translation>
+        <translation>‏«%1» ليس true ولا false.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number from %2 to %3.</source>
-        <translation>«%1» ليس عددًا من %2 إلى %3.</translation>
+        <translation>‏«%1» ليس عددًا من %2 إلى %3.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no whole number.</source>
-        <translation>«%1» ليس عددًا صحيحًا.</translation>
+        <translation>‏«%1» ليس عددًا صحيحًا.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no object.</source>
-        <translation>«%1» ليس كائنًا.</translation>
+        <translation>‏«%1» ليس كائنًا.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing.</source>
-        <translation>«%1» مفقود.</translation>
+        <translation>‏«%1» مفقود.</translation>
     </message>
 </context>
 <context>
@@ -2470,11 +2470,11 @@ It tells success only if part of the answer still comes in while it reads. An an
     <name>LabColourDialog</name>
     <message>
         <source>On screen %1</source>
-        <translation>على الشاشة %1</translation>
+        <translation>على الشاشة ‎%1</translation>
     </message>
     <message>
         <source>Beyond the screen; shown as %1</source>
-        <translation>خارج نطاق الشاشة؛ يُعرض بالقيمة %1</translation>
+        <translation>خارج نطاق الشاشة؛ يُعرض بالقيمة ‎%1</translation>
     </message>
     <message>
         <source>Mix a Colour</source>
@@ -2513,11 +2513,11 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>b*: blue to yellow</source>
-        <translation>b*‎: من الأزرق إلى الأصفر</translation>
+        <translation>‏b*‎: من الأزرق إلى الأصفر</translation>
     </message>
     <message>
         <source>a*: green to red</source>
-        <translation>a*‎: من الأخضر إلى الأحمر</translation>
+        <translation>‏a*‎: من الأخضر إلى الأحمر</translation>
     </message>
     <message>
         <source>Lig&amp;htness:</source>
@@ -2529,7 +2529,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Upright</source>
-        <translation>قائم</translation>
+        <translation>بلا تدوير</translation>
     </message>
     <message>
         <source>Clockwise</source>
@@ -2587,12 +2587,12 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>There are no translations in %1</source>
-        <translation>لا توجد ترجمات في %1</translation>
+        <translation>لا توجد ترجمات في ‎%1</translation>
     </message>
     <message>
         <source>%1 in %2</source>
         <comment>files in folder</comment>
-        <translation>%1 في %2</translation>
+        <translation>الملفات في ‎%2‏: %1</translation>
     </message>
     <message>
         <source>Result 0: the file was copied.</source>
@@ -2673,7 +2673,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>For&amp;get</source>
-        <translation>نسيان (&amp;G)</translation>
+        <translation>محو (&amp;G)</translation>
     </message>
     <message>
         <source>Loc&amp;k...</source>
@@ -2717,7 +2717,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>The password is forgotten.</source>
-        <translation>نُسيت كلمة المرور.</translation>
+        <translation>مُحيت كلمة المرور.</translation>
     </message>
     <message>
         <source>The stored password has been replaced by its digest.</source>
@@ -2725,7 +2725,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>A digest cannot be turned back into the password: it is forgotten.</source>
-        <translation>لا يمكن استرجاع كلمة المرور من الملخّص: لقد نُسيت.</translation>
+        <translation>لا يمكن استرجاع كلمة المرور من الملخّص: لقد مُحيت.</translation>
     </message>
     <message>
         <source>Unlocked with the right password.</source>
@@ -2842,11 +2842,11 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Remove the installed logo &quot;%1&quot;?</source>
-        <translation>هل تريد إزالة الشعار المثبّت «%1»؟</translation>
+        <translation>هل تريد إزالة الشعار المثبّت «‎%1»؟</translation>
     </message>
     <message>
         <source>Remove the copy &quot;%1&quot;?</source>
-        <translation>هل تريد إزالة النسخة «%1»؟</translation>
+        <translation>هل تريد إزالة النسخة «‎%1»؟</translation>
     </message>
     <message>
         <source>Click to close.</source>
@@ -3092,7 +3092,7 @@ Press room</source>
     </message>
     <message>
         <source>ΔE ab&amp;ove:</source>
-        <translation>ΔE أعلى من (&amp;O):</translation>
+        <translation>قيمة ΔE أعلى من (&amp;O):</translation>
     </message>
     <message>
         <source>all</source>
@@ -3116,7 +3116,7 @@ Press room</source>
     </message>
     <message>
         <source>The database refuses: %1</source>
-        <translation>ترفض قاعدة البيانات: %1</translation>
+        <translation>ترفض قاعدة البيانات: ‎%1</translation>
     </message>
     <message>
         <source>Answered in %1 ms.</source>
@@ -3131,19 +3131,19 @@ Press room</source>
     <name>OemLogo</name>
     <message>
         <source>The logo &quot;%1&quot; cannot be written: %2.</source>
-        <translation>تتعذر كتابة الشعار «%1»: %2.</translation>
+        <translation>تتعذر كتابة الشعار «‎%1»: %2.</translation>
     </message>
     <message>
         <source>No copy is kept: the folder &quot;%1&quot; cannot be written.</source>
-        <translation>لا تُحفظ أي نسخة: تتعذر الكتابة في المجلد «%1».</translation>
+        <translation>لا تُحفظ أي نسخة: تتعذر الكتابة في المجلد «‎%1».</translation>
     </message>
     <message>
         <source>No copy is kept: there is no folder &quot;%1&quot;.</source>
-        <translation>لا تُحفظ أي نسخة: لا يوجد مجلد «%1».</translation>
+        <translation>لا تُحفظ أي نسخة: لا يوجد مجلد «‎%1».</translation>
     </message>
     <message>
         <source>The logo &quot;%1&quot; cannot be removed: %2.</source>
-        <translation>تتعذر إزالة الشعار «%1»: %2.</translation>
+        <translation>تتعذر إزالة الشعار «‎%1»: %2.</translation>
     </message>
 </context>
 <context>
@@ -3412,7 +3412,7 @@ On the screen: %4</source>
         <translation>L* %1
 a* %2
 b* %3
-على الشاشة: %4</translation>
+على الشاشة: ‎%4</translation>
     </message>
 </context>
 <context>
@@ -3524,15 +3524,15 @@ b* %3
     </message>
     <message>
         <source>&quot;%1&quot; is no file.</source>
-        <translation>«%1» ليس ملفًا.</translation>
+        <translation>‏«‎%1» ليس ملفًا.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be read: %2.</source>
-        <translation>تتعذر قراءة «%1»: %2.</translation>
+        <translation>تتعذر قراءة «‎%1»: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
-        <translation>«%1» كبيرة جدًا: %2 × %3 بكسل، وتحتاج إلى أكثر من %4 ميغابايت من الذاكرة.</translation>
+        <translation>‏«‎%1» كبيرة جدًا: %2 × %3 بكسل، وتحتاج إلى أكثر من %4 ميغابايت من الذاكرة.</translation>
     </message>
 </context>
 <context>
@@ -3593,7 +3593,7 @@ b* %3
     </message>
     <message>
         <source>No plug-in was found. Plug-ins are looked for in the folder &quot;%1&quot;; put one there and start the gallery again.</source>
-        <translation>لم يُعثر على أي ملحق. يُبحث عن الملحقات في المجلد «%1»؛ ضع ملحقًا هناك وأعد تشغيل المعرض.</translation>
+        <translation>لم يُعثر على أي ملحق. يُبحث عن الملحقات في المجلد «‎%1»؛ ضع ملحقًا هناك وأعد تشغيل المعرض.</translation>
     </message>
     <message>
         <source>&amp;Plug-ins found:</source>
@@ -3730,7 +3730,7 @@ b* %3
     </message>
     <message>
         <source>Login</source>
-        <translation>تسجيل الدخول</translation>
+        <translation>دخول</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>
@@ -3861,12 +3861,12 @@ b* %3
     <message numerus="yes">
         <source>%n page(s) in &quot;%1&quot;</source>
         <translation>
-            <numerusform>لا صفحات في «%1»</numerusform>
-            <numerusform>صفحة واحدة في «%1»</numerusform>
-            <numerusform>صفحتان في «%1»</numerusform>
-            <numerusform>%n صفحات في «%1»</numerusform>
-            <numerusform>%n صفحة في «%1»</numerusform>
-            <numerusform>%n صفحة في «%1»</numerusform>
+            <numerusform>لا صفحات في «‎%1»</numerusform>
+            <numerusform>صفحة واحدة في «‎%1»</numerusform>
+            <numerusform>صفحتان في «‎%1»</numerusform>
+            <numerusform>%n صفحات في «‎%1»</numerusform>
+            <numerusform>%n صفحة في «‎%1»</numerusform>
+            <numerusform>%n صفحة في «‎%1»</numerusform>
         </translation>
     </message>
     <message>
@@ -4182,7 +4182,7 @@ b* %3
     </message>
     <message>
         <source>Chosen: %1</source>
-        <translation>المختار: %1</translation>
+        <translation>المختار: ‎%1</translation>
     </message>
     <message>
         <source>Nothing was chosen.</source>
@@ -4286,7 +4286,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Copies of %1:</source>
-        <translation>نسخ %1 (&amp;C):</translation>
+        <translation>النسخ من أصل %1 (&amp;C):</translation>
     </message>
     <message>
         <source>Tri&amp;m marks</source>
@@ -4294,7 +4294,7 @@ b* %3
     </message>
     <message>
         <source>drawn by the shipped sheet</source>
-        <translation>مرسوم بالورقة المرفقة</translation>
+        <translation>ترسمه ورقة الأنماط المرفقة</translation>
     </message>
     <message>
         <source>Copies made</source>
@@ -4318,11 +4318,11 @@ b* %3
     </message>
     <message>
         <source>S&amp;heet:</source>
-        <translation>الورقة (&amp;H):</translation>
+        <translation>ورقة الأنماط (&amp;H):</translation>
     </message>
     <message>
         <source>Sheet</source>
-        <translation>الورقة</translation>
+        <translation>ورقة الأنماط</translation>
     </message>
     <message>
         <source>None</source>
@@ -4408,7 +4408,7 @@ b* %3
     </message>
     <message>
         <source>Offer &amp;hours</source>
-        <translation>إتاحة الساعات (&amp;H)</translation>
+        <translation>إتاحة «كل ساعة» (&amp;H)</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
@@ -4462,15 +4462,15 @@ b* %3
     </message>
     <message>
         <source>&quot;Download and Install&quot; writes the file to &quot;%1&quot;, which a check makes where it is missing, &quot;Download&quot; to the folder that you choose. The file is a harmless text. &quot;Install&quot; opens it with the desktop&apos;s program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: &quot;Show in Folder&quot; shows the file.</source>
-        <translation>يكتب «تنزيل وتثبيت» الملف في «%1»، الذي ينشئه البحث إن لم يكن موجودًا، ويكتبه «تنزيل» في المجلد الذي تختاره. الملف نص غير ضار. ويفتحه «تثبيت» ببرنامج النصوص في النظام ويغلق جميع نوافذ المعرض. وإن لم يوجد برنامج كهذا فلا يحدث شيء: يعرض «عرض في المجلد» الملف.</translation>
+        <translation>يكتب «تنزيل وتثبيت» الملف في «‎%1»، الذي ينشئه البحث إن لم يكن موجودًا، ويكتبه «تنزيل» في المجلد الذي تختاره. الملف نص غير ضار. ويفتحه «تثبيت» ببرنامج النصوص في النظام ويغلق جميع نوافذ المعرض. وإن لم يوجد برنامج كهذا فلا يحدث شيء: يعرض «عرض في المجلد» الملف.</translation>
     </message>
     <message>
         <source>There is no folder &quot;%1&quot;.</source>
-        <translation>لا يوجد مجلد «%1».</translation>
+        <translation>لا يوجد مجلد «‎%1».</translation>
     </message>
     <message>
         <source>No program shows the folder &quot;%1&quot;.</source>
-        <translation>لا يوجد برنامج يعرض المجلد «%1».</translation>
+        <translation>لا يوجد برنامج يعرض المجلد «‎%1».</translation>
     </message>
     <message>
         <source>Update</source>
@@ -4620,11 +4620,11 @@ b* %3
     </message>
     <message>
         <source>Open &amp;Two Levels</source>
-        <translation>فتح مستويين (&amp;T)</translation>
+        <translation>توسيع مستويين (&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>إغلاق (&amp;C)</translation>
+        <translation>طي (&amp;C)</translation>
     </message>
     <message>
         <source>Values: %1. Characters of the line: %2. %3</source>
@@ -4636,11 +4636,11 @@ b* %3
     </message>
     <message>
         <source>Opened in %1 ms.</source>
-        <translation>فُتحت خلال %1 ملي ثانية.</translation>
+        <translation>تم التوسيع خلال %1 ملي ثانية.</translation>
     </message>
     <message>
         <source>Closed in %1 ms.</source>
-        <translation>أُغلقت خلال %1 ملي ثانية.</translation>
+        <translation>تم الطي خلال %1 ملي ثانية.</translation>
     </message>
 </context>
 <context>
@@ -4757,11 +4757,11 @@ b* %3
     </message>
     <message>
         <source>File &quot;%1&quot;</source>
-        <translation>الملف «%1»</translation>
+        <translation>الملف «‎%1»</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is not shown.</source>
-        <translation>لا يُعرض الملف «%1».</translation>
+        <translation>لا يُعرض الملف «‎%1».</translation>
     </message>
     <message>
         <source>The update service is off. Its switch turns it on.</source>
@@ -4780,7 +4780,7 @@ b* %3
     <name>WebCertificate</name>
     <message>
         <source>the folder %1 cannot be made</source>
-        <translation>يتعذر إنشاء المجلد %1</translation>
+        <translation>يتعذر إنشاء المجلد ‎%1</translation>
     </message>
 </context>
 <context>
@@ -4829,7 +4829,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Own visits:</source>
-        <translation>الزيارات الذاتية (&amp;O):</translation>
+        <translation>زيارات المعرض نفسه (&amp;O):</translation>
     </message>
 </context>
 <context>
@@ -4884,7 +4884,7 @@ b* %3
     </message>
     <message>
         <source>A certificate for localhost and 127.0.0.1 is in %1. A browser warns of it.</source>
-        <translation>توجد شهادة لـ localhost و127.0.0.1 في %1. وسيحذّر المتصفح منها.</translation>
+        <translation>توجد شهادة لـ localhost و127.0.0.1 في ‎%1. وسيحذّر المتصفح منها.</translation>
     </message>
     <message>
         <source>No certificate was made: %1</source>
@@ -5019,7 +5019,7 @@ b* %3
     <name>WorkersPanel</name>
     <message>
         <source>Several workers, one delegate</source>
-        <translation>عدة عمّال ومفوّض واحد</translation>
+        <translation>عدة خيوط عمل ومفوّض واحد</translation>
     </message>
     <message>
         <source>Files &amp;in:</source>
@@ -5047,11 +5047,11 @@ b* %3
     </message>
     <message>
         <source>Progress of the workers</source>
-        <translation>تقدم العمّال</translation>
+        <translation>تقدم خيوط العمل</translation>
     </message>
     <message>
         <source>Reports of the workers</source>
-        <translation>بلاغات العمّال</translation>
+        <translation>بلاغات خيوط العمل</translation>
     </message>
     <message>
         <source>Paintings of the bar</source>
@@ -5067,11 +5067,11 @@ b* %3
     </message>
     <message>
         <source>%1 in %2 s; copies of other files: %3, not readable: %4.</source>
-        <translation>%1 خلال %2 ث؛ نسخ من ملفات أخرى: %3، غير قابلة للقراءة: %4.</translation>
+        <translation>قُرئ %1 خلال %2 ث؛ نسخ من ملفات أخرى: %3، غير قابلة للقراءة: %4.</translation>
     </message>
     <message>
         <source>Cancelled after %1 in %2 s; copies of other files: %3, not readable: %4.</source>
-        <translation>أُلغي بعد %1 خلال %2 ث؛ نسخ من ملفات أخرى: %3، غير قابلة للقراءة: %4.</translation>
+        <translation>أُلغي بعد قراءة %1 خلال %2 ث؛ نسخ من ملفات أخرى: %3، غير قابلة للقراءة: %4.</translation>
     </message>
 </context>
 </TS>

@@ -211,7 +211,7 @@
     <name>ChartReport</name>
     <message>
         <source>Colour comparison of the 24-patch chart</source>
-        <translation>Comparación de color de la carta de 24 parches</translation>
+        <translation>Comparación de la carta de 24 parches</translation>
     </message>
     <message>
         <source>TXGUICommon Gallery</source>
@@ -852,7 +852,7 @@
     <name>DatabasePage</name>
     <message>
         <source>The panel for the place of a program&apos;s data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
-        <translation>El panel para el lugar de los datos de un programa: su base de datos interna o un servidor. Encienda un servidor MariaDB real en este equipo, elija qué debe fallar y pase las páginas de un millón de mediciones en cualquiera de las dos bases de datos.</translation>
+        <translation>El panel para el lugar de los datos de un programa: su base de datos interna o un servidor. Active un servidor MariaDB real en este equipo, elija qué debe fallar y pase las páginas de un millón de mediciones en cualquiera de las dos bases de datos.</translation>
     </message>
     <message>
         <source>Database panel</source>
@@ -1133,7 +1133,7 @@
     <name>DrivesPage</name>
     <message>
         <source>Drives of file servers that a program keeps connected. Switch on a real Samba server on this computer, choose what is to go wrong, add its drives to the list, and see how they stand.</source>
-        <translation>Unidades de servidores de archivos que un programa mantiene conectadas. Encienda un servidor Samba real en este equipo, elija qué debe fallar, añada sus unidades a la lista y vea en qué estado están.</translation>
+        <translation>Unidades de servidores de archivos que un programa mantiene conectadas. Active un servidor Samba real en este equipo, elija qué debe fallar, añada sus unidades a la lista y vea en qué estado están.</translation>
     </message>
 </context>
 <context>
@@ -1452,7 +1452,7 @@
     <message>
         <source>A note goes to port 5050 of this computer, and nowhere else; the service takes it there while it is on. The form waits for the answer as long as it takes, and nothing can be pressed meanwhile.
 It tells success only if part of the answer still comes in while it reads. An answer that has come whole, as from this computer, is not looked at: the form then says that the service may be unavailable, for an accepted note too. What has arrived stands in the session.</source>
-        <translation>Un mensaje va al puerto 5050 de este equipo y a ningún otro sitio; allí lo recoge el servicio mientras está encendido. El formulario espera la respuesta el tiempo que haga falta, y entretanto no se puede pulsar nada.
+        <translation>Un mensaje va al puerto 5050 de este equipo y a ningún otro sitio; allí lo recoge el servicio mientras está activo. El formulario espera la respuesta el tiempo que haga falta, y entretanto no se puede pulsar nada.
 Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee. Una respuesta que ya ha llegado entera, como la de este equipo, no la mira: entonces el formulario dice que el servicio quizá no esté disponible, también con un mensaje aceptado. Lo que ha llegado figura en la sesión.</translation>
     </message>
 </context>
@@ -1460,7 +1460,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     <name>FeedbackPage</name>
     <message>
         <source>The form with which a user writes to the makers of a program. Switch on a real feedback service on this computer, choose what it answers, and submit a note.</source>
-        <translation>El formulario con el que un usuario escribe a los autores de un programa. Encienda un servicio de comentarios real en este equipo, elija qué responde y envíe un mensaje.</translation>
+        <translation>El formulario con el que un usuario escribe a los autores de un programa. Active un servicio de comentarios real en este equipo, elija qué responde y envíe un mensaje.</translation>
     </message>
 </context>
 <context>
@@ -1587,11 +1587,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Onto folders and between them</source>
-        <translation>Sobre las carpetas y entre ellas</translation>
+        <translation>Sobre y entre carpetas</translation>
     </message>
     <message>
         <source>Onto folders only</source>
-        <translation>Solo sobre las carpetas</translation>
+        <translation>Solo sobre carpetas</translation>
     </message>
     <message>
         <source>Between folders only</source>
@@ -1741,7 +1741,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Changed last: %1</source>
-        <translation>Último cambio: %1</translation>
+        <translation>Archivo más reciente: %1</translation>
     </message>
     <message>
         <source>Further findings are not listed.</source>
@@ -1820,7 +1820,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Changed last</source>
-        <translation>Último cambio</translation>
+        <translation>Más reciente</translation>
     </message>
     <message>
         <source>Largest folders</source>
@@ -1938,14 +1938,14 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>&amp;Importer</source>
-        <translation>I&amp;mportador</translation>
+        <translation>I&amp;mportación</translation>
     </message>
 </context>
 <context>
     <name>FtpPage</name>
     <message>
         <source>The panel for an FTP or SFTP server to import from or to export to. Switch on a real server on this computer, choose what is to go wrong, and check the connection.</source>
-        <translation>El panel para un servidor FTP o SFTP desde el que importar o al que exportar. Encienda un servidor real en este equipo, elija qué debe fallar y compruebe la conexión.</translation>
+        <translation>El panel para un servidor FTP o SFTP desde el que importar o al que exportar. Active un servidor real en este equipo, elija qué debe fallar y compruebe la conexión.</translation>
     </message>
 </context>
 <context>
@@ -2234,7 +2234,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Trigger and encoding</source>
-        <translation>Desencadenador y codificación</translation>
+        <translation>Disparador y codificación</translation>
     </message>
     <message>
         <source>Drives</source>
@@ -2270,7 +2270,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Splash and About</source>
-        <translation>Imagen de inicio y Acerca de</translation>
+        <translation>Inicio y Acerca de</translation>
     </message>
 </context>
 <context>
@@ -2529,15 +2529,15 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Upright</source>
-        <translation>Sin girar</translation>
+        <translation>Sin giro</translation>
     </message>
     <message>
         <source>Clockwise</source>
-        <translation>En sentido horario</translation>
+        <translation>Giro horario</translation>
     </message>
     <message>
         <source>Counter-clockwise</source>
-        <translation>En sentido antihorario</translation>
+        <translation>Giro antihorario</translation>
     </message>
     <message>
         <source>&amp;Margins:</source>
@@ -2626,11 +2626,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>on, at %1</source>
-        <translation>encendido, en %1</translation>
+        <translation>activo, en %1</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>apagado</translation>
+        <translation>inactivo</translation>
     </message>
     <message>
         <source>The server did not start: %1</source>
@@ -2693,11 +2693,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Locked with the stored password.</source>
-        <translation>Bloqueado con la contraseña guardada.</translation>
+        <translation>Bloqueada con la contraseña guardada.</translation>
     </message>
     <message>
         <source>Locked with a new password, which is now stored.</source>
-        <translation>Bloqueado con una contraseña nueva, que ahora está guardada.</translation>
+        <translation>Bloqueada con una contraseña nueva, que ahora está guardada.</translation>
     </message>
     <message>
         <source>Cancelled: nothing is locked, and what is stored stays.</source>
@@ -2729,7 +2729,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Unlocked with the right password.</source>
-        <translation>Desbloqueado con la contraseña correcta.</translation>
+        <translation>Desbloqueada con la contraseña correcta.</translation>
     </message>
     <message>
         <source>The work area is open.</source>
@@ -2751,7 +2751,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     <name>LogPage</name>
     <message>
         <source>The log of this very program, live: Qt&apos;s own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
-        <translation>El registro de este mismo programa, en directo: mensajes de Qt, líneas que el programa imprime y un trabajo que escribe entradas con subentradas desde varios hilos.</translation>
+        <translation>El registro de este mismo programa, en directo: mensajes de Qt, líneas que el programa emite y un trabajo que escribe entradas con subentradas desde varios hilos.</translation>
     </message>
     <message>
         <source>Write a line</source>
@@ -2885,7 +2885,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     <name>MailPage</name>
     <message>
         <source>The panel for the settings of outgoing mail. Switch on a real mail server on this computer, choose what is to go wrong, and send a test mail to it.</source>
-        <translation>El panel para los ajustes del correo saliente. Encienda un servidor de correo real en este equipo, elija qué debe fallar y envíele un correo de prueba.</translation>
+        <translation>El panel para los ajustes del correo saliente. Active un servidor de correo real en este equipo, elija qué debe fallar y envíele un correo de prueba.</translation>
     </message>
     <message>
         <source>Mail panel</source>
@@ -3412,7 +3412,7 @@ On the screen: %4</source>
         <translation>L* %1
 a* %2
 b* %3
-En la pantalla: %4</translation>
+En pantalla: %4</translation>
     </message>
 </context>
 <context>
@@ -3497,7 +3497,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Overprints</source>
-        <translation>Sobreimpresiones</translation>
+        <translation>Superpuestos</translation>
     </message>
     <message>
         <source>Inks</source>
@@ -3555,7 +3555,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Shown:</source>
-        <translation>Se muestra:</translation>
+        <translation>Se muestran:</translation>
     </message>
 </context>
 <context>
@@ -3730,7 +3730,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation>Inicio de sesión</translation>
+        <translation>Usuario</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>
@@ -4357,7 +4357,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>%1 pixels</source>
-        <translation>%1 píxeles</translation>
+        <translation>%1 px</translation>
     </message>
     <message>
         <source>Switch of %1 pixels</source>
@@ -4369,15 +4369,15 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>&amp;Turn All On</source>
-        <translation>Encender &amp;todos</translation>
+        <translation>Activar &amp;todos</translation>
     </message>
     <message>
         <source>on</source>
-        <translation>encendido</translation>
+        <translation>activo</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>apagado</translation>
+        <translation>inactivo</translation>
     </message>
     <message>
         <source>clicked: 0</source>
@@ -4400,7 +4400,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Trigger event</source>
-        <translation>Evento desencadenador</translation>
+        <translation>Evento disparador</translation>
     </message>
     <message>
         <source>Offer &amp;hours</source>
@@ -4488,7 +4488,7 @@ En la pantalla: %4</translation>
     <name>UpdatePage</name>
     <message>
         <source>The dialog in which a user looks for a newer release, downloads and installs it. Switch on a real update service on this computer, choose what it offers, and check for updates.</source>
-        <translation>El diálogo en el que un usuario busca una versión más reciente, la descarga y la instala. Encienda un servicio de actualizaciones real en este equipo, elija qué ofrece y busque actualizaciones.</translation>
+        <translation>El diálogo en el que un usuario busca una versión más reciente, la descarga y la instala. Active un servicio de actualizaciones real en este equipo, elija qué ofrece y busque actualizaciones.</translation>
     </message>
 </context>
 <context>
@@ -4616,11 +4616,11 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Open &amp;Two Levels</source>
-        <translation>Abrir &amp;dos niveles</translation>
+        <translation>Expandir &amp;dos niveles</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>&amp;Cerrar</translation>
+        <translation>&amp;Contraer</translation>
     </message>
     <message>
         <source>Values: %1. Characters of the line: %2. %3</source>
@@ -4632,11 +4632,11 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Opened in %1 ms.</source>
-        <translation>Abierto en %1 ms.</translation>
+        <translation>Expandido en %1 ms.</translation>
     </message>
     <message>
         <source>Closed in %1 ms.</source>
-        <translation>Cerrado en %1 ms.</translation>
+        <translation>Contraído en %1 ms.</translation>
     </message>
 </context>
 <context>
@@ -4761,7 +4761,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>The update service is off. Its switch turns it on.</source>
-        <translation>El servicio de actualizaciones está apagado. Su interruptor lo enciende.</translation>
+        <translation>El servicio de actualizaciones está inactivo. Su interruptor lo activa.</translation>
     </message>
     <message>
         <source>Waiting for the answer...</source>
@@ -4783,7 +4783,7 @@ En la pantalla: %4</translation>
     <name>WebInterfacePage</name>
     <message>
         <source>The panel for the web interface of a program, beside a real web server that serves a page of the gallery. Only this computer reaches it, at the link with 127.0.0.1; the other links work once other computers may connect.</source>
-        <translation>El panel para la interfaz web de un programa, junto a un servidor web real que sirve una página de la galería. Solo este equipo accede a ella, en el enlace con 127.0.0.1; los demás enlaces funcionan cuando se permite la conexión de otros equipos.</translation>
+        <translation>El panel para la interfaz web de un programa, junto a un servidor web real que sirve una página de la galería. Solo este equipo accede a él, por el enlace con 127.0.0.1; los demás enlaces funcionan cuando se permite la conexión de otros equipos.</translation>
     </message>
     <message>
         <source>Web interface panel</source>
@@ -4810,7 +4810,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>the box &quot;Enabled&quot; of the panel is not checked</source>
-        <translation>la casilla «Habilitado» del panel no está marcada</translation>
+        <translation>la casilla «Habilitada» del panel no está marcada</translation>
     </message>
     <message>
         <source>HTTPS needs a certificate file</source>
@@ -5047,7 +5047,7 @@ En la pantalla: %4</translation>
     </message>
     <message>
         <source>Reports of the workers</source>
-        <translation>Informes de los hilos de trabajo</translation>
+        <translation>Informes de los hilos</translation>
     </message>
     <message>
         <source>Paintings of the bar</source>

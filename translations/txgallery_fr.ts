@@ -211,7 +211,7 @@
     <name>ChartReport</name>
     <message>
         <source>Colour comparison of the 24-patch chart</source>
-        <translation>Comparaison des couleurs de la charte à 24 plages</translation>
+        <translation>Comparaison de la charte à 24 plages</translation>
     </message>
     <message>
         <source>TXGUICommon Gallery</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Not asked yet.</source>
-        <translation>Pas encore demandé.</translation>
+        <translation>Pas encore demandés.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -898,7 +898,7 @@
     </message>
     <message>
         <source>S&amp;how Settings</source>
-        <translation>A&amp;fficher les paramètres</translation>
+        <translation>V&amp;oir les paramètres</translation>
     </message>
     <message>
         <source>Sav&amp;e</source>
@@ -1587,15 +1587,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Onto folders and between them</source>
-        <translation>Sur les dossiers et entre eux</translation>
+        <translation>Sur et entre dossiers</translation>
     </message>
     <message>
         <source>Onto folders only</source>
-        <translation>Sur les dossiers seulement</translation>
+        <translation>Sur les dossiers</translation>
     </message>
     <message>
         <source>Between folders only</source>
-        <translation>Entre les dossiers seulement</translation>
+        <translation>Entre les dossiers</translation>
     </message>
     <message>
         <source>Nothing</source>
@@ -1721,7 +1721,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>No right to list the folder.</source>
-        <translation>Pas de droit de lister le dossier.</translation>
+        <translation>Pas de droit de lister le contenu du dossier.</translation>
     </message>
     <message>
         <source>The folder does not exist.</source>
@@ -1741,7 +1741,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Changed last: %1</source>
-        <translation>Dernière modification&#xa0;: %1</translation>
+        <translation>Modifié en dernier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Further findings are not listed.</source>
@@ -1820,11 +1820,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Changed last</source>
-        <translation>Dernière modification</translation>
+        <translation>Plus récent</translation>
     </message>
     <message>
         <source>Largest folders</source>
-        <translation>Plus gros dossiers</translation>
+        <translation>Dossiers les plus volumineux</translation>
     </message>
     <message>
         <source>%1 folders, %2 files, %3 so far</source>
@@ -1926,7 +1926,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Show stat&amp;us</source>
-        <translation>Afficher l’é&amp;tat</translation>
+        <translation>A&amp;fficher l’état</translation>
     </message>
     <message>
         <source>Show &amp;box &quot;Active&quot;</source>
@@ -2006,11 +2006,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>A&amp;fficher les paramètres</translation>
+        <translation>Voir les para&amp;mètres</translation>
     </message>
     <message>
         <source>I&amp;mport Dialog...</source>
-        <translation>Dialogue d’i&amp;mportation...</translation>
+        <translation>Dialogue d’impor&amp;tation...</translation>
     </message>
     <message>
         <source>E&amp;xport Dialog...</source>
@@ -2155,7 +2155,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Light</source>
-        <translation>Clair</translation>
+        <translation>Claire</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -2529,7 +2529,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Upright</source>
-        <translation>Droit</translation>
+        <translation>Sans rotation</translation>
     </message>
     <message>
         <source>Clockwise</source>
@@ -2897,7 +2897,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>A&amp;fficher les paramètres</translation>
+        <translation>Voir les para&amp;mètres</translation>
     </message>
     <message>
         <source>Dear Mia,
@@ -3096,7 +3096,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>all</source>
-        <translation>tous</translation>
+        <translation>toutes</translation>
     </message>
     <message>
         <source>Rows per &amp;page:</source>
@@ -3285,7 +3285,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>None</source>
-        <translation>Aucun</translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Box</source>
@@ -3493,7 +3493,7 @@ b* %3
     </message>
     <message>
         <source>Primaries</source>
-        <translation>Couleurs primaires</translation>
+        <translation>Primaires</translation>
     </message>
     <message>
         <source>Overprints</source>
@@ -3555,7 +3555,7 @@ b* %3
     </message>
     <message>
         <source>Shown:</source>
-        <translation>Affiché&#xa0;:</translation>
+        <translation>Affichées&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -3668,7 +3668,7 @@ b* %3
     </message>
     <message>
         <source>Total i&amp;nk limit:</source>
-        <translation>Limite d’en&amp;crage totale&#xa0;:</translation>
+        <translation>Limite d’en&amp;crage total&#xa0;:</translation>
     </message>
     <message>
         <source>Delta &amp;E tolerance:</source>
@@ -3695,11 +3695,11 @@ b* %3
     </message>
     <message>
         <source>In&amp;verted</source>
-        <translation>In&amp;versé</translation>
+        <translation>In&amp;versée</translation>
     </message>
     <message>
         <source>&amp;Upright</source>
-        <translation>Verti&amp;cal</translation>
+        <translation>Verti&amp;cale</translation>
     </message>
 </context>
 <context>
@@ -3730,7 +3730,7 @@ b* %3
     </message>
     <message>
         <source>Login</source>
-        <translation>Identification</translation>
+        <translation>Compte</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>
@@ -4290,7 +4290,7 @@ b* %3
     </message>
     <message>
         <source>drawn by the shipped sheet</source>
-        <translation>dessin de la feuille de style fournie</translation>
+        <translation>dessiné par la feuille de style fournie</translation>
     </message>
     <message>
         <source>Copies made</source>
@@ -4357,7 +4357,7 @@ b* %3
     </message>
     <message>
         <source>%1 pixels</source>
-        <translation>%1 pixels</translation>
+        <translation>%1 px</translation>
     </message>
     <message>
         <source>Switch of %1 pixels</source>
@@ -4392,11 +4392,11 @@ b* %3
     <name>TriggerPanel</name>
     <message>
         <source>The event never comes.</source>
-        <translation>L’événement ne vient jamais.</translation>
+        <translation>L’événement ne survient jamais.</translation>
     </message>
     <message>
         <source>By the settings that are kept, the event comes next on:</source>
-        <translation>D’après les paramètres conservés, l’événement revient la prochaine fois le&#xa0;:</translation>
+        <translation>D’après les paramètres enregistrés, l’événement aura lieu le&#xa0;:</translation>
     </message>
     <message>
         <source>Trigger event</source>
@@ -4527,7 +4527,7 @@ b* %3
     </message>
     <message>
         <source>Release of this build</source>
-        <translation>Version présente</translation>
+        <translation>Cette version</translation>
     </message>
     <message>
         <source>Older release</source>
@@ -4810,7 +4810,7 @@ b* %3
     </message>
     <message>
         <source>the box &quot;Enabled&quot; of the panel is not checked</source>
-        <translation>la case «&#xa0;Activé&#xa0;» du panneau n’est pas cochée</translation>
+        <translation>la case «&#xa0;Activée&#xa0;» du panneau n’est pas cochée</translation>
     </message>
     <message>
         <source>HTTPS needs a certificate file</source>
@@ -4844,11 +4844,11 @@ b* %3
     </message>
     <message>
         <source>Fill In E&amp;xample</source>
-        <translation>Remplir avec l’e&amp;xemple</translation>
+        <translation>Insérer l’e&amp;xemple</translation>
     </message>
     <message>
         <source>Sho&amp;w Settings</source>
-        <translation>A&amp;fficher les paramètres</translation>
+        <translation>Voir les para&amp;mètres</translation>
     </message>
     <message>
         <source>Sav&amp;e</source>

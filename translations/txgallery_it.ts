@@ -50,11 +50,11 @@
     </message>
     <message>
         <source>Proof, bold title</source>
-        <translation>Prova colore, titolo in grassetto</translation>
+        <translation>Prova, titolo grassetto</translation>
     </message>
     <message>
         <source>Proof, bold font</source>
-        <translation>Prova colore, carattere grassetto</translation>
+        <translation>Prova, testo grassetto</translation>
     </message>
     <message>
         <source>Add R&amp;esult</source>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Yellow green</source>
-        <translation>Giallo verde</translation>
+        <translation>Verde giallastro</translation>
     </message>
     <message>
         <source>Orange yellow</source>
@@ -211,7 +211,7 @@
     <name>ChartReport</name>
     <message>
         <source>Colour comparison of the 24-patch chart</source>
-        <translation>Confronto dei colori della tavola da 24 tasselli</translation>
+        <translation>Confronto della tavola da 24 tasselli</translation>
     </message>
     <message>
         <source>TXGUICommon Gallery</source>
@@ -654,7 +654,7 @@
     </message>
     <message>
         <source>Files in &quot;%1&quot; that are no presets, and are left as they are: %2</source>
-        <translation>File in «%1» che non sono preimpostazioni e restano come sono: %2</translation>
+        <translation>File in «%1» che non sono preimpostazioni e restano invariati: %2</translation>
     </message>
     <message>
         <source>Save Preset</source>
@@ -756,7 +756,7 @@
     </message>
     <message>
         <source>Focus lost: %1</source>
-        <translation>Fuoco perso: %1</translation>
+        <translation>Focus perso: %1</translation>
     </message>
     <message>
         <source>Measured under</source>
@@ -1007,7 +1007,7 @@
     <name>DifferenceLegend</name>
     <message>
         <source>Colour difference by CIEDE2000. Up to %1: close.</source>
-        <translation>Differenza di colore secondo CIEDE2000. Fino a %1: vicini.</translation>
+        <translation>Differenza di colore secondo CIEDE2000. Fino a %1: piccola.</translation>
     </message>
     <message>
         <source>Colours of the difference</source>
@@ -1144,7 +1144,7 @@
     </message>
     <message>
         <source>OK closed the window; its colour was taken over.</source>
-        <translation>OK ha chiuso la finestra; il suo colore è stato ripreso.</translation>
+        <translation>OK ha chiuso la finestra; il suo colore è stato adottato.</translation>
     </message>
     <message>
         <source>Cancel closed the window; the colour stays as it was.</source>
@@ -1264,7 +1264,7 @@
     </message>
     <message>
         <source>nested errors folded away</source>
-        <translation>errori annidati ripiegati</translation>
+        <translation>errori annidati compressi</translation>
     </message>
     <message>
         <source>&amp;Information</source>
@@ -1460,7 +1460,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     <name>FeedbackPage</name>
     <message>
         <source>The form with which a user writes to the makers of a program. Switch on a real feedback service on this computer, choose what it answers, and submit a note.</source>
-        <translation>Il modulo con cui un utente scrive ai produttori di un programma. Attivare un vero servizio di feedback su questo computer, scegliere che cosa risponde e inviare un messaggio.</translation>
+        <translation>Il modulo con cui un utente scrive agli autori di un programma. Attivare un vero servizio di feedback su questo computer, scegliere che cosa risponde e inviare un messaggio.</translation>
     </message>
 </context>
 <context>
@@ -1587,7 +1587,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Onto folders and between them</source>
-        <translation>Sulle cartelle e tra di esse</translation>
+        <translation>Su e tra le cartelle</translation>
     </message>
     <message>
         <source>Onto folders only</source>
@@ -1599,7 +1599,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Nothing</source>
-        <translation>Niente</translation>
+        <translation>In nessun punto</translation>
     </message>
     <message>
         <source>&amp;New Folder</source>
@@ -1721,7 +1721,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>No right to list the folder.</source>
-        <translation>Nessun diritto di elencare la cartella.</translation>
+        <translation>Nessun diritto di elencare il contenuto della cartella.</translation>
     </message>
     <message>
         <source>The folder does not exist.</source>
@@ -1741,7 +1741,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Changed last: %1</source>
-        <translation>Ultima modifica: %1</translation>
+        <translation>File più recente: %1</translation>
     </message>
     <message>
         <source>Further findings are not listed.</source>
@@ -1820,7 +1820,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Changed last</source>
-        <translation>Ultima modifica</translation>
+        <translation>Più recente</translation>
     </message>
     <message>
         <source>Largest folders</source>
@@ -2060,7 +2060,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Save a picture of the named page as this PNG file, or of every page into this folder, print the paths and exit.</source>
-        <translation>Salva un&apos;immagine della pagina indicata in questo file PNG, o di ogni pagina in questa cartella, stampa i percorsi ed esce.</translation>
+        <translation>Salva un&apos;immagine della pagina indicata in questo file PNG, o di ogni pagina in questa cartella, mostra i percorsi ed esce.</translation>
     </message>
     <message>
         <source>Widget style: %1.</source>
@@ -2529,15 +2529,15 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Upright</source>
-        <translation>Dritto</translation>
+        <translation>Senza rotazione</translation>
     </message>
     <message>
         <source>Clockwise</source>
-        <translation>In senso orario</translation>
+        <translation>Senso orario</translation>
     </message>
     <message>
         <source>Counter-clockwise</source>
-        <translation>In senso antiorario</translation>
+        <translation>Senso antiorario</translation>
     </message>
     <message>
         <source>&amp;Margins:</source>
@@ -2751,7 +2751,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     <name>LogPage</name>
     <message>
         <source>The log of this very program, live: Qt&apos;s own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
-        <translation>Il registro di questo stesso programma, dal vivo: i messaggi di Qt, le righe che il programma stampa, e un lavoro che scrive voci con sottovoci da più thread.</translation>
+        <translation>Il registro di questo stesso programma, dal vivo: i messaggi di Qt, le righe emesse dal programma, e un lavoro che scrive voci con sottovoci da più thread.</translation>
     </message>
     <message>
         <source>Write a line</source>
@@ -3285,11 +3285,11 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>None</source>
-        <translation>Nessuna</translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>Box</source>
-        <translation>Riquadro</translation>
+        <translation>Scatola</translation>
     </message>
     <message>
         <source>Panel</source>
@@ -3398,7 +3398,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>&amp;Grip width:</source>
-        <translation>Larg&amp;hezza della maniglia:</translation>
+        <translation>Larg&amp;hezza maniglia:</translation>
     </message>
     <message>
         <source> px</source>
@@ -3412,7 +3412,7 @@ On the screen: %4</source>
         <translation>L* %1
 a* %2
 b* %3
-Sullo schermo: %4</translation>
+Schermo: %4</translation>
     </message>
 </context>
 <context>
@@ -3730,7 +3730,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation>Accesso</translation>
+        <translation>Utente</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>
@@ -3840,7 +3840,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Output</source>
-        <translation>Uscita</translation>
+        <translation>Output</translation>
     </message>
     <message>
         <source>&amp;Export PDF...</source>
@@ -4140,7 +4140,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>The service has said nothing for %1 seconds.</source>
-        <translation>Il servizio non dà segni da %1 secondi.</translation>
+        <translation>Il servizio non ha inviato nulla per %1 secondi.</translation>
     </message>
     <message>
         <source>The service has answered with HTTP status %1.</source>
@@ -4616,11 +4616,11 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Open &amp;Two Levels</source>
-        <translation>Apri &amp;due livelli</translation>
+        <translation>Espandi &amp;due livelli</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>&amp;Chiudi</translation>
+        <translation>&amp;Comprimi</translation>
     </message>
     <message>
         <source>Values: %1. Characters of the line: %2. %3</source>
@@ -4632,11 +4632,11 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Opened in %1 ms.</source>
-        <translation>Aperto in %1 ms.</translation>
+        <translation>Espanso in %1 ms.</translation>
     </message>
     <message>
         <source>Closed in %1 ms.</source>
-        <translation>Chiuso in %1 ms.</translation>
+        <translation>Compresso in %1 ms.</translation>
     </message>
 </context>
 <context>
@@ -4683,7 +4683,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Total ink coverage</source>
-        <translation>Copertura totale d&apos;inchiostro</translation>
+        <translation>Inchiostro totale</translation>
     </message>
     <message>
         <source>bare paper</source>
@@ -4695,7 +4695,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>Total ink coverage, disabled</source>
-        <translation>Copertura totale d&apos;inchiostro, disabilitata</translation>
+        <translation>Inchiostro totale, disabilitato</translation>
     </message>
     <message>
         <source>&amp;valueChanged: %1</source>
@@ -4707,7 +4707,7 @@ Sullo schermo: %4</translation>
     </message>
     <message>
         <source>A value typed into the box goes to the slider and comes back, so one edit tells of itself more than once. The wheel changes nothing: it scrolls the page.</source>
-        <translation>Un valore digitato nella casella va al cursore e ritorna, perciò una sola modifica si segnala più di una volta. La rotellina non cambia nulla: scorre la pagina.</translation>
+        <translation>Un valore digitato nella casella va al cursore e ritorna, perciò una sola modifica si segnala più di una volta. La rotellina non cambia nulla: fa scorrere la pagina.</translation>
     </message>
 </context>
 <context>
@@ -4783,7 +4783,7 @@ Sullo schermo: %4</translation>
     <name>WebInterfacePage</name>
     <message>
         <source>The panel for the web interface of a program, beside a real web server that serves a page of the gallery. Only this computer reaches it, at the link with 127.0.0.1; the other links work once other computers may connect.</source>
-        <translation>Il pannello per l&apos;interfaccia web di un programma, accanto a un vero server web che fornisce una pagina della galleria. Solo questo computer lo raggiunge, al collegamento con 127.0.0.1; gli altri collegamenti funzionano quando altri computer possono connettersi.</translation>
+        <translation>Il pannello per l&apos;interfaccia web di un programma, accanto a un vero server web che fornisce una pagina della galleria. Solo questo computer lo raggiunge, tramite il collegamento con 127.0.0.1; gli altri collegamenti funzionano quando altri computer possono connettersi.</translation>
     </message>
     <message>
         <source>Web interface panel</source>

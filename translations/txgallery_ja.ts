@@ -5,7 +5,7 @@
     <name>AboutPage</name>
     <message>
         <source>The picture that a program shows while it starts, which a partner can replace by a logo, and the window that tells what the program is.</source>
-        <translation>プログラムの起動中に表示され、パートナーがロゴに置き換えられる画像と、プログラムの情報を示すウィンドウです。</translation>
+        <translation>プログラムの起動中に表示される画像(パートナーは自社のロゴに置き換えられます)と、プログラムの情報を示すウィンドウです。</translation>
     </message>
 </context>
 <context>
@@ -681,7 +681,7 @@
     <name>ColourProfileCheck</name>
     <message>
         <source>%1 bytes by the header, %2 in the file.</source>
-        <translation>ヘッダーでは%1バイト、ファイルは%2バイトです。</translation>
+        <translation>ヘッダーでは%1バイト、実際は%2バイトです。</translation>
     </message>
     <message>
         <source>The signature is &quot;%1&quot; instead of &quot;acsp&quot;.</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>Ask for &amp;Credentials...</source>
-        <translation>資格情報を尋ねる(&amp;C)...</translation>
+        <translation>資格情報の入力を求める(&amp;C)...</translation>
     </message>
     <message>
         <source>Offer to r&amp;emember</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Not asked yet.</source>
-        <translation>まだ尋ねていません。</translation>
+        <translation>まだ入力を求めていません。</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -906,7 +906,7 @@
     </message>
     <message>
         <source>As&amp;k...</source>
-        <translation>尋ねる(&amp;K)...</translation>
+        <translation>保存場所を尋ねる(&amp;K)...</translation>
     </message>
     <message>
         <source>Settings of the database</source>
@@ -1907,7 +1907,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     <message>
         <source>%1, from %2</source>
         <comment>family and file</comment>
-        <translation>%1、%2から</translation>
+        <translation>%1 (ファイル: %2)</translation>
     </message>
     <message>
         <source>This file is no font.</source>
@@ -2033,7 +2033,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>with Qt %1</source>
-        <translation>Qt %1使用</translation>
+        <translation>Qt %1を使用</translation>
     </message>
 </context>
 <context>
@@ -2303,7 +2303,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>The whole picture in each zone, also when the window changes</source>
-        <translation>各領域に画像全体を表示します。ウィンドウが変わっても保たれます</translation>
+        <translation>各領域に画像全体を表示します。ウィンドウのサイズが変わっても保たれます</translation>
     </message>
     <message>
         <source>S&amp;hare</source>
@@ -2311,7 +2311,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
-        <translation>各領域に割り当てる幅の分: 画像が2つなら半分ずつ。ウィンドウが変わっても保たれます</translation>
+        <translation>各領域に割り当てられた幅に合わせます。画像が2つなら半分ずつで、ウィンドウのサイズが変わっても保たれます</translation>
     </message>
     <message>
         <source>1&amp;00 %</source>
@@ -2592,7 +2592,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     <message>
         <source>%1 in %2</source>
         <comment>files in folder</comment>
-        <translation>%2の%1</translation>
+        <translation>%2内: %1</translation>
     </message>
     <message>
         <source>Result 0: the file was copied.</source>
@@ -3730,7 +3730,7 @@ b* %3
     </message>
     <message>
         <source>Login</source>
-        <translation>ログイン</translation>
+        <translation>認証</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>
@@ -4281,7 +4281,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Copies of %1:</source>
-        <translation>%1の部数(&amp;C):</translation>
+        <translation>部数(最大%1)(&amp;C):</translation>
     </message>
     <message>
         <source>Tri&amp;m marks</source>
@@ -4289,7 +4289,7 @@ b* %3
     </message>
     <message>
         <source>drawn by the shipped sheet</source>
-        <translation>付属のシートによる描画</translation>
+        <translation>付属のスタイルシートで描画</translation>
     </message>
     <message>
         <source>Copies made</source>
@@ -4313,11 +4313,11 @@ b* %3
     </message>
     <message>
         <source>S&amp;heet:</source>
-        <translation>シート(&amp;H):</translation>
+        <translation>スタイルシート(&amp;H):</translation>
     </message>
     <message>
         <source>Sheet</source>
-        <translation>シート</translation>
+        <translation>スタイルシート</translation>
     </message>
     <message>
         <source>None</source>
@@ -4380,11 +4380,11 @@ b* %3
     </message>
     <message>
         <source>clicked: 0</source>
-        <translation>クリック: 0</translation>
+        <translation>クリック数: 0</translation>
     </message>
     <message>
         <source>clicked: %1, last by %2 pixels: %3</source>
-        <translation>クリック: %1、最後は%2ピクセル: %3</translation>
+        <translation>クリック数: %1、最後は%2ピクセルのスイッチ: %3</translation>
     </message>
 </context>
 <context>
@@ -4403,7 +4403,7 @@ b* %3
     </message>
     <message>
         <source>Offer &amp;hours</source>
-        <translation>時刻の選択肢を表示(&amp;H)</translation>
+        <translation>「毎時」を選択可能にする(&amp;H)</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
@@ -4615,11 +4615,11 @@ b* %3
     </message>
     <message>
         <source>Open &amp;Two Levels</source>
-        <translation>2階層を開く(&amp;T)</translation>
+        <translation>2階層を展開(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>閉じる(&amp;C)</translation>
+        <translation>折りたたむ(&amp;C)</translation>
     </message>
     <message>
         <source>Values: %1. Characters of the line: %2. %3</source>
@@ -4631,11 +4631,11 @@ b* %3
     </message>
     <message>
         <source>Opened in %1 ms.</source>
-        <translation>%1ミリ秒で開きました。</translation>
+        <translation>%1ミリ秒で展開しました。</translation>
     </message>
     <message>
         <source>Closed in %1 ms.</source>
-        <translation>%1ミリ秒で閉じました。</translation>
+        <translation>%1ミリ秒で折りたたみました。</translation>
     </message>
 </context>
 <context>
@@ -4824,7 +4824,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Own visits:</source>
-        <translation>自分のアクセス(&amp;O):</translation>
+        <translation>ギャラリー自身のアクセス(&amp;O):</translation>
     </message>
 </context>
 <context>
@@ -4984,7 +4984,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Disarrange</source>
-        <translation>配置を乱す(&amp;D)</translation>
+        <translation>配置を崩す(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Restore State</source>
@@ -5046,27 +5046,27 @@ b* %3
     </message>
     <message>
         <source>Reports of the workers</source>
-        <translation>ワーカーからの報告</translation>
+        <translation>ワーカーの報告数</translation>
     </message>
     <message>
         <source>Paintings of the bar</source>
-        <translation>バーの描画</translation>
+        <translation>バーの描画回数</translation>
     </message>
     <message>
         <source>Files read</source>
-        <translation>読み取ったファイル</translation>
+        <translation>読み取ったファイル数</translation>
     </message>
     <message>
         <source>Read in a second</source>
-        <translation>1秒あたりの読み取り</translation>
+        <translation>1秒あたりの読み取り量</translation>
     </message>
     <message>
         <source>%1 in %2 s; copies of other files: %3, not readable: %4.</source>
-        <translation>%2秒で%1、ほかのファイルのコピー: %3、読み取り不可: %4。</translation>
+        <translation>%2秒で%1を読み取りました。ほかのファイルのコピー: %3、読み取り不可: %4。</translation>
     </message>
     <message>
         <source>Cancelled after %1 in %2 s; copies of other files: %3, not readable: %4.</source>
-        <translation>%2秒、%1でキャンセル、ほかのファイルのコピー: %3、読み取り不可: %4。</translation>
+        <translation>%2秒で%1を読み取った後にキャンセルしました。ほかのファイルのコピー: %3、読み取り不可: %4。</translation>
     </message>
 </context>
 </TS>

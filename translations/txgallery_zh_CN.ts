@@ -12,7 +12,7 @@
     <name>AboutWindowPanel</name>
     <message>
         <source>About window</source>
-        <translation>关于窗口</translation>
+        <translation>“关于”窗口</translation>
     </message>
     <message>
         <source>With the &amp;version of Qt</source>
@@ -20,7 +20,7 @@
     </message>
     <message>
         <source>Open About &amp;Window</source>
-        <translation>打开关于窗口(&amp;W)</translation>
+        <translation>打开“关于”窗口(&amp;W)</translation>
     </message>
     <message>
         <source>Open Legal &amp;Notices</source>
@@ -852,7 +852,7 @@
     <name>DatabasePage</name>
     <message>
         <source>The panel for the place of a program&apos;s data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
-        <translation>设置程序数据存放位置的面板：内部数据库或服务器。您可以在此计算机上打开一个真实的 MariaDB 服务器，选择要发生的故障，并在任一数据库中翻阅一百万条测量。</translation>
+        <translation>设置程序数据存放位置的面板：内部数据库或服务器。您可以在此计算机上打开一个真实的 MariaDB 服务器，选择要发生的故障，并在任一数据库中翻阅一百万条测量数据。</translation>
     </message>
     <message>
         <source>Database panel</source>
@@ -914,7 +914,7 @@
     </message>
     <message>
         <source>Where to Keep the Measurements</source>
-        <translation>测量的存放位置</translation>
+        <translation>测量数据的存放位置</translation>
     </message>
     <message>
         <source>As they stand in the panel, whether they work or not.</source>
@@ -1319,7 +1319,7 @@
     </message>
     <message>
         <source>Compose an error</source>
-        <translation>编写错误</translation>
+        <translation>构造一个错误</translation>
     </message>
     <message>
         <source>E&amp;xample:</source>
@@ -1343,7 +1343,7 @@
     </message>
     <message>
         <source>Without a title the domain stands in</source>
-        <translation>没有标题时以域代替</translation>
+        <translation>没有标题时以错误域代替</translation>
     </message>
     <message>
         <source>&amp;Description:</source>
@@ -1351,7 +1351,7 @@
     </message>
     <message>
         <source>D&amp;omain:</source>
-        <translation>域(&amp;O)：</translation>
+        <translation>错误域(&amp;O)：</translation>
     </message>
     <message>
         <source>N&amp;ested errors:</source>
@@ -1883,7 +1883,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>&amp;Keep the note hidden</source>
-        <translation>隐藏提示(&amp;K)</translation>
+        <translation>保持提示隐藏(&amp;K)</translation>
     </message>
     <message>
         <source>black point compensated</source>
@@ -1938,7 +1938,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>&amp;Importer</source>
-        <translation>导入(&amp;I)</translation>
+        <translation>用于导入(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -2270,7 +2270,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Splash and About</source>
-        <translation>启动画面和关于</translation>
+        <translation>启动画面和“关于”</translation>
     </message>
 </context>
 <context>
@@ -2311,7 +2311,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
-        <translation>每个区域所占的宽度：两张图片时各占一半，窗口变化时亦然</translation>
+        <translation>按每个区域所占的宽度显示：两张图片时各占一半，窗口变化时亦然</translation>
     </message>
     <message>
         <source>1&amp;00 %</source>
@@ -2366,7 +2366,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Print</source>
-        <translation>印刷</translation>
+        <translation>印刷效果</translation>
     </message>
     <message>
         <source>Difference</source>
@@ -2529,7 +2529,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Upright</source>
-        <translation>正立</translation>
+        <translation>不旋转</translation>
     </message>
     <message>
         <source>Clockwise</source>
@@ -2673,7 +2673,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>For&amp;get</source>
-        <translation>忘记(&amp;G)</translation>
+        <translation>清除(&amp;G)</translation>
     </message>
     <message>
         <source>Loc&amp;k...</source>
@@ -2717,7 +2717,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>The password is forgotten.</source>
-        <translation>密码已忘记。</translation>
+        <translation>密码已清除。</translation>
     </message>
     <message>
         <source>The stored password has been replaced by its digest.</source>
@@ -2725,7 +2725,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>A digest cannot be turned back into the password: it is forgotten.</source>
-        <translation>摘要无法还原为密码：密码已忘记。</translation>
+        <translation>摘要无法还原为密码：密码已清除。</translation>
     </message>
     <message>
         <source>Unlocked with the right password.</source>
@@ -2822,7 +2822,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>&amp;Put In a Logo...</source>
-        <translation>放入徽标(&amp;P)...</translation>
+        <translation>安装徽标(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;Remove Logo...</source>
@@ -2838,7 +2838,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Put In a Logo</source>
-        <translation>放入徽标</translation>
+        <translation>安装徽标</translation>
     </message>
     <message>
         <source>Remove the installed logo &quot;%1&quot;?</source>
@@ -2990,7 +2990,7 @@ Press room</source>
     <name>MeasurementMakingPanel</name>
     <message>
         <source>Table of measurements</source>
-        <translation>测量表</translation>
+        <translation>测量数据表</translation>
     </message>
     <message>
         <source>Fol&amp;der of the internal database:</source>
@@ -3088,7 +3088,7 @@ Press room</source>
     <name>MeasurementTablePanel</name>
     <message>
         <source>Measurements</source>
-        <translation>测量</translation>
+        <translation>测量数据</translation>
     </message>
     <message>
         <source>ΔE ab&amp;ove:</source>
@@ -3789,11 +3789,11 @@ b* %3
     </message>
     <message>
         <source>Largest first</source>
-        <translation>最大优先</translation>
+        <translation>从大到小</translation>
     </message>
     <message>
         <source>Smallest first</source>
-        <translation>最小优先</translation>
+        <translation>从小到大</translation>
     </message>
     <message>
         <source>Portrait</source>
@@ -4223,11 +4223,11 @@ b* %3
     </message>
     <message>
         <source>F&amp;rom:</source>
-        <translation>从(&amp;R)：</translation>
+        <translation>起始(&amp;R)：</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation>到(&amp;T)：</translation>
+        <translation>终止(&amp;T)：</translation>
     </message>
     <message>
         <source>First wavelength</source>
@@ -4281,7 +4281,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Copies of %1:</source>
-        <translation>%1 的份数(&amp;C)：</translation>
+        <translation>份数（最多 %1）(&amp;C)：</translation>
     </message>
     <message>
         <source>Tri&amp;m marks</source>
@@ -4384,7 +4384,7 @@ b* %3
     </message>
     <message>
         <source>clicked: %1, last by %2 pixels: %3</source>
-        <translation>单击次数：%1，最近一次为 %2 像素：%3</translation>
+        <translation>单击次数：%1，最近一次为 %2 像素的开关：%3</translation>
     </message>
 </context>
 <context>
@@ -4403,7 +4403,7 @@ b* %3
     </message>
     <message>
         <source>Offer &amp;hours</source>
-        <translation>提供小时选项(&amp;H)</translation>
+        <translation>提供“每小时”选项(&amp;H)</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
@@ -4498,7 +4498,7 @@ b* %3
     </message>
     <message>
         <source>Off&amp;er:</source>
-        <translation>提供(&amp;E)：</translation>
+        <translation>提供的内容(&amp;E)：</translation>
     </message>
     <message>
         <source>Newer release</source>
@@ -4690,7 +4690,7 @@ b* %3
     </message>
     <message>
         <source>four full inks</source>
-        <translation>四色满墨</translation>
+        <translation>四色实地</translation>
     </message>
     <message>
         <source>Total ink coverage, disabled</source>
@@ -4824,7 +4824,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Own visits:</source>
-        <translation>自己的访问(&amp;O)：</translation>
+        <translation>展示程序自身的访问(&amp;O)：</translation>
     </message>
 </context>
 <context>
@@ -5054,19 +5054,19 @@ b* %3
     </message>
     <message>
         <source>Files read</source>
-        <translation>已读取文件</translation>
+        <translation>已读取文件数</translation>
     </message>
     <message>
         <source>Read in a second</source>
-        <translation>每秒读取</translation>
+        <translation>每秒读取量</translation>
     </message>
     <message>
         <source>%1 in %2 s; copies of other files: %3, not readable: %4.</source>
-        <translation>%1，用时 %2 秒；其他文件的副本：%3，无法读取：%4。</translation>
+        <translation>读取 %1，用时 %2 秒；其他文件的副本：%3，无法读取：%4。</translation>
     </message>
     <message>
         <source>Cancelled after %1 in %2 s; copies of other files: %3, not readable: %4.</source>
-        <translation>在 %1 后取消，用时 %2 秒；其他文件的副本：%3，无法读取：%4。</translation>
+        <translation>读取 %1 后取消，用时 %2 秒；其他文件的副本：%3，无法读取：%4。</translation>
     </message>
 </context>
 </TS>

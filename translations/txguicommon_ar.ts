@@ -281,11 +281,11 @@ Please disconnect a network Network Drive and retry.</source>
     </message>
     <message>
         <source>SMTP Mail Server:</source>
-        <translation>خادم بريد SMTP:</translation>
+        <translation>‫خادم بريد SMTP:</translation>
     </message>
     <message>
         <source>Sender Address:</source>
-        <translation>عنوان المرسل:</translation>
+        <translation>‫عنوان المرسل:</translation>
     </message>
     <message>
         <source>name@domain</source>
@@ -293,7 +293,7 @@ Please disconnect a network Network Drive and retry.</source>
     </message>
     <message>
         <source>Destination:</source>
-        <translation>المستلم:</translation>
+        <translation>‫عنوان المستلم:</translation>
     </message>
     <message>
         <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd"/>
@@ -555,7 +555,7 @@ https://www.tovra.example</translation>
     </message>
     <message>
         <source>The server&apos;s last message: %1</source>
-        <translation>آخر رسالة من الخادم: %1</translation>
+        <translation>آخر رسالة من الخادم: ‎%1‎</translation>
     </message>
     <message>
         <source>This mail address holds a line break or a control character: %1</source>
@@ -640,15 +640,15 @@ https://www.tovra.example</translation>
         <source>Impossible to open the following PDF : %1
 
 Please check if the file exist at the following path : %2</source>
-        <translation>يتعذر فتح ملف PDF التالي: %1
+        <translation>يتعذر فتح ملف PDF التالي: ‎%1
 
-يُرجى التحقق من وجود الملف في المسار التالي: %2</translation>
+يُرجى التحقق من وجود الملف في المسار التالي: ‎%2</translation>
     </message>
     <message>
         <source>Impossible to open the following PDF : %1
 
 Please check if a pdf reader has been installed on your computer</source>
-        <translation>يتعذر فتح ملف PDF التالي: %1
+        <translation>يتعذر فتح ملف PDF التالي: ‎%1
 
 يُرجى التحقق من تثبيت قارئ PDF على جهاز الكمبيوتر</translation>
     </message>
@@ -817,12 +817,12 @@ The application will exit.</source>
     <message numerus="yes">
         <source>The key file %2 cannot be made: %1</source>
         <translation>
-            <numerusform>يتعذر إنشاء ملف المفتاح %2: %1</numerusform>
-            <numerusform>يتعذر إنشاء ملف المفتاح %2: %1</numerusform>
-            <numerusform>يتعذر إنشاء ملف المفتاح %2: %1</numerusform>
-            <numerusform>يتعذر إنشاء ملف المفتاح %2: %1</numerusform>
-            <numerusform>يتعذر إنشاء ملف المفتاح %2: %1</numerusform>
-            <numerusform>يتعذر إنشاء ملف المفتاح %2: %1</numerusform>
+            <numerusform>يتعذر إنشاء ملف المفتاح ‎%2: %1</numerusform>
+            <numerusform>يتعذر إنشاء ملف المفتاح ‎%2: %1</numerusform>
+            <numerusform>يتعذر إنشاء ملف المفتاح ‎%2: %1</numerusform>
+            <numerusform>يتعذر إنشاء ملف المفتاح ‎%2: %1</numerusform>
+            <numerusform>يتعذر إنشاء ملف المفتاح ‎%2: %1</numerusform>
+            <numerusform>يتعذر إنشاء ملف المفتاح ‎%2: %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -839,34 +839,34 @@ The application will exit.</source>
     <message numerus="yes">
         <source>The key file %1 cannot be read</source>
         <translation>
-            <numerusform>تتعذر قراءة ملف المفتاح %1</numerusform>
-            <numerusform>تتعذر قراءة ملف المفتاح %1</numerusform>
-            <numerusform>تتعذر قراءة ملف المفتاح %1</numerusform>
-            <numerusform>تتعذر قراءة ملف المفتاح %1</numerusform>
-            <numerusform>تتعذر قراءة ملف المفتاح %1</numerusform>
-            <numerusform>تتعذر قراءة ملف المفتاح %1</numerusform>
+            <numerusform>تتعذر قراءة ملف المفتاح ‎%1</numerusform>
+            <numerusform>تتعذر قراءة ملف المفتاح ‎%1</numerusform>
+            <numerusform>تتعذر قراءة ملف المفتاح ‎%1</numerusform>
+            <numerusform>تتعذر قراءة ملف المفتاح ‎%1</numerusform>
+            <numerusform>تتعذر قراءة ملف المفتاح ‎%1</numerusform>
+            <numerusform>تتعذر قراءة ملف المفتاح ‎%1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The key file %3 is damaged: it has %1 bytes instead of %2</source>
         <translation>
-            <numerusform>ملف المفتاح %3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
-            <numerusform>ملف المفتاح %3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
-            <numerusform>ملف المفتاح %3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
-            <numerusform>ملف المفتاح %3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
-            <numerusform>ملف المفتاح %3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
-            <numerusform>ملف المفتاح %3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
+            <numerusform>ملف المفتاح ‎%3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
+            <numerusform>ملف المفتاح ‎%3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
+            <numerusform>ملف المفتاح ‎%3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
+            <numerusform>ملف المفتاح ‎%3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
+            <numerusform>ملف المفتاح ‎%3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
+            <numerusform>ملف المفتاح ‎%3 تالف: حجمه %1 بايت بدلًا من %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The folder %1 cannot be made</source>
         <translation>
-            <numerusform>يتعذر إنشاء المجلد %1</numerusform>
-            <numerusform>يتعذر إنشاء المجلد %1</numerusform>
-            <numerusform>يتعذر إنشاء المجلد %1</numerusform>
-            <numerusform>يتعذر إنشاء المجلد %1</numerusform>
-            <numerusform>يتعذر إنشاء المجلد %1</numerusform>
-            <numerusform>يتعذر إنشاء المجلد %1</numerusform>
+            <numerusform>يتعذر إنشاء المجلد ‎%1</numerusform>
+            <numerusform>يتعذر إنشاء المجلد ‎%1</numerusform>
+            <numerusform>يتعذر إنشاء المجلد ‎%1</numerusform>
+            <numerusform>يتعذر إنشاء المجلد ‎%1</numerusform>
+            <numerusform>يتعذر إنشاء المجلد ‎%1</numerusform>
+            <numerusform>يتعذر إنشاء المجلد ‎%1</numerusform>
         </translation>
     </message>
 </context>
@@ -945,7 +945,7 @@ The application will exit.</source>
     </message>
     <message>
         <source>∆Eavg: %1    %2 % of pixels &lt; ∆E Limit</source>
-        <translation>متوسط ‎∆E: %1    %2 % من وحدات البكسل دون حد ‎∆E</translation>
+        <translation>متوسط ‎∆E‏: %1    ‏%2 % من وحدات البكسل دون حد ‎∆E</translation>
     </message>
     <message>
         <source>∆EMax</source>
@@ -960,7 +960,7 @@ The application will exit.</source>
     <name>TXError</name>
     <message>
         <source>Domain: %1</source>
-        <translation>المجال: %1</translation>
+        <translation>مجال الخطأ: %1</translation>
     </message>
     <message>
         <source>Code: %1</source>
@@ -1077,7 +1077,7 @@ The application will exit.</source>
     </message>
     <message>
         <source>Reset Application</source>
-        <translation>إعادة تعيين التطبيق</translation>
+        <translation>إرسال الملاحظات</translation>
     </message>
     <message>
         <source>Are you really sure you want to send this feedback?</source>
@@ -1100,7 +1100,7 @@ The application will exit.</source>
     <name>TXImageViewer</name>
     <message>
         <source>none</source>
-        <translation>بلا</translation>
+        <translation>بلا لون</translation>
     </message>
     <message>
         <source>Image viewer</source>
@@ -1207,7 +1207,7 @@ The application will exit.</source>
     </message>
     <message>
         <source>The report could not be written to &quot;%2&quot;: %1</source>
-        <translation>تعذّرت كتابة التقرير في «%2»: %1</translation>
+        <translation>تعذّرت كتابة التقرير في «‎%2»: %1</translation>
     </message>
     <message>
         <source>The document&apos;s data could not be added to the PDF.</source>

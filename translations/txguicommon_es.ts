@@ -285,7 +285,7 @@ Desconecte una unidad de red y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>Sender Address:</source>
-        <translation>Dirección del remitente:</translation>
+        <translation>Remitente:</translation>
     </message>
     <message>
         <source>name@domain</source>
@@ -951,7 +951,7 @@ La aplicación se cerrará.</translation>
     </message>
     <message>
         <source>The user name or the password is too long.</source>
-        <translation>El nombre de usuario o la contraseña es demasiado largo.</translation>
+        <translation>El nombre de usuario o la contraseña son demasiado largos.</translation>
     </message>
     <message>
         <source>The address is not valid.</source>
@@ -1053,7 +1053,7 @@ La aplicación se cerrará.</translation>
     </message>
     <message>
         <source>Reset Application</source>
-        <translation>Restablecer la aplicación</translation>
+        <translation>Enviar comentarios</translation>
     </message>
     <message>
         <source>Are you really sure you want to send this feedback?</source>
@@ -1296,7 +1296,7 @@ La aplicación se cerrará.</translation>
     </message>
     <message>
         <source>Trigger</source>
-        <translation>Desencadenador</translation>
+        <translation>Disparador</translation>
     </message>
     <message>
         <source>Period</source>
@@ -1442,7 +1442,7 @@ La aplicación se cerrará.</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Habilitado</translation>
+        <translation>Habilitada</translation>
     </message>
     <message>
         <source>Port</source>

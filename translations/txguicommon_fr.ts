@@ -221,7 +221,7 @@ Veuillez déconnecter un lecteur réseau et réessayer.</translation>
     </message>
     <message>
         <source>Send Test Mail</source>
-        <translation>Envoyer un courriel de test</translation>
+        <translation>Envoyer un test</translation>
     </message>
     <message>
         <source>Field &apos;Sender&apos; is empty, please add sender address which contain &apos;.&apos; and &apos;@&apos;.</source>
@@ -285,7 +285,7 @@ Veuillez déconnecter un lecteur réseau et réessayer.</translation>
     </message>
     <message>
         <source>Sender Address:</source>
-        <translation>Adresse de l’expéditeur&#xa0;:</translation>
+        <translation>Expéditeur&#xa0;:</translation>
     </message>
     <message>
         <source>name@domain</source>
@@ -418,7 +418,7 @@ https://www.tovra.example</translation>
     </message>
     <message>
         <source>Password again</source>
-        <translation>Mot de passe, encore</translation>
+        <translation>Répéter le mot de passe</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -453,7 +453,7 @@ https://www.tovra.example</translation>
     </message>
     <message>
         <source>New password again</source>
-        <translation>Nouveau mot de passe, encore</translation>
+        <translation>Répéter le nouveau mot de passe</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1053,7 +1053,7 @@ L’application va se fermer.</translation>
     </message>
     <message>
         <source>Reset Application</source>
-        <translation>Réinitialiser l’application</translation>
+        <translation>Envoyer les commentaires</translation>
     </message>
     <message>
         <source>Are you really sure you want to send this feedback?</source>
@@ -1442,7 +1442,7 @@ L’application va se fermer.</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Activé</translation>
+        <translation>Activée</translation>
     </message>
     <message>
         <source>Port</source>

@@ -285,7 +285,7 @@ Disconnettere un&apos;unità di rete e riprovare.</translation>
     </message>
     <message>
         <source>Sender Address:</source>
-        <translation>Indirizzo del mittente:</translation>
+        <translation>Mittente:</translation>
     </message>
     <message>
         <source>name@domain</source>
@@ -1001,7 +1001,7 @@ L&apos;applicazione verrà chiusa.</translation>
     </message>
     <message>
         <source>Feedback Description:</source>
-        <translation>Descrizione del feedback:</translation>
+        <translation>Feedback:</translation>
     </message>
     <message>
         <source>Subject:</source>
@@ -1053,7 +1053,7 @@ L&apos;applicazione verrà chiusa.</translation>
     </message>
     <message>
         <source>Reset Application</source>
-        <translation>Ripristina applicazione</translation>
+        <translation>Invia feedback</translation>
     </message>
     <message>
         <source>Are you really sure you want to send this feedback?</source>
@@ -1076,7 +1076,7 @@ L&apos;applicazione verrà chiusa.</translation>
     <name>TXImageViewer</name>
     <message>
         <source>none</source>
-        <translation>assente</translation>
+        <translation>nessuno</translation>
     </message>
     <message>
         <source>Image viewer</source>

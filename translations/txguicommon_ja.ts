@@ -293,7 +293,7 @@ Please disconnect a network Network Drive and retry.</source>
     </message>
     <message>
         <source>Destination:</source>
-        <translation>宛先:</translation>
+        <translation>宛先アドレス:</translation>
     </message>
     <message>
         <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd"/>
@@ -468,7 +468,7 @@ https://www.tovra.example</translation>
     <name>LockerUIDialog</name>
     <message>
         <source>Lock User Interface</source>
-        <translation>ユーザーインターフェイスのロック</translation>
+        <translation>ユーザーインターフェイスをロック</translation>
     </message>
     <message>
         <source>Change Password</source>
@@ -1047,7 +1047,7 @@ The application will exit.</source>
     </message>
     <message>
         <source>Reset Application</source>
-        <translation>アプリケーションのリセット</translation>
+        <translation>フィードバックの送信</translation>
     </message>
     <message>
         <source>Are you really sure you want to send this feedback?</source>

@@ -293,7 +293,7 @@ Please disconnect a network Network Drive and retry.</source>
     </message>
     <message>
         <source>Destination:</source>
-        <translation>收件人：</translation>
+        <translation>收件人地址：</translation>
     </message>
     <message>
         <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd"/>
@@ -730,7 +730,7 @@ Please check if a pdf reader has been installed on your computer</source>
     </message>
     <message>
         <source>(rev %1)</source>
-        <translation>（修订 %1）</translation>
+        <translation>(修订 %1)</translation>
     </message>
     <message>
         <source>Choose Download Directory</source>
@@ -930,7 +930,7 @@ The application will exit.</source>
     <name>TXError</name>
     <message>
         <source>Domain: %1</source>
-        <translation>域：%1</translation>
+        <translation>错误域：%1</translation>
     </message>
     <message>
         <source>Code: %1</source>
@@ -1047,7 +1047,7 @@ The application will exit.</source>
     </message>
     <message>
         <source>Reset Application</source>
-        <translation>重置应用程序</translation>
+        <translation>发送反馈</translation>
     </message>
     <message>
         <source>Are you really sure you want to send this feedback?</source>
