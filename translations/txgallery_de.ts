@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>&amp;Update Weights</source>
-        <translation>&amp;Gewichte auffrischen</translation>
+        <translation>Schr&amp;iftstärken auffrischen</translation>
     </message>
     <message>
         <source>Not passed</source>
@@ -2307,7 +2307,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>S&amp;hare</source>
-        <translation>&amp;Teilen</translation>
+        <translation>Auf&amp;teilen</translation>
     </message>
     <message>
         <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>

@@ -1053,7 +1053,7 @@ Die Anwendung wird beendet.</translation>
     </message>
     <message>
         <source>Reset Application</source>
-        <translation>Anwendung zurücksetzen</translation>
+        <translation>Feedback senden</translation>
     </message>
     <message>
         <source>Are you really sure you want to send this feedback?</source>
