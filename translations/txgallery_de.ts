@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>&amp;Update Weights</source>
-        <translation>Schr&amp;iftstärken auffrischen</translation>
+        <translation>Schrift&amp;gewichte auffrischen</translation>
     </message>
     <message>
         <source>Not passed</source>
