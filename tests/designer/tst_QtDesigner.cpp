@@ -27,12 +27,12 @@ private slots:
     void widgetBoxShowsTheGroups();
     void formIsWrittenAsItWasRead();
     void headersAreIncludedAsAHostDoes();
-    void containersTakeWidgets_data();
-    void containersTakeWidgets();
+    void containersAreKnown();
     void stackTakesAnotherPage();
     void propertiesCanBeEdited_data();
     void propertiesCanBeEdited();
     void spinnerShowsItsBars();
+    void cleanupTestCase();
 
 protected:
     void prepare() override;
@@ -42,33 +42,31 @@ private:
     QDesignerPropertySheetExtension *sheetOf(const QString &objectName) const;
     QWidget *child(const QString &objectName) const;
 
-    // All that is in the window uses it, to its end.
     std::unique_ptr<QDesignerFormEditorInterface> core;
     std::unique_ptr<QWidget> window;
     QDesignerFormWindowInterface *form = nullptr;
 };
 
+// Only one in a process: Qt Designer keeps things behind that outlive a form editor.
 void TestQtDesigner::initTestCase()
 {
     QCoreApplication::addLibraryPath(QFileInfo(PluginUnderTest::folder()).path());
     QDesignerComponents::initializeResources();
+    core.reset(QDesignerComponents::createFormEditor(nullptr));
+    QDesignerComponents::initializePlugins(core.get());
+    // There is no property editor to be told.
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("nullptr.*::propertyChanged"));
+    core->setIntegration(new QDesignerIntegration(core.get(), core.get()));
+}
+
+void TestQtDesigner::cleanupTestCase()
+{
+    core.reset();
 }
 
 void TestQtDesigner::prepare()
 {
-    // Qt Designer tries each of Qt's own widgets.
-    QTest::ignoreMessage(QtWarningMsg, "QOpenGLWidget is not supported on this platform.");
     window = std::make_unique<QWidget>();
-    core.reset(QDesignerComponents::createFormEditor(nullptr));
-    core->setTopLevel(window.get());
-    core->setPropertyEditor(QDesignerComponents::createPropertyEditor(core.get(), window.get()));
-    core->setIntegration(new QDesignerIntegration(core.get(), core.get()));
-    QDesignerWidgetBoxInterface *box =
-        QDesignerComponents::createWidgetBox(core.get(), window.get());
-    box->setFileName(QStringLiteral(":/qt-project.org/widgetbox/widgetbox.xml"));
-    core->setWidgetBox(box);
-    QDesignerComponents::initializePlugins(core.get());
-    QVERIFY(box->load());
     form = core->formWindowManager()->createFormWindow(window.get());
     QVERIFY(form->setContents(settingsForm()));
 }
@@ -77,7 +75,6 @@ void TestQtDesigner::finish()
 {
     form = nullptr;
     window.reset();
-    core.reset();
 }
 
 QWidget *TestQtDesigner::child(const QString &objectName) const
@@ -93,9 +90,13 @@ QDesignerPropertySheetExtension *TestQtDesigner::sheetOf(const QString &objectNa
 
 void TestQtDesigner::widgetBoxShowsTheGroups()
 {
+    auto *box = QDesignerComponents::createWidgetBox(core.get(), window.get());
+    core->setWidgetBox(box);
+    box->setFileName(QStringLiteral(":/qt-project.org/widgetbox/widgetbox.xml"));
+    QVERIFY(box->load());
     QMap<QString, int> shown;
-    for (int index = 0; index < core->widgetBox()->categoryCount(); ++index) {
-        const auto category = core->widgetBox()->category(index);
+    for (int index = 0; index < box->categoryCount(); ++index) {
+        const auto category = box->category(index);
         shown.insert(category.name(), category.widgetCount());
     }
     QMap<QString, int> expected;
@@ -129,29 +130,18 @@ void TestQtDesigner::headersAreIncludedAsAHostDoes()
         QStringLiteral("<header location=\"global\">TXSwitchSlider.h</header>")));
 }
 
-void TestQtDesigner::containersTakeWidgets_data()
+void TestQtDesigner::containersAreKnown()
 {
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<bool>("isContainer");
     const QStringList containers = {"TXGroupBoxBolded", "TXSplitter", "TXStackedWidget",
                                     "TXUnfolderWidget"};
+    const auto *known = core->widgetDataBase();
     const auto all = PluginUnderTest::widgets();
     for (const QDesignerCustomWidgetInterface *plugin : all) {
-        QTest::newRow(qPrintable(plugin->name()))
-            << plugin->name() << containers.contains(plugin->name());
+        const int index = known->indexOfClassName(plugin->name());
+        QVERIFY2(index >= 0, qPrintable(plugin->name()));
+        QCOMPARE(known->item(index)->isContainer(), containers.contains(plugin->name()));
+        QCOMPARE(known->item(index)->includeFile(), plugin->includeFile());
     }
-}
-
-void TestQtDesigner::containersTakeWidgets()
-{
-    QFETCH(const QString, className);
-    QFETCH(const bool, isContainer);
-    const auto *known = core->widgetDataBase();
-    const int index = known->indexOfClassName(className);
-    QVERIFY(index >= 0);
-    QCOMPARE(known->item(index)->isContainer(), isContainer);
-    QVERIFY(known->item(index)->isCustom());
-    QCOMPARE(known->item(index)->includeFile(), QStringLiteral("<%1.h>").arg(className));
 }
 
 void TestQtDesigner::stackTakesAnotherPage()
