@@ -139,6 +139,7 @@ void TestQtDesigner::containersAreKnown()
     for (const QDesignerCustomWidgetInterface *plugin : all) {
         const int index = known->indexOfClassName(plugin->name());
         QVERIFY2(index >= 0, qPrintable(plugin->name()));
+        QCOMPARE(plugin->isContainer(), containers.contains(plugin->name()));
         QCOMPARE(known->item(index)->isContainer(), containers.contains(plugin->name()));
         QCOMPARE(known->item(index)->includeFile(), plugin->includeFile());
     }
