@@ -112,10 +112,20 @@ void DoubleSpinBoxWithSliderWidget::setSingleStep(double step)
     ui->dataLeftDoubleSpinBox->setSingleStep(step);
 }
 
+QString DoubleSpinBoxWithSliderWidget::spinBoxSuffix() const
+{
+    return usedBox()->suffix();
+}
+
 void DoubleSpinBoxWithSliderWidget::setSpinBoxSuffix(const QString &suffix)
 {
     ui->dataDoubleSpinBox->setSuffix(suffix);
     ui->dataLeftDoubleSpinBox->setSuffix(suffix);
+}
+
+QString DoubleSpinBoxWithSliderWidget::specialValueText() const
+{
+    return usedBox()->specialValueText();
 }
 
 void DoubleSpinBoxWithSliderWidget::setSpecialValueText(const QString &text)
@@ -139,6 +149,11 @@ void DoubleSpinBoxWithSliderWidget::setSpinBoxMaximumWidth(int width)
 {
     ui->dataDoubleSpinBox->setMaximumWidth(width);
     ui->dataLeftDoubleSpinBox->setMaximumWidth(width);
+}
+
+QAbstractSpinBox::ButtonSymbols DoubleSpinBoxWithSliderWidget::spinBoxButtonSymbol() const
+{
+    return usedBox()->buttonSymbols();
 }
 
 void DoubleSpinBoxWithSliderWidget::setSpinBoxButtonSymbol(QAbstractSpinBox::ButtonSymbols symbols)
@@ -165,14 +180,29 @@ void DoubleSpinBoxWithSliderWidget::setLabelMinimumWidth(int width)
     ui->dataNameLabel->setMinimumWidth(width);
 }
 
+bool DoubleSpinBoxWithSliderWidget::isLabelVisible() const
+{
+    return !ui->dataNameLabel->isHidden();
+}
+
 void DoubleSpinBoxWithSliderWidget::setLabelVisible(bool visible)
 {
     ui->dataNameLabel->setVisible(visible);
 }
 
+QString DoubleSpinBoxWithSliderWidget::minLabelName() const
+{
+    return ui->minValueNameLabel->text();
+}
+
 void DoubleSpinBoxWithSliderWidget::setMinLabelName(const QString &name)
 {
     setEndLabelName(ui->minValueNameLabel, ui->maxValueNameLabel, name);
+}
+
+QString DoubleSpinBoxWithSliderWidget::maxLabelName() const
+{
+    return ui->maxValueNameLabel->text();
 }
 
 void DoubleSpinBoxWithSliderWidget::setMaxLabelName(const QString &name)

@@ -30,6 +30,32 @@ class DoubleSpinBoxWithSliderWidget;
 class TXGUICOMMON_EXPORT DoubleSpinBoxWithSliderWidget : public QWidget
 {
     Q_OBJECT
+    /// See decimals() and setDecimals(). It comes first, as what reads a form goes by the order
+    /// here and rounds what it sets to the decimals of the moment.
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    /// See minimumValue() and setMinimumValue().
+    Q_PROPERTY(double minimumValue READ minimumValue WRITE setMinimumValue)
+    /// See maximumValue() and setMaximumValue().
+    Q_PROPERTY(double maximumValue READ maximumValue WRITE setMaximumValue)
+    /// See singleStep() and setSingleStep().
+    Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
+    /// See value() and setValue().
+    Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
+    /// See spinBoxSuffix() and setSpinBoxSuffix().
+    Q_PROPERTY(QString spinBoxSuffix READ spinBoxSuffix WRITE setSpinBoxSuffix)
+    /// See specialValueText() and setSpecialValueText().
+    Q_PROPERTY(QString specialValueText READ specialValueText WRITE setSpecialValueText)
+    /// See spinBoxButtonSymbol() and setSpinBoxButtonSymbol().
+    Q_PROPERTY(QAbstractSpinBox::ButtonSymbols spinBoxButtonSymbol READ spinBoxButtonSymbol WRITE
+                   setSpinBoxButtonSymbol)
+    /// See dataName() and setDataName().
+    Q_PROPERTY(QString dataName READ dataName WRITE setDataName)
+    /// See isLabelVisible() and setLabelVisible().
+    Q_PROPERTY(bool labelVisible READ isLabelVisible WRITE setLabelVisible)
+    /// See minLabelName() and setMinLabelName().
+    Q_PROPERTY(QString minLabelName READ minLabelName WRITE setMinLabelName)
+    /// See maxLabelName() and setMaxLabelName().
+    Q_PROPERTY(QString maxLabelName READ maxLabelName WRITE setMaxLabelName)
 
 public:
     /// From 0 to 100 in steps of 0.1 with two decimals, at 0, the box to the right of the slider.
@@ -60,9 +86,13 @@ public:
     /// A negative step changes nothing.
     void setSingleStep(double step);
 
+    /// What stands behind the number; empty at first.
+    [[nodiscard]] QString spinBoxSuffix() const;
     /// Shown behind the number, as a unit.
     void setSpinBoxSuffix(const QString &suffix);
 
+    /// What stands in place of the number at the minimum; empty at first.
+    [[nodiscard]] QString specialValueText() const;
     /// Shown in place of the number at the minimum; an empty text shows the number.
     void setSpecialValueText(const QString &text);
 
@@ -72,6 +102,8 @@ public:
     void setSpinBoxMinimumWidth(int width);
     /// The greatest width of both boxes, in pixels.
     void setSpinBoxMaximumWidth(int width);
+    /// What stands on the boxes' buttons; QAbstractSpinBox::UpDownArrows at first.
+    [[nodiscard]] QAbstractSpinBox::ButtonSymbols spinBoxButtonSymbol() const;
     /// What stands on the boxes' buttons, or whether there are any.
     void setSpinBoxButtonSymbol(QAbstractSpinBox::ButtonSymbols symbols);
 
@@ -81,12 +113,18 @@ public:
     void setDataName(const QString &name);
     /// The least width of the name, in pixels, for aligning several of these widgets.
     void setLabelMinimumWidth(int width);
+    /// Whether the name is to be shown, also while this widget itself is hidden.
+    [[nodiscard]] bool isLabelVisible() const;
     /// Shows or hides the name; shown at first.
     void setLabelVisible(bool visible);
 
+    /// The name of the slider's lower end; empty at first.
+    [[nodiscard]] QString minLabelName() const;
     /// Names the lower end of the slider, in a row below it that is there while one of its two ends
     /// has a name.
     void setMinLabelName(const QString &name);
+    /// The name of the slider's upper end; empty at first.
+    [[nodiscard]] QString maxLabelName() const;
     /// Names the upper end of the slider, in the same row.
     void setMaxLabelName(const QString &name);
 

@@ -63,3 +63,10 @@ void RotationLabel::paintEvent(QPaintEvent *event)
     }
     painter.drawText(area, int(alignment()), text());
 }
+
+void RotationLabel::showRotation(RotationOption option)
+{
+    setRotation(option);
+    updateGeometry();
+    update();
+}

@@ -18,6 +18,8 @@
 class TXGUICOMMON_EXPORT RotationLabel : public QLabel
 {
     Q_OBJECT
+    /// See rotation(). Writing it is setRotation() with updateGeometry() and update() behind it.
+    Q_PROPERTY(RotationOption rotation READ rotation WRITE showRotation)
 
 public:
     /// Which way the text is turned.
@@ -53,5 +55,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void showRotation(RotationOption option);
+
     RotationOption rotationOption = NoRotation;
 };

@@ -15,6 +15,11 @@ TXGroupBoxBolded::TXGroupBoxBolded(QWidget *parent)
     : QGroupBox(parent)
 { }
 
+bool TXGroupBoxBolded::hasBoldTitle() const
+{
+    return boldTitle;
+}
+
 void TXGroupBoxBolded::setBoldTitle(bool isBold)
 {
     boldTitle = isBold;

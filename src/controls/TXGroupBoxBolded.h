@@ -18,11 +18,15 @@
 class TXGUICOMMON_EXPORT TXGroupBoxBolded : public QGroupBox
 {
     Q_OBJECT
+    /// See hasBoldTitle() and setBoldTitle().
+    Q_PROPERTY(bool boldTitle READ hasBoldTitle WRITE setBoldTitle)
 
 public:
     /// A group box without a title that will be bold when it is shown.
     explicit TXGroupBoxBolded(QWidget *parent = nullptr);
 
+    /// Whether the next show makes the title bold.
+    [[nodiscard]] bool hasBoldTitle() const;
     /// Whether a show makes the title bold and sees to the children; true at the start. What a show
     /// has done already stays when this is switched off.
     void setBoldTitle(bool isBold);

@@ -155,6 +155,11 @@ void TXSelectionItemWidget::setModelColumn(int column)
     ui->itemComboBox->setModelColumn(column);
 }
 
+bool TXSelectionItemWidget::isImportViaComboBox() const
+{
+    return importViaComboBox;
+}
+
 void TXSelectionItemWidget::setImportViaComboBox(bool isOffered)
 {
     importViaComboBox = isOffered;

@@ -48,6 +48,17 @@ class TXSelectionItemWidget;
 class TXGUICOMMON_EXPORT TXSelectionItemWidget : public QWidget
 {
     Q_OBJECT
+    /// See labelName() and setLabelName().
+    Q_PROPERTY(QString labelName READ labelName WRITE setLabelName)
+    /// See isItemLabelVisible() and setVisibleItemLabel().
+    Q_PROPERTY(bool itemLabelVisible READ isItemLabelVisible WRITE setVisibleItemLabel)
+    /// See isImportViaComboBox() and setImportViaComboBox().
+    Q_PROPERTY(bool importViaComboBox READ isImportViaComboBox WRITE setImportViaComboBox)
+    /// See isImportButtonVisible() and setVisibleImportButton().
+    Q_PROPERTY(bool importButtonVisible READ isImportButtonVisible WRITE setVisibleImportButton)
+    /// See isComboboxNameEditionAllowed() and allowComboboxNameEdition().
+    Q_PROPERTY(bool comboboxNameEditionAllowed READ isComboboxNameEditionAllowed WRITE
+                   allowComboboxNameEdition)
 
 public:
     /// The box is empty until setModel() has been called.
@@ -66,6 +77,8 @@ public:
     /// The column of the model that holds the names. 0 by default. With a column that the model
     /// does not have nothing is selected, and nothing can be.
     void setModelColumn(int column);
+    /// Whether the box offers "Load".
+    [[nodiscard]] bool isImportViaComboBox() const;
     /// Whether the box offers "Load" below the items. True by default. With false the host shows
     /// the button that opens a menu, by setVisibleImportButton(). Connects model and box anew.
     void setImportViaComboBox(bool isOffered);
@@ -112,6 +125,8 @@ public:
     [[nodiscard]] QString labelName() const; ///< the label's text
     [[nodiscard]] QFont labelFont() const; ///< the label's font, for hosts that align several bars
     void setLabelMinimumWidth(int width); ///< in device-independent pixels, below 0 counts as 0
+    /// Whether the label is to be shown, also while the bar itself is hidden.
+    [[nodiscard]] bool isItemLabelVisible() const;
     void setVisibleItemLabel(bool isVisible); ///< visible by default
 
     void enableItemComboBox(bool isEnabled); ///< enabled by default
@@ -128,6 +143,8 @@ public:
     void hideSaveItemButton(); ///< for good, but for what saveItemButton() gives
     void hideEditionItemButton(); ///< for good, but for what editItemButton() gives
     void hideImportItemButton(); ///< for good, but for what importItemButton() gives
+    /// Whether the button that opens the menu is to be shown, also while the bar itself is hidden.
+    [[nodiscard]] bool isImportButtonVisible() const;
     /// Shows or hides the button that opens the menu of setImportToolButtonMenu(). Hidden by
     /// default.
     void setVisibleImportButton(bool isVisible);
@@ -158,6 +175,8 @@ public:
     void setItemComboBoxSizeAdjustPolicy(QComboBox::SizeAdjustPolicy policy);
     /// In device-independent pixels; below 0 counts as 0.
     void setItemComboBoxMaximumWidth(int width);
+    /// Whether the next startItemEdition() lets the name be typed over.
+    [[nodiscard]] bool isComboboxNameEditionAllowed() const;
     /// Whether the name can be typed over while an item is edited. True by default. Counts from the
     /// next startItemEdition() on.
     void allowComboboxNameEdition(bool isAllowed);

@@ -90,6 +90,11 @@ void TXSelectionItemWidget::setLabelMinimumWidth(int width)
     ui->itemLabel->setMinimumWidth(possibleWidth(width));
 }
 
+bool TXSelectionItemWidget::isItemLabelVisible() const
+{
+    return !ui->itemLabel->isHidden();
+}
+
 void TXSelectionItemWidget::setVisibleItemLabel(bool isVisible)
 {
     ui->itemLabel->setVisible(isVisible);
@@ -169,6 +174,11 @@ void TXSelectionItemWidget::hideEditionItemButton()
 void TXSelectionItemWidget::hideImportItemButton()
 {
     ui->importItemButton->setVisible(false);
+}
+
+bool TXSelectionItemWidget::isImportButtonVisible() const
+{
+    return !ui->importButton->isHidden();
 }
 
 void TXSelectionItemWidget::setVisibleImportButton(bool isVisible)
@@ -270,6 +280,11 @@ void TXSelectionItemWidget::setItemComboBoxSizeAdjustPolicy(QComboBox::SizeAdjus
 void TXSelectionItemWidget::setItemComboBoxMaximumWidth(int width)
 {
     ui->itemComboBox->setMaximumWidth(possibleWidth(width));
+}
+
+bool TXSelectionItemWidget::isComboboxNameEditionAllowed() const
+{
+    return comboNameEditionAllowed;
 }
 
 void TXSelectionItemWidget::allowComboboxNameEdition(bool isAllowed)

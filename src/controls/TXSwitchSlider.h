@@ -16,6 +16,8 @@
 class TXGUICOMMON_EXPORT TXSwitchSlider : public QSlider
 {
     Q_OBJECT
+    /// See isChecked() and setChecked(); the same as the value 1 of the slider.
+    Q_PROPERTY(bool checked READ isChecked WRITE setChecked NOTIFY clicked)
 
 public:
     /// A switch that is off.

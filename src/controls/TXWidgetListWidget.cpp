@@ -212,6 +212,11 @@ void TXWidgetListWidget::reorganize(QList<QLayoutItem *> newItems)
     settleLater();
 }
 
+QFrame::Shape TXWidgetListWidget::frameShape() const
+{
+    return ui->scrollArea->frameShape();
+}
+
 void TXWidgetListWidget::setFrameShape(QFrame::Shape shape)
 {
     ui->scrollArea->setFrameShape(shape);

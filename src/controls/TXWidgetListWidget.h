@@ -47,6 +47,8 @@ class TXWidgetListWidget;
 class TXGUICOMMON_EXPORT TXWidgetListWidget : public QWidget
 {
     Q_OBJECT
+    /// See frameShape() and setFrameShape().
+    Q_PROPERTY(QFrame::Shape frameShape READ frameShape WRITE setFrameShape)
 
 public:
     /// An empty list.
@@ -102,6 +104,8 @@ public:
     /// new one are the caller's from now on, who deletes them or brings them again.
     void reorganize(QList<QLayoutItem *> newItems);
 
+    /// The frame around the scrolled area.
+    [[nodiscard]] QFrame::Shape frameShape() const;
     /// Sets the frame around the scrolled area, QFrame::StyledPanel at first.
     void setFrameShape(QFrame::Shape shape);
 

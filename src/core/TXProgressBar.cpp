@@ -14,6 +14,11 @@ TXProgressBar::TXProgressBar(QWidget *parent)
 
 TXProgressBar::~TXProgressBar() = default;
 
+QString TXProgressBar::message() const
+{
+    return ui->progressMessage->text();
+}
+
 void TXProgressBar::setMessage(const QString &message)
 {
     ui->progressMessage->setText(message);
@@ -86,9 +91,19 @@ int TXProgressBar::maximum() const
     return ui->progressBar->maximum();
 }
 
+void TXProgressBar::setMaximum(int maximum)
+{
+    ui->progressBar->setMaximum(maximum);
+}
+
 int TXProgressBar::minimum() const
 {
     return ui->progressBar->minimum();
+}
+
+void TXProgressBar::setMinimum(int minimum)
+{
+    ui->progressBar->setMinimum(minimum);
 }
 
 int TXProgressBar::value() const

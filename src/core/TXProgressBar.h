@@ -23,12 +23,34 @@ class TXProgressBar;
 class TXGUICOMMON_EXPORT TXProgressBar : public QWidget
 {
     Q_OBJECT
+    /// See minimum() and setMinimum().
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    /// See maximum() and setMaximum().
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    /// See value() and setValue().
+    Q_PROPERTY(int value READ value WRITE setValue USER true)
+    /// See message() and setMessage().
+    Q_PROPERTY(QString message READ message WRITE setMessage)
+    /// See format() and setFormat().
+    Q_PROPERTY(QString format READ format WRITE setFormat)
+    /// See isTextVisible() and setTextVisible().
+    Q_PROPERTY(bool textVisible READ isTextVisible WRITE setTextVisible)
+    /// See alignment() and setAlignment().
+    Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
+    /// See orientation() and setOrientation().
+    Q_PROPERTY(Qt::Orientation orientation READ orientation WRITE setOrientation)
+    /// See invertedAppearance() and setInvertedAppearance().
+    Q_PROPERTY(bool invertedAppearance READ invertedAppearance WRITE setInvertedAppearance)
+    /// See textDirection() and setTextDirection().
+    Q_PROPERTY(QProgressBar::Direction textDirection READ textDirection WRITE setTextDirection)
 
 public:
     /// A bar from 0 to 100 at 24, without a message.
     explicit TXProgressBar(QWidget *parent = nullptr);
     ~TXProgressBar() override;
 
+    /// The text beside the bar.
+    [[nodiscard]] QString message() const;
     /// The text beside the bar; empty at first. It is shown as it is, without markup, and the room
     /// that it takes is not the bar's.
     void setMessage(const QString &message);
@@ -58,8 +80,12 @@ public:
 
     /// The value at which the bar is full; 100 at first.
     [[nodiscard]] int maximum() const;
+    /// Sets one end of the range; a minimum above it becomes the same. See setRange().
+    void setMaximum(int maximum);
     /// The value at which the bar is empty; 0 at first.
     [[nodiscard]] int minimum() const;
+    /// Sets one end of the range; a maximum below it becomes the same. See setRange().
+    void setMinimum(int minimum);
     /// The last value that the bar has taken, or one below the minimum when there is none.
     [[nodiscard]] int value() const;
     /// Whether the bar lies or stands.

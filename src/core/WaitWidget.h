@@ -34,7 +34,7 @@ class TXGUICOMMON_EXPORT WaitWidget : public QWidget
 
     /// The number of the bar that lights up with the next painting, from 0. Any number is kept; one
     /// that no bar has lights up none. Writing it paints nothing.
-    Q_PROPERTY(int currentElement MEMBER currentElement)
+    Q_PROPERTY(int currentElement MEMBER currentElement DESIGNABLE false)
 
 public:
     /// A spinner without bars, which paints nothing.

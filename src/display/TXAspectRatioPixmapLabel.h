@@ -19,6 +19,8 @@
 class TXGUICOMMON_EXPORT TXAspectRatioPixmapLabel : public QLabel
 {
     Q_OBJECT
+    /// That of QLabel, but written by setPixmap() of this class.
+    Q_PROPERTY(QPixmap pixmap READ pixmap WRITE setPixmap)
 
 public:
     /// A label without a picture.

@@ -54,22 +54,37 @@ void TXColorSquareWidget::setSizeHint(const QSize &size)
     }
 }
 
+QBrush TXColorSquareWidget::brush() const
+{
+    return brushValue;
+}
+
 void TXColorSquareWidget::setBrush(const QBrush &newBrush)
 {
-    if (newBrush == brush) {
+    if (newBrush == brushValue) {
         return;
     }
-    brush = newBrush;
+    brushValue = newBrush;
     update();
     AccessibleDescription::tellOfChange(*this);
 }
 
+QPen TXColorSquareWidget::pen() const
+{
+    return penValue;
+}
+
 void TXColorSquareWidget::setPen(const QPen &newPen)
 {
-    if (newPen != pen) {
-        pen = newPen;
+    if (newPen != penValue) {
+        penValue = newPen;
         update();
     }
+}
+
+double TXColorSquareWidget::radius() const
+{
+    return xRadius;
 }
 
 void TXColorSquareWidget::setRadius(double radius)
@@ -81,10 +96,15 @@ void TXColorSquareWidget::setRadius(double radius)
     }
 }
 
+Qt::Alignment TXColorSquareWidget::alignment() const
+{
+    return alignmentValue;
+}
+
 void TXColorSquareWidget::setAlignment(Qt::Alignment newAlignment)
 {
-    if (newAlignment != alignment) {
-        alignment = newAlignment;
+    if (newAlignment != alignmentValue) {
+        alignmentValue = newAlignment;
         update();
     }
 }
@@ -102,7 +122,7 @@ QSize TXColorSquareWidget::minimumSizeHint() const
 void TXColorSquareWidget::paintEvent(QPaintEvent *)
 {
     const QSize square = sizeHint();
-    const int penWidth = pen.width();
+    const int penWidth = penValue.width();
     const int corner = int(penWidth * 0.5);
     const QRectF rect(corner, corner, inner(width(), square.width(), penWidth),
                       inner(height(), square.height(), penWidth));
@@ -110,20 +130,26 @@ void TXColorSquareWidget::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.save();
-    painter.setBrush(brush);
-    painter.setPen(pen);
+    painter.setBrush(brushValue);
+    painter.setPen(penValue);
     painter.translate(offset(square));
     painter.drawRoundedRect(rect, drawable(xRadius), drawable(yRadius), Qt::AbsoluteSize);
     painter.restore();
 }
 
+void TXColorSquareWidget::applySizeHint(const QSize &size)
+{
+    setSizeHint(size);
+    updateGeometry();
+}
+
 QString TXColorSquareWidget::brushInWords() const
 {
-    switch (brush.style()) {
+    switch (brushValue.style()) {
     case Qt::NoBrush:
         return tr("No colour");
     case Qt::SolidPattern:
-        return ColourName::of(brush.color());
+        return ColourName::of(brushValue.color());
     case Qt::LinearGradientPattern:
     case Qt::RadialGradientPattern:
     case Qt::ConicalGradientPattern:
@@ -131,14 +157,14 @@ QString TXColorSquareWidget::brushInWords() const
     case Qt::TexturePattern:
         return tr("Picture");
     default:
-        return tr("Pattern in %1").arg(ColourName::of(brush.color()));
+        return tr("Pattern in %1").arg(ColourName::of(brushValue.color()));
     }
 }
 
 QPointF TXColorSquareWidget::offset(const QSize &square) const
 {
     const auto has = [this](Qt::AlignmentFlag flag) {
-        return alignment.testFlag(flag);
+        return alignmentValue.testFlag(flag);
     };
     const float x = placed(has(Qt::AlignLeft), has(Qt::AlignRight), has(Qt::AlignHCenter), width(),
                            square.width());

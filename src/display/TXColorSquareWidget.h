@@ -22,6 +22,16 @@
 class TXGUICOMMON_EXPORT TXColorSquareWidget : public QWidget
 {
     Q_OBJECT
+    /// See sizeHint(). Writing it is setSizeHint() with updateGeometry() behind it.
+    Q_PROPERTY(QSize sizeHint READ sizeHint WRITE applySizeHint)
+    /// See brush() and setBrush().
+    Q_PROPERTY(QBrush brush READ brush WRITE setBrush)
+    /// See pen() and setPen(). Qt Designer has no editor for pens.
+    Q_PROPERTY(QPen pen READ pen WRITE setPen DESIGNABLE false)
+    /// See radius() and setRadius().
+    Q_PROPERTY(double radius READ radius WRITE setRadius)
+    /// See alignment() and setAlignment().
+    Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
 
 public:
     /// A square of 24 by 24 pixels at the top left, without a filling, with sharp corners.
@@ -31,13 +41,21 @@ public:
     /// layout to see the new size call updateGeometry() as well. Nothing sensible is painted for a
     /// negative size.
     void setSizeHint(const QSize &size);
+    /// The filling.
+    [[nodiscard]] QBrush brush() const;
     /// The filling; none at first.
     void setBrush(const QBrush &brush);
+    /// The frame.
+    [[nodiscard]] QPen pen() const;
     /// The frame, inside the square's size; black and one pixel wide at first. Widths count in
     /// whole pixels.
     void setPen(const QPen &pen);
+    /// The radius of the corners in pixels.
+    [[nodiscard]] double radius() const;
     /// The radius of the corners in pixels; 0 at first. What is not above 0 leaves them sharp.
     void setRadius(double radius);
+    /// Where the square stands in a widget that is larger.
+    [[nodiscard]] Qt::Alignment alignment() const;
     /// Where the square stands in a widget that is larger; top left at first. Without an alignment
     /// in one direction, left or top. Left and right are what they say in every layout direction.
     void setAlignment(Qt::Alignment alignment);
@@ -53,13 +71,14 @@ protected:
 private:
     friend class ColorSquareAccessible;
 
+    void applySizeHint(const QSize &size);
     [[nodiscard]] QString brushInWords() const;
     [[nodiscard]] QPointF offset(const QSize &square) const;
 
     QSize sizeHintValue = QSize(24, 24);
-    QBrush brush;
-    QPen pen;
+    QBrush brushValue;
+    QPen penValue;
     double xRadius = 0.0;
     double yRadius = 0.0;
-    Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop;
+    Qt::Alignment alignmentValue = Qt::AlignLeft | Qt::AlignTop;
 };

@@ -116,15 +116,30 @@ bool FTPConfigurationWidget::isEnabled() const
     return ui->ftpActivationCheckBox->isChecked();
 }
 
+bool FTPConfigurationWidget::isVisibleStatus() const
+{
+    return isStatusVisible;
+}
+
 void FTPConfigurationWidget::setVisibleStatus(bool visible)
 {
     isStatusVisible = visible;
+}
+
+bool FTPConfigurationWidget::isVisibleActiveCheckBox() const
+{
+    return !ui->ftpActivationCheckBox->isHidden();
 }
 
 void FTPConfigurationWidget::setVisibleActiveCheckBox(bool visible)
 {
     ui->ftpActivationCheckBox->setVisible(visible);
     ui->activateLabel->setVisible(visible);
+}
+
+bool FTPConfigurationWidget::isVisibleEraseSrcFilesItems() const
+{
+    return !ui->eraseFileCheckBox->isHidden();
 }
 
 void FTPConfigurationWidget::setVisibleEraseSrcFilesItems(bool visible)

@@ -33,6 +33,14 @@ class FTPConfigurationWidget;
 class TXGUICOMMON_EXPORT FTPConfigurationWidget : public QWidget
 {
     Q_OBJECT
+    /// See isVisibleStatus() and setVisibleStatus().
+    Q_PROPERTY(bool visibleStatus READ isVisibleStatus WRITE setVisibleStatus)
+    /// See isVisibleActiveCheckBox() and setVisibleActiveCheckBox().
+    Q_PROPERTY(
+        bool visibleActiveCheckBox READ isVisibleActiveCheckBox WRITE setVisibleActiveCheckBox)
+    /// See isVisibleEraseSrcFilesItems() and setVisibleEraseSrcFilesItems().
+    Q_PROPERTY(bool visibleEraseSrcFilesItems READ isVisibleEraseSrcFilesItems WRITE
+                   setVisibleEraseSrcFilesItems)
 
 public:
     /// What a check of the connection found. Registered as a meta-type by the constructor, since it
@@ -80,14 +88,20 @@ public:
     /// a disabled panel may be activated.
     [[nodiscard]] bool isEnabled() const;
 
+    /// Whether a bullet shows the outcome of a check.
+    [[nodiscard]] bool isVisibleStatus() const;
     /// Whether a bullet shows the outcome of a check; true at first. Without it the spinner still
     /// turns during a check, and ftpConnectionStatus() is emitted as ever. A bullet that is shown
     /// already stays.
     void setVisibleStatus(bool visible);
 
+    /// Whether the box "Active" is to be shown, also while the panel itself is hidden.
+    [[nodiscard]] bool isVisibleActiveCheckBox() const;
     /// Shows or hides the box "Active" and its label; shown at first.
     void setVisibleActiveCheckBox(bool visible);
 
+    /// Whether the box for erasing files is to be shown, also while the panel itself is hidden.
+    [[nodiscard]] bool isVisibleEraseSrcFilesItems() const;
     /// Shows or hides the box for erasing files at the source and its label; shown at first.
     void setVisibleEraseSrcFilesItems(bool visible);
 

@@ -108,6 +108,11 @@ QHash<QString, QVariant> TXTriggerEventWidget::save()
     return settings;
 }
 
+QString TXTriggerEventWidget::groupBoxTitle() const
+{
+    return triggerBox ? triggerBox->title() : QString();
+}
+
 void TXTriggerEventWidget::setGroupBoxTitle(const QString &title)
 {
     if (triggerBox) {

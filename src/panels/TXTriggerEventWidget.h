@@ -35,6 +35,8 @@ class TXTriggerEventWidget;
 class TXGUICOMMON_EXPORT TXTriggerEventWidget : public QWidget
 {
     Q_OBJECT
+    /// See groupBoxTitle() and setGroupBoxTitle().
+    Q_PROPERTY(QString groupBoxTitle READ groupBoxTitle WRITE setGroupBoxTitle)
 
 public:
     /// A panel for each month, on day 1, at the hour 0, under the title "Trigger".
@@ -57,6 +59,8 @@ public:
     /// key is 1; where no period is, it is 0.
     QHash<QString, QVariant> save();
 
+    /// The text above the panel; empty where a host has taken the box out.
+    [[nodiscard]] QString groupBoxTitle() const;
     /// The text above the panel, "Trigger" at first.
     void setGroupBoxTitle(const QString &title);
 

@@ -43,6 +43,11 @@ void TXCheckForUpdateConfigWidget::save()
     }
 }
 
+bool TXCheckForUpdateConfigWidget::hasBoldGroupBoxTitle() const
+{
+    return ui->groupBox->hasBoldTitle();
+}
+
 void TXCheckForUpdateConfigWidget::setBoldGroupBoxTitle(bool isBold)
 {
     ui->groupBox->setBoldTitle(isBold);

@@ -24,6 +24,8 @@ class TXCheckForUpdateConfigWidget;
 class TXGUICOMMON_EXPORT TXCheckForUpdateConfigWidget : public QWidget
 {
     Q_OBJECT
+    /// See hasBoldGroupBoxTitle() and setBoldGroupBoxTitle().
+    Q_PROPERTY(bool boldGroupBoxTitle READ hasBoldGroupBoxTitle WRITE setBoldGroupBoxTitle)
 
 public:
     /// A panel with neither box checked: load() shows the settings.
@@ -38,6 +40,8 @@ public:
     /// startup from the next start on.
     void save();
 
+    /// Whether the next show makes the title bold.
+    [[nodiscard]] bool hasBoldGroupBoxTitle() const;
     /// Whether the title is bold, as it is at first.
     void setBoldGroupBoxTitle(bool isBold);
 
