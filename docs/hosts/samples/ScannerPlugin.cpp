@@ -1,0 +1,10 @@
+#include "ScannerPlugin.h"
+
+#include "ScannerPage.h"
+
+//! [plugin]
+ConfWidget *ScannerPlugin::createPage(QWidget *parent)
+{
+    return new ScannerPage(parent);
+}
+//! [plugin]
