@@ -21,4 +21,8 @@ public:
                      const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget) const override;
+
+private:
+    void drawSliderFrames(const QStyleOptionComplex *option, QPainter *painter,
+                          const QWidget *widget) const;
 };

@@ -50,7 +50,7 @@ const Tones &lightTones()
         QColor(0xf3, 0xf4, 0xf7), QColor(0xff, 0xff, 0xff), QColor(0xf7, 0xf8, 0xfa),
         QColor(0xfb, 0xfb, 0xfd), QColor(0xff, 0xff, 0xff), QColor(0x1c, 0x22, 0x2e),
         QColor(0x5f, 0x68, 0x77), QColor(0xa3, 0xa9, 0xb4), QColor(0xd5, 0xd9, 0xe0),
-        QColor(0x2b, 0x6c, 0xd4), QColor(0xff, 0xff, 0xff), QColor(0xd5, 0xd9, 0xe0),
+        QColor(0x2b, 0x6c, 0xd4), QColor(0xff, 0xff, 0xff), QColor(0xec, 0xee, 0xf2),
         QColor(0x1f, 0x5f, 0xc4), QColor(0x2a, 0x30, 0x3c),
     };
     return tones;
@@ -61,8 +61,8 @@ const Tones &darkTones()
     static const Tones tones = {
         QColor(0x22, 0x25, 0x2b), QColor(0x1a, 0x1d, 0x22), QColor(0x1f, 0x22, 0x28),
         QColor(0x2f, 0x34, 0x3d), QColor(0x33, 0x38, 0x42), QColor(0xe3, 0xe6, 0xeb),
-        QColor(0x97, 0xa0, 0xae), QColor(0x68, 0x70, 0x7c), QColor(0x3a, 0x40, 0x4a),
-        QColor(0x3d, 0x7b, 0xe0), QColor(0xff, 0xff, 0xff), QColor(0x3a, 0x40, 0x4a),
+        QColor(0x97, 0xa0, 0xae), QColor(0x78, 0x80, 0x8c), QColor(0x3a, 0x40, 0x4a),
+        QColor(0x36, 0x73, 0xd8), QColor(0xff, 0xff, 0xff), QColor(0x3a, 0x40, 0x4a),
         QColor(0x7f, 0xb0, 0xff), QColor(0x3a, 0x40, 0x4b),
     };
     return tones;
@@ -99,6 +99,8 @@ void setDisabledTexts(QPalette &palette, const Tones &tones)
     }
     palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.disabledAccent);
     palette.setColor(QPalette::Disabled, QPalette::Base, tones.window);
+    // Some styles print a disabled text twice, in this colour first.
+    palette.setColor(QPalette::Disabled, QPalette::Light, tones.window);
 }
 
 QPalette paletteOf(const Tones &tones)
@@ -125,13 +127,14 @@ QPalette paletteOf(const Tones &tones)
 }
 
 /// The style takes the outline of a box from the colour of the window, and makes it darker. On a
-/// dark ground that leaves nothing to be seen of a box that is not checked. Only for what paints no
-/// ground and no grid of this colour.
-void setBoxOutlines(const QPalette &palette, const Tones &tones)
+/// dark ground that leaves nothing to be seen of a box that is not checked, or of an empty field.
+/// Only for what paints no ground and no grid of this colour.
+void setOutlines(const QPalette &palette, const Tones &tones)
 {
     QPalette outlined = palette;
     outlined.setColor(QPalette::Window, tones.muted);
-    for (const char *className : {"QCheckBox", "QRadioButton", "QTreeView"}) {
+    for (const char *className : {"QCheckBox", "QRadioButton", "QTreeView", "QLineEdit",
+                                  "QAbstractSpinBox", "QTextEdit", "QPlainTextEdit"}) {
         QApplication::setPalette(outlined, className);
     }
 }
@@ -144,7 +147,7 @@ void setPalette(GalleryColours colours)
         break;
     case GalleryColours::Dark:
         QApplication::setPalette(paletteOf(darkTones()));
-        setBoxOutlines(paletteOf(darkTones()), darkTones());
+        setOutlines(paletteOf(darkTones()), darkTones());
         break;
     case GalleryColours::Contrast:
         QApplication::setPalette(paletteOf(contrastTones()));
