@@ -27,10 +27,10 @@ void BusyPage::fillForPicture()
 {
     isPicture = true;
     // Trees that every machine with Qt has, and enough in them to be under way for a while.
-    scanPanel->setFolders(QDir::toNativeSeparators(QLibraryInfo::path(QLibraryInfo::PrefixPath)));
-    scanPanel->start();
-    workersPanel->setFolders(
-        QDir::toNativeSeparators(QLibraryInfo::path(QLibraryInfo::LibrariesPath)));
+    const QString libraries = QLibraryInfo::path(QLibraryInfo::LibrariesPath);
+    const QString shared = QLibraryInfo::path(QLibraryInfo::PrefixPath) + QStringLiteral("/share");
+    scanPanel->setFolders(QDir::toNativeSeparators(shared + QDir::listSeparator() + libraries));
+    workersPanel->setFolders(QDir::toNativeSeparators(libraries));
     workersPanel->start();
     isFilling = true;
 }
@@ -44,12 +44,20 @@ void BusyPage::hideEvent(QHideEvent *event)
     GalleryPage::hideEvent(event);
 }
 
-/// A small tree may be done before its work is seen.
+/// A small tree may be done before its work is seen. The scan is the quicker one and begins when
+/// the bar is under way, so that both are seen at work.
 void BusyPage::checkReady()
 {
-    const bool isScanSeen = scanPanel->hasResult() || !scanPanel->isRunning();
     const bool isBarSeen = workersPanel->isBarUnderWay() || !workersPanel->isRunning();
-    if (isFilling && isScanSeen && isBarSeen) {
+    if (!isFilling || !isBarSeen) {
+        return;
+    }
+    if (!isScanStarted) {
+        isScanStarted = true;
+        scanPanel->start();
+    }
+    // Starting it has led here once already.
+    if (isFilling && (scanPanel->hasResult() || !scanPanel->isRunning())) {
         isFilling = false;
         emit becameReady();
     }

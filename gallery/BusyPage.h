@@ -32,5 +32,6 @@ private:
     FolderScanPanel *scanPanel;
     WorkersPanel *workersPanel;
     bool isFilling = false;
+    bool isScanStarted = false;
     bool isPicture = false;
 };

@@ -1,5 +1,6 @@
 #include "FeedbackFieldsPanel.h"
 
+#include "GalleryAppearance.h"
 #include "JsonText.h"
 
 #include <QApplication>
@@ -7,7 +8,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
-#include <QStyle>
 #include <QTableWidget>
 
 #include <memory>
@@ -34,7 +34,7 @@ QList<ProgramField> programFields(const QPalette &palette)
             {QStringLiteral("Version"), QCoreApplication::applicationVersion()},
             {QStringLiteral("Page"), QStringLiteral("feedback")},
             {QStringLiteral("Palette"), isDark ? QStringLiteral("dark") : QStringLiteral("light")},
-            {QStringLiteral("Style"), QApplication::style()->name()},
+            {QStringLiteral("Style"), galleryStyleName()},
             {QStringLiteral("Qt"), QString::fromLatin1(qVersion())}};
 }
 

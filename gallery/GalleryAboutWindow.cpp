@@ -1,9 +1,12 @@
 #include "GalleryAboutWindow.h"
 
 #include "GalleryIcon.h"
+#include "PaperPalette.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
+#include <QLabel>
 
 namespace {
 
@@ -19,7 +22,9 @@ QString noticesName()
 GalleryAboutWindow::GalleryAboutWindow(Version version, QWidget *parent)
     : AboutAppWindow(parent)
     , version(version)
-{ }
+{
+    choosePlate();
+}
 
 QString GalleryAboutWindow::noticesPath()
 {
@@ -55,4 +60,26 @@ QString GalleryAboutWindow::applicationCopyrightStartYear() const
 QString GalleryAboutWindow::patentFileName() const
 {
     return noticesName();
+}
+
+void GalleryAboutWindow::changeEvent(QEvent *event)
+{
+    AboutAppWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        choosePlate();
+    }
+}
+
+/// The link is blue whatever stands behind it, so in dark colours it gets a light ground.
+void GalleryAboutWindow::choosePlate()
+{
+    auto *link = findChild<QLabel *>(QStringLiteral("companyWebSiteLabel"));
+    // Not yet, while the base class makes its form.
+    if (!link) {
+        return;
+    }
+    const bool isDark = palette().color(QPalette::WindowText).lightness()
+        > palette().color(QPalette::Window).lightness();
+    link->setPalette(isDark ? paperPalette() : QPalette());
+    link->setAutoFillBackground(isDark);
 }

@@ -23,6 +23,11 @@ public:
     [[nodiscard]] QString applicationCopyrightStartYear() const override;
     [[nodiscard]] QString patentFileName() const override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void choosePlate();
+
     Version version;
 };

@@ -1,11 +1,14 @@
 #include "GalleryAppearance.h"
 
+#include "ContrastStyle.h"
+
 #include <QApplication>
 #include <QPalette>
 #include <QStyle>
 #include <QStyleFactory>
 
 #include <array>
+#include <memory>
 
 namespace {
 
@@ -19,6 +22,7 @@ constexpr std::array kNames = {
     NamedColours{GalleryColours::System, "system"},
     NamedColours{GalleryColours::Light, "light"},
     NamedColours{GalleryColours::Dark, "dark"},
+    NamedColours{GalleryColours::Contrast, "contrast"},
 };
 
 /// The few colours from which the roles of a palette are filled.
@@ -28,11 +32,14 @@ struct Tones
     QColor base;
     QColor alternateBase;
     QColor button;
+    QColor light; ///< the lit edge of what is raised
     QColor text;
     QColor muted;
     QColor disabled;
     QColor line;
     QColor accent;
+    QColor onAccent; ///< text that is selected
+    QColor disabledAccent;
     QColor link;
     QColor toolTip;
 };
@@ -41,8 +48,9 @@ const Tones &lightTones()
 {
     static const Tones tones = {
         QColor(0xf3, 0xf4, 0xf7), QColor(0xff, 0xff, 0xff), QColor(0xf7, 0xf8, 0xfa),
-        QColor(0xfb, 0xfb, 0xfd), QColor(0x1c, 0x22, 0x2e), QColor(0x6a, 0x73, 0x82),
-        QColor(0xa3, 0xa9, 0xb4), QColor(0xd5, 0xd9, 0xe0), QColor(0x2b, 0x6c, 0xd4),
+        QColor(0xfb, 0xfb, 0xfd), QColor(0xff, 0xff, 0xff), QColor(0x1c, 0x22, 0x2e),
+        QColor(0x5f, 0x68, 0x77), QColor(0xa3, 0xa9, 0xb4), QColor(0xd5, 0xd9, 0xe0),
+        QColor(0x2b, 0x6c, 0xd4), QColor(0xff, 0xff, 0xff), QColor(0xec, 0xee, 0xf2),
         QColor(0x1f, 0x5f, 0xc4), QColor(0x2a, 0x30, 0x3c),
     };
     return tones;
@@ -52,16 +60,31 @@ const Tones &darkTones()
 {
     static const Tones tones = {
         QColor(0x22, 0x25, 0x2b), QColor(0x1a, 0x1d, 0x22), QColor(0x1f, 0x22, 0x28),
-        QColor(0x2f, 0x34, 0x3d), QColor(0xe3, 0xe6, 0xeb), QColor(0x97, 0xa0, 0xae),
-        QColor(0x68, 0x70, 0x7c), QColor(0x3a, 0x40, 0x4a), QColor(0x3d, 0x7b, 0xe0),
+        QColor(0x2f, 0x34, 0x3d), QColor(0x33, 0x38, 0x42), QColor(0xe3, 0xe6, 0xeb),
+        QColor(0x97, 0xa0, 0xae), QColor(0x78, 0x80, 0x8c), QColor(0x3a, 0x40, 0x4a),
+        QColor(0x36, 0x73, 0xd8), QColor(0xff, 0xff, 0xff), QColor(0x3a, 0x40, 0x4a),
         QColor(0x7f, 0xb0, 0xff), QColor(0x3a, 0x40, 0x4b),
+    };
+    return tones;
+}
+
+/// Every text has seven times the light of its ground, or the other way round; a disabled one four
+/// and a half times.
+const Tones &contrastTones()
+{
+    static const Tones tones = {
+        QColor(0x00, 0x00, 0x00), QColor(0x00, 0x00, 0x00), QColor(0x1a, 0x1a, 0x1a),
+        QColor(0x1a, 0x1a, 0x1a), QColor(0xc8, 0xc8, 0xc8), QColor(0xff, 0xff, 0xff),
+        QColor(0xe0, 0xe0, 0xe0), QColor(0xb0, 0xb0, 0xb0), QColor(0xb0, 0xb0, 0xb0),
+        QColor(0xff, 0xd7, 0x00), QColor(0x00, 0x00, 0x00), QColor(0x3a, 0x3a, 0x3a),
+        QColor(0x5f, 0xd7, 0xff), QColor(0x33, 0x33, 0x33),
     };
     return tones;
 }
 
 void setShades(QPalette &palette, const Tones &tones)
 {
-    palette.setColor(QPalette::Light, tones.button.lighter(108));
+    palette.setColor(QPalette::Light, tones.light);
     palette.setColor(QPalette::Midlight, tones.button.darker(103));
     palette.setColor(QPalette::Mid, tones.line);
     palette.setColor(QPalette::Dark, tones.line.darker(135));
@@ -74,8 +97,10 @@ void setDisabledTexts(QPalette &palette, const Tones &tones)
                             QPalette::HighlightedText, QPalette::PlaceholderText}) {
         palette.setColor(QPalette::Disabled, role, tones.disabled);
     }
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.line);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.disabledAccent);
     palette.setColor(QPalette::Disabled, QPalette::Base, tones.window);
+    // Some styles print a disabled text twice, in this colour first.
+    palette.setColor(QPalette::Disabled, QPalette::Light, tones.window);
 }
 
 QPalette paletteOf(const Tones &tones)
@@ -91,7 +116,7 @@ QPalette paletteOf(const Tones &tones)
     palette.setColor(QPalette::ButtonText, tones.text);
     palette.setColor(QPalette::BrightText, Qt::white);
     palette.setColor(QPalette::Highlight, tones.accent);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::HighlightedText, tones.onAccent);
     palette.setColor(QPalette::Link, tones.link);
     palette.setColor(QPalette::LinkVisited, tones.link.darker(115));
     palette.setColor(QPalette::ToolTipBase, tones.toolTip);
@@ -102,13 +127,14 @@ QPalette paletteOf(const Tones &tones)
 }
 
 /// The style takes the outline of a box from the colour of the window, and makes it darker. On a
-/// dark ground that leaves nothing to be seen of a box that is not checked. Only for what paints no
-/// ground and no grid of this colour.
-void setBoxOutlines(const QPalette &palette, const Tones &tones)
+/// dark ground that leaves nothing to be seen of a box that is not checked, or of an empty field.
+/// Only for what paints no ground and no grid of this colour.
+void setOutlines(const QPalette &palette, const Tones &tones)
 {
     QPalette outlined = palette;
     outlined.setColor(QPalette::Window, tones.muted);
-    for (const char *className : {"QCheckBox", "QRadioButton", "QTreeView"}) {
+    for (const char *className : {"QCheckBox", "QRadioButton", "QTreeView", "QLineEdit",
+                                  "QAbstractSpinBox", "QTextEdit", "QPlainTextEdit"}) {
         QApplication::setPalette(outlined, className);
     }
 }
@@ -121,7 +147,10 @@ void setPalette(GalleryColours colours)
         break;
     case GalleryColours::Dark:
         QApplication::setPalette(paletteOf(darkTones()));
-        setBoxOutlines(paletteOf(darkTones()), darkTones());
+        setOutlines(paletteOf(darkTones()), darkTones());
+        break;
+    case GalleryColours::Contrast:
+        QApplication::setPalette(paletteOf(contrastTones()));
         break;
     case GalleryColours::System:
         // A palette without set roles gives the application's own back.
@@ -130,21 +159,65 @@ void setPalette(GalleryColours colours)
     }
 }
 
+/// Under a style sheet, Qt leaves the widgets there are in the colours that they have, and hides
+/// which style there is. So the sheet is taken off for as long as this lives.
+class WithoutStyleSheet
+{
+public:
+    WithoutStyleSheet()
+        : sheet(qApp->styleSheet())
+    {
+        qApp->setStyleSheet(QString());
+    }
+    ~WithoutStyleSheet() { qApp->setStyleSheet(sheet); }
+    Q_DISABLE_COPY_MOVE(WithoutStyleSheet)
+
+private:
+    QString sheet;
+};
+
+bool isContrastStyle()
+{
+    return qobject_cast<const ContrastStyle *>(QApplication::style()) != nullptr;
+}
+
+void setStyle(const QString &key, bool isContrast)
+{
+    if (isContrast) {
+        // The application owns it from here on.
+        QApplication::setStyle(std::make_unique<ContrastStyle>(key).release());
+    } else {
+        QApplication::setStyle(key);
+    }
+}
+
 } // namespace
 
 void applyGalleryColours(GalleryColours colours)
 {
-    // Under a style sheet, Qt leaves the widgets there are in the colours that they have.
-    const QString sheet = qApp->styleSheet();
-    qApp->setStyleSheet(QString());
+    const WithoutStyleSheet pause;
+    const bool isContrast = colours == GalleryColours::Contrast;
+    if (isContrast != isContrastStyle()) {
+        setStyle(galleryStyleName(), isContrast);
+    }
     setPalette(colours);
-    qApp->setStyleSheet(sheet);
 }
 
 bool applyGalleryStyle(const QString &name)
 {
     const QString key = galleryStyleKey(name);
-    return !key.isEmpty() && QApplication::setStyle(key);
+    if (key.isEmpty()) {
+        return false;
+    }
+    const WithoutStyleSheet pause;
+    setStyle(key, isContrastStyle());
+    return true;
+}
+
+QString galleryStyleName()
+{
+    const auto *contrast = qobject_cast<const ContrastStyle *>(QApplication::style());
+    return contrast ? contrast->baseStyle()->name() : QApplication::style()->name();
 }
 
 QString galleryStyleKey(const QString &name)

@@ -11,6 +11,7 @@ enum class GalleryColours {
     System, ///< what the desktop, or else the style, brings
     Light,
     Dark,
+    Contrast, ///< white and yellow on black, every frame drawn as a clear line
 };
 
 /// Sets the palette of the application; open windows follow at once.
@@ -23,7 +24,11 @@ bool applyGalleryStyle(const QString &name);
 /// The key of QStyleFactory that stands for the name, compared without case, or an empty string.
 [[nodiscard]] QString galleryStyleKey(const QString &name);
 
-/// "system", "light" or "dark": the name in the settings and on the command line.
+/// The name of the widget style, as QStyle::name() has it, also where ContrastStyle draws over it.
+/// Tells nothing of use while a style sheet is set.
+[[nodiscard]] QString galleryStyleName();
+
+/// "system", "light", "dark" or "contrast": the name in the settings and on the command line.
 [[nodiscard]] QString galleryColoursName(GalleryColours colours);
 
 /// Reads a name of galleryColoursName(). Any other text gives the fallback.

@@ -48,7 +48,7 @@ void addOptions(QCommandLineParser &parser)
         valueOption(QStringLiteral("style"), GalleryCommandLine::tr("name"),
                     GalleryCommandLine::tr("Widget style: %1.")
                         .arg(QStyleFactory::keys().join(QStringLiteral(", ")))),
-        valueOption(QStringLiteral("palette"), QStringLiteral("light|dark"),
+        valueOption(QStringLiteral("palette"), QStringLiteral("light|dark|contrast"),
                     GalleryCommandLine::tr("Colours.")),
         valueOption(QStringLiteral("language"), GalleryCommandLine::tr("code"),
                     GalleryCommandLine::tr("Language of the texts, as en.")),
@@ -157,7 +157,7 @@ void GalleryCommandLine::readColours(const QString &value)
     }
     const GalleryColours read = galleryColoursFromName(value, GalleryColours::System);
     if (read == GalleryColours::System) {
-        fail(tr("There is no palette \"%1\". The palettes are: light, dark.").arg(value));
+        fail(tr("There is no palette \"%1\". The palettes are: light, dark, contrast.").arg(value));
         return;
     }
     colours = read;

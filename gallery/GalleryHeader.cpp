@@ -63,8 +63,8 @@ GalleryHeader::GalleryHeader(QWidget *parent)
     coloursLabel = makeBoxLabel(this, coloursBox);
     styleLabel = makeBoxLabel(this, styleBox);
     languageLabel = makeBoxLabel(this, languageBox);
-    for (const auto colours :
-         {GalleryColours::System, GalleryColours::Light, GalleryColours::Dark}) {
+    for (const auto colours : {GalleryColours::System, GalleryColours::Light, GalleryColours::Dark,
+                               GalleryColours::Contrast}) {
         coloursBox->addItem(QString(), QVariant::fromValue(colours));
     }
     styleBox->addItems(QStyleFactory::keys());
@@ -163,6 +163,7 @@ void GalleryHeader::retranslate()
     coloursBox->setItemText(0, tr("System"));
     coloursBox->setItemText(1, tr("Light"));
     coloursBox->setItemText(2, tr("Dark"));
+    coloursBox->setItemText(3, tr("High Contrast"));
     coloursBox->setAccessibleName(tr("Palette"));
     styleBox->setAccessibleName(tr("Style"));
     languageBox->setAccessibleName(tr("Language"));

@@ -181,7 +181,7 @@ void GalleryWindow::applyLooks(const GallerySettings &settings)
     applyGalleryStyle(settings.style);
     applyGalleryColours(settings.colours);
     languages.use(settings.language);
-    header->setStyleKey(galleryStyleKey(QApplication::style()->name()));
+    header->setStyleKey(galleryStyleKey(galleryStyleName()));
     header->setColours(settings.colours);
     showLanguages();
 }

@@ -10,8 +10,9 @@ namespace {
 
 /// The plane reaches from minus this to this in both directions.
 constexpr int kReach = 100;
-/// A point of the picture stands for so many units.
-constexpr int kUnitsPerPoint = 2;
+/// A point of the picture stands for so many units; with more, the edge shows steps on a fine
+/// screen.
+constexpr int kUnitsPerPoint = 1;
 constexpr int kPoints = 2 * kReach / kUnitsPerPoint + 1;
 constexpr int kUsualLightness = 50;
 constexpr int kMostLightness = 100;

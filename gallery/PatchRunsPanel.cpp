@@ -8,6 +8,7 @@
 #include "TXResources.h"
 
 #include <QDateTime>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -22,6 +23,8 @@ constexpr int kViewHeight = 220;
 constexpr int kRowHeight = 36;
 constexpr int kDateWidth = 220;
 constexpr int kDecimals = 2;
+constexpr int kMiddleLightness = 128;
+constexpr int kShadePercent = 250;
 /// What is hardly seen, and what is seen at once.
 constexpr double kGoodDifference = 1;
 constexpr double kFairDifference = 2;
@@ -43,6 +46,16 @@ QPixmap bulletFor(double difference)
                                          : TXDisplayErrorBulletStaticImage();
 }
 
+/// The delegate draws as many points as the picture has pixels, so on a fine screen the stock
+/// picture would not fit its row.
+QPixmap pointForPixel(const QPixmap &picture)
+{
+    QPixmap plain = picture.scaled(picture.deviceIndependentSize().toSize(), Qt::KeepAspectRatio,
+                                   Qt::SmoothTransformation);
+    plain.setDevicePixelRatio(1);
+    return plain;
+}
+
 } // namespace
 
 PatchRunsPanel::PatchRunsPanel(QWidget *parent)
@@ -54,12 +67,35 @@ PatchRunsPanel::PatchRunsPanel(QWidget *parent)
 {
     setUpView();
     setUpLayout();
+    chooseSelection();
     for (int row = 0; row < kChartPatches; ++row) {
         compare(row);
     }
     retranslate();
     view->setCurrentIndex(model->index(0, 0));
     connect(compareButton, SIGNAL(clicked()), this, SLOT(compareAgain()));
+}
+
+void PatchRunsPanel::changeEvent(QEvent *event)
+{
+    GalleryPanel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        chooseSelection();
+    }
+}
+
+/// TXDateTimeDelegate writes white on what is selected. Where the palette has dark text there, the
+/// selection of this table is a dark shade of its colour, with white text in all columns.
+void PatchRunsPanel::chooseSelection()
+{
+    QPalette own;
+    const QColor text = palette().color(QPalette::Active, QPalette::HighlightedText);
+    if (text.lightness() < kMiddleLightness) {
+        own.setColor(QPalette::Highlight,
+                     palette().color(QPalette::Active, QPalette::Highlight).darker(kShadePercent));
+        own.setColor(QPalette::HighlightedText, Qt::white);
+    }
+    view->setPalette(own);
 }
 
 void PatchRunsPanel::retranslate()
@@ -97,7 +133,8 @@ void PatchRunsPanel::compare(int row)
 {
     const ChartPatch &patch = chartPatches().at(size_t(row));
     const double difference = ColourDifference::ciede2000(patch.older, patch.newer);
-    model->setData(model->index(row, ResultColumn), bulletFor(difference), Qt::DecorationRole);
+    model->setData(model->index(row, ResultColumn), pointForPixel(bulletFor(difference)),
+                   Qt::DecorationRole);
     model->setData(model->index(row, TimeColumn), QDateTime::currentDateTime());
 }
 

@@ -18,6 +18,7 @@ public:
     explicit PatchRunsPanel(QWidget *parent = nullptr);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void retranslate() override;
 
 private slots:
@@ -27,6 +28,7 @@ private:
     void compare(int row);
     void setUpView();
     void setUpLayout();
+    void chooseSelection();
 
     QStandardItemModel *model;
     QTableView *view;

@@ -23,9 +23,9 @@ struct Stock
 constexpr Stock kStock[] = {
     {"success", TXDisplayFixBulletStaticImage, 32, 0xff2e9e4f},
     {"failure", TXDisplayErrorBulletStaticImage, 32, 0xffd13438},
-    {"warning", TXDisplayWarningBulletStaticImage, 32, 0xffe08a00},
+    {"warning", TXDisplayWarningBulletStaticImage, 32, 0xffc97800},
     {"little information", TXDisplayLittleInformationBulletStaticImage, 16, 0xff1f76d2},
-    {"little warning", TXDisplayLittleWarningBulletStaticImage, 16, 0xffe08a00},
+    {"little warning", TXDisplayLittleWarningBulletStaticImage, 16, 0xffc97800},
     {"little error", TXDisplayLittleErrorBulletStaticImage, 16, 0xffd13438},
 };
 

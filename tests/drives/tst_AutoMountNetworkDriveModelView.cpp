@@ -24,7 +24,7 @@ namespace {
 constexpr QSize kIcon(20, 20);
 constexpr QRgb kSuccess = 0xff2e9e4f;
 constexpr QRgb kFailure = 0xffd13438;
-constexpr QRgb kWarning = 0xffe08a00;
+constexpr QRgb kWarning = 0xffc97800;
 constexpr char kDescribeIcon[] = "--describe-icon";
 
 /// A list as a window shows it.

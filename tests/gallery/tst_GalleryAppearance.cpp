@@ -1,42 +1,30 @@
+#include "ContrastStyle.h"
 #include "GalleryAppearance.h"
+
+#include "Contrast.h"
 #include "TestBase.h"
 
 #include <QCheckBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QStyle>
 #include <QTreeWidget>
 
+#include <memory>
+
 namespace {
 
-/// Relative luminance from 0 to 1, as web pages are checked with.
-qreal luminance(const QColor &colour)
+template<class Widget>
+std::unique_ptr<QWidget> make()
 {
-    const auto linear = [](qreal value) {
-        return value <= 0.03928 ? value / 12.92 : qPow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
-}
-
-qreal contrast(const QColor &left, const QColor &right)
-{
-    const qreal brighter = qMax(luminance(left), luminance(right));
-    const qreal darker = qMin(luminance(left), luminance(right));
-    return (brighter + 0.05) / (darker + 0.05);
-}
-
-/// Of what is painted, the most visible on this ground.
-qreal bestContrast(const QImage &picture, const QColor &ground)
-{
-    qreal best = 1;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            best = qMax(best, contrast(picture.pixelColor(x, y), ground));
-        }
-    }
-    return best;
+    return std::make_unique<Widget>();
 }
 
 } // namespace
+
+using Maker = std::unique_ptr<QWidget> (*)();
+Q_DECLARE_METATYPE(Maker)
 
 class TestGalleryAppearance : public TestBase
 {
@@ -45,21 +33,39 @@ class TestGalleryAppearance : public TestBase
 private slots:
     void textsStandOutFromTheirGround_data();
     void textsStandOutFromTheirGround();
+    void disabledTextsAreRead_data();
+    void disabledTextsAreRead();
+    void highContrastIsWhiteOnBlack();
     void uncheckedBoxesStandOutFromADarkGround();
+    void fieldsStandOutFromADarkGround_data();
+    void fieldsStandOutFromADarkGround();
     void openWindowsFollowAtOnce();
     void systemColoursComeBack();
     void styleIsFoundWithoutCase();
     void unknownStyleChangesNothing();
     void styleKeepsThePalette();
+    void highContrastDrawsOverEachStyle();
+    void highContrastStaysUnderASheet();
     void namesAreReadBack_data();
     void namesAreReadBack();
 
 protected:
     void finish() override;
+
+private:
+    static qreal contrast(QPalette::ColorGroup group, int text, int ground);
 };
+
+qreal TestGalleryAppearance::contrast(QPalette::ColorGroup group, int text, int ground)
+{
+    const QPalette palette = QApplication::palette();
+    return Contrast::between(palette.color(group, QPalette::ColorRole(text)),
+                             palette.color(group, QPalette::ColorRole(ground)));
+}
 
 void TestGalleryAppearance::finish()
 {
+    qApp->setStyleSheet(QString());
     applyGalleryStyle("Fusion");
     applyGalleryColours(GalleryColours::System);
 }
@@ -68,31 +74,73 @@ void TestGalleryAppearance::textsStandOutFromTheirGround_data()
 {
     QTest::addColumn<int>("text");
     QTest::addColumn<int>("ground");
-    QTest::addColumn<qreal>("ratio");
-    // 4.5 is what plain text is to have, 3 what large and secondary text is to have.
-    QTest::newRow("window") << int(QPalette::WindowText) << int(QPalette::Window) << 4.5;
-    QTest::newRow("view") << int(QPalette::Text) << int(QPalette::Base) << 4.5;
-    QTest::newRow("other row") << int(QPalette::Text) << int(QPalette::AlternateBase) << 4.5;
-    QTest::newRow("button") << int(QPalette::ButtonText) << int(QPalette::Button) << 4.5;
-    QTest::newRow("link") << int(QPalette::Link) << int(QPalette::Base) << 4.5;
-    QTest::newRow("tool tip") << int(QPalette::ToolTipText) << int(QPalette::ToolTipBase) << 4.5;
-    QTest::newRow("muted") << int(QPalette::PlaceholderText) << int(QPalette::Window) << 3.0;
-    QTest::newRow("selected") << int(QPalette::HighlightedText) << int(QPalette::Highlight) << 3.0;
+    QTest::newRow("window") << int(QPalette::WindowText) << int(QPalette::Window);
+    QTest::newRow("view") << int(QPalette::Text) << int(QPalette::Base);
+    QTest::newRow("other row") << int(QPalette::Text) << int(QPalette::AlternateBase);
+    QTest::newRow("button") << int(QPalette::ButtonText) << int(QPalette::Button);
+    QTest::newRow("pressed") << int(QPalette::ButtonText) << int(QPalette::Midlight);
+    QTest::newRow("link") << int(QPalette::Link) << int(QPalette::Base);
+    QTest::newRow("link in window") << int(QPalette::Link) << int(QPalette::Window);
+    QTest::newRow("visited") << int(QPalette::LinkVisited) << int(QPalette::Base);
+    QTest::newRow("tool tip") << int(QPalette::ToolTipText) << int(QPalette::ToolTipBase);
+    QTest::newRow("muted") << int(QPalette::PlaceholderText) << int(QPalette::Window);
+    QTest::newRow("placeholder") << int(QPalette::PlaceholderText) << int(QPalette::Base);
+    QTest::newRow("selected") << int(QPalette::HighlightedText) << int(QPalette::Highlight);
 }
 
 void TestGalleryAppearance::textsStandOutFromTheirGround()
 {
     QFETCH(int, text);
     QFETCH(int, ground);
-    QFETCH(qreal, ratio);
-    for (const auto colours : {GalleryColours::Light, GalleryColours::Dark}) {
+    for (const auto colours :
+         {GalleryColours::Light, GalleryColours::Dark, GalleryColours::Contrast}) {
         applyGalleryColours(colours);
-        const QPalette palette = QApplication::palette();
+        const bool isHigh = colours == GalleryColours::Contrast;
 
-        const qreal found = contrast(palette.color(QPalette::ColorRole(text)),
-                                     palette.color(QPalette::ColorRole(ground)));
+        for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+            const qreal found = contrast(group, text, ground);
+            QVERIFY2(found >= (isHigh ? Contrast::kHigh : Contrast::kText),
+                     qPrintable(galleryColoursName(colours) + QString::number(found)));
+        }
+    }
+}
 
-        QVERIFY2(found >= ratio, qPrintable(QString::number(found)));
+void TestGalleryAppearance::disabledTextsAreRead_data()
+{
+    QTest::addColumn<int>("text");
+    QTest::addColumn<int>("ground");
+    QTest::newRow("window") << int(QPalette::WindowText) << int(QPalette::Window);
+    QTest::newRow("field") << int(QPalette::Text) << int(QPalette::Base);
+    QTest::newRow("button") << int(QPalette::ButtonText) << int(QPalette::Button);
+    QTest::newRow("selected") << int(QPalette::HighlightedText) << int(QPalette::Highlight);
+    QTest::newRow("placeholder") << int(QPalette::PlaceholderText) << int(QPalette::Base);
+}
+
+void TestGalleryAppearance::disabledTextsAreRead()
+{
+    QFETCH(int, text);
+    QFETCH(int, ground);
+    for (const auto colours :
+         {GalleryColours::Light, GalleryColours::Dark, GalleryColours::Contrast}) {
+        applyGalleryColours(colours);
+        const bool isHigh = colours == GalleryColours::Contrast;
+
+        const qreal found = contrast(QPalette::Disabled, text, ground);
+
+        QVERIFY2(found >= (isHigh ? Contrast::kText : Contrast::kDisabled),
+                 qPrintable(galleryColoursName(colours) + QString::number(found)));
+    }
+}
+
+void TestGalleryAppearance::highContrastIsWhiteOnBlack()
+{
+    applyGalleryColours(GalleryColours::Contrast);
+
+    const QPalette palette = QApplication::palette();
+    QCOMPARE(palette.color(QPalette::Window), QColor(Qt::black));
+    QCOMPARE(palette.color(QPalette::WindowText), QColor(Qt::white));
+    for (const auto role : {QPalette::Mid, QPalette::Highlight, QPalette::Light}) {
+        QVERIFY(Contrast::between(palette.color(role), Qt::black) >= Contrast::kHigh);
     }
 }
 
@@ -109,9 +157,33 @@ void TestGalleryAppearance::uncheckedBoxesStandOutFromADarkGround()
     tree.resize(100, 40);
     tree.setFrameShape(QFrame::NoFrame);
 
-    // 3 is what parts of controls are to have.
-    QVERIFY(bestContrast(box.grab().toImage(), palette.color(QPalette::Window)) >= 3);
-    QVERIFY(bestContrast(tree.grab().toImage(), palette.color(QPalette::Base)) >= 3);
+    QVERIFY(Contrast::bestOn(box.grab().toImage(), palette.color(QPalette::Window))
+            >= Contrast::kGlyph);
+    QVERIFY(Contrast::bestOn(tree.grab().toImage(), palette.color(QPalette::Base))
+            >= Contrast::kGlyph);
+}
+
+void TestGalleryAppearance::fieldsStandOutFromADarkGround_data()
+{
+    QTest::addColumn<Maker>("maker");
+    QTest::newRow("line") << Maker(make<QLineEdit>);
+    QTest::newRow("text") << Maker(make<QPlainTextEdit>);
+    QTest::newRow("rich text") << Maker(make<QTextEdit>);
+    QTest::newRow("date") << Maker(make<QDateEdit>);
+}
+
+void TestGalleryAppearance::fieldsStandOutFromADarkGround()
+{
+    QFETCH(Maker, maker);
+    applyGalleryColours(GalleryColours::Dark);
+    const std::unique_ptr<QWidget> field = maker();
+    field->resize(120, 30);
+    field->ensurePolished();
+
+    const QImage edge = field->grab(QRect(0, 0, 60, 3)).toImage();
+    const qreal found = Contrast::bestOn(edge, QApplication::palette().color(QPalette::Window));
+
+    QVERIFY2(found >= Contrast::kGlyph, qPrintable(QString::number(found)));
 }
 
 void TestGalleryAppearance::openWindowsFollowAtOnce()
@@ -122,8 +194,8 @@ void TestGalleryAppearance::openWindowsFollowAtOnce()
 
     applyGalleryColours(GalleryColours::Dark);
 
-    QTRY_VERIFY(luminance(window.palette().color(QPalette::Window)) < 0.1);
-    QVERIFY(luminance(child.palette().color(QPalette::Window)) < 0.1);
+    QTRY_VERIFY(Contrast::luminance(window.palette().color(QPalette::Window)) < 0.1);
+    QVERIFY(Contrast::luminance(child.palette().color(QPalette::Window)) < 0.1);
 }
 
 void TestGalleryAppearance::systemColoursComeBack()
@@ -164,6 +236,36 @@ void TestGalleryAppearance::styleKeepsThePalette()
     QCOMPARE(QApplication::palette().color(QPalette::Mid), before.color(QPalette::Mid));
 }
 
+void TestGalleryAppearance::highContrastDrawsOverEachStyle()
+{
+    for (const QString &key : {QStringLiteral("Windows"), QStringLiteral("Fusion")}) {
+        applyGalleryColours(GalleryColours::Contrast);
+
+        QVERIFY(applyGalleryStyle(key));
+
+        QVERIFY(qobject_cast<ContrastStyle *>(QApplication::style()));
+        QCOMPARE(galleryStyleName(), key.toLower());
+        applyGalleryColours(GalleryColours::Light);
+        QVERIFY(!qobject_cast<ContrastStyle *>(QApplication::style()));
+        QCOMPARE(galleryStyleName(), key.toLower());
+        QCOMPARE(QApplication::style()->name(), key.toLower());
+    }
+}
+
+void TestGalleryAppearance::highContrastStaysUnderASheet()
+{
+    const QString sheet = QStringLiteral("QLineEdit { border: 1px solid palette(mid); }");
+    applyGalleryColours(GalleryColours::Contrast);
+    qApp->setStyleSheet(sheet);
+
+    QVERIFY(applyGalleryStyle("Windows"));
+
+    QCOMPARE(qApp->styleSheet(), sheet);
+    qApp->setStyleSheet(QString());
+    QVERIFY(qobject_cast<ContrastStyle *>(QApplication::style()));
+    QCOMPARE(galleryStyleName(), "windows");
+}
+
 void TestGalleryAppearance::namesAreReadBack_data()
 {
     QTest::addColumn<QString>("name");
@@ -171,6 +273,7 @@ void TestGalleryAppearance::namesAreReadBack_data()
     QTest::newRow("system") << "system" << GalleryColours::System;
     QTest::newRow("light") << "light" << GalleryColours::Light;
     QTest::newRow("dark") << "dark" << GalleryColours::Dark;
+    QTest::newRow("contrast") << "contrast" << GalleryColours::Contrast;
 }
 
 void TestGalleryAppearance::namesAreReadBack()

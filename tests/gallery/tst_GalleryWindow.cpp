@@ -28,6 +28,7 @@ private slots:
     void rememberedPageIsShown();
     void unknownRememberedPageIsTheFirst();
     void paletteIsAppliedToAllWindowsAndRemembered();
+    void highContrastKeepsTheStyle();
     void styleIsAppliedAndRemembered();
     void languageIsAppliedAndRemembered();
     void startingWritesNoSettings();
@@ -157,6 +158,19 @@ void TestGalleryWindow::paletteIsAppliedToAllWindowsAndRemembered()
     QTRY_VERIFY(window->palette().color(QPalette::Window).lightness() < 64);
     QVERIFY(other.palette().color(QPalette::Window).lightness() < 64);
     QCOMPARE(GallerySettings::load().colours, GalleryColours::Dark);
+}
+
+void TestGalleryWindow::highContrastKeepsTheStyle()
+{
+    open();
+
+    pick(box("Palette"), "High Contrast");
+
+    QTRY_COMPARE(window->palette().color(QPalette::Window), QColor(Qt::black));
+    QCOMPARE(GallerySettings::load().colours, GalleryColours::Contrast);
+    open(GallerySettings::load());
+    QCOMPARE(box("Palette")->currentText(), "High Contrast");
+    QCOMPARE(box("Style")->currentText(), "Fusion");
 }
 
 void TestGalleryWindow::styleIsAppliedAndRemembered()
