@@ -1,5 +1,6 @@
 #include "GalleryWindow.h"
 
+#include "FocusOutline.h"
 #include "GalleryAboutWindow.h"
 #include "GalleryHeader.h"
 #include "GalleryIcon.h"
@@ -65,6 +66,7 @@ GalleryWindow::GalleryWindow(GalleryLanguages &languages, const GallerySettings 
     , pages(galleryPages().size())
     , areas(galleryPages().size())
 {
+    new FocusOutline(this);
     setWindowIcon(galleryIcon());
     applyLooks(settings);
     setUpList();

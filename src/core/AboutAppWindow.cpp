@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QFocusEvent>
 #include <QUrl>
 
 namespace {
@@ -90,6 +91,7 @@ AboutAppWindow::AboutAppWindow(QWidget *parent)
     ui->versionLabel->setObjectName(name);
     ui->versionTitleLabel->setObjectName(name);
     makeSmaller(ui->appNameLabel);
+    ui->companyWebSiteLabel->installEventFilter(this);
     connect(ui->patentButton, SIGNAL(clicked()), this, SLOT(displayPatents()));
 }
 
@@ -133,6 +135,20 @@ void AboutAppWindow::changeEvent(QEvent *event)
             updateAboutWindow();
         }
     }
+}
+
+/// A label that gets the focus shows that only once Tab is pressed again, which then goes to its
+/// link: here the link has it at once.
+bool AboutAppWindow::eventFilter(QObject *object, QEvent *event)
+{
+    const bool isLost = event->type() == QEvent::FocusOut;
+    if (object == ui->companyWebSiteLabel && (isLost || event->type() == QEvent::FocusIn)) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        const bool isByKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+        const qsizetype length = isLost || !isByKey ? 0 : applicationWebSite().size();
+        ui->companyWebSiteLabel->setSelection(0, int(length));
+    }
+    return QDialog::eventFilter(object, event);
 }
 
 void AboutAppWindow::displayPatents() const

@@ -54,6 +54,9 @@ public:
     /// when something has changed while the window is open.
     void updateAboutWindow();
 
+    /// Shows where the focus is when Tab brings it to the link.
+    bool eventFilter(QObject *object, QEvent *event) override;
+
 protected:
     /// Fills the window, then shows it.
     void showEvent(QShowEvent *event) override;
