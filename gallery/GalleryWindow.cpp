@@ -8,6 +8,7 @@
 #include "GalleryPage.h"
 #include "GalleryPages.h"
 #include "GallerySettings.h"
+#include "LayoutKeys.h"
 #include "PageListDelegate.h"
 
 #include <QApplication>
@@ -67,6 +68,7 @@ GalleryWindow::GalleryWindow(GalleryLanguages &languages, const GallerySettings 
     , areas(galleryPages().size())
 {
     new FocusOutline(this);
+    new LayoutKeys(this);
     setWindowIcon(galleryIcon());
     applyLooks(settings);
     setUpList();

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QUrl>
 
 namespace {
@@ -137,18 +138,31 @@ void AboutAppWindow::changeEvent(QEvent *event)
     }
 }
 
-/// A label that gets the focus shows that only once Tab is pressed again, which then goes to its
-/// link: here the link has it at once.
 bool AboutAppWindow::eventFilter(QObject *object, QEvent *event)
 {
-    const bool isLost = event->type() == QEvent::FocusOut;
-    if (object == ui->companyWebSiteLabel && (isLost || event->type() == QEvent::FocusIn)) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        const bool isByKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
-        const qsizetype length = isLost || !isByKey ? 0 : applicationWebSite().size();
-        ui->companyWebSiteLabel->setSelection(0, int(length));
+    if (object != ui->companyWebSiteLabel) {
+        return QDialog::eventFilter(object, event);
     }
-    return QDialog::eventFilter(object, event);
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        // A label with a link never lets the focus go backwards by itself.
+        return static_cast<QKeyEvent *>(event)->key() == Qt::Key_Backtab
+            && focusNextPrevChild(false);
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        markLink(static_cast<QFocusEvent *>(event)->gotFocus()
+                 && static_cast<QFocusEvent *>(event)->reason() != Qt::MouseFocusReason);
+        return false;
+    default:
+        return false;
+    }
+}
+
+/// By itself the label marks its link only once Tab is pressed again.
+void AboutAppWindow::markLink(bool isMarked)
+{
+    const qsizetype length = isMarked ? applicationWebSite().size() : 0;
+    ui->companyWebSiteLabel->setSelection(0, int(length));
 }
 
 void AboutAppWindow::displayPatents() const

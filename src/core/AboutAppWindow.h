@@ -54,7 +54,7 @@ public:
     /// when something has changed while the window is open.
     void updateAboutWindow();
 
-    /// Shows where the focus is when Tab brings it to the link.
+    /// Marks the link while it has the focus, and lets the focus go on from it both ways.
     bool eventFilter(QObject *object, QEvent *event) override;
 
 protected:
@@ -68,5 +68,7 @@ private slots:
     void displayPatents() const;
 
 private:
+    void markLink(bool isMarked);
+
     std::unique_ptr<Ui::AboutAppWindow> ui;
 };

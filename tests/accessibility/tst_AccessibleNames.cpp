@@ -30,14 +30,10 @@ public:
 bool isOfNoLanguage(const QString &name)
 {
     static const QStringList names = {
-        QStringLiteral("Tolerance"),
-        QStringLiteral("Coated"),
-        QStringLiteral("Paper"),
-        QStringLiteral("Left"),
-        QStringLiteral("Right"),
-        QStringLiteral("Cyan"),
-        QStringLiteral("Magenta"),
-        QStringLiteral("https://www.tovra.example"),
+        QStringLiteral("Tolerance"), QStringLiteral("Coated"),
+        QStringLiteral("Paper"),     QStringLiteral("Left"),
+        QStringLiteral("Right"),     QStringLiteral("Cyan"),
+        QStringLiteral("Magenta"),   QStringLiteral("https://www.tovra.example"),
     };
     return names.contains(name);
 }
