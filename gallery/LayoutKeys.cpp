@@ -83,20 +83,27 @@ bool LayoutKeys::isTaken(const QKeyEvent &event, QWidget &focused)
         return false;
     }
     if (modifiers == (Qt::ControlModifier | Qt::ShiftModifier)) {
-        return moveColumn(focused, event.key());
+        return changeColumn(focused, event.key());
     }
     return modifiers == (Qt::ControlModifier | Qt::AltModifier) && moveBorder(focused, event.key());
 }
 
-bool LayoutKeys::moveColumn(QWidget &focused, int key)
+bool LayoutKeys::changeColumn(QWidget &focused, int key)
 {
     QHeaderView *header = headerOf(focused);
-    const bool isSideways = key == Qt::Key_Left || key == Qt::Key_Right;
-    if (!header || !isSideways) {
+    if (!header || header->count() == 0) {
         return false;
     }
     const auto *view = static_cast<QAbstractItemView *>(&focused);
     const int column = std::max(view->currentIndex().column(), 0);
+    if (key == Qt::Key_Up || key == Qt::Key_Down) {
+        if (!header->isSortIndicatorShown()) {
+            return false;
+        }
+        header->setSortIndicator(column,
+                                 key == Qt::Key_Up ? Qt::AscendingOrder : Qt::DescendingOrder);
+        return true;
+    }
     const bool isWider = (key == Qt::Key_Right) == (focused.layoutDirection() == Qt::LeftToRight);
     const int width = header->sectionSize(column) + (isWider ? kStepPixels : -kStepPixels);
     header->resizeSection(column, std::max(width, header->minimumSectionSize()));

@@ -6,8 +6,9 @@ class QKeyEvent;
 class QWidget;
 
 /// Keys for what is otherwise dragged with the mouse: Ctrl and Shift with the arrows to the left
-/// and right make the current column of a list narrower and wider, Ctrl and Alt with an arrow moves
-/// the border of a splitter.
+/// and right make the current column of a list narrower and wider, with the arrows up and down they
+/// sort it by that column, ascending and descending, where a click on its head does; Ctrl and Alt
+/// with an arrow moves the border of a splitter.
 ///
 /// The border is one of the innermost splitter around the focus that lies across the arrow: that
 /// behind the part with the focus, or before the last part. Where the focus is in none of them, it
@@ -28,6 +29,6 @@ public:
 
 private:
     [[nodiscard]] static bool isTaken(const QKeyEvent &event, QWidget &focused);
-    [[nodiscard]] static bool moveColumn(QWidget &focused, int key);
+    [[nodiscard]] static bool changeColumn(QWidget &focused, int key);
     [[nodiscard]] static bool moveBorder(const QWidget &focused, int key);
 };

@@ -81,6 +81,8 @@ private slots:
     void everyFormOfTheSourcesIsWalked();
     void everyControlHasAName_data() { addForms(); }
     void everyControlHasAName();
+    void picturesSayWhatTheyShow_data() { addForms(); }
+    void picturesSayWhatTheyShow();
     void namesAreWithoutMarks_data() { addForms(); }
     void namesAreWithoutMarks();
     void namesTellControlsApart_data() { addForms(); }
@@ -131,6 +133,13 @@ void TestAccessibleNames::everyControlHasAName()
 {
     const std::unique_ptr<QWidget> shown = form();
     const QStringList found = FormControls::nameless(*shown);
+    QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+}
+
+void TestAccessibleNames::picturesSayWhatTheyShow()
+{
+    const std::unique_ptr<QWidget> shown = form();
+    const QStringList found = FormControls::mutePictures(*shown);
     QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
 }
 

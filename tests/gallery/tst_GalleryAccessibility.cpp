@@ -4,6 +4,7 @@
 #include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
+#include "PagePlugins.h"
 #include "TestBase.h"
 
 #include <QApplication>
@@ -55,6 +56,12 @@ class TestGalleryAccessibility : public TestBase
 private slots:
     void everyControlHasAName_data() { addPages(); }
     void everyControlHasAName();
+    void picturesSayWhatTheyShow_data() { addPages(); }
+    void picturesSayWhatTheyShow();
+    void furtherWindowsHaveNamesToo_data() { addPages(); }
+    void furtherWindowsHaveNamesToo();
+    void pagesOfPluginsHaveNamesToo_data();
+    void pagesOfPluginsHaveNamesToo();
     void namesAreWithoutMarks_data() { addPages(); }
     void namesAreWithoutMarks();
     void namesTellControlsApart_data() { addPages(); }
@@ -111,6 +118,44 @@ void TestGalleryAccessibility::everyControlHasAName()
     // The strip above the pages and the list beside them as well.
     const QStringList found = FormControls::nameless(*window);
     QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+}
+
+void TestGalleryAccessibility::picturesSayWhatTheyShow()
+{
+    QWidget *page = openPage();
+    QVERIFY(page);
+    const QStringList found = FormControls::mutePictures(*page);
+    QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+}
+
+/// The windows that the page shows for its pictures in the manual.
+void TestGalleryAccessibility::furtherWindowsHaveNamesToo()
+{
+    QVERIFY(openPage());
+    const QList<GalleryFurtherWindow> windows = window->currentPage()->furtherWindows();
+    for (const GalleryFurtherWindow &further : windows) {
+        const QStringList found = FormControls::nameless(*further.window);
+        QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+        QCOMPARE(FormControls::unclean(*further.window, FormControls::Names::Unseen),
+                 QStringList());
+    }
+}
+
+void TestGalleryAccessibility::pagesOfPluginsHaveNamesToo_data()
+{
+    QTest::addColumn<QString>("plugin");
+    QTest::newRow("colours") << QStringLiteral("ColourPreferences");
+    QTest::newRow("reports") << QStringLiteral("ReportPreferences");
+}
+
+void TestGalleryAccessibility::pagesOfPluginsHaveNamesToo()
+{
+    QFETCH(const QString, plugin);
+    const std::unique_ptr<ConfWidget> page = makePluginPage(plugin);
+    QVERIFY(page);
+    const QStringList found = FormControls::nameless(*page);
+    QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+    QCOMPARE(FormControls::ambiguous(*page), QStringList());
 }
 
 void TestGalleryAccessibility::namesAreWithoutMarks()

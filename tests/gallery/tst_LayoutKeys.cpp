@@ -18,6 +18,9 @@ class TestLayoutKeys : public TestBase
 private slots:
     void columnGrowsAndShrinks();
     void columnStaysAsWideAsStylesAllow();
+    void listIsSortedByItsCurrentColumn();
+    void listThatIsNotSortedStaysAsItIs();
+    void emptyListTakesNoKeys();
     void borderMovesWithTheArrow();
     void borderBeforeTheLastPartMoves();
     void innerSplitterIsFoundFromBesideIt();
@@ -90,6 +93,36 @@ void TestLayoutKeys::columnStaysAsWideAsStylesAllow()
         pressAtColumn(Qt::Key_Left);
     }
     QCOMPARE(table->columnWidth(0), table->horizontalHeader()->minimumSectionSize());
+}
+
+void TestLayoutKeys::listIsSortedByItsCurrentColumn()
+{
+    table->setItem(0, 1, new QTableWidgetItem(QStringLiteral("Cyan")));
+    table->setItem(1, 1, new QTableWidgetItem(QStringLiteral("Black")));
+    table->setSortingEnabled(true);
+    table->sortByColumn(0, Qt::AscendingOrder);
+    table->setCurrentCell(0, 1);
+    pressAtColumn(Qt::Key_Up);
+    QCOMPARE(table->item(0, 1)->text(), QStringLiteral("Black"));
+    pressAtColumn(Qt::Key_Down);
+    QCOMPARE(table->item(0, 1)->text(), QStringLiteral("Cyan"));
+}
+
+void TestLayoutKeys::listThatIsNotSortedStaysAsItIs()
+{
+    table->setItem(0, 0, new QTableWidgetItem(QStringLiteral("Cyan")));
+    table->setItem(1, 0, new QTableWidgetItem(QStringLiteral("Black")));
+    table->setCurrentCell(0, 0);
+    pressAtColumn(Qt::Key_Up);
+    QCOMPARE(table->item(0, 0)->text(), QStringLiteral("Cyan"));
+}
+
+void TestLayoutKeys::emptyListTakesNoKeys()
+{
+    table->setColumnCount(0);
+    pressAtColumn(Qt::Key_Right);
+    pressAtColumn(Qt::Key_Up);
+    QCOMPARE(table->columnCount(), 0);
 }
 
 void TestLayoutKeys::borderMovesWithTheArrow()

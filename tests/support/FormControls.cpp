@@ -14,6 +14,7 @@
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QSet>
+#include <QStackedWidget>
 #include <QTest>
 
 namespace {
@@ -188,6 +189,29 @@ QStringList FormControls::nameless(QWidget &form)
     for (QWidget *control : controls) {
         if (spokenName(*control).trimmed().isEmpty() && !waitsForText(*control)) {
             found.append(inWords(*control));
+        }
+    }
+    return found;
+}
+
+QStringList FormControls::mutePictures(QWidget &form)
+{
+    QStringList found;
+    QList<QWidget *> widgets = form.findChildren<QWidget *>();
+    widgets.prepend(&form);
+    for (QWidget *widget : std::as_const(widgets)) {
+        const bool isQts = widget->metaObject()->className()[0] == 'Q';
+        const bool isLeaf = widget->findChildren<QWidget *>().isEmpty();
+        const bool isEmptyRoom = qobject_cast<const QStackedWidget *>(widget) != nullptr;
+        if (isQts || !isLeaf || isEmptyRoom || widget->isHidden() || isPart(*widget)
+            || isEmptyLabel(*widget)) {
+            continue;
+        }
+        const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(widget);
+        if ((told->text(QAccessible::Name) + told->text(QAccessible::Description)
+             + told->text(QAccessible::Value))
+                .isEmpty()) {
+            found.append(inWords(*widget));
         }
     }
     return found;

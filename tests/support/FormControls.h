@@ -34,6 +34,11 @@ namespace FormControls {
 /// which may well end with a colon.
 enum class Names { All, Unseen };
 
+/// The widgets that paint themselves, are no controls and stand for nothing but themselves, and of
+/// which a screen reader would learn nothing: neither a name nor a description nor a value.
+/// Recognised by a class that is not Qt's and has no widgets in it.
+[[nodiscard]] QStringList mutePictures(QWidget &form);
+
 /// The controls whose names hold marks that are no part of a name: a mnemonic's "&", or a colon or
 /// blank at the end.
 [[nodiscard]] QStringList unclean(QWidget &form, Names names);

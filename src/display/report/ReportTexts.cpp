@@ -1,5 +1,6 @@
 #include "ReportTexts.h"
 
+#include "ReportPlacement.h"
 #include "TXTable.h"
 
 #include <QGraphicsScene>
@@ -20,9 +21,10 @@ QString textOf(QGraphicsItem *item)
     return rich == nullptr ? QString() : rich->toPlainText();
 }
 
-bool isBlank(const QString &text)
+/// A text at no number at all has no place in an order either.
+bool isRead(const QString &text, const QRectF &rect)
 {
-    return QStringView(text).trimmed().isEmpty();
+    return !QStringView(text).trimmed().isEmpty() && ReportPlacement::isDrawable(rect);
 }
 
 QString textOf(const QVariant &element)
@@ -38,8 +40,9 @@ QList<TXReportText> ReportTexts::ofScene(const QGraphicsScene &scene, const QPoi
     const QList<QGraphicsItem *> items = scene.items(Qt::AscendingOrder);
     for (QGraphicsItem *item : items) {
         const QString text = item->isVisible() ? textOf(item) : QString();
-        if (!isBlank(text)) {
-            texts.append({text, item->sceneBoundingRect().translated(offset)});
+        const QRectF rect = item->sceneBoundingRect().translated(offset);
+        if (isRead(text, rect)) {
+            texts.append({text, rect});
         }
     }
     return inReadingOrder(std::move(texts));
@@ -53,8 +56,9 @@ QList<TXReportText> ReportTexts::ofTable(const TXTable &table, const QPointF &to
     for (int row = 0; row < rows.size(); ++row) {
         for (const TXTableCell &cell : rows.at(row)) {
             const QString text = textOf(cell.element);
-            if (!isBlank(text)) {
-                texts.append({text, QRectF(place, cell.size)});
+            const QRectF rect(place, cell.size);
+            if (isRead(text, rect)) {
+                texts.append({text, rect});
             }
             place.rx() += cell.size.width();
         }

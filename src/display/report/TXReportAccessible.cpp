@@ -48,7 +48,10 @@ QRect TXReportAccessible::screenRect(int page, const QRectF &rect) const
     if (!view()->isVisible()) {
         return {};
     }
-    const QRect inViewport = pageTransform(page).mapRect(rect).toAlignedRect();
+    // Beyond that nothing is seen, and whole numbers come to their end.
+    constexpr double kFarPixels = 1e6;
+    const QRectF reach(-kFarPixels, -kFarPixels, 2 * kFarPixels, 2 * kFarPixels);
+    const QRect inViewport = pageTransform(page).mapRect(rect).intersected(reach).toAlignedRect();
     return {view()->viewport()->mapToGlobal(inViewport.topLeft()), inViewport.size()};
 }
 

@@ -53,6 +53,7 @@ private slots:
     void childrenBehindThePageAreThoseOfTheView();
     void nothingIsMadeBeforeItIsAskedFor();
     void destroyedViewTakesItsInterfacesAlong();
+    void textsFarOutOrNowhereDoNoHarm();
 
 protected:
     void prepare() override;
@@ -281,6 +282,19 @@ void TestTXReportAccessible::destroyedViewTakesItsInterfacesAlong()
     view.reset();
     QVERIFY(!QAccessible::accessibleInterface(pageId));
     QVERIFY(!QAccessible::accessibleInterface(textId));
+}
+
+void TestTXReportAccessible::textsFarOutOrNowhereDoNoHarm()
+{
+    scene->setSceneRect(0, 0, 300, 200);
+    draw("here", {10, 10});
+    scene->addSimpleText("far")->setPos(1e18, 1e18);
+    scene->addSimpleText("nowhere")->setPos(qQNaN(), 10);
+    scene->addSimpleText("at no end")->setPos(10, qInf());
+    QCOMPARE(textsOf(*page()), QStringList({"here", "far"}));
+    QVERIFY(page()->child(1)->rect().isEmpty());
+    QVERIFY(page()->child(1)->state().offscreen);
+    scene->clear();
 }
 
 int main(int argc, char **argv)
