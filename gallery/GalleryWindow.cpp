@@ -1,5 +1,6 @@
 #include "GalleryWindow.h"
 
+#include "FocusOutline.h"
 #include "GalleryAboutWindow.h"
 #include "GalleryHeader.h"
 #include "GalleryIcon.h"
@@ -7,6 +8,7 @@
 #include "GalleryPage.h"
 #include "GalleryPages.h"
 #include "GallerySettings.h"
+#include "LayoutKeys.h"
 #include "PageListDelegate.h"
 
 #include <QApplication>
@@ -65,6 +67,8 @@ GalleryWindow::GalleryWindow(GalleryLanguages &languages, const GallerySettings 
     , pages(galleryPages().size())
     , areas(galleryPages().size())
 {
+    new FocusOutline(this);
+    new LayoutKeys(this);
     setWindowIcon(galleryIcon());
     applyLooks(settings);
     setUpList();

@@ -17,6 +17,7 @@
 
 #include <QHBoxLayout>
 #include <QLocale>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -194,6 +195,23 @@ void ImagesPage::hover(const QPointF &localPos, Qt::MouseButton /*button*/,
     }
 }
 
+/// For those who have no mouse: the pixel in the middle of the first picture's zone.
+void ImagesPage::lookAtMiddle()
+{
+    const QList<QPixmap> pictures = viewer->pixmaps();
+    if (pictures.isEmpty()) {
+        return;
+    }
+    const QPointF middle = QRectF(pictures.constFirst().rect()).center() - viewer->position();
+    const QPoint pixel(int(std::floor(middle.x())), int(std::floor(middle.y())));
+    const int picture = picturesPanel->shown().constFirst();
+    if (set.pictures[picture].image.rect().contains(pixel)) {
+        lookAt(picture, pixel);
+    } else {
+        lookAway();
+    }
+}
+
 /// Whether a place in the viewer is not above or to the left of the zone's picture: there, too, the
 /// nearest pixel is told to have the coordinate 0.
 bool ImagesPage::isBehindCorner(const QPointF &place, int zone) const
@@ -210,6 +228,9 @@ void ImagesPage::setUpViewer()
 {
     bar->setViewer(viewer);
     new MouseRepeater(viewer);
+    auto *space = new QShortcut(QKeySequence(Qt::Key_Space), viewer);
+    space->setContext(Qt::WidgetShortcut);
+    connect(space, SIGNAL(activated()), this, SLOT(lookAtMiddle()));
     viewer->setMinimumHeight(kViewerHeight);
     viewer->setBackgroundRole(QPalette::Mid);
     viewer->setAutoFillBackground(true);

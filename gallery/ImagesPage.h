@@ -37,6 +37,7 @@ private slots:
     void setOverlayShown(bool isShown);
     void setMarkerShown(bool isShown);
     void dropTroubles();
+    void lookAtMiddle();
     void hover(const QPointF &localPos, Qt::MouseButton button, Qt::MouseButtons buttons,
                Qt::KeyboardModifiers modifiers, bool isInside, int zoneIndex, QPoint pixmapCoord);
 

@@ -1,5 +1,7 @@
 #include "ReportView.h"
 
+#include "ReportViewAccessible.h"
+
 #include "TXReportDocument.h"
 
 #include <QKeyEvent>
@@ -42,6 +44,7 @@ ReportView::ReportView(QWidget *parent)
     : QAbstractScrollArea(parent)
     , pictures(kPicturesKilobytes)
 {
+    ReportViewAccessible::install();
     setFocusPolicy(Qt::StrongFocus);
     // A bar that comes and goes would change the width that a sheet is fitted to.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -59,6 +62,7 @@ void ReportView::setDocument(const std::shared_ptr<TXReportDocument> &report)
     updateScrollBars();
     viewport()->update();
     tellPage();
+    TXReportAccessible::announceChange(this);
 }
 
 int ReportView::currentPage() const

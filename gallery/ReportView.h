@@ -39,6 +39,9 @@ public:
     /// kept as far as there is paper. Null shows nothing.
     void setDocument(const std::shared_ptr<TXReportDocument> &report);
 
+    /// What is shown; null without a report.
+    [[nodiscard]] const TXReportDocument *report() const { return document.get(); }
+
     /// 0 without a report.
     [[nodiscard]] int pageCount() const { return pages; }
 
@@ -59,6 +62,11 @@ public:
 
     /// The room of a page in the view, in the view's pixels; empty for one that there is not.
     [[nodiscard]] QRect pageRect(int page) const;
+
+    /// The size of all pages, in points.
+    [[nodiscard]] QSizeF paperSize() const { return sheetPoints; }
+    /// How many of the view's pixels a point of the paper takes.
+    [[nodiscard]] double pixelsPerPoint() const;
 
 public slots:
     /// Brings the top of a page, counted from 0, to the top of the view. A page that there is not
@@ -85,7 +93,6 @@ protected:
     [[nodiscard]] QSize sizeHint() const override;
 
 private:
-    [[nodiscard]] double pixelsPerPoint() const;
     [[nodiscard]] QSize pageSize() const;
     [[nodiscard]] int pageStep() const;
     [[nodiscard]] QSize contentSize() const;

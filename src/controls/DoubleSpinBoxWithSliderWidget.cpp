@@ -29,6 +29,13 @@ int toSteps(double value, double scale)
     return WholeNumber::truncated(value * scale);
 }
 
+/// A label may end with a colon, a name does not.
+QString withoutColon(const QString &label)
+{
+    const QString name = label.trimmed();
+    return name.endsWith(QLatin1Char(':')) ? name.chopped(1).trimmed() : name;
+}
+
 } // namespace
 
 DoubleSpinBoxWithSliderWidget::DoubleSpinBoxWithSliderWidget(QWidget *parent)
@@ -170,9 +177,10 @@ QString DoubleSpinBoxWithSliderWidget::dataName()
 void DoubleSpinBoxWithSliderWidget::setDataName(const QString &name)
 {
     ui->dataNameLabel->setText(name);
-    ui->dataDoubleSpinBox->setAccessibleName(name);
-    ui->dataHorizontalSlider->setAccessibleName(name);
-    ui->dataLeftDoubleSpinBox->setAccessibleName(name);
+    const QString spoken = withoutColon(name);
+    ui->dataDoubleSpinBox->setAccessibleName(spoken);
+    ui->dataHorizontalSlider->setAccessibleName(spoken);
+    ui->dataLeftDoubleSpinBox->setAccessibleName(spoken);
 }
 
 void DoubleSpinBoxWithSliderWidget::setLabelMinimumWidth(int width)

@@ -109,7 +109,8 @@ public:
 
     /// The name before the boxes, empty at first.
     QString dataName();
-    /// Sets the name, which also is the accessible name of boxes and slider.
+    /// Sets the name, which also is the accessible name of boxes and slider, without a colon at its
+    /// end.
     void setDataName(const QString &name);
     /// The least width of the name, in pixels, for aligning several of these widgets.
     void setLabelMinimumWidth(int width);

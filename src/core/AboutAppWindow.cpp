@@ -10,6 +10,8 @@
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QUrl>
 
 namespace {
@@ -90,6 +92,7 @@ AboutAppWindow::AboutAppWindow(QWidget *parent)
     ui->versionLabel->setObjectName(name);
     ui->versionTitleLabel->setObjectName(name);
     makeSmaller(ui->appNameLabel);
+    ui->companyWebSiteLabel->installEventFilter(this);
     connect(ui->patentButton, SIGNAL(clicked()), this, SLOT(displayPatents()));
 }
 
@@ -133,6 +136,33 @@ void AboutAppWindow::changeEvent(QEvent *event)
             updateAboutWindow();
         }
     }
+}
+
+bool AboutAppWindow::eventFilter(QObject *object, QEvent *event)
+{
+    if (object != ui->companyWebSiteLabel) {
+        return QDialog::eventFilter(object, event);
+    }
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        // A label with a link never lets the focus go backwards by itself.
+        return static_cast<QKeyEvent *>(event)->key() == Qt::Key_Backtab
+            && focusNextPrevChild(false);
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        markLink(static_cast<QFocusEvent *>(event)->gotFocus()
+                 && static_cast<QFocusEvent *>(event)->reason() != Qt::MouseFocusReason);
+        return false;
+    default:
+        return false;
+    }
+}
+
+/// By itself the label marks its link only once Tab is pressed again.
+void AboutAppWindow::markLink(bool isMarked)
+{
+    const qsizetype length = isMarked ? applicationWebSite().size() : 0;
+    ui->companyWebSiteLabel->setSelection(0, int(length));
 }
 
 void AboutAppWindow::displayPatents() const

@@ -54,6 +54,9 @@ public:
     /// when something has changed while the window is open.
     void updateAboutWindow();
 
+    /// Marks the link while it has the focus, and lets the focus go on from it both ways.
+    bool eventFilter(QObject *object, QEvent *event) override;
+
 protected:
     /// Fills the window, then shows it.
     void showEvent(QShowEvent *event) override;
@@ -65,5 +68,7 @@ private slots:
     void displayPatents() const;
 
 private:
+    void markLink(bool isMarked);
+
     std::unique_ptr<Ui::AboutAppWindow> ui;
 };

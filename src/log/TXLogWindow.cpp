@@ -10,6 +10,7 @@
 #include <QIcon>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QSortFilterProxyModel>
 
@@ -82,6 +83,24 @@ void TXLogWindow::filterChanged(int idx)
     proxyModel->setFilterRegularExpression(levelPattern(idx));
 }
 
+void TXLogWindow::filterUp()
+{
+    stepFilter(-1);
+}
+
+void TXLogWindow::filterDown()
+{
+    stepFilter(1);
+}
+
+void TXLogWindow::stepFilter(int step)
+{
+    const int wanted = ui->filterComboBox->currentIndex() + step;
+    if (wanted >= 0 && wanted < ui->filterComboBox->count()) {
+        ui->filterComboBox->setCurrentIndex(wanted);
+    }
+}
+
 void TXLogWindow::setUpTree()
 {
     auto *proxy = new TXLogFilterProxyModel(this);
@@ -109,4 +128,6 @@ void TXLogWindow::setUpFilter()
     // Connected only now, so that a remembered level is shown and not yet applied.
     connect(ui->filterComboBox, SIGNAL(currentIndexChanged(int)), this, SLOT(filterChanged(int)));
     ui->filterComboBox->installEventFilter(this);
+    new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this, SLOT(filterUp()));
+    new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Down), this, SLOT(filterDown()));
 }

@@ -22,6 +22,9 @@ class TXLogWindow;
 /// opens with a remembered level shows it in its box, yet lists everything until the user picks an
 /// entry. Closing hides the window; what it lists is there when it is shown again.
 ///
+/// The box of the levels takes no focus: Alt+Up and Alt+Down, wherever the focus is in the window,
+/// pick the entry before and the one behind.
+///
 /// Thread: the GUI thread, also while other threads write to the log.
 class TXGUICOMMON_EXPORT TXLogWindow : public QDialog
 {
@@ -43,10 +46,13 @@ protected:
 
 private slots:
     void filterChanged(int idx);
+    void filterUp();
+    void filterDown();
 
 private:
     void setUpTree();
     void setUpFilter();
+    void stepFilter(int step);
 
     std::unique_ptr<Ui::TXLogWindow> ui;
     TXLogModel *logModel;

@@ -411,10 +411,15 @@ void TestAboutAppWindow::keyboardReachesLinkAndButton()
     QVERIFY(QTest::qWaitForWindowActive(&window));
     QCOMPARE(QApplication::focusWidget(), label(window, "companyWebSiteLabel"));
 
-    // The label itself, then its link.
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    auto *link = label(window, "companyWebSiteLabel");
+    QCOMPARE(link->selectedText(), window.applicationWebSite());
+    QTest::keyClick(link, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), window.findChild<QPushButton *>("patentButton"));
+    QCOMPARE(link->selectedText(), QString());
 
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), link);
+    QTest::keyClick(link, Qt::Key_Backtab, Qt::ShiftModifier);
     QCOMPARE(QApplication::focusWidget(), window.findChild<QPushButton *>("patentButton"));
 }
 

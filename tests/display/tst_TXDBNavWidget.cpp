@@ -77,7 +77,7 @@ void TestTXDBNavWidget::screenReadersNameThePage()
 
     const QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(navigator.spinBox());
     QVERIFY(reader);
-    QCOMPARE(reader->text(QAccessible::Name), QStringLiteral("Page:"));
+    QCOMPARE(reader->text(QAccessible::Name), QStringLiteral("Page"));
 }
 
 void TestTXDBNavWidget::withoutAModelThereIsOnePage()

@@ -23,6 +23,8 @@ private slots:
     void readoutFollowsWhatMovesThePictures_data();
     void readoutFollowsWhatMovesThePictures();
     void readoutFollowsAPictureThatWasDraggedTooFar();
+    void spaceReadsThePixelInTheMiddle();
+    void spaceBesideThePictureReadsNothing();
     void picturesThatMoveTellNothingWithoutAMouse();
     void lastRowAndColumnAreRead();
     void scaleOfTheUserStays_data();
@@ -99,6 +101,38 @@ void TestImagesPageView::readoutFollowsAPictureThatWasDraggedTooFar()
 
     // The corner of the picture stands in that of the zone.
     QTRY_VERIFY2(isPixelRead(end), qPrintable(allTexts(*page)));
+}
+
+void TestImagesPageView::spaceReadsThePixelInTheMiddle()
+{
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    viewer->setFocus();
+    viewer->scale(2, TXImageViewer::Absolute);
+    viewer->repaint();
+    const double zoneWidth = double(viewer->width()) / double(viewer->pixmaps().size());
+    const QPointF middle(zoneWidth / 2, viewer->height() / 2.0);
+    viewer->setPosition(QPointF(-20.5, 10.5));
+    viewer->repaint();
+    const QPoint pixel = pixelAt(0, middle);
+    QVERIFY(!isPixelRead(pixel));
+
+    press(Qt::Key_Space);
+
+    QVERIFY2(isPixelRead(pixel), qPrintable(allTexts(*page)));
+}
+
+void TestImagesPageView::spaceBesideThePictureReadsNothing()
+{
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    viewer->setFocus();
+    moveMouse(QPointF(100, 130));
+    const QPoint before = pixelAt(0, QPointF(100, 130));
+    QVERIFY(isPixelRead(before));
+    viewer->setPosition(QPointF(100'000, 100'000));
+
+    press(Qt::Key_Space);
+
+    QVERIFY(!isPixelRead(before));
 }
 
 void TestImagesPageView::picturesThatMoveTellNothingWithoutAMouse()

@@ -3,6 +3,9 @@
 #include "ReportView.h"
 #include "TestBase.h"
 
+#include "TXReportDocument.h"
+
+#include <QAccessible>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QWheelEvent>
@@ -32,6 +35,8 @@ private slots:
     void largePagesArePaintedAsSmallOnes();
     void pagesAreSharpOnFineScreens();
     void anotherReportKeepsThePlace();
+    void sheetsAreReadByScreenReaders();
+    void anotherReportIsReadAnew();
 
 protected:
     void prepare() override;
@@ -315,6 +320,36 @@ void TestReportView::anotherReportKeepsThePlace()
     show(options);
 
     QCOMPARE(view->currentPage(), 3);
+}
+
+void TestReportView::sheetsAreReadByScreenReaders()
+{
+    view->setZoomMode(ReportView::ZoomMode::FitPage);
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(view.get());
+    QVERIFY(accessible->childCount() >= view->pageCount());
+    QAccessibleInterface *sheet = accessible->child(0);
+    QCOMPARE(sheet->role(), QAccessible::Document);
+    QCOMPARE(sheet->childCount(), view->report()->pageTexts(0).size());
+    const QRect seen = view->pageRect(0);
+    const QPoint corner = view->viewport()->mapToGlobal(seen.topLeft());
+    QVERIFY((sheet->rect().topLeft() - corner).manhattanLength() <= 2);
+    for (int index = 0; index < sheet->childCount(); ++index) {
+        QVERIFY(!sheet->child(index)->text(QAccessible::Name).trimmed().isEmpty());
+        QVERIFY(sheet->rect().adjusted(-2, -2, 2, 2).contains(sheet->child(index)->rect()));
+    }
+    QVERIFY(!sheet->state().offscreen);
+    view->goToPage(view->pageCount() - 1);
+    QVERIFY(sheet->state().offscreen);
+}
+
+void TestReportView::anotherReportIsReadAnew()
+{
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(view.get());
+    const QAccessible::Id sheet = QAccessible::uniqueId(accessible->child(0));
+    const int parts = accessible->childCount() - view->pageCount();
+    view->setDocument(nullptr);
+    QVERIFY(!QAccessible::accessibleInterface(sheet));
+    QCOMPARE(accessible->childCount(), parts);
 }
 
 int main(int argc, char **argv)

@@ -219,7 +219,7 @@ void TestTXWebInterfaceConfigurationWidget::everyControlHasAName()
         {"httpsCertificateCheckBox", "Enable HTTPS"},
         {"httpsCertificateLineEdit", "Certificate file"},
         {"httpsCertificateButton", "Choose certificate file"},
-        {"hostTextEdit", "Active Addresses:"}};
+        {"hostTextEdit", "Active Addresses"}};
     panel->load(WebTest::fullSettings());
     panel->show();
     for (const auto &[object, name] : names) {

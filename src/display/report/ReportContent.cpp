@@ -2,6 +2,7 @@
 
 #include "ReportPlacement.h"
 #include "ReportSharedParts.h"
+#include "ReportTexts.h"
 #include "TXGraphicsScene.h"
 #include "TXTableCell.h"
 
@@ -72,6 +73,13 @@ void ReportScenePage::paint(QPainter *painter, int /*page*/, const ReportPaper &
     }
 }
 
+QList<TXReportText> ReportScenePage::texts(int /*page*/, const ReportPaper &paper,
+                                           ReportSharedParts * /*shared*/)
+{
+    return scene == nullptr ? QList<TXReportText>()
+                            : ReportTexts::ofScene(*scene, paper.content.topLeft());
+}
+
 ReportDrawnPages::ReportDrawnPages(int count, Drawing draw)
     : count(count)
     , draw(std::move(draw))
@@ -88,6 +96,14 @@ void ReportDrawnPages::paint(QPainter *painter, int page, const ReportPaper &pap
     ReportPageScene scene(&shared->pictures);
     draw(&scene, page);
     renderScene(scene, painter, paper);
+}
+
+QList<TXReportText> ReportDrawnPages::texts(int page, const ReportPaper &paper,
+                                            ReportSharedParts *shared)
+{
+    ReportPageScene scene(&shared->pictures);
+    draw(&scene, page);
+    return ReportTexts::ofScene(scene, paper.content.topLeft());
 }
 
 ReportTableContent::ReportTableContent(const TXTable &table, const QFont &font)
@@ -115,4 +131,11 @@ void ReportTableContent::paint(QPainter *painter, int page, const ReportPaper &p
 {
     const QPointF cells = paper.content.topLeft() + QPointF(kTableFramePoints, kTableFramePoints);
     shared->tables.paintTable(painter, pagesOn(paper).page(page), cells, font);
+}
+
+QList<TXReportText> ReportTableContent::texts(int page, const ReportPaper &paper,
+                                              ReportSharedParts * /*shared*/)
+{
+    const QPointF cells = paper.content.topLeft() + QPointF(kTableFramePoints, kTableFramePoints);
+    return ReportTexts::ofTable(pagesOn(paper).page(page), cells);
 }

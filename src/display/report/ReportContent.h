@@ -2,8 +2,10 @@
 
 #include "ReportTablePages.h"
 #include "TXGUICommonExport.h"
+#include "TXReportText.h"
 
 #include <QFont>
+#include <QList>
 #include <QPointer>
 #include <QRectF>
 
@@ -36,6 +38,10 @@ public:
     /// with the pages before it. May change the painter's state.
     virtual void paint(QPainter *painter, int page, const ReportPaper &paper,
                        ReportSharedParts *shared) = 0;
+
+    /// The texts of one of them, as it is painted, in the order of reading.
+    [[nodiscard]] virtual QList<TXReportText> texts(int page, const ReportPaper &paper,
+                                                    ReportSharedParts *shared) = 0;
 };
 
 /// One page that shows a scene of the caller's.
@@ -48,6 +54,8 @@ public:
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
     void paint(QPainter *painter, int page, const ReportPaper &paper,
                ReportSharedParts *shared) override;
+    [[nodiscard]] QList<TXReportText> texts(int page, const ReportPaper &paper,
+                                            ReportSharedParts *shared) override;
 
 private:
     QPointer<TXGraphicsScene> scene;
@@ -66,6 +74,8 @@ public:
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
     void paint(QPainter *painter, int page, const ReportPaper &paper,
                ReportSharedParts *shared) override;
+    [[nodiscard]] QList<TXReportText> texts(int page, const ReportPaper &paper,
+                                            ReportSharedParts *shared) override;
 
 private:
     int count;
@@ -82,6 +92,8 @@ public:
     [[nodiscard]] int pageCount(const ReportPaper &paper) override;
     void paint(QPainter *painter, int page, const ReportPaper &paper,
                ReportSharedParts *shared) override;
+    [[nodiscard]] QList<TXReportText> texts(int page, const ReportPaper &paper,
+                                            ReportSharedParts *shared) override;
 
 private:
     [[nodiscard]] const ReportTablePages &pagesOn(const ReportPaper &paper);

@@ -44,3 +44,15 @@ void ReportPageFrame::paint(QPainter *painter, const QRectF &withinMargins, int 
     line.moveBottom(withinMargins.bottom());
     footer.paint(painter, line, font, facts);
 }
+
+QList<TXReportText> ReportPageFrame::around(const QList<TXReportText> &content,
+                                            const QRectF &withinMargins, int page,
+                                            int pageCount) const
+{
+    const ReportPageFacts facts{page + 1, pageCount, title};
+    QRectF line = withinMargins;
+    line.setHeight(lineHeight());
+    const QList<TXReportText> above = header.placedTexts(line, font, facts);
+    line.moveBottom(withinMargins.bottom());
+    return above + content + footer.placedTexts(line, font, facts);
+}

@@ -31,6 +31,12 @@ public:
     /// Paints header and footer of a page, counted from 0. Changes the painter's pen.
     void paint(QPainter *painter, const QRectF &withinMargins, int page, int pageCount) const;
 
+    /// The texts of a page's content, counted from 0, with those of the header before and those of
+    /// the footer behind them.
+    [[nodiscard]] QList<TXReportText> around(const QList<TXReportText> &content,
+                                             const QRectF &withinMargins, int page,
+                                             int pageCount) const;
+
 private:
     [[nodiscard]] double lineHeight() const;
 };

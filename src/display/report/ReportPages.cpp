@@ -58,14 +58,31 @@ int ReportPages::count()
     return firstPages.back();
 }
 
+/// Of a page that is counted.
+std::size_t ReportPages::contentOf(int page) const
+{
+    const auto next = std::upper_bound(firstPages.begin(), firstPages.end(), page);
+    return std::size_t(next - firstPages.begin()) - 1;
+}
+
+QList<TXReportText> ReportPages::texts(int page, ReportSharedParts *shared)
+{
+    const int pageCount = count();
+    if (page < 0 || page >= pageCount) {
+        return {};
+    }
+    const std::size_t index = contentOf(page);
+    return pageFrame.around(contents[index]->texts(page - firstPages[index], paper(), shared),
+                            withinMargins(), page, pageCount);
+}
+
 void ReportPages::paint(int page, QPainter *painter, ReportSharedParts *shared)
 {
     const int pageCount = count();
     if (page < 0 || page >= pageCount) {
         return;
     }
-    const auto next = std::upper_bound(firstPages.begin(), firstPages.end(), page);
-    const auto index = std::size_t(next - firstPages.begin()) - 1;
+    const std::size_t index = contentOf(page);
     const ReportPaper sheet = paper();
     painter->save();
     painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing

@@ -42,7 +42,11 @@ public:
     /// writing.
     void paint(int page, QPainter *painter, ReportSharedParts *shared);
 
+    /// The texts of a page, counted from 0, in the order of reading; none outside the pages.
+    [[nodiscard]] QList<TXReportText> texts(int page, ReportSharedParts *shared);
+
 private:
+    [[nodiscard]] std::size_t contentOf(int page) const;
     [[nodiscard]] QRectF withinMargins() const;
     void forgetCounts();
 

@@ -142,3 +142,20 @@ void ReportTextLine::paint(QPainter *painter, const QRectF &rect, const QFont &f
                   place, rect, font);
     }
 }
+
+QList<TXReportText> ReportTextLine::placedTexts(const QRectF &rect, const QFont &font,
+                                                const ReportPageFacts &facts) const
+{
+    constexpr std::array kFromTheLeft = {TXAlignLeft, TXAlignHorizontallyCentred, TXAlignRight};
+    const QFontMetricsF metrics(font);
+    QList<TXReportText> placed;
+    for (const TXHorizontalAlignment place : kFromTheLeft) {
+        const QString text = filledText(place, facts);
+        if (!QStringView(text).trimmed().isEmpty()) {
+            const double width = std::min(metrics.horizontalAdvance(text), rect.width());
+            const QPointF topLeft(leftOf(place, width, rect), rect.top());
+            placed.append({text, QRectF(topLeft, QSizeF(width, rect.height()))});
+        }
+    }
+    return placed;
+}

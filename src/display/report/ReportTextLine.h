@@ -2,7 +2,9 @@
 
 #include "TXAlignment.h"
 #include "TXGUICommonExport.h"
+#include "TXReportText.h"
 
+#include <QList>
 #include <QString>
 
 #include <array>
@@ -47,6 +49,11 @@ public:
     /// in dots.
     void paint(QPainter *painter, const QRectF &rect, const QFont &font,
                const ReportPageFacts &facts) const;
+
+    /// The texts and where paint() paints them, blank ones aside, from left to right; whole, where
+    /// paint() cuts them. The middle one may stand a little off where it has to make room.
+    [[nodiscard]] QList<TXReportText> placedTexts(const QRectF &rect, const QFont &font,
+                                                  const ReportPageFacts &facts) const;
 
 private:
     static constexpr int kPlaces = 3;

@@ -1,6 +1,7 @@
 #include "TXGraphicsScene.h"
 
 #include "ReportPlacement.h"
+#include "ReportSceneAccessible.h"
 #include "ReportShadowEffect.h"
 #include "TXGraphicsRoundedRectItem.h"
 #include "TXScalablePixmapItem.h"
@@ -25,7 +26,9 @@ bool isDrawable(const QPointF &place)
 
 TXGraphicsScene::TXGraphicsScene(QObject *parent)
     : QGraphicsScene(parent)
-{ }
+{
+    ReportSceneAccessible::install();
+}
 
 /// Qt removes an item that it has not met yet by a search through all such: let it meet them first.
 TXGraphicsScene::~TXGraphicsScene()

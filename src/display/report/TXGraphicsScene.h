@@ -14,7 +14,8 @@ class TXTable;
 /// point (1/72 inch).
 ///
 /// What is drawn joins the scene as an item above what is there already, and belongs to the scene.
-/// Show the scene in a QGraphicsView, or take it to paper with TXReportDocument.
+/// Show the scene in a QGraphicsView, or take it to paper with TXReportDocument. Screen readers can
+/// read the texts in such a view; see TXReportAccessible.
 ///
 /// Texts take as many units as their font takes pixels on the screen. Set fonts by
 /// QFont::setPixelSize(), so that a size of 10 is 10 points on paper wherever the report is made;

@@ -187,6 +187,12 @@ void TXReportDocument::paintPage(int page, QPainter *painter) const
     }
 }
 
+QList<TXReportText> TXReportDocument::pageTexts(int page) const
+{
+    ReportSharedParts shared;
+    return d->pages.texts(page, &shared);
+}
+
 bool TXReportDocument::writePdf(const QString &fileName, ICompletionDelegate *delegate,
                                 TXError *error)
 {

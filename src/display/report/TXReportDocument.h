@@ -2,8 +2,10 @@
 
 #include "TXAlignment.h"
 #include "TXGUICommonExport.h"
+#include "TXReportText.h"
 
 #include <QCoreApplication>
+#include <QList>
 #include <QPageLayout>
 #include <QRectF>
 #include <QString>
@@ -135,6 +137,12 @@ public:
     /// of the painter being a point and (0, 0) the paper's top left corner. For previews. Nothing
     /// happens outside the pages. Leaves the painter's state as it was.
     void paintPage(int page, QPainter *painter) const;
+
+    /// The texts of one page, counted from 0, its header and footer among them, in the order of
+    /// reading: from the top, and each line from the left; a table row by row. For screen readers,
+    /// by TXReportAccessible, and for searching. Empty outside the pages. Costs as much as sorting
+    /// them; pages of addPages() are drawn for it.
+    [[nodiscard]] QList<TXReportText> pageTexts(int page) const;
 
     /// Writes the report as PDF. The file appears, or replaces an earlier one, only when it is
     /// whole; when writing fails or is cancelled what stood there before stays.

@@ -1,0 +1,70 @@
+#include "FocusOutline.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QEvent>
+#include <QPainter>
+#include <QScrollArea>
+
+namespace {
+
+/// Lies over the widget and lets all clicks through.
+class Frame : public QWidget
+{
+public:
+    explicit Frame(QWidget *parent)
+        : QWidget(parent)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        constexpr int kFramePixels = 2;
+        QPainter painter(this);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), kFramePixels));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+};
+
+} // namespace
+
+FocusOutline::FocusOutline(QWidget *window)
+    : QObject(window)
+    , window(window)
+{
+    connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), this,
+            SLOT(follow(QWidget *, QWidget *)));
+}
+
+bool FocusOutline::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() == QEvent::Resize && object == framed && frame) {
+        frame->setGeometry(framed->rect());
+    }
+    return QObject::eventFilter(object, event);
+}
+
+void FocusOutline::follow(QWidget * /*before*/, QWidget *now)
+{
+    delete frame;
+    if (framed) {
+        framed->removeEventFilter(this);
+    }
+    framed = isWantedAround(now) ? now : nullptr;
+    if (framed) {
+        frame = new Frame(framed);
+        frame->setGeometry(framed->rect());
+        frame->show();
+        framed->installEventFilter(this);
+    }
+}
+
+bool FocusOutline::isWantedAround(const QWidget *widget) const
+{
+    return qobject_cast<const QAbstractScrollArea *>(widget) != nullptr
+        && widget->metaObject() != &QScrollArea::staticMetaObject && widget->window() == window
+        && window->testAttribute(Qt::WA_KeyboardFocusChange);
+}

@@ -1,0 +1,92 @@
+#include "FormControls.h"
+#include "LibraryForms.h"
+#include "TestBase.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPushButton>
+
+namespace {
+
+/// The control as it is seen in its window, with what is around it: the frame of some stands
+/// outside of them.
+QImage seen(const QWidget &control)
+{
+    constexpr int kAround = 4;
+    QWidget *window = control.window();
+    const QRect place(control.mapTo(window, QPoint()), control.size());
+    return window->grab(place.adjusted(-kAround, -kAround, kAround, kAround)).toImage();
+}
+
+/// A style shows the default button of a dialog like one with the focus; then the mark that the
+/// control before has lost tells. A plain scroll area only takes the focus to be scrolled.
+bool isLeftToTheStyle(const QWidget &control)
+{
+    const auto *button = qobject_cast<const QPushButton *>(&control);
+    return (button != nullptr && button->isDefault()) || FormControls::isPart(control);
+}
+
+/// Whether the focus can be told from the picture.
+bool showsFocus(QWidget &control, QWidget &elsewhere)
+{
+    elsewhere.setFocus(Qt::TabFocusReason);
+    const QImage without = seen(control);
+    control.setFocus(Qt::TabFocusReason);
+    return control.hasFocus() && seen(control) != without;
+}
+
+} // namespace
+
+/// Where the focus is can be seen on every control of the library.
+class TestVisibleFocus : public TestBase
+{
+    Q_OBJECT
+
+private slots:
+    void everyControlShowsItsFocus_data();
+    void everyControlShowsItsFocus();
+
+protected:
+    void prepare() override { QApplication::setCursorFlashTime(0); }
+};
+
+void TestVisibleFocus::everyControlShowsItsFocus_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < libraryForms().size(); ++row) {
+        QTest::newRow(libraryForms()[row].name) << row;
+    }
+}
+
+void TestVisibleFocus::everyControlShowsItsFocus()
+{
+    QFETCH(int, row);
+    QWidget window;
+    QWidget elsewhere(&window);
+    elsewhere.setFocusPolicy(Qt::StrongFocus);
+    std::unique_ptr<QWidget> form = libraryForms()[row].make();
+    form->setParent(&window, Qt::Widget);
+    const QSize size = form->sizeHint().expandedTo(form->minimumSize()).expandedTo({60, 40});
+    form->setGeometry(QRect(QPoint(20, 20), size));
+    window.resize(size + QSize(40, 40));
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    form->show();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QStringList found;
+    const QList<QWidget *> stops = FormControls::tabStops(*form);
+    for (QWidget *stop : stops) {
+        window.setAttribute(Qt::WA_KeyboardFocusChange);
+        if (!isLeftToTheStyle(*stop) && !showsFocus(*stop, elsewhere)) {
+            found.append(FormControls::inWords(*stop));
+        }
+    }
+    QVERIFY2(found.isEmpty(), qPrintable(QLatin1Char('\n') + found.join(QLatin1Char('\n'))));
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<TestVisibleFocus>(argc, argv);
+}
+
+#include "tst_VisibleFocus.moc"
