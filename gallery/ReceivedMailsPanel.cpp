@@ -1,5 +1,6 @@
 #include "ReceivedMailsPanel.h"
 
+#include "ColumnTitles.h"
 #include "MailSubject.h"
 
 #include <QFontDatabase>
@@ -25,7 +26,7 @@ enum Role {
     TlsRole,
 };
 
-constexpr int kAddressWidth = 120;
+constexpr int kAddressWidth = 90;
 constexpr int kFlagWidth = 44;
 constexpr int kListHeight = 180;
 constexpr int kListShare = 8;
@@ -84,6 +85,7 @@ void ReceivedMailsPanel::retranslate()
     listLabel->setText(tr("&Mails:"));
     list->setAccessibleName(tr("Received mails"));
     list->setHeaderLabels({tr("From"), tr("To"), tr("Subject"), tr("TLS"), tr("Login")});
+    giveColumnTitlesRoom(list->header());
     for (int row = 0; row < list->topLevelItemCount(); ++row) {
         showTexts(list->topLevelItem(row));
     }

@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
+#include <QHeaderView>
 #include <QIcon>
 #include <QRegularExpression>
 #include <QSettings>
@@ -75,6 +77,19 @@ void TXLogWindow::showEvent(QShowEvent *event)
     setWindowIcon(QIcon(QDir::cleanPath(icon)));
 }
 
+void TXLogWindow::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        setWindowTitle(tr("Log Manager"));
+        nameFilters();
+        // Titles and messages are translated when they are painted.
+        ui->logTreeView->header()->viewport()->update();
+        ui->logTreeView->viewport()->update();
+    }
+}
+
 void TXLogWindow::filterChanged(int idx)
 {
     QSettings().setValue(kLevelKey, ui->filterComboBox->currentData(Qt::UserRole));
@@ -96,9 +111,10 @@ void TXLogWindow::setUpTree()
 
 void TXLogWindow::setUpFilter()
 {
-    ui->filterComboBox->addItem(tr("All"), int(All));
-    ui->filterComboBox->addItem(tr("Warning & Errors"), int(WarningsAndErrors));
-    ui->filterComboBox->addItem(tr("Errors Only"), int(ErrorsOnly));
+    for (const int level : {int(All), int(WarningsAndErrors), int(ErrorsOnly)}) {
+        ui->filterComboBox->addItem(QString(), level);
+    }
+    nameFilters();
 
     bool isNumber = false;
     const int remembered = QSettings().value(kLevelKey, int(All)).toInt(&isNumber);
@@ -109,4 +125,12 @@ void TXLogWindow::setUpFilter()
     // Connected only now, so that a remembered level is shown and not yet applied.
     connect(ui->filterComboBox, SIGNAL(currentIndexChanged(int)), this, SLOT(filterChanged(int)));
     ui->filterComboBox->installEventFilter(this);
+}
+
+void TXLogWindow::nameFilters()
+{
+    const QStringList names = {tr("All"), tr("Warning & Errors"), tr("Errors Only")};
+    for (int row = 0; row < names.size(); ++row) {
+        ui->filterComboBox->setItemText(row, names.at(row));
+    }
 }

@@ -40,6 +40,8 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    /// Follows a change of the language; messages that keep their source do so as well.
+    void changeEvent(QEvent *event) override;
 
 private slots:
     void filterChanged(int idx);
@@ -47,6 +49,7 @@ private slots:
 private:
     void setUpTree();
     void setUpFilter();
+    void nameFilters();
 
     std::unique_ptr<Ui::TXLogWindow> ui;
     TXLogModel *logModel;
