@@ -54,11 +54,12 @@ void DifferenceLegend::paintEvent(QPaintEvent *)
     const int close =
         int(bar.width() * DifferencePicture::kCloseDelta / DifferencePicture::kLargestDelta);
     // The colours run from left to right in every language, and so do their numbers.
-    painter.drawText(bar.left(), textTop, bar.width(), textHeight, Qt::AlignLeft | Qt::AlignAbsolute,
-                     QStringLiteral("ΔE 0"));
+    painter.drawText(bar.left(), textTop, bar.width(), textHeight,
+                     Qt::AlignLeft | Qt::AlignAbsolute, QStringLiteral("ΔE 0"));
     painter.drawText(bar.left(), textTop, 2 * close, textHeight, Qt::AlignHCenter,
                      locale().toString(DifferencePicture::kCloseDelta));
-    painter.drawText(bar.left(), textTop, bar.width(), textHeight, Qt::AlignRight | Qt::AlignAbsolute,
+    painter.drawText(bar.left(), textTop, bar.width(), textHeight,
+                     Qt::AlignRight | Qt::AlignAbsolute,
                      QStringLiteral("≥ ") + locale().toString(DifferencePicture::kLargestDelta));
 }
 

@@ -1,5 +1,6 @@
 #include "GalleryWindow.h"
 
+#include "ChoiceRoom.h"
 #include "GalleryAboutWindow.h"
 #include "GalleryHeader.h"
 #include "GalleryIcon.h"
@@ -10,6 +11,7 @@
 #include "PageListDelegate.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QEvent>
 #include <QFrame>
 #include <QLabel>
@@ -295,8 +297,18 @@ void GalleryWindow::makePage(int row)
     stack->addWidget(area);
 }
 
+void GalleryWindow::fitChoices()
+{
+    const auto boxes = findChildren<QComboBox *>();
+    for (QComboBox *box : boxes) {
+        ChoiceRoom::measureAnew(*box);
+    }
+}
+
 void GalleryWindow::retranslate()
 {
+    // When all the pages have set their texts.
+    QMetaObject::invokeMethod(this, "fitChoices", Qt::QueuedConnection);
     // Dates and numbers of views follow the widget's locale, which does not change by itself.
     setLocale(QLocale());
     list->setAccessibleName(tr("Pages"));

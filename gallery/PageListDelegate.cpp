@@ -88,7 +88,6 @@ QSize PageListDelegate::sizeHint(const QStyleOptionViewItem &option, const QMode
     font.setWeight(QFont::DemiBold);
     // Up to the next pixel: a text that needs a part of it would end with an ellipsis.
     const QFontMetricsF metrics(font);
-    const int textWidth =
-        qCeil(metrics.horizontalAdvance(index.data(Qt::DisplayRole).toString()));
+    const int textWidth = qCeil(metrics.horizontalAdvance(index.data(Qt::DisplayRole).toString()));
     return {textWidth + 2 * kTextMargin, qCeil(metrics.height()) + 2 * kVerticalPadding};
 }

@@ -28,6 +28,7 @@ enum Role {
 
 constexpr int kAddressWidth = 90;
 constexpr int kFlagWidth = 44;
+constexpr int kListWidth = 400;
 constexpr int kListHeight = 180;
 constexpr int kListShare = 8;
 constexpr int kContentShare = 5;
@@ -123,7 +124,7 @@ void ReceivedMailsPanel::setUpList()
     list->setColumnWidth(ToColumn, kAddressWidth);
     list->setColumnWidth(TlsColumn, kFlagWidth);
     list->setColumnWidth(LoginColumn, kFlagWidth);
-    list->setMinimumHeight(kListHeight);
+    list->setMinimumSize(kListWidth, kListHeight);
     list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
 }
 

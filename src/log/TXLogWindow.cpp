@@ -1,5 +1,6 @@
 #include "TXLogWindow.h"
 
+#include "ChoiceRoom.h"
 #include "TXLogFilterProxyModel.h"
 #include "TXLogItem.h"
 #include "TXLogModel.h"
@@ -133,4 +134,5 @@ void TXLogWindow::nameFilters()
     for (int row = 0; row < names.size(); ++row) {
         ui->filterComboBox->setItemText(row, names.at(row));
     }
+    ChoiceRoom::measureAnew(*ui->filterComboBox);
 }

@@ -1,5 +1,6 @@
 #include "TXTriggerEventWidget.h"
 
+#include "ChoiceRoom.h"
 #include "ui_TXTriggerEventWidget.h"
 
 #include <QEvent>
@@ -253,6 +254,11 @@ void TXTriggerEventWidget::retranslate()
     for (int row = 0; isWeek && dayComboBox && row < dayComboBox->count(); ++row) {
         dayComboBox->setItemText(
             row, QLocale().dayName(dayComboBox->itemData(row).toInt(), QLocale::LongFormat));
+    }
+    for (QComboBox *box : {periodComboBox.data(), dayComboBox.data()}) {
+        if (box) {
+            ChoiceRoom::measureAnew(*box);
+        }
     }
 }
 

@@ -21,15 +21,17 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QStringListModel>
 #include <QToolButton>
 
 namespace {
 
 /// The texts that stay as they were when the form was made, because hosts rely on it: those of two
 /// panels, headings and choices of a third one, and a title that no host shows.
-const QRegularExpression kStaying(QStringLiteral(
-    "^(QLabel (smtpMailLabel|senderAddressLabel|destinationAddressLabel)|QComboBox encryptionComboBox):"
-    "|^\\w+ \\w+: Form"));
+const QRegularExpression kStaying(
+    QStringLiteral("^(QLabel (smtpMailLabel|senderAddressLabel|destinationAddressLabel)|QComboBox "
+                   "encryptionComboBox):"
+                   "|^\\w+ \\w+: Form"));
 
 bool staysWhole(const QString &form)
 {
@@ -189,7 +191,9 @@ void TestFormLanguage::triggerWithoutAPartTakesTheRest()
 
 void TestFormLanguage::barKeepsTheTextsOfTheHost()
 {
+    QStringListModel model({"Coated"});
     TXSelectionItemWidget bar;
+    bar.setModel(&model, nullptr, nullptr);
     bar.setExportButtonToolTip("Save beside the proof");
     bar.setImportName("Take Over");
 

@@ -16,8 +16,7 @@ namespace {
 /// These panels keep the texts with which they were made, whole or in part, since hosts rely on it.
 bool isPartOfStayingPanel(const QWidget *widget)
 {
-    while (widget
-           && qobject_cast<const EMailSenderWidget *>(widget) == nullptr
+    while (widget && qobject_cast<const EMailSenderWidget *>(widget) == nullptr
            && qobject_cast<const TXDatabaseConfigurationWidget *>(widget) == nullptr
            && qobject_cast<const TXWebInterfaceConfigurationWidget *>(widget) == nullptr) {
         widget = widget->parentWidget();

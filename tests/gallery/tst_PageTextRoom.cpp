@@ -1,5 +1,4 @@
 #include "GalleryLanguages.h"
-#include "GalleryPage.h"
 #include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
@@ -7,8 +6,6 @@
 #include "TestBase.h"
 #include "TextRoom.h"
 
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSet>
 
 namespace {
@@ -54,12 +51,17 @@ void addPages(const char *language)
     }
 }
 
-/// How far the page in front reaches beyond the window to the side, in pixels.
-int hiddenWidth(const GalleryWindow &window)
+/// What is wrong when the layouts have come to rest, which takes a few rounds of the event loop.
+QString problemsOf(const QWidget &window, bool (*isOfInterest)(const QString &))
 {
-    const QWidget *viewport = window.currentPage()->parentWidget();
-    const auto *area = qobject_cast<const QScrollArea *>(viewport->parentWidget());
-    return area->horizontalScrollBar()->maximum();
+    QStringList problems;
+    const bool isGood = QTest::qWaitFor(
+        [&] {
+            problems = TextRoom::problems(window, isOfInterest);
+            return problems.isEmpty();
+        },
+        2000);
+    return isGood ? QString() : problems.join(u'\n');
 }
 
 } // namespace
@@ -107,8 +109,7 @@ void TestPageTextRoom::textsHaveRoom()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 
-    const QStringList problems = TextRoom::problems(window, &LongTranslator::isSpoken);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    QCOMPARE(problemsOf(window, &LongTranslator::isSpoken), QString());
 }
 
 void TestPageTextRoom::newLanguageHasRoom_data()
@@ -134,8 +135,7 @@ void TestPageTextRoom::newLanguageHasRoom()
     QCoreApplication::installTranslator(&translator);
     QCoreApplication::processEvents();
 
-    const QStringList problems = TextRoom::problems(window, &LongTranslator::isSpoken);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    QCOMPARE(problemsOf(window, &LongTranslator::isSpoken), QString());
 }
 
 void TestPageTextRoom::shippedTextsHaveRoom_data()
@@ -171,9 +171,7 @@ void TestPageTextRoom::shippedTextsHaveRoom()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 
-    const QStringList problems = TextRoom::problems(window, &ShippedTranslator::isSpoken);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
-    QVERIFY2(isSmallest || hiddenWidth(window) == 0, qPrintable(QString::number(hiddenWidth(window))));
+    QCOMPARE(problemsOf(window, &ShippedTranslator::isSpoken), QString());
 }
 
 int main(int argc, char **argv)

@@ -29,9 +29,8 @@ QStringList ofItems(const QWidget *widget)
     } else if (const auto *header = qobject_cast<const QHeaderView *>(widget)) {
         for (int section = 0; header->model() && section < header->count(); ++section) {
             for (const int role : {Qt::DisplayRole, Qt::ToolTipRole}) {
-                texts << header->model()
-                             ->headerData(section, header->orientation(), role)
-                             .toString();
+                texts
+                    << header->model()->headerData(section, header->orientation(), role).toString();
             }
         }
     }
@@ -54,8 +53,8 @@ QStringList ofNumbers(const QWidget *widget)
 
 QStringList ofWidget(const QWidget *widget)
 {
-    QStringList texts = {widget->isWindow() ? widget->windowTitle() : QString(), widget->toolTip(), widget->accessibleName(),
-                         widget->accessibleDescription()};
+    QStringList texts = {widget->isWindow() ? widget->windowTitle() : QString(), widget->toolTip(),
+                         widget->accessibleName(), widget->accessibleDescription()};
     if (const auto *label = qobject_cast<const QLabel *>(widget)) {
         texts << label->text();
     } else if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {

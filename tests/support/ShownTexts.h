@@ -10,8 +10,9 @@ class QWidget;
 namespace ShownTexts {
 
 /// All texts that a user reads or hears, hidden ones too, each behind the class of its widget:
-/// titles of windows, labels, buttons, frames, tabs, column titles, choices, placeholders, prefixes, suffixes
-/// and special values of boxes for numbers, actions, tooltips, accessible names and descriptions.
+/// titles of windows, labels, buttons, frames, tabs, column titles, choices, placeholders,
+/// prefixes, suffixes and special values of boxes for numbers, actions, tooltips, accessible names
+/// and descriptions.
 ///
 /// Left out is what stands in the rows of views and in text fields, which is data.
 [[nodiscard]] QStringList of(const QWidget &window);

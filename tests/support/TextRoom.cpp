@@ -185,8 +185,8 @@ private:
             room.rheight() = button->height();
         }
         const auto *tool = qobject_cast<const QToolButton *>(button);
-        const bool isIconOnly = tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly
-            && !tool->icon().isNull();
+        const bool isIconOnly =
+            tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !tool->icon().isNull();
         if (!isIconOnly) {
             const bool isBeside = !tool || tool->toolButtonStyle() == Qt::ToolButtonTextBesideIcon;
             const int icon =
@@ -222,20 +222,19 @@ private:
         if (qobject_cast<const ElidingHeader *>(header)) {
             return;
         }
-        const int margin =
-            header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+        const int margin = header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
         for (int section = 0; header->model() && section < header->count(); ++section) {
             const QString text =
                 header->model()->headerData(section, header->orientation()).toString();
             const bool isAcross = header->orientation() == Qt::Horizontal;
             const int length = header->sectionSize(section);
-            const QSize place = isAcross ? QSize(length, header->height())
-                                         : QSize(header->width(), length);
+            const QSize place =
+                isAcross ? QSize(length, header->height()) : QSize(header->width(), length);
             const bool isShown = !header->isSectionHidden(section);
-            const QString tip = plain(
-                header->model()
-                    ->headerData(section, header->orientation(), Qt::ToolTipRole)
-                    .toString());
+            const QString tip =
+                plain(header->model()
+                          ->headerData(section, header->orientation(), Qt::ToolTipRole)
+                          .toString());
             if (isShown && !tip.contains(plain(text))) {
                 need(header, text, place - QSize(2 * margin, 0));
             }
@@ -277,8 +276,7 @@ private:
         }
         QRect allowed = parent->rect();
         if (area && area->viewport() == parent) {
-            const bool goesAcross =
-                area->horizontalScrollBarPolicy() != Qt::ScrollBarAlwaysOff;
+            const bool goesAcross = area->horizontalScrollBarPolicy() != Qt::ScrollBarAlwaysOff;
             const bool goesDown = area->verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff;
             const int far = 1000000;
             allowed.adjust(goesAcross ? -far : 0, goesDown ? -far : 0, goesAcross ? far : 0,
@@ -290,12 +288,12 @@ private:
         }
         if (!allowed.contains(widget->geometry())) {
             const QRect place = widget->geometry();
-            found.append(QStringLiteral("%1 at %2,%3 %4 reaches out of %5 of %6")
-                             .arg(nameOf(widget))
-                             .arg(place.x())
-                             .arg(place.y())
-                             .arg(sizeText(place.size()), nameOf(parent),
-                                  sizeText(parent->size())));
+            found.append(
+                QStringLiteral("%1 at %2,%3 %4 reaches out of %5 of %6")
+                    .arg(nameOf(widget))
+                    .arg(place.x())
+                    .arg(place.y())
+                    .arg(sizeText(place.size()), nameOf(parent), sizeText(parent->size())));
         }
     }
 

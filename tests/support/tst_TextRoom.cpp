@@ -169,7 +169,9 @@ void TestTextRoom::textOfNoInterestIsLeftOut()
     makeTexted<QLabel>(&window)->resize(60, 20);
     window.show();
 
-    const auto isOther = [](const QString &text) { return text != kText; };
+    const auto isOther = [](const QString &text) {
+        return text != kText;
+    };
 
     QCOMPARE(TextRoom::problems(window, isOther), QStringList());
 }
