@@ -93,8 +93,6 @@ private slots:
     void markOfTheMaximumStaysAtTheEnd();
     void textsAreThoseToTranslate();
     void everySetterPaintsAnew();
-    void barReadsTheSameFromRightToLeft_data();
-    void barReadsTheSameFromRightToLeft();
 };
 
 void TestTXDeltaGradientWidget::heightIsThatOfTheParentsFontAtFirst()
@@ -427,29 +425,6 @@ void TestTXDeltaGradientWidget::everySetterPaintsAnew()
     QVERIFY(paintsOnce());
     bar.widget->setMax(3);
     QVERIFY(paintsOnce());
-}
-
-void TestTXDeltaGradientWidget::barReadsTheSameFromRightToLeft_data()
-{
-    QTest::addColumn<qreal>("ratio");
-    QTest::newRow("ratio 1") << 1.0;
-    QTest::newRow("ratio 2") << 2.0;
-}
-
-void TestTXDeltaGradientWidget::barReadsTheSameFromRightToLeft()
-{
-    QFETCH(qreal, ratio);
-    QWidget parent;
-    TXDeltaGradientWidget bar(&parent);
-    bar.resize(400, bar.sizeHint().height());
-    bar.setAverage(1.23, 61.04);
-    bar.setLimit(3, 97.4);
-    bar.setMax(8.8);
-    const QImage expected = PixelProbe(bar, ratio).image();
-
-    parent.setLayoutDirection(Qt::RightToLeft);
-
-    QVERIFY(PixelProbe(bar, ratio).image() == expected);
 }
 
 int main(int argc, char **argv)

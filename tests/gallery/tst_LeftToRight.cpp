@@ -1,6 +1,4 @@
-#include "DifferenceLegend.h"
 #include "LeftToRight.h"
-#include "PixelProbe.h"
 #include "TestBase.h"
 
 /// What reads from left to right in a gallery that is laid out from right to left.
@@ -11,8 +9,6 @@ class TestLeftToRight : public TestBase
 private slots:
     void pathStaysAsItIsFromLeftToRight();
     void pathIsKeptTogetherFromRightToLeft();
-    void legendReadsTheSameFromRightToLeft_data();
-    void legendReadsTheSameFromRightToLeft();
 
 protected:
     void finish() override { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); }
@@ -31,25 +27,6 @@ void TestLeftToRight::pathIsKeptTogetherFromRightToLeft()
     const QString path = QDir::toNativeSeparators("/srv/proofs");
     QCOMPARE(pathInText("/srv/proofs"), QChar(0x2066) + path + QChar(0x2069));
     QCOMPARE(leftToRight(QString()), QString());
-}
-
-void TestLeftToRight::legendReadsTheSameFromRightToLeft_data()
-{
-    QTest::addColumn<qreal>("ratio");
-    QTest::newRow("ratio 1") << 1.0;
-    QTest::newRow("ratio 2") << 2.0;
-}
-
-void TestLeftToRight::legendReadsTheSameFromRightToLeft()
-{
-    QFETCH(qreal, ratio);
-    DifferenceLegend legend;
-    legend.resize(300, legend.sizeHint().height());
-    const QImage expected = PixelProbe(legend, ratio).image();
-
-    legend.setLayoutDirection(Qt::RightToLeft);
-
-    QVERIFY(PixelProbe(legend, ratio).image() == expected);
 }
 
 int main(int argc, char **argv)

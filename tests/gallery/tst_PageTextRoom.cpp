@@ -60,7 +60,7 @@ QString problemsOf(const QWidget &window, bool (*isOfInterest)(const QString &))
             problems = TextRoom::problems(window, isOfInterest);
             return problems.isEmpty();
         },
-        2000);
+        10000);
     return isGood ? QString() : problems.join(u'\n');
 }
 
