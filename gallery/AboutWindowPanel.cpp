@@ -1,6 +1,7 @@
 #include "AboutWindowPanel.h"
 
 #include "GalleryAboutWindow.h"
+#include "LeftToRight.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -41,7 +42,7 @@ void AboutWindowPanel::retranslate()
     setButtonText(windowButton, tr("Open About &Window"));
     setButtonText(noticesButton, tr("Open Legal &Notices"));
     note->setText(tr("The notices are opened from a copy in the folder \"%1\".")
-                      .arg(QDir::toNativeSeparators(QDir::tempPath())));
+                      .arg(pathInText(QDir::tempPath())));
 }
 
 void AboutWindowPanel::openWindow() const
@@ -54,7 +55,7 @@ void AboutWindowPanel::openNotices()
 {
     const QString path = GalleryAboutWindow::noticesPath();
     if (!QFileInfo(path).isFile()) {
-        note->setText(tr("There are no notices at \"%1\".").arg(QDir::toNativeSeparators(path)));
+        note->setText(tr("There are no notices at \"%1\".").arg(pathInText(path)));
         return;
     }
     retranslate();

@@ -3,6 +3,7 @@
 #include "ColourPresetCollection.h"
 #include "ColourPresetForm.h"
 #include "ColourPresetModel.h"
+#include "LeftToRight.h"
 #include "PlainQuestion.h"
 #include "ShortText.h"
 
@@ -359,8 +360,7 @@ void ColourPresetPanel::showProblems()
     const auto &files = collection.damagedFiles();
     if (!files.isEmpty()) {
         lines.append(tr("Files in \"%1\" that are no presets, and are left as they are: %2")
-                         .arg(QDir::toNativeSeparators(collection.folder()),
-                              locale().toString(files.size())));
+                         .arg(pathInText(collection.folder()), locale().toString(files.size())));
     }
     for (const auto &file : files.mid(0, kMostFilesListed)) {
         lines.append(QStringLiteral("%1: %2").arg(shortText(file.name), file.reason.toString()));

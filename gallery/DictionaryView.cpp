@@ -1,5 +1,7 @@
 #include "DictionaryView.h"
 
+#include "ColumnTitles.h"
+
 #include <QEvent>
 #include <QFontDatabase>
 #include <QHeaderView>
@@ -88,6 +90,7 @@ void DictionaryView::addEntry(const QString &key, const QVariant &value, bool is
 void DictionaryView::retranslate()
 {
     setHeaderLabels({tr("Key"), tr("Type"), tr("Value")});
+    giveColumnTitlesRoom(header());
     if (accessibleName() == standardName) {
         standardName = tr("Settings");
         setAccessibleName(standardName);

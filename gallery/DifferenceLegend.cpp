@@ -38,6 +38,7 @@ void DifferenceLegend::changeEvent(QEvent *event)
 void DifferenceLegend::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     const QRect bar = barRect();
     for (int x = 0; x < bar.width(); ++x) {
         const double delta = DifferencePicture::kLargestDelta * x / bar.width();
@@ -52,11 +53,13 @@ void DifferenceLegend::paintEvent(QPaintEvent *)
     const int textHeight = fontMetrics().height();
     const int close =
         int(bar.width() * DifferencePicture::kCloseDelta / DifferencePicture::kLargestDelta);
-    painter.drawText(bar.left(), textTop, bar.width(), textHeight, Qt::AlignLeft,
-                     QStringLiteral("ΔE 0"));
+    // The colours run from left to right in every language, and so do their numbers.
+    painter.drawText(bar.left(), textTop, bar.width(), textHeight,
+                     Qt::AlignLeft | Qt::AlignAbsolute, QStringLiteral("ΔE 0"));
     painter.drawText(bar.left(), textTop, 2 * close, textHeight, Qt::AlignHCenter,
                      locale().toString(DifferencePicture::kCloseDelta));
-    painter.drawText(bar.left(), textTop, bar.width(), textHeight, Qt::AlignRight,
+    painter.drawText(bar.left(), textTop, bar.width(), textHeight,
+                     Qt::AlignRight | Qt::AlignAbsolute,
                      QStringLiteral("≥ ") + locale().toString(DifferencePicture::kLargestDelta));
 }
 

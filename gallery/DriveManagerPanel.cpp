@@ -6,6 +6,7 @@
 #include "AutoMountManagerMainWindow.h"
 #include "AutoMountNetworkDrive.h"
 #include "AutoMountNetworkDriveModel.h"
+#include "LeftToRight.h"
 #include "TXAutoMountManager.h"
 #include "TXFileDialog.h"
 
@@ -134,7 +135,7 @@ void DriveManagerPanel::retranslate()
            "connected drive is a link in \"%1\". The editor knows no port: a drive that you type "
            "in or edit leads to the standard port 445, not to the server above. Added drives are "
            "removed when the gallery ends; one that you have edited is yours, and stays.")
-            .arg(QDir::toNativeSeparators(ExampleDrives::linkFolder())));
+            .arg(pathInText(ExampleDrives::linkFolder())));
     fitColumns(*window);
     showMessage();
 }

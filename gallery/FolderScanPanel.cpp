@@ -1,6 +1,8 @@
 #include "FolderScanPanel.h"
 
+#include "ColumnTitles.h"
 #include "FolderJobBar.h"
+#include "LeftToRight.h"
 #include "WheelGuard.h"
 #include "WorkVeil.h"
 
@@ -122,6 +124,7 @@ void FolderScanPanel::retranslate()
                              tr("%1 pixels").arg(locale().toString(sizeBox->itemData(i).toInt())));
     }
     list->setHeaderLabels({tr("Folder"), tr("Size"), tr("Files"), tr("Changed last")});
+    giveColumnTitlesRoom(list->header());
     list->setAccessibleName(tr("Largest folders"));
     showList();
     showSums();
@@ -140,7 +143,7 @@ void FolderScanPanel::showList()
         QTreeWidgetItem *item =
             row < list->topLevelItemCount() ? list->topLevelItem(row) : new QTreeWidgetItem(list);
         const QString path = QDir::toNativeSeparators(report.path);
-        item->setText(FolderColumn, path);
+        item->setText(FolderColumn, leftToRight(path));
         item->setToolTip(FolderColumn, path.toHtmlEscaped());
         item->setText(SizeColumn, shown.formattedDataSize(report.totalBytes));
         item->setText(FilesColumn, shown.toString(report.fileCount));

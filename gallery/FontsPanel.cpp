@@ -1,5 +1,7 @@
 #include "FontsPanel.h"
 
+#include "LeftToRight.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -55,7 +57,7 @@ FontsPanel::FontsPanel(const QString &folder, QWidget *parent)
 void FontsPanel::retranslate()
 {
     setTitle(tr("Fonts"));
-    emptyText->setText(tr("There are no fonts in %1").arg(QDir::toNativeSeparators(folder)));
+    emptyText->setText(tr("There are no fonts in %1").arg(pathInText(folder)));
     for (const Row &row : rows) {
         row.name->setText(row.family.isEmpty()
                               ? row.fileName

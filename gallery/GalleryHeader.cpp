@@ -151,6 +151,7 @@ void GalleryHeader::languageActivated(int index)
 void GalleryHeader::retranslate()
 {
     name->setText(tr("TXGUICommon Gallery"));
+    name->setToolTip(name->text());
     coloursLabel->setText(tr("P&alette"));
     styleLabel->setText(tr("&Style"));
     languageLabel->setText(tr("&Language"));

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPointer>
@@ -49,6 +50,7 @@ GalleryLanguages::GalleryLanguages(QString folder, Formats formats, QObject *par
 GalleryLanguages::~GalleryLanguages()
 {
     removeTranslators();
+    QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
 }
 
 GalleryLanguages *GalleryLanguages::instance()
@@ -113,6 +115,8 @@ bool GalleryLanguages::use(const QString &newCode)
     code = newCode;
     // First the locale: windows ask for it when they are told of the language.
     QLocale::setDefault(locale());
+    // Qt knows the direction only where its own texts are installed.
+    QGuiApplication::setLayoutDirection(locale().textDirection());
     removeTranslators();
     failures.clear();
     if (code != kEnglish) {

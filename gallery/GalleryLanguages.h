@@ -19,7 +19,7 @@ class QTranslator;
 /// ("txgallery") and every other <anything> of the language.
 ///
 /// There is one object, on the GUI thread; it owns the translators it has installed and takes them
-/// away when it goes.
+/// away when it goes, and with them the direction of the windows.
 class GalleryLanguages : public QObject
 {
     Q_OBJECT
@@ -59,7 +59,8 @@ public:
     [[nodiscard]] QString current() const { return code; }
 
     /// Takes the locale's dates and numbers and the language's texts, Qt's own among them where Qt
-    /// is installed with its translations. All windows get QEvent::LanguageChange. A code that is
+    /// is installed with its translations, and lays all windows out in the direction in which the
+    /// language is written. All windows get QEvent::LanguageChange. A code that is
     /// not among codes() gives false and changes nothing. A file that cannot be loaded is told by
     /// errors() and left out; the others are installed all the same.
     bool use(const QString &newCode);

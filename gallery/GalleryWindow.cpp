@@ -1,5 +1,6 @@
 #include "GalleryWindow.h"
 
+#include "ChoiceRoom.h"
 #include "FocusOutline.h"
 #include "GalleryAboutWindow.h"
 #include "GalleryHeader.h"
@@ -12,10 +13,12 @@
 #include "PageListDelegate.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QEvent>
 #include <QFrame>
 #include <QLabel>
 #include <QListWidget>
+#include <QResizeEvent>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -31,6 +34,27 @@ constexpr int kListMargin = 12;
 constexpr int kListMinimumWidth = 190;
 constexpr int kPageMargin = 28;
 constexpr int kTitlePointsAboveNormal = 8;
+
+/// Has the height that its text takes at the width it has got, in a low window too.
+class DescriptionLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return {QLabel::minimumSizeHint().width(), heightForWidth(width())};
+    }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QLabel::resizeEvent(event);
+        if (event->oldSize().width() != width()) {
+            updateGeometry();
+        }
+    }
+};
 
 QFrame *makeLine(QFrame::Shape shape, QWidget *parent)
 {
@@ -62,7 +86,7 @@ GalleryWindow::GalleryWindow(GalleryLanguages &languages, const GallerySettings 
     , header(new GalleryHeader(this))
     , list(new QListWidget(this))
     , title(new QLabel(this))
-    , description(new QLabel(this))
+    , description(new DescriptionLabel(this))
     , stack(new QStackedWidget(this))
     , pages(galleryPages().size())
     , areas(galleryPages().size())
@@ -246,7 +270,8 @@ QWidget *GalleryWindow::makePageSide()
     auto *side = new QWidget(this);
     auto *layout = new QVBoxLayout(side);
     layout->setContentsMargins(kPageMargin, kPageMargin - kListMargin, kPageMargin, kPageMargin);
-    layout->addWidget(title);
+    // At the side where the language begins, also a title in letters of another direction.
+    layout->addWidget(title, 0, Qt::AlignLeft);
     layout->addWidget(description);
     layout->addSpacing(kListMargin);
     layout->addWidget(stack, 1);
@@ -276,8 +301,18 @@ void GalleryWindow::makePage(int row)
     stack->addWidget(area);
 }
 
+void GalleryWindow::fitChoices()
+{
+    const auto boxes = findChildren<QComboBox *>();
+    for (QComboBox *box : boxes) {
+        ChoiceRoom::measureAnew(*box);
+    }
+}
+
 void GalleryWindow::retranslate()
 {
+    // When all the pages have set their texts.
+    QMetaObject::invokeMethod(this, "fitChoices", Qt::QueuedConnection);
     // Dates and numbers of views follow the widget's locale, which does not change by itself.
     setLocale(QLocale());
     list->setAccessibleName(tr("Pages"));

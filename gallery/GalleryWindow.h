@@ -54,6 +54,7 @@ private slots:
     void useStyle(const QString &key);
     void useLanguage(const QString &code);
     void showLanguages();
+    void fitChoices();
     void showAbout();
     void showNextPage();
     void showPreviousPage();

@@ -2,6 +2,7 @@
 
 #include "GalleryLanguages.h"
 #include "GallerySettings.h"
+#include "LeftToRight.h"
 #include "WheelGuard.h"
 
 #include "LocalisationUpdater.h"
@@ -149,7 +150,7 @@ void LanguagePanel::showFiles()
         return;
     }
     const QStringList names = languages->files();
-    const QString folder = QDir::toNativeSeparators(languages->translationsFolder());
+    const QString folder = pathInText(languages->translationsFolder());
     files->setText(
         names.isEmpty()
             ? tr("There are no translations in %1").arg(folder)

@@ -1,6 +1,7 @@
 #include "PageListDelegate.h"
 
 #include <QPainter>
+#include <QtMath>
 
 namespace {
 
@@ -85,7 +86,8 @@ QSize PageListDelegate::sizeHint(const QStyleOptionViewItem &option, const QMode
 {
     QFont font = option.font;
     font.setWeight(QFont::DemiBold);
-    const QFontMetrics metrics(font);
-    const int textWidth = metrics.horizontalAdvance(index.data(Qt::DisplayRole).toString());
-    return {textWidth + 2 * kTextMargin, metrics.height() + 2 * kVerticalPadding};
+    // Up to the next pixel: a text that needs a part of it would end with an ellipsis.
+    const QFontMetricsF metrics(font);
+    const int textWidth = qCeil(metrics.horizontalAdvance(index.data(Qt::DisplayRole).toString()));
+    return {textWidth + 2 * kTextMargin, qCeil(metrics.height()) + 2 * kVerticalPadding};
 }

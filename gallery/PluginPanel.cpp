@@ -5,6 +5,7 @@
 
 #include "ConfWidget.h"
 #include "IWidgetPlugin.h"
+#include "LeftToRight.h"
 #include "TXStackedWidget.h"
 
 #include <QDir>
@@ -184,8 +185,7 @@ void PluginPanel::retranslate()
     nothingLabel->setText(
         tr("No plug-in was found. Plug-ins are looked for in the folder \"%1\"; put one there and "
            "start the gallery again.")
-            .arg(QDir::toNativeSeparators(
-                QDir::cleanPath(manager.buildPluginDir(folder).absolutePath()))));
+            .arg(pathInText(QDir::cleanPath(manager.buildPluginDir(folder).absolutePath()))));
     listLabel->setText(tr("&Plug-ins found:"));
     list->setAccessibleName(tr("Plug-ins found"));
     list->setHeaderLabels({tr("Title"), tr("Name"), tr("Class")});

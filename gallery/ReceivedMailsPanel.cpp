@@ -1,5 +1,6 @@
 #include "ReceivedMailsPanel.h"
 
+#include "ColumnTitles.h"
 #include "MailSubject.h"
 
 #include <QFontDatabase>
@@ -25,8 +26,9 @@ enum Role {
     TlsRole,
 };
 
-constexpr int kAddressWidth = 120;
+constexpr int kAddressWidth = 90;
 constexpr int kFlagWidth = 44;
+constexpr int kListWidth = 400;
 constexpr int kListHeight = 180;
 constexpr int kListShare = 8;
 constexpr int kContentShare = 5;
@@ -84,6 +86,7 @@ void ReceivedMailsPanel::retranslate()
     listLabel->setText(tr("&Mails:"));
     list->setAccessibleName(tr("Received mails"));
     list->setHeaderLabels({tr("From"), tr("To"), tr("Subject"), tr("TLS"), tr("Login")});
+    giveColumnTitlesRoom(list->header());
     for (int row = 0; row < list->topLevelItemCount(); ++row) {
         showTexts(list->topLevelItem(row));
     }
@@ -121,7 +124,7 @@ void ReceivedMailsPanel::setUpList()
     list->setColumnWidth(ToColumn, kAddressWidth);
     list->setColumnWidth(TlsColumn, kFlagWidth);
     list->setColumnWidth(LoginColumn, kFlagWidth);
-    list->setMinimumHeight(kListHeight);
+    list->setMinimumSize(kListWidth, kListHeight);
     list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
 }
 

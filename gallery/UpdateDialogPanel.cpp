@@ -1,6 +1,7 @@
 #include "UpdateDialogPanel.h"
 
 #include "DictionaryView.h"
+#include "LeftToRight.h"
 #include "UpdateQuestion.h"
 
 #include "TXCheckForUpdateWidget.h"
@@ -101,7 +102,7 @@ void UpdateDialogPanel::retranslate()
            "\"Install\" opens it with the desktop's program for texts, and closes all windows of "
            "the gallery. Where there is no such program, nothing happens: \"Show in Folder\" shows "
            "the file.")
-            .arg(QDir::toNativeSeparators(downloadFolder())));
+            .arg(pathInText(downloadFolder())));
 }
 
 void UpdateDialogPanel::showRelease(const QVariantHash &info)

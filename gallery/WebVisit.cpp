@@ -1,5 +1,6 @@
 #include "WebVisit.h"
 
+#include "LeftToRight.h"
 #include "RegularFile.h"
 #include "WebSettings.h"
 
@@ -65,7 +66,7 @@ void WebVisit::takeAnswer()
     QNetworkReply *answer = reply;
     reply = nullptr;
     answer->deleteLater();
-    const QString place = answer->url().toString(QUrl::FullyEncoded);
+    const QString place = leftToRight(answer->url().toString(QUrl::FullyEncoded));
     const QVariant status = answer->attribute(QNetworkRequest::HttpStatusCodeAttribute);
     const bool isWhole = answer->error() != QNetworkReply::OperationCanceledError;
     emit ended(status.isValid() && isWhole

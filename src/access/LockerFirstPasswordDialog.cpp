@@ -3,6 +3,8 @@
 #include "LockerDialogs.h"
 #include "ui_LockerFirstPasswordDialog.h"
 
+#include <QEvent>
+
 LockerFirstPasswordDialog::LockerFirstPasswordDialog(bool useHash, QWidget *parent)
     : QDialog(parent)
     , ui(std::make_unique<Ui::LockerFirstPasswordDialog>())
@@ -15,6 +17,15 @@ LockerFirstPasswordDialog::LockerFirstPasswordDialog(bool useHash, QWidget *pare
 }
 
 LockerFirstPasswordDialog::~LockerFirstPasswordDialog() = default;
+
+void LockerFirstPasswordDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        LockerDialogs::fixSize(*this);
+    }
+}
 
 void LockerFirstPasswordDialog::setPassword(const QString &password)
 {

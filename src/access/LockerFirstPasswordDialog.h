@@ -49,6 +49,10 @@ public slots:
     /// Calls passwordChanged().
     void on_password2_lineEdit_textChanged(const QString &arg1);
 
+protected:
+    /// Follows a change of the language.
+    void changeEvent(QEvent *event) override;
+
 private:
     std::unique_ptr<Ui::LockerFirstPasswordDialog> ui;
     QString storedPassword;

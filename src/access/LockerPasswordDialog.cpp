@@ -3,6 +3,8 @@
 #include "LockerDialogs.h"
 #include "ui_LockerPasswordDialog.h"
 
+#include <QEvent>
+
 LockerPasswordDialog::LockerPasswordDialog(bool useHash, QWidget *parent)
     : QDialog(parent)
     , ui(std::make_unique<Ui::LockerPasswordDialog>())
@@ -16,6 +18,15 @@ LockerPasswordDialog::LockerPasswordDialog(bool useHash, QWidget *parent)
 }
 
 LockerPasswordDialog::~LockerPasswordDialog() = default;
+
+void LockerPasswordDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        LockerDialogs::fixSize(*this);
+    }
+}
 
 void LockerPasswordDialog::setPassword(const QString &password)
 {

@@ -5,6 +5,8 @@
 #include "LockerPasswordDialog.h"
 #include "ui_LockerUIDialog.h"
 
+#include <QEvent>
+
 namespace {
 
 constexpr int kLockWithOldPassword = 0;
@@ -24,6 +26,15 @@ LockerUIDialog::LockerUIDialog(bool useHash, QWidget *parent)
 }
 
 LockerUIDialog::~LockerUIDialog() = default;
+
+void LockerUIDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        LockerDialogs::fixSize(*this);
+    }
+}
 
 void LockerUIDialog::setPassword(const QString &password)
 {

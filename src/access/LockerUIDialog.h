@@ -65,6 +65,10 @@ public slots:
     /// Ends the dialog with -1.
     void on_cancelPushButton_clicked();
 
+protected:
+    /// Follows a change of the language.
+    void changeEvent(QEvent *event) override;
+
 private:
     void takeOver(const QString &newPassword);
     bool askForFirstPassword();

@@ -40,6 +40,18 @@ void ExtraItemProxyComboModel::setItemText(const QString &newText)
     }
 }
 
+void ExtraItemProxyComboModel::setLabels(const QList<QString> &newLabels)
+{
+    const qsizetype count = std::min(labels.size(), newLabels.size());
+    std::copy_n(newLabels.cbegin(), count, labels.begin());
+    if (fixedRowsShown && count > 0) {
+        const int last = rowCount() - 1;
+        const int first = last - int(labels.size()) + 1;
+        emit dataChanged(index(first, 0), index(last, columnCount() - 1),
+                         {Qt::DisplayRole, Qt::EditRole});
+    }
+}
+
 QModelIndex ExtraItemProxyComboModel::mapToSource(const QModelIndex &proxyIndex) const
 {
     if (kindOf(proxyIndex) != Row::Source) {

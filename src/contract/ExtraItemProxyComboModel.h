@@ -54,6 +54,10 @@ public:
     /// source that is this model, or a proxy over it, is ignored.
     void setSourceModel(QAbstractItemModel *model) override;
 
+    /// Replaces the labels of the fixed entries, as many as there are; further ones are ignored,
+    /// and an entry without a new one keeps its own. Emits dataChanged() when they are shown.
+    void setLabels(const QList<QString> &newLabels);
+
     /// Replaces the text of the row for an empty source. Emits dataChanged() when that row is there
     /// and the text is another one.
     void setItemText(const QString &text);

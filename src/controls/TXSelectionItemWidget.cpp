@@ -62,6 +62,7 @@ TXSelectionItemWidget::TXSelectionItemWidget(QWidget *parent)
     , extraItemModel(new ExtraItemProxyComboModel({tr("Load")}, {kImportValue}, itemBasedName, true,
                                                   kTextValue, this))
     , importName(tr("Load"))
+    , loadName(importName)
 {
     ui->setupUi(this);
     ui->importButton->setVisible(!importViaComboBox);
@@ -390,5 +391,7 @@ void TXSelectionItemWidget::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         squareButtons();
+    } else if (event->type() == QEvent::LanguageChange) {
+        retranslate();
     }
 }

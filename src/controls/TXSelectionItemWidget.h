@@ -38,9 +38,9 @@ class TXSelectionItemWidget;
 /// The signs on the buttons come from the font "la-solid-900"; where it is not installed, tooltips
 /// and accessible names tell what they do.
 ///
-/// Texts are set in the language of the moment when the bar is made. The mouse wheel never changes
-/// the selection. Return, in the box and on the buttons, goes on to the parent, so in a dialog it
-/// presses the default button, and none of the bar.
+/// Its own texts follow the language; those that a host has set are the host's to translate. The
+/// mouse wheel never changes the selection. Return, in the box and on the buttons, goes on to the
+/// parent, so in a dialog it presses the default button, and none of the bar.
 ///
 /// A slot may destroy the bar, and set or change its model, in answer to each of its signals.
 ///
@@ -236,7 +236,8 @@ public slots:
     void startItemEdition(bool emitSignal = true);
 
 protected:
-    /// Makes the buttons as high as the box again when font or style have changed.
+    /// Makes the buttons as high as the box again when font or style have changed, and follows a
+    /// change of the language.
     void changeEvent(QEvent *event) override;
 
 private:
@@ -247,6 +248,8 @@ private:
     void nameComboBox();
     void squareButtons();
     void installDefaultMenu();
+    void nameMenuEntries();
+    void retranslate();
     void setItemDelegate();
     void showToolTipOf(int row);
     void enableAllButSave(bool isEnabled);
@@ -266,6 +269,8 @@ private:
     bool duplicateMenuEnabled = true;
     bool importMenuEnabled = true;
     QString importName;
+    // As the entry "Load" is called in the language of the moment.
+    QString loadName;
     bool comboNameEditionAllowed = true;
     QVariant currentUserData;
     int modelUpdates = 0;

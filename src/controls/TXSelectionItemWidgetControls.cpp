@@ -1,10 +1,12 @@
 // The controls of the bar one by one, and the menu of the button that adds items.
 
+#include "ExtraItemProxyComboModel.h"
 #include "TXSelectionItemWidget.h"
 
 #include "ui_TXSelectionItemWidget.h"
 
 #include <QAction>
+#include <QLineEdit>
 #include <QMenu>
 
 #include <algorithm>
@@ -290,4 +292,42 @@ bool TXSelectionItemWidget::isComboboxNameEditionAllowed() const
 void TXSelectionItemWidget::allowComboboxNameEdition(bool isAllowed)
 {
     comboNameEditionAllowed = isAllowed;
+}
+
+void TXSelectionItemWidget::retranslate()
+{
+    // A host's own tooltip says something else than the button's name.
+    const QString tip = ui->exportItemButton->toolTip();
+    const bool isHostsTip = tip != ui->exportItemButton->accessibleName();
+    ui->retranslateUi(this);
+    if (isHostsTip) {
+        ui->exportItemButton->setToolTip(tip);
+    }
+    if (importName == loadName) {
+        importName = tr("Load");
+    }
+    loadName = tr("Load");
+    extraItemModel->setLabels({loadName});
+    if (ui->itemComboBox->lineEdit()) {
+        ui->itemComboBox->lineEdit()->setAccessibleName(tr("Name"));
+    }
+    nameMenuEntries();
+}
+
+/// The menu stays, which may be open; one of the host keeps its texts.
+void TXSelectionItemWidget::nameMenuEntries()
+{
+    const QMenu *menu = ui->importButton->menu();
+    const bool isOurs = menu && menu->parent() == this;
+    const auto entries = isOurs ? menu->actions() : QList<QAction *>();
+    for (QAction *action : entries) {
+        const int entry = action->property(kEntryProperty).toInt();
+        if (entry == CreateNew) {
+            action->setText(tr("Create New"));
+        } else if (entry == Duplicate) {
+            action->setText(tr("Duplicate"));
+        } else if (entry == Import) {
+            action->setText(importName);
+        }
+    }
 }

@@ -4,6 +4,7 @@
 #include "TXSqlTableModel.h"
 #include "ui_TXDBNavWidget.h"
 
+#include <QEvent>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
@@ -58,6 +59,14 @@ TXDBNavWidget::TXDBNavWidget(QWidget *parent)
 }
 
 TXDBNavWidget::~TXDBNavWidget() = default;
+
+void TXDBNavWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+    }
+}
 
 TXSqlTableModel *TXDBNavWidget::model() const
 {

@@ -73,6 +73,10 @@ public slots:
     /// the last count. Nothing without a model. Hides the function of QWidget.
     void update();
 
+protected:
+    /// Follows a change of the language.
+    void changeEvent(QEvent *event) override;
+
 private:
     [[nodiscard]] qulonglong spinBoxOffset() const;
 

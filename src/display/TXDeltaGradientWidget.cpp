@@ -137,6 +137,8 @@ void TXDeltaGradientWidget::paintEvent(QPaintEvent *)
     };
 
     QPainter painter(this);
+    // Each text reads in the direction of its own letters, a formula from left to right.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     paintCaptions(painter, row(0, valueTop));
     painter.fillRect(row(valueTop, markTop), kRowColor);
     painter.fillRect(row(markTop, gradientTop), kRowColor);
@@ -165,11 +167,12 @@ void TXDeltaGradientWidget::valuesChanged()
 
 void TXDeltaGradientWidget::paintCaptions(QPainter &painter, const QRect &row) const
 {
-    painter.drawText(row, Qt::AlignLeft, tr("∆EMin"));
+    // The colours run from left to right in every language, and so do their names and numbers.
+    painter.drawText(row, Qt::AlignLeft | Qt::AlignAbsolute, tr("∆EMin"));
     const QString summary = tr("∆Eavg: %1    %2 % of pixels < ∆E Limit");
     painter.drawText(row, Qt::AlignCenter,
                      withNumber(withNumber(summary, bar->averageDelta), bar->limitPercent));
-    painter.drawText(row, Qt::AlignRight, tr("∆EMax"));
+    painter.drawText(row, Qt::AlignRight | Qt::AlignAbsolute, tr("∆EMax"));
 }
 
 void TXDeltaGradientWidget::paintValues(QPainter &painter, const QRect &row) const
@@ -178,9 +181,9 @@ void TXDeltaGradientWidget::paintValues(QPainter &painter, const QRect &row) con
     constexpr double kFarthest = 0.45;
     const double share = std::clamp(fromMiddle(bar->limitPercent), -kFarthest, kFarthest);
     const QRect limitRow = row.translated(int(share * row.width()), 0);
-    painter.drawText(row, Qt::AlignLeft, withNumber(tr("%1"), 0.0));
+    painter.drawText(row, Qt::AlignLeft | Qt::AlignAbsolute, withNumber(tr("%1"), 0.0));
     painter.drawText(limitRow, Qt::AlignCenter, withNumber(tr("%1"), bar->limitDelta));
-    painter.drawText(row, Qt::AlignRight, withNumber(tr("%1"), bar->maxDelta));
+    painter.drawText(row, Qt::AlignRight | Qt::AlignAbsolute, withNumber(tr("%1"), bar->maxDelta));
 }
 
 void TXDeltaGradientWidget::paintMarks(QPainter &painter, const QRect &row) const

@@ -1,5 +1,6 @@
 #include "TXLogWindow.h"
 
+#include "ChoiceRoom.h"
 #include "TXLogFilterProxyModel.h"
 #include "TXLogItem.h"
 #include "TXLogModel.h"
@@ -7,6 +8,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
+#include <QHeaderView>
 #include <QIcon>
 #include <QRegularExpression>
 #include <QSettings>
@@ -76,6 +79,19 @@ void TXLogWindow::showEvent(QShowEvent *event)
     setWindowIcon(QIcon(QDir::cleanPath(icon)));
 }
 
+void TXLogWindow::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        setWindowTitle(tr("Log Manager"));
+        nameFilters();
+        // Titles and messages are translated when they are painted.
+        ui->logTreeView->header()->viewport()->update();
+        ui->logTreeView->viewport()->update();
+    }
+}
+
 void TXLogWindow::filterChanged(int idx)
 {
     QSettings().setValue(kLevelKey, ui->filterComboBox->currentData(Qt::UserRole));
@@ -115,9 +131,10 @@ void TXLogWindow::setUpTree()
 
 void TXLogWindow::setUpFilter()
 {
-    ui->filterComboBox->addItem(tr("All"), int(All));
-    ui->filterComboBox->addItem(tr("Warning & Errors"), int(WarningsAndErrors));
-    ui->filterComboBox->addItem(tr("Errors Only"), int(ErrorsOnly));
+    for (const int level : {int(All), int(WarningsAndErrors), int(ErrorsOnly)}) {
+        ui->filterComboBox->addItem(QString(), level);
+    }
+    nameFilters();
 
     bool isNumber = false;
     const int remembered = QSettings().value(kLevelKey, int(All)).toInt(&isNumber);
@@ -130,4 +147,13 @@ void TXLogWindow::setUpFilter()
     ui->filterComboBox->installEventFilter(this);
     new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this, SLOT(filterUp()));
     new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Down), this, SLOT(filterDown()));
+}
+
+void TXLogWindow::nameFilters()
+{
+    const QStringList names = {tr("All"), tr("Warning & Errors"), tr("Errors Only")};
+    for (int row = 0; row < names.size(); ++row) {
+        ui->filterComboBox->setItemText(row, names.at(row));
+    }
+    ChoiceRoom::measureAnew(*ui->filterComboBox);
 }

@@ -43,6 +43,8 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    /// Follows a change of the language; messages that keep their source do so as well.
+    void changeEvent(QEvent *event) override;
 
 private slots:
     void filterChanged(int idx);
@@ -53,6 +55,7 @@ private:
     void setUpTree();
     void setUpFilter();
     void stepFilter(int step);
+    void nameFilters();
 
     std::unique_ptr<Ui::TXLogWindow> ui;
     TXLogModel *logModel;

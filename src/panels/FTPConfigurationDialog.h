@@ -35,6 +35,13 @@ public:
     /// are those of FTPConfigurationWidget::dictionary().
     QHash<QString, QVariant> dictionary();
 
+protected:
+    /// Follows a change of the language.
+    void changeEvent(QEvent *event) override;
+
 private:
+    void showWindowTitle();
+
     std::unique_ptr<Ui::FTPConfigurationDialog> ui;
+    const bool isImport;
 };

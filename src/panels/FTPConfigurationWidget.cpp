@@ -7,6 +7,7 @@
 #include "ui_FTPConfigurationWidget.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QMovie>
 #include <QSettings>
 #include <QThreadPool>
@@ -76,6 +77,14 @@ FTPConfigurationWidget::FTPConfigurationWidget(QWidget *parent)
 }
 
 FTPConfigurationWidget::~FTPConfigurationWidget() = default;
+
+void FTPConfigurationWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
 
 void FTPConfigurationWidget::load(const QHash<QString, QVariant> &settings)
 {
@@ -150,6 +159,7 @@ void FTPConfigurationWidget::setVisibleEraseSrcFilesItems(bool visible)
 
 void FTPConfigurationWidget::setIsImporter(bool isImporter)
 {
+    isForImport = isImporter;
     ui->eraseDistantLabel->setText(isImporter ? tr("Erase Distant Files")
                                               : tr("Erase Local Files"));
 }
@@ -174,6 +184,7 @@ void FTPConfigurationWidget::checkFTP()
 
 void FTPConfigurationWidget::enableButtons()
 {
+    verdict.reset();
     ui->progressLabel->setToolTip(QString());
     ui->progressLabel->hide();
     spinner->stop();
@@ -199,6 +210,7 @@ void FTPConfigurationWidget::enableUI(bool enabled)
 
 void FTPConfigurationWidget::checkFTP(bool)
 {
+    verdict.reset();
     ui->progressLabel->setMovie(spinner);
     ui->progressLabel->setToolTip(QString());
     ui->progressLabel->setAccessibleName(tr("Checking the connection"));
@@ -284,8 +296,25 @@ void FTPConfigurationWidget::showVerdict(FtpStatus status)
         isGood ? TXDisplayFixBulletStaticImage() : TXDisplayErrorBulletStaticImage();
     const int height = qRound(ui->checkFTP->height() * bullet.devicePixelRatio());
     ui->progressLabel->setPixmap(bullet.scaledToHeight(height, Qt::FastTransformation));
-    ui->progressLabel->setToolTip(adviceFor(status));
-    ui->progressLabel->setAccessibleName(isGood ? tr("Connection succeeded")
-                                                : tr("Connection failed"));
+    verdict = status;
+    tellVerdict();
     ui->progressLabel->show();
+}
+
+void FTPConfigurationWidget::tellVerdict()
+{
+    ui->progressLabel->setToolTip(adviceFor(*verdict));
+    ui->progressLabel->setAccessibleName(*verdict == FtpOk ? tr("Connection succeeded")
+                                                           : tr("Connection failed"));
+}
+
+void FTPConfigurationWidget::retranslate()
+{
+    ui->retranslateUi(this);
+    setIsImporter(isForImport);
+    if (verdict) {
+        tellVerdict();
+    } else if (ui->progressLabel->movie()) {
+        ui->progressLabel->setAccessibleName(tr("Checking the connection"));
+    }
 }

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class QMovie;
 
@@ -149,6 +150,10 @@ public slots:
     /// index outside the box is ignored.
     void on_schemeComboBox_currentIndexChanged(int index);
 
+protected:
+    /// Follows a change of the language.
+    void changeEvent(QEvent *event) override;
+
 private:
     void setUpSpinner();
     void setUpSchemes();
@@ -156,8 +161,12 @@ private:
     void showScheme(const QString &scheme);
     void showPassword(const QString &password);
     void showVerdict(FtpStatus status);
+    void tellVerdict();
+    void retranslate();
 
     std::unique_ptr<Ui::FTPConfigurationWidget> ui;
     QMovie *spinner = nullptr;
     bool isStatusVisible = true;
+    bool isForImport = true;
+    std::optional<FtpStatus> verdict;
 };

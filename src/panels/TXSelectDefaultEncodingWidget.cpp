@@ -2,6 +2,7 @@
 
 #include "ui_TXSelectDefaultEncodingWidget.h"
 
+#include <QEvent>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -49,6 +50,14 @@ TXSelectDefaultEncodingWidget::TXSelectDefaultEncodingWidget(QWidget *parent)
 }
 
 TXSelectDefaultEncodingWidget::~TXSelectDefaultEncodingWidget() = default;
+
+void TXSelectDefaultEncodingWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+    }
+}
 
 void TXSelectDefaultEncodingWidget::load(const QHash<QString, QVariant> &settings)
 {

@@ -52,6 +52,10 @@ public:
     /// The name of the first entry's codec: that of the system's locale.
     [[nodiscard]] QString defaultEncoding() const;
 
+protected:
+    /// Follows a change of the language.
+    void changeEvent(QEvent *event) override;
+
 private:
     void setUpEncodings();
 

@@ -1,7 +1,9 @@
 #include "TXTriggerEventWidget.h"
 
+#include "ChoiceRoom.h"
 #include "ui_TXTriggerEventWidget.h"
 
+#include <QEvent>
 #include <QLocale>
 #include <QSettings>
 #include <QTime>
@@ -34,6 +36,22 @@ constexpr int kFirstDay = 1;
 constexpr int kFirstHour = 0;
 /// Stands for an hour that is missing too.
 constexpr int kSavedWithoutData = 1;
+
+QString periodName(int period)
+{
+    switch (period) {
+    case EachMonth:
+        return TXTriggerEventWidget::tr("Each Month");
+    case EachWeek:
+        return TXTriggerEventWidget::tr("Each Week");
+    case EachDay:
+        return TXTriggerEventWidget::tr("Each Day");
+    case EachHour:
+        return TXTriggerEventWidget::tr("Each Hour");
+    default:
+        return TXTriggerEventWidget::tr("Each Minute");
+    }
+}
 
 bool isDebugging()
 {
@@ -85,6 +103,14 @@ TXTriggerEventWidget::TXTriggerEventWidget(QWidget *parent)
 
 TXTriggerEventWidget::~TXTriggerEventWidget() = default;
 
+void TXTriggerEventWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
 void TXTriggerEventWidget::load(const QHash<QString, QVariant> &settings)
 {
     if (!hasAllControls()) {
@@ -115,6 +141,7 @@ QString TXTriggerEventWidget::groupBoxTitle() const
 
 void TXTriggerEventWidget::setGroupBoxTitle(const QString &title)
 {
+    hostTitle = title.isNull() ? QLatin1String("") : title;
     if (triggerBox) {
         triggerBox->setTitle(title);
     }
@@ -127,7 +154,7 @@ void TXTriggerEventWidget::addHourTriggerPeriod()
     }
     disconnect(periodComboBox, SIGNAL(currentIndexChanged(int)), this,
                SLOT(currentTriggerPeriodChanged(int)));
-    periodComboBox->addItem(tr("Each Hour"), EachHour);
+    addPeriod(EachHour);
     connect(periodComboBox, SIGNAL(currentIndexChanged(int)), this,
             SLOT(currentTriggerPeriodChanged(int)));
 }
@@ -148,6 +175,7 @@ void TXTriggerEventWidget::setUpControls()
     ui->setupUi(this);
     triggerBox = ui->triggerBox;
     periodComboBox = ui->triggerPeriodComboBox;
+    periodLabel = ui->periodLabel;
     dayLabel = ui->dayLabel;
     dayComboBox = ui->dayComboBox;
     hourLabel = ui->hourLabel;
@@ -156,13 +184,18 @@ void TXTriggerEventWidget::setUpControls()
 
 void TXTriggerEventWidget::setUpPeriods()
 {
-    periodComboBox->addItem(tr("Each Month"), EachMonth);
-    periodComboBox->addItem(tr("Each Week"), EachWeek);
-    periodComboBox->addItem(tr("Each Day"), EachDay);
+    addPeriod(EachMonth);
+    addPeriod(EachWeek);
+    addPeriod(EachDay);
     if (isDebugging()) {
-        periodComboBox->addItem(tr("Each Hour"), EachHour);
-        periodComboBox->addItem(tr("Each Minute"), EachMinute);
+        addPeriod(EachHour);
+        addPeriod(EachMinute);
     }
+}
+
+void TXTriggerEventWidget::addPeriod(int period)
+{
+    periodComboBox->addItem(periodName(period), period);
 }
 
 void TXTriggerEventWidget::setUpHours()
@@ -214,4 +247,35 @@ void TXTriggerEventWidget::enableHour(bool isEnabled)
 {
     hourComboBox->setEnabled(isEnabled);
     hourLabel->setEnabled(isEnabled);
+}
+
+void TXTriggerEventWidget::retranslate()
+{
+    retranslateForm();
+    for (int row = 0; periodComboBox && row < periodComboBox->count(); ++row) {
+        periodComboBox->setItemText(row, periodName(periodComboBox->itemData(row).toInt()));
+    }
+    const bool isWeek = periodComboBox && periodComboBox->currentData().toInt() == EachWeek;
+    for (int row = 0; isWeek && dayComboBox && row < dayComboBox->count(); ++row) {
+        dayComboBox->setItemText(
+            row, QLocale().dayName(dayComboBox->itemData(row).toInt(), QLocale::LongFormat));
+    }
+    for (QComboBox *box : {periodComboBox.data(), dayComboBox.data()}) {
+        if (box) {
+            ChoiceRoom::measureAnew(*box);
+        }
+    }
+}
+
+void TXTriggerEventWidget::retranslateForm()
+{
+    // The form sets the texts of all its widgets, so none of them may be missing.
+    const bool isWhole = triggerBox && periodLabel && hasAllControls();
+    if (!isWhole) {
+        return;
+    }
+    ui->retranslateUi(this);
+    if (!hostTitle.isNull()) {
+        triggerBox->setTitle(hostTitle);
+    }
 }

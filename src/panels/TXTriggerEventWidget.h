@@ -76,9 +76,14 @@ public slots:
     /// gives where nothing is selected.
     void currentTriggerPeriodChanged(int index);
 
+protected:
+    /// Follows a change of the language.
+    void changeEvent(QEvent *event) override;
+
 private:
     void setUpControls();
     void setUpPeriods();
+    void addPeriod(int period);
     void setUpHours();
     [[nodiscard]] bool hasAllControls() const;
     void showDaysOf(int period);
@@ -86,6 +91,8 @@ private:
     void fillWithDaysOfWeek();
     void enableDay(bool isEnabled);
     void enableHour(bool isEnabled);
+    void retranslate();
+    void retranslateForm();
 
     std::unique_ptr<Ui::TXTriggerEventWidget> ui;
     // Of the form, which a host may take apart.
@@ -95,4 +102,7 @@ private:
     QPointer<QComboBox> dayComboBox;
     QPointer<QLabel> hourLabel;
     QPointer<QComboBox> hourComboBox;
+    QPointer<QLabel> periodLabel;
+    // Of the host; null until there is one.
+    QString hostTitle;
 };

@@ -3,6 +3,7 @@
 #include "TXCheckForUpdateWidget.h"
 #include "ui_TXCheckForUpdateConfigWidget.h"
 
+#include <QEvent>
 #include <QPointer>
 #include <QSettings>
 
@@ -24,6 +25,14 @@ TXCheckForUpdateConfigWidget::TXCheckForUpdateConfigWidget(QWidget *parent)
 }
 
 TXCheckForUpdateConfigWidget::~TXCheckForUpdateConfigWidget() = default;
+
+void TXCheckForUpdateConfigWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+    }
+}
 
 void TXCheckForUpdateConfigWidget::load()
 {

@@ -51,6 +51,10 @@ public slots:
     /// is destroyed meanwhile.
     void on_checkNowButton_clicked();
 
+protected:
+    /// Follows a change of the language.
+    void changeEvent(QEvent *event) override;
+
 private:
     std::unique_ptr<Ui::TXCheckForUpdateConfigWidget> ui;
 };

@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QNetworkAccessManager>
@@ -78,6 +79,20 @@ TXCheckForUpdateWidget::~TXCheckForUpdateWidget()
     }
     abandonTransfer();
     threadPool->waitForDone(-1);
+}
+
+void TXCheckForUpdateWidget::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+void TXCheckForUpdateWidget::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    giveMessageRoom();
 }
 
 TXCheckForUpdateWidget *TXCheckForUpdateWidget::instance()
@@ -340,7 +355,7 @@ void TXCheckForUpdateWidget::enterUpToDate()
 {
     ui->scrollArea->hide();
     showResult({ui->okButton});
-    ServiceText::showLine(tr("%1 is up to date.").arg(productName), *ui->updateNameLabel);
+    showStateTexts();
 }
 
 void TXCheckForUpdateWidget::enterUpdateAvailable()
@@ -374,8 +389,7 @@ void TXCheckForUpdateWidget::enterServiceError()
 {
     showResult({});
     ui->updateNameLabel->hide();
-    ui->shortDescLabel->setText(tr("Impossible to connect to the Check for Updates service, "
-                                   "please check your Internet connection."));
+    showStateTexts();
     ui->scrollArea->hide();
 }
 
@@ -405,14 +419,46 @@ void TXCheckForUpdateWidget::showOffer()
     } else {
         showResult({ui->cancelButton});
     }
+    showOfferTexts();
+    giveMessageRoom();
+    ui->shortDescLabel->show();
+    ui->scrollArea->show();
+}
+
+void TXCheckForUpdateWidget::showOfferTexts()
+{
     const QString name = update.value(ReleaseRecord::kProductNameKey).toString();
     ServiceText::showLine(name, *ui->updateNameLabel);
     const QString title = ServiceText::line(ReleaseRecord::title(update));
     ui->shortDescLabel->setText(tr("%1 is available.").arg(title));
-    ui->shortDescLabel->show();
     ServiceText::showNotes(update.value(ReleaseRecord::kDescriptionKey).toString(),
                            *ui->descriptionLabel);
-    ui->scrollArea->show();
+}
+
+void TXCheckForUpdateWidget::showStateTexts()
+{
+    if (currentState == UpToDate) {
+        ServiceText::showLine(tr("%1 is up to date.").arg(productName), *ui->updateNameLabel);
+    } else if (currentState == ServiceError) {
+        ui->shortDescLabel->setText(tr("Impossible to connect to the Check for Updates service, "
+                                       "please check your Internet connection."));
+    } else if (!update.isEmpty()) {
+        showOfferTexts();
+    }
+    giveMessageRoom();
+}
+
+/// A window's smallest size does not ask for the height of lines that wrap.
+void TXCheckForUpdateWidget::giveMessageRoom()
+{
+    const int height = ui->shortDescLabel->heightForWidth(ui->shortDescLabel->width());
+    ui->shortDescLabel->setMinimumHeight(qMax(0, height));
+}
+
+void TXCheckForUpdateWidget::retranslate()
+{
+    ui->retranslateUi(this);
+    showStateTexts();
 }
 
 void TXCheckForUpdateWidget::examineOfferedFile()

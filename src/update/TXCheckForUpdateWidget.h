@@ -185,6 +185,12 @@ public slots:
     /// The daily tick.
     void onTimer();
 
+protected:
+    /// Follows a change of the language. The notes of a release are shown anew, from their start.
+    void changeEvent(QEvent *event) override;
+    /// Keeps the height that the message takes at the new width.
+    void resizeEvent(QResizeEvent *event) override;
+
 private slots:
     void retryWriting();
 
@@ -204,6 +210,10 @@ private:
     void enterServiceError();
     void showResult(std::initializer_list<QWidget *> shownInRow);
     void showOffer();
+    void showOfferTexts();
+    void showStateTexts();
+    void giveMessageRoom();
+    void retranslate();
     void examineOfferedFile();
     void startTransfer();
     [[nodiscard]] bool dropUnfinished();

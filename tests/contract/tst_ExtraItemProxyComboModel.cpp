@@ -32,6 +32,7 @@ private slots:
     void extraRowsShowInEveryColumn();
 
     void textCanBeReplaced();
+    void labelsCanBeReplaced();
     void sourceCanBeReplacedAndTakenAway();
     void sameSourceAgainChangesNothing();
     void oldSourceIsNotFollowed();
@@ -187,6 +188,22 @@ void TestExtraItemProxyComboModel::textCanBeReplaced()
     QCOMPARE(shown(bar.proxy), "a - Load");
     bar.source.clear();
     QCOMPARE(shown(bar.proxy), "Profile - Load");
+}
+
+void TestExtraItemProxyComboModel::labelsCanBeReplaced()
+{
+    Bar bar({"a"});
+    QSignalSpy spy(&bar.proxy, &QAbstractItemModel::dataChanged);
+
+    bar.proxy.setLabels({"Import", "one too many"});
+    QCOMPARE(shown(bar.proxy), "a - Import");
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.first().at(0).toModelIndex(), bar.proxy.index(2, 0));
+    QCOMPARE(spy.first().at(1).toModelIndex(), bar.proxy.index(2, bar.proxy.columnCount() - 1));
+
+    bar.proxy.setLabels({});
+    QCOMPARE(shown(bar.proxy), "a - Import");
+    QCOMPARE(spy.count(), 1);
 }
 
 void TestExtraItemProxyComboModel::sourceCanBeReplacedAndTakenAway()

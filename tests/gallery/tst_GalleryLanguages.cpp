@@ -22,6 +22,8 @@ public:
 
     [[nodiscard]] bool listFrench() const { return write(list.filePath("gallerytest_fr.qm")); }
 
+    [[nodiscard]] bool listUrdu() const { return write(list.filePath("gallerytest_ur.qm")); }
+
     [[nodiscard]] bool addDamaged() const
     {
         return write(inProgram(kDamaged)) && write(list.filePath(kDamaged));
@@ -82,6 +84,7 @@ private slots:
     void changeIsTold();
     void languageThatHasGoneGivesWayToEnglish();
     void objectIsFoundWhileItLives();
+    void windowsAreLaidOutAsTheLanguageIsWritten();
 
 protected:
     void finish() override { QLocale::setDefault(QLocale::system()); }
@@ -259,6 +262,30 @@ void TestGalleryLanguages::objectIsFoundWhileItLives()
         QCOMPARE(languages.translationsFolder(), testTranslationsFolder());
     }
     QCOMPARE(GalleryLanguages::instance(), nullptr);
+}
+
+void TestGalleryLanguages::windowsAreLaidOutAsTheLanguageIsWritten()
+{
+    const OwnFiles files;
+    QVERIFY(files.listUrdu());
+    QVERIFY(files.listFrench());
+    QWidget window;
+    {
+        GalleryLanguages languages(files.listFolder());
+        // Of which Qt has no texts of its own. There and back again, more than once.
+        for (int turn = 0; turn < 2; ++turn) {
+            QVERIFY(languages.use("ur"));
+            QTRY_COMPARE(window.layoutDirection(), Qt::RightToLeft);
+            QVERIFY(languages.use("fr"));
+            QTRY_COMPARE(window.layoutDirection(), Qt::LeftToRight);
+        }
+        QVERIFY(languages.use("ur"));
+        QTRY_COMPARE(window.layoutDirection(), Qt::RightToLeft);
+        QVERIFY(languages.use("en"));
+        QTRY_COMPARE(window.layoutDirection(), Qt::LeftToRight);
+        QVERIFY(languages.use("ur"));
+    }
+    QTRY_COMPARE(window.layoutDirection(), Qt::LeftToRight);
 }
 
 int main(int argc, char **argv)
