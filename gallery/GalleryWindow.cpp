@@ -1,6 +1,5 @@
 #include "GalleryWindow.h"
 
-#include "ChoiceRoom.h"
 #include "FocusOutline.h"
 #include "GalleryAboutWindow.h"
 #include "GalleryHeader.h"
@@ -305,7 +304,9 @@ void GalleryWindow::fitChoices()
 {
     const auto boxes = findChildren<QComboBox *>();
     for (QComboBox *box : boxes) {
-        ChoiceRoom::measureAnew(*box);
+        // A box measures its texts again when its style changes.
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(box, &change);
     }
 }
 

@@ -27,11 +27,11 @@
         <translation>فتح الإشعارات القانونية (&amp;N)</translation>
     </message>
     <message>
-        <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
+        <source>The notices are opened from a copy in the folder "%1".</source>
         <translation>تُفتح الإشعارات من نسخة في المجلد «‎%1».</translation>
     </message>
     <message>
-        <source>There are no notices at &quot;%1&quot;.</source>
+        <source>There are no notices at "%1".</source>
         <translation>لا توجد إشعارات في «‎%1».</translation>
     </message>
 </context>
@@ -452,7 +452,7 @@
         <translation>إصداره، %1، غير معروف.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no rendering intent.</source>
+        <source>"%1" is no rendering intent.</source>
         <translation>‏«%1» ليس هدف عرض.</translation>
     </message>
     <message>
@@ -503,7 +503,7 @@
         <translation>الإعدادات اللونية المسبقة</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be saved.</source>
+        <source>"%1" cannot be saved.</source>
         <translation>يتعذر حفظ «%1».</translation>
     </message>
     <message>
@@ -527,7 +527,7 @@
         <translation>لا يمكن تحميل أي إعداد مسبق.</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be read.</source>
+        <source>The folder "%1" cannot be read.</source>
         <translation>تتعذر قراءة المجلد «‎%1».</translation>
     </message>
     <message>
@@ -535,11 +535,11 @@
         <translation>لا يمكن تكرار أي شيء.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be imported.</source>
+        <source>"%1" cannot be imported.</source>
         <translation>يتعذر استيراد «‎%1».</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
+        <source>"%1" cannot be written.</source>
         <translation>تتعذر كتابة «‎%1».</translation>
     </message>
     <message>
@@ -551,7 +551,7 @@
         <translation>هذا ليس ملفًا.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be deleted.</source>
+        <source>"%1" cannot be deleted.</source>
         <translation>يتعذر حذف «%1».</translation>
     </message>
     <message>
@@ -563,11 +563,11 @@
         <translation>غيّره برنامج آخر في هذه الأثناء. أعد المحاولة إذا كان يجوز فقدان تلك التغييرات.</translation>
     </message>
     <message>
-        <source>Another preset is called &quot;%1&quot;.</source>
+        <source>Another preset is called "%1".</source>
         <translation>يوجد إعداد مسبق آخر باسم «%1».</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>يتعذر إنشاء المجلد «‎%1».</translation>
     </message>
 </context>
@@ -637,7 +637,7 @@
         <translation>حذف الإعداد المسبق</translation>
     </message>
     <message>
-        <source>Delete the preset &quot;%1&quot; for good?</source>
+        <source>Delete the preset "%1" for good?</source>
         <translation>هل تريد حذف الإعداد المسبق «%1» نهائيًا؟</translation>
     </message>
     <message>
@@ -653,7 +653,7 @@
         <translation>يمكن تغيير الإعدادات عند تحرير الإعداد المسبق.</translation>
     </message>
     <message>
-        <source>Files in &quot;%1&quot; that are no presets, and are left as they are: %2</source>
+        <source>Files in "%1" that are no presets, and are left as they are: %2</source>
         <translation>ملفات في «‎%1» ليست إعدادات مسبقة، وتُترك كما هي: ‎%2</translation>
     </message>
     <message>
@@ -661,7 +661,7 @@
         <translation>حفظ الإعداد المسبق</translation>
     </message>
     <message>
-        <source>The preset &quot;%1&quot; has been edited. Save it?</source>
+        <source>The preset "%1" has been edited. Save it?</source>
         <translation>حُرّر الإعداد المسبق «%1». هل تريد حفظه؟</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>عدد البايتات %1 حسب الترويسة، و%2 في الملف.</translation>
     </message>
     <message>
-        <source>The signature is &quot;%1&quot; instead of &quot;acsp&quot;.</source>
+        <source>The signature is "%1" instead of "acsp".</source>
         <translation>التوقيع هو «%1» بدلًا من «acsp».</translation>
     </message>
     <message>
@@ -692,7 +692,7 @@
         <translation>الإصدار %1 غير مدعوم.</translation>
     </message>
     <message>
-        <source>The device class &quot;%1&quot; is unknown.</source>
+        <source>The device class "%1" is unknown.</source>
         <translation>فئة الجهاز «%1» غير معروفة.</translation>
     </message>
     <message>
@@ -704,7 +704,7 @@
         <translation>ينتهي الملف داخل الترويسة، بعد %1 بايت.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be used as a colour profile.</source>
+        <source>"%1" cannot be used as a colour profile.</source>
         <translation>لا يمكن استخدام «%1» كملف تعريف ألوان.</translation>
     </message>
 </context>
@@ -812,7 +812,7 @@
         <translation>عرض خيار التذكّر (&amp;E)</translation>
     </message>
     <message>
-        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether &quot;Remember&quot; is checked.</source>
+        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether "Remember" is checked.</source>
         <translation>مع هذا الخيار يستدعي الحوار البرنامج عند كل «حسنًا» إذا كان الحقلان مملوءين؛ ويسأل البرنامج بنفسه هل خانة «تذكّر» محددة.</translation>
     </message>
     <message>
@@ -840,18 +840,18 @@
         <translation>لم يتم الاستدعاء الراجع.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is checked.</source>
+        <source>"Remember" is checked.</source>
         <translation>خانة «تذكّر» محددة.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is not checked.</source>
+        <source>"Remember" is not checked.</source>
         <translation>خانة «تذكّر» غير محددة.</translation>
     </message>
 </context>
 <context>
     <name>DatabasePage</name>
     <message>
-        <source>The panel for the place of a program&apos;s data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
+        <source>The panel for the place of a program's data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
         <translation>نموذج تحديد مكان بيانات البرنامج: قاعدة بياناته الداخلية أو خادم. شغّل خادم MariaDB حقيقيًا على هذا الكمبيوتر، واختر الخلل المطلوب، وتصفّح مليون قياس في أي من قاعدتي البيانات.</translation>
     </message>
     <message>
@@ -1090,7 +1090,7 @@
         <translation>عرض المجلد (&amp;O)</translation>
     </message>
     <message>
-        <source>Check &quot;Enabled&quot;, and all active drives in the list are connected, your own too. A connected drive is a link in &quot;%1&quot;. The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
+        <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
         <translation>حدّد «مُمكّن» لتوصيل جميع محركات الأقراص النشطة في القائمة، ومنها محركات أقراصك. محرك الأقراص المتصل رابط في «‎%1». لا يعرف المحرِّر أي منفذ: فمحرك الأقراص الذي تُدخله أو تحرّره يقود إلى المنفذ القياسي 445، لا إلى الخادم أعلاه. تُزال محركات الأقراص المضافة عند إنهاء المعرض؛ أما الذي حرّرته فهو لك ويبقى.</translation>
     </message>
     <message>
@@ -1098,11 +1098,11 @@
         <translation>تمت الإضافة: ‎%1‎.</translation>
     </message>
     <message>
-        <source>Added: %1. Check &quot;Enabled&quot; to have it connected.</source>
+        <source>Added: %1. Check "Enabled" to have it connected.</source>
         <translation>تمت الإضافة: ‎%1‎. حدّد «مُمكّن» لتوصيله.</translation>
     </message>
     <message>
-        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with &quot;-&quot;.</source>
+        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with "-".</source>
         <translation>محرك الأقراص ‎%1‎ أصبح لك الآن، ويقود إلى المنفذ %2: لا يعرف المحرِّر أي منفذ. أزِله بالزر «-».</translation>
     </message>
     <message>
@@ -1110,11 +1110,11 @@
         <translation>جميع أحرف محركات الأقراص مستخدمة.</translation>
     </message>
     <message>
-        <source>No drive has been connected yet: there is no folder &quot;%1&quot;.</source>
+        <source>No drive has been connected yet: there is no folder "%1".</source>
         <translation>لم يوصَّل أي محرك أقراص بعد: لا يوجد مجلد «‎%1».</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>لا يوجد برنامج يعرض المجلد «‎%1».</translation>
     </message>
 </context>
@@ -1173,7 +1173,7 @@
 <context>
     <name>EncodedTextFile</name>
     <message>
-        <source>There is no codec &quot;%1&quot;.</source>
+        <source>There is no codec "%1".</source>
         <translation>لا يوجد مُرمِّز باسم «%1».</translation>
     </message>
     <message>
@@ -1697,7 +1697,7 @@ It tells success only if part of the answer still comes in while it reads. An an
 <context>
     <name>FolderJobBar</name>
     <message>
-        <source>Relative paths start at the program&apos;s folder; several paths are separated by &quot;%1&quot;.</source>
+        <source>Relative paths start at the program's folder; several paths are separated by "%1".</source>
         <translation>تبدأ المسارات النسبية من مجلد البرنامج؛ وتُفصل المسارات المتعددة بـ «%1».</translation>
     </message>
 </context>
@@ -1929,11 +1929,11 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>عرض الحالة (&amp;U)</translation>
     </message>
     <message>
-        <source>Show &amp;box &quot;Active&quot;</source>
+        <source>Show &amp;box "Active"</source>
         <translation>عرض خانة «نشط» (&amp;B)</translation>
     </message>
     <message>
-        <source>Show box &quot;&amp;Erase&quot;</source>
+        <source>Show box "&amp;Erase"</source>
         <translation>عرض خانة «حذف» (&amp;E)</translation>
     </message>
     <message>
@@ -2083,38 +2083,38 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>الخيار ‎--%1 يحتاج إلى قيمة.</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
+        <source>Unexpected argument "%1".</source>
         <translation>وسيطة غير متوقعة «%1».</translation>
     </message>
     <message>
-        <source>There is no page &quot;%1&quot;. The pages are: %2.</source>
+        <source>There is no page "%1". The pages are: %2.</source>
         <translation>لا توجد صفحة باسم «%1». الصفحات هي: %2.</translation>
     </message>
     <message>
-        <source>There is no style &quot;%1&quot;. The styles are: %2.</source>
+        <source>There is no style "%1". The styles are: %2.</source>
         <translation>لا يوجد نمط باسم «%1». الأنماط هي: %2.</translation>
     </message>
     <message>
-        <source>There is no palette &quot;%1&quot;. The palettes are: light, dark.</source>
-        <translation>لا يوجد لوح ألوان باسم «%1». ألواح الألوان هي: light، dark.</translation>
+        <source>There is no language "%1". The languages are: %2.</source>
+        <translation>لا توجد لغة باسم «%1». اللغات هي: %2.</translation>
     </message>
     <message>
-        <source>There is no language &quot;%1&quot;. The languages are: %2.</source>
-        <translation>لا توجد لغة باسم «%1». اللغات هي: %2.</translation>
+        <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
+        <translation>لا يوجد لوح ألوان «%1». الألواح هي: ‎light, dark, contrast.</translation>
     </message>
 </context>
 <context>
     <name>GalleryGrabber</name>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>يتعذر إنشاء المجلد «‎%1».</translation>
     </message>
     <message>
-        <source>The page &quot;%1&quot; was not ready after %2 seconds.</source>
+        <source>The page "%1" was not ready after %2 seconds.</source>
         <translation>لم تكن الصفحة «%1» جاهزة بعد %2 ث.</translation>
     </message>
     <message>
-        <source>The picture &quot;%1&quot; cannot be written: %2.</source>
+        <source>The picture "%1" cannot be written: %2.</source>
         <translation>تتعذر كتابة الصورة «‎%1»: %2.</translation>
     </message>
 </context>
@@ -2172,6 +2172,10 @@ It tells success only if part of the answer still comes in while it reads. An an
     <message>
         <source>Language</source>
         <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>تباين عالٍ</translation>
     </message>
 </context>
 <context>
@@ -2310,7 +2314,7 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>ملاءمة الحصة (&amp;H)</translation>
     </message>
     <message>
-        <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
+        <source>Each zone's share of the width: a half with two pictures, also when the window changes</source>
         <translation>حصة كل حيّز من العرض: النصف عند وجود صورتين، حتى عند تغيّر النافذة</translation>
     </message>
     <message>
@@ -2419,31 +2423,31 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>لا يحتوي على كائن JSON.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not known.</source>
+        <source>"%1" is not known.</source>
         <translation>‏«%1» غير معروف.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no text.</source>
+        <source>"%1" is no text.</source>
         <translation>‏«%1» ليس نصًا.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither true nor false.</source>
+        <source>"%1" is neither true nor false.</source>
         <translation>‏«%1» ليس true ولا false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <source>"%1" is no number from %2 to %3.</source>
         <translation>‏«%1» ليس عددًا من %2 إلى %3.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number.</source>
+        <source>"%1" is no whole number.</source>
         <translation>‏«%1» ليس عددًا صحيحًا.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no object.</source>
+        <source>"%1" is no object.</source>
         <translation>‏«%1» ليس كائنًا.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is missing.</source>
+        <source>"%1" is missing.</source>
         <translation>‏«%1» مفقود.</translation>
     </message>
 </context>
@@ -2615,6 +2619,40 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
 </context>
 <context>
+    <name>LocalMariaDbServer</name>
+    <message>
+        <source>the user has no name</source>
+        <translation>ليس للمستخدم اسم</translation>
+    </message>
+    <message>
+        <source>the database "%1" is the closed one</source>
+        <translation>قاعدة البيانات «%1» هي المغلقة</translation>
+    </message>
+</context>
+<context>
+    <name>LocalServer</name>
+    <message>
+        <source>no folder for the server: %1</source>
+        <translation>لا يوجد مجلد للخادم: ‎%1</translation>
+    </message>
+    <message>
+        <source>%1 does not start: %2</source>
+        <translation>تعذّر بدء %1:‎ %2</translation>
+    </message>
+    <message>
+        <source>%1 is not ready in time</source>
+        <translation>لم يجهز %1 في الوقت المحدد</translation>
+    </message>
+    <message>
+        <source>%1 ended before it was ready</source>
+        <translation>انتهى %1 قبل أن يجهز</translation>
+    </message>
+    <message>
+        <source>%1 told no port but "%2"</source>
+        <translation>لم يذكر %1 منفذًا بل «%2»</translation>
+    </message>
+</context>
+<context>
     <name>LocalServerPanel</name>
     <message>
         <source>Ser&amp;ver:</source>
@@ -2637,7 +2675,7 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>لم يبدأ الخادم: %1</translation>
     </message>
     <message>
-        <source>&quot;./dev setup&quot; installs what is needed.</source>
+        <source>"./dev setup" installs what is needed.</source>
         <translation>يثبّت «‎./dev setup» ما يلزم.</translation>
     </message>
     <message>
@@ -2647,6 +2685,24 @@ It tells success only if part of the answer still comes in while it reads. An an
     <message>
         <source>The server has stopped by itself: %1</source>
         <translation>توقف الخادم من تلقاء نفسه: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalUpdateService</name>
+    <message>
+        <source>no folder for the replies: %1</source>
+        <translation>لا يوجد مجلد للردود: ‎%1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalWebServer</name>
+    <message>
+        <source>there is no file %1</source>
+        <translation>لا يوجد ملف ‎%1</translation>
+    </message>
+    <message>
+        <source>%1 is no file with a certificate</source>
+        <translation>الملف ‎%1 لا يحوي شهادة</translation>
     </message>
 </context>
 <context>
@@ -2750,7 +2806,7 @@ It tells success only if part of the answer still comes in while it reads. An an
 <context>
     <name>LogPage</name>
     <message>
-        <source>The log of this very program, live: Qt&apos;s own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
+        <source>The log of this very program, live: Qt's own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
         <translation>سجل هذا البرنامج نفسه، مباشرةً: رسائل Qt، والأسطر التي يطبعها البرنامج، ومهمة تكتب إدخالات ذات إدخالات فرعية من عدة خيوط.</translation>
     </message>
     <message>
@@ -2841,11 +2897,11 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>إدراج شعار</translation>
     </message>
     <message>
-        <source>Remove the installed logo &quot;%1&quot;?</source>
+        <source>Remove the installed logo "%1"?</source>
         <translation>هل تريد إزالة الشعار المثبّت «‎%1»؟</translation>
     </message>
     <message>
-        <source>Remove the copy &quot;%1&quot;?</source>
+        <source>Remove the copy "%1"?</source>
         <translation>هل تريد إزالة النسخة «‎%1»؟</translation>
     </message>
     <message>
@@ -2877,7 +2933,7 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>النسخة، لعدم وجود شعار مثبّت.</translation>
     </message>
     <message>
-        <source>The gallery&apos;s own picture.</source>
+        <source>The gallery's own picture.</source>
         <translation>صورة المعرض نفسه.</translation>
     </message>
 </context>
@@ -2982,7 +3038,7 @@ Press room</source>
         <translation>فتح دليل غير موجود (&amp;G)</translation>
     </message>
     <message>
-        <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
+        <source>The manual of this gallery, in the system's viewer of PDF files.</source>
         <translation>دليل هذا المعرض، في عارض ملفات PDF الخاص بالنظام.</translation>
     </message>
 </context>
@@ -3021,7 +3077,7 @@ Press room</source>
         <translation>التقدم</translation>
     </message>
     <message>
-        <source>On a server the table &quot;%1&quot; is dropped, made anew and left there.</source>
+        <source>On a server the table "%1" is dropped, made anew and left there.</source>
         <translation>على الخادم يُحذف الجدول «%1» ويُنشأ من جديد ويُترك هناك.</translation>
     </message>
     <message>
@@ -3130,19 +3186,19 @@ Press room</source>
 <context>
     <name>OemLogo</name>
     <message>
-        <source>The logo &quot;%1&quot; cannot be written: %2.</source>
+        <source>The logo "%1" cannot be written: %2.</source>
         <translation>تتعذر كتابة الشعار «‎%1»: %2.</translation>
     </message>
     <message>
-        <source>No copy is kept: the folder &quot;%1&quot; cannot be written.</source>
+        <source>No copy is kept: the folder "%1" cannot be written.</source>
         <translation>لا تُحفظ أي نسخة: تتعذر الكتابة في المجلد «‎%1».</translation>
     </message>
     <message>
-        <source>No copy is kept: there is no folder &quot;%1&quot;.</source>
+        <source>No copy is kept: there is no folder "%1".</source>
         <translation>لا تُحفظ أي نسخة: لا يوجد مجلد «‎%1».</translation>
     </message>
     <message>
-        <source>The logo &quot;%1&quot; cannot be removed: %2.</source>
+        <source>The logo "%1" cannot be removed: %2.</source>
         <translation>تتعذر إزالة الشعار «‎%1»: %2.</translation>
     </message>
 </context>
@@ -3523,15 +3579,15 @@ b* %3
         <translation>جميع الملفات (*)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file.</source>
+        <source>"%1" is no file.</source>
         <translation>‏«‎%1» ليس ملفًا.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <source>"%1" cannot be read: %2.</source>
         <translation>تتعذر قراءة «‎%1»: %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
+        <source>"%1" is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
         <translation>‏«‎%1» كبيرة جدًا: %2 × %3 بكسل، وتحتاج إلى أكثر من %4 ميغابايت من الذاكرة.</translation>
     </message>
 </context>
@@ -3584,7 +3640,7 @@ b* %3
         <translation>هذه الإعدادات محفوظة.</translation>
     </message>
     <message>
-        <source>The page&apos;s defaults; nothing is saved yet.</source>
+        <source>The page's defaults; nothing is saved yet.</source>
         <translation>القيم الافتراضية للصفحة؛ لم يُحفظ شيء بعد.</translation>
     </message>
     <message>
@@ -3592,7 +3648,7 @@ b* %3
         <translation>صفحات إعداد من الملحقات</translation>
     </message>
     <message>
-        <source>No plug-in was found. Plug-ins are looked for in the folder &quot;%1&quot;; put one there and start the gallery again.</source>
+        <source>No plug-in was found. Plug-ins are looked for in the folder "%1"; put one there and start the gallery again.</source>
         <translation>لم يُعثر على أي ملحق. يُبحث عن الملحقات في المجلد «‎%1»؛ ضع ملحقًا هناك وأعد تشغيل المعرض.</translation>
     </message>
     <message>
@@ -3859,7 +3915,7 @@ b* %3
         <translation>فتح PDF (&amp;O)</translation>
     </message>
     <message numerus="yes">
-        <source>%n page(s) in &quot;%1&quot;</source>
+        <source>%n page(s) in "%1"</source>
         <translation>
             <numerusform>لا صفحات في «‎%1»</numerusform>
             <numerusform>صفحة واحدة في «‎%1»</numerusform>
@@ -4461,15 +4517,15 @@ b* %3
         <translation>الإصدار</translation>
     </message>
     <message>
-        <source>&quot;Download and Install&quot; writes the file to &quot;%1&quot;, which a check makes where it is missing, &quot;Download&quot; to the folder that you choose. The file is a harmless text. &quot;Install&quot; opens it with the desktop&apos;s program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: &quot;Show in Folder&quot; shows the file.</source>
+        <source>"Download and Install" writes the file to "%1", which a check makes where it is missing, "Download" to the folder that you choose. The file is a harmless text. "Install" opens it with the desktop's program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: "Show in Folder" shows the file.</source>
         <translation>يكتب «تنزيل وتثبيت» الملف في «‎%1»، الذي ينشئه البحث إن لم يكن موجودًا، ويكتبه «تنزيل» في المجلد الذي تختاره. الملف نص غير ضار. ويفتحه «تثبيت» ببرنامج النصوص في النظام ويغلق جميع نوافذ المعرض. وإن لم يوجد برنامج كهذا فلا يحدث شيء: يعرض «عرض في المجلد» الملف.</translation>
     </message>
     <message>
-        <source>There is no folder &quot;%1&quot;.</source>
+        <source>There is no folder "%1".</source>
         <translation>لا يوجد مجلد «‎%1».</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>لا يوجد برنامج يعرض المجلد «‎%1».</translation>
     </message>
     <message>
@@ -4480,8 +4536,8 @@ b* %3
 <context>
     <name>UpdateOffer</name>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;الجديد في هذا الإصدار&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;قواعد البيانات: مليون صف، صفحة بعد صفحة&lt;/li&gt;&lt;li&gt;التحديثات: ما تراه الآن&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;المزيد على &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;الجديد في هذا الإصدار&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;قواعد البيانات: مليون صف، صفحة بعد صفحة&lt;/li&gt;&lt;li&gt;التحديثات: ما تراه الآن&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;المزيد على &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>And one more thing. </source>
@@ -4756,11 +4812,11 @@ b* %3
         <translation>ملفات JSON (*.json);;جميع الملفات (*)</translation>
     </message>
     <message>
-        <source>File &quot;%1&quot;</source>
+        <source>File "%1"</source>
         <translation>الملف «‎%1»</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is not shown.</source>
+        <source>The file "%1" is not shown.</source>
         <translation>لا يُعرض الملف «‎%1».</translation>
     </message>
     <message>
@@ -4813,7 +4869,7 @@ b* %3
         <translation>زيارة الصفحة (&amp;T)</translation>
     </message>
     <message>
-        <source>the box &quot;Enabled&quot; of the panel is not checked</source>
+        <source>the box "Enabled" of the panel is not checked</source>
         <translation>خانة «مُمكّن» في النموذج غير محددة</translation>
     </message>
     <message>
@@ -4879,7 +4935,7 @@ b* %3
         <translation>لم يُحفظ شيء بعد.</translation>
     </message>
     <message>
-        <source>The example is for the user &quot;%1&quot; with the password &quot;%2&quot;.</source>
+        <source>The example is for the user "%1" with the password "%2".</source>
         <translation>المثال للمستخدم «%1» بكلمة المرور «%2».</translation>
     </message>
     <message>
@@ -4976,7 +5032,7 @@ b* %3
         <translation>حالة عناصر الواجهة</translation>
     </message>
     <message>
-        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program&apos;s settings. Another gives them back.</source>
+        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program's settings. Another gives them back.</source>
         <translation>استدعاء واحد يحفظ موضع النافذة وحجمها ومقسّماتها وأعمدة عروضها، في قاموس متداخل واحد لإعدادات البرنامج. واستدعاء آخر يستعيدها.</translation>
     </message>
     <message>

@@ -27,11 +27,11 @@
         <translation>Rechtliche &amp;Hinweise öffnen</translation>
     </message>
     <message>
-        <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
+        <source>The notices are opened from a copy in the folder "%1".</source>
         <translation>Die Hinweise werden aus einer Kopie im Ordner „%1“ geöffnet.</translation>
     </message>
     <message>
-        <source>There are no notices at &quot;%1&quot;.</source>
+        <source>There are no notices at "%1".</source>
         <translation>Unter „%1“ sind keine Hinweise.</translation>
     </message>
 </context>
@@ -452,7 +452,7 @@
         <translation>Ihre Version, %1, ist nicht bekannt.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no rendering intent.</source>
+        <source>"%1" is no rendering intent.</source>
         <translation>„%1“ ist kein Rendering Intent.</translation>
     </message>
     <message>
@@ -503,7 +503,7 @@
         <translation>Farbvoreinstellungen</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be saved.</source>
+        <source>"%1" cannot be saved.</source>
         <translation>„%1“ kann nicht gespeichert werden.</translation>
     </message>
     <message>
@@ -527,11 +527,11 @@
         <translation>Nichts kann dupliziert werden.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be imported.</source>
+        <source>"%1" cannot be imported.</source>
         <translation>„%1“ kann nicht importiert werden.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
+        <source>"%1" cannot be written.</source>
         <translation>„%1“ kann nicht geschrieben werden.</translation>
     </message>
     <message>
@@ -539,7 +539,7 @@
         <translation>Das ist der Ordner der Voreinstellungen selbst.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be deleted.</source>
+        <source>"%1" cannot be deleted.</source>
         <translation>„%1“ kann nicht gelöscht werden.</translation>
     </message>
     <message>
@@ -547,11 +547,11 @@
         <translation>Das ist ein Verweis auf einen anderen Ort.</translation>
     </message>
     <message>
-        <source>Another preset is called &quot;%1&quot;.</source>
+        <source>Another preset is called "%1".</source>
         <translation>Eine andere Voreinstellung heißt „%1“.</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>Der Ordner „%1“ kann nicht angelegt werden.</translation>
     </message>
     <message>
@@ -559,7 +559,7 @@
         <translation>Es kann keine Voreinstellung geladen werden.</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be read.</source>
+        <source>The folder "%1" cannot be read.</source>
         <translation>Der Ordner „%1“ kann nicht gelesen werden.</translation>
     </message>
     <message>
@@ -637,7 +637,7 @@
         <translation>Voreinstellung löschen</translation>
     </message>
     <message>
-        <source>Delete the preset &quot;%1&quot; for good?</source>
+        <source>Delete the preset "%1" for good?</source>
         <translation>Die Voreinstellung „%1“ endgültig löschen?</translation>
     </message>
     <message>
@@ -653,7 +653,7 @@
         <translation>Die Einstellungen lassen sich ändern, sobald die Voreinstellung bearbeitet wird.</translation>
     </message>
     <message>
-        <source>Files in &quot;%1&quot; that are no presets, and are left as they are: %2</source>
+        <source>Files in "%1" that are no presets, and are left as they are: %2</source>
         <translation>Dateien in „%1“, die keine Voreinstellungen sind und so bleiben, wie sie sind: %2</translation>
     </message>
     <message>
@@ -661,7 +661,7 @@
         <translation>Voreinstellung speichern</translation>
     </message>
     <message>
-        <source>The preset &quot;%1&quot; has been edited. Save it?</source>
+        <source>The preset "%1" has been edited. Save it?</source>
         <translation>Die Voreinstellung „%1“ wurde bearbeitet. Speichern?</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>%1 Byte laut Kopf, %2 in der Datei.</translation>
     </message>
     <message>
-        <source>The signature is &quot;%1&quot; instead of &quot;acsp&quot;.</source>
+        <source>The signature is "%1" instead of "acsp".</source>
         <translation>Die Kennung ist „%1“ statt „acsp“.</translation>
     </message>
     <message>
@@ -692,7 +692,7 @@
         <translation>Version %1 wird nicht unterstützt.</translation>
     </message>
     <message>
-        <source>The device class &quot;%1&quot; is unknown.</source>
+        <source>The device class "%1" is unknown.</source>
         <translation>Die Geräteklasse „%1“ ist unbekannt.</translation>
     </message>
     <message>
@@ -704,7 +704,7 @@
         <translation>Die Datei endet im Kopf, nach %1 Byte.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be used as a colour profile.</source>
+        <source>"%1" cannot be used as a colour profile.</source>
         <translation>„%1“ kann nicht als Farbprofil verwendet werden.</translation>
     </message>
 </context>
@@ -812,7 +812,7 @@
         <translation>M&amp;erken anbieten</translation>
     </message>
     <message>
-        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether &quot;Remember&quot; is checked.</source>
+        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether "Remember" is checked.</source>
         <translation>Mit dem Angebot meldet sich der Dialog bei jedem OK, bei dem beide Felder ausgefüllt sind; das Programm fragt selbst, ob „Merken“ angekreuzt ist.</translation>
     </message>
     <message>
@@ -840,18 +840,18 @@
         <translation>Der Rückruf kam nicht.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is checked.</source>
+        <source>"Remember" is checked.</source>
         <translation>„Merken“ ist angekreuzt.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is not checked.</source>
+        <source>"Remember" is not checked.</source>
         <translation>„Merken“ ist nicht angekreuzt.</translation>
     </message>
 </context>
 <context>
     <name>DatabasePage</name>
     <message>
-        <source>The panel for the place of a program&apos;s data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
+        <source>The panel for the place of a program's data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
         <translation>Das Formular für den Ort der Daten eines Programms: seine interne Datenbank oder ein Server. Schalten Sie einen echten MariaDB-Server auf diesem Rechner ein, wählen Sie, was schiefgehen soll, und blättern Sie in einer Million Messungen in einer der beiden Datenbanken.</translation>
     </message>
     <message>
@@ -1090,7 +1090,7 @@
         <translation>&amp;Ordner zeigen</translation>
     </message>
     <message>
-        <source>Check &quot;Enabled&quot;, and all active drives in the list are connected, your own too. A connected drive is a link in &quot;%1&quot;. The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
+        <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
         <translation>Kreuzen Sie „Aktiviert“ an, und alle aktiven Laufwerke der Liste werden verbunden, auch Ihre eigenen. Ein verbundenes Laufwerk ist ein Verweis in „%1“. Der Editor kennt keinen Port: Ein Laufwerk, das Sie eingeben oder bearbeiten, führt zum Standardport 445, nicht zum Server oben. Hinzugefügte Laufwerke werden am Ende der Galerie entfernt; eines, das Sie bearbeitet haben, gehört Ihnen und bleibt.</translation>
     </message>
     <message>
@@ -1098,11 +1098,11 @@
         <translation>Hinzugefügt: %1.</translation>
     </message>
     <message>
-        <source>Added: %1. Check &quot;Enabled&quot; to have it connected.</source>
+        <source>Added: %1. Check "Enabled" to have it connected.</source>
         <translation>Hinzugefügt: %1. Kreuzen Sie „Aktiviert“ an, damit es verbunden wird.</translation>
     </message>
     <message>
-        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with &quot;-&quot;.</source>
+        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with "-".</source>
         <translation>%1 gehört jetzt Ihnen und führt zu Port %2: Der Editor kennt keinen Port. Entfernen Sie es mit „-“.</translation>
     </message>
     <message>
@@ -1110,11 +1110,11 @@
         <translation>Alle Laufwerksbuchstaben sind vergeben.</translation>
     </message>
     <message>
-        <source>No drive has been connected yet: there is no folder &quot;%1&quot;.</source>
+        <source>No drive has been connected yet: there is no folder "%1".</source>
         <translation>Noch wurde kein Laufwerk verbunden: Es gibt keinen Ordner „%1“.</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>Kein Programm zeigt den Ordner „%1“.</translation>
     </message>
 </context>
@@ -1173,7 +1173,7 @@
 <context>
     <name>EncodedTextFile</name>
     <message>
-        <source>There is no codec &quot;%1&quot;.</source>
+        <source>There is no codec "%1".</source>
         <translation>Es gibt keinen Codec „%1“.</translation>
     </message>
     <message>
@@ -1697,7 +1697,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
 <context>
     <name>FolderJobBar</name>
     <message>
-        <source>Relative paths start at the program&apos;s folder; several paths are separated by &quot;%1&quot;.</source>
+        <source>Relative paths start at the program's folder; several paths are separated by "%1".</source>
         <translation>Relative Pfade beginnen im Ordner des Programms; mehrere Pfade werden durch „%1“ getrennt.</translation>
     </message>
 </context>
@@ -1929,11 +1929,11 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
         <translation>Stat&amp;us zeigen</translation>
     </message>
     <message>
-        <source>Show &amp;box &quot;Active&quot;</source>
+        <source>Show &amp;box "Active"</source>
         <translation>&amp;Kästchen „Aktiv“ zeigen</translation>
     </message>
     <message>
-        <source>Show box &quot;&amp;Erase&quot;</source>
+        <source>Show box "&amp;Erase"</source>
         <translation>Kästchen „&amp;Löschen“ zeigen</translation>
     </message>
     <message>
@@ -2039,19 +2039,15 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
 <context>
     <name>GalleryCommandLine</name>
     <message>
-        <source>There is no page &quot;%1&quot;. The pages are: %2.</source>
+        <source>There is no page "%1". The pages are: %2.</source>
         <translation>Es gibt keine Seite „%1“. Die Seiten sind: %2.</translation>
     </message>
     <message>
-        <source>There is no style &quot;%1&quot;. The styles are: %2.</source>
+        <source>There is no style "%1". The styles are: %2.</source>
         <translation>Es gibt keinen Stil „%1“. Die Stile sind: %2.</translation>
     </message>
     <message>
-        <source>There is no palette &quot;%1&quot;. The palettes are: light, dark.</source>
-        <translation>Es gibt keine Palette „%1“. Die Paletten sind: light, dark.</translation>
-    </message>
-    <message>
-        <source>There is no language &quot;%1&quot;. The languages are: %2.</source>
+        <source>There is no language "%1". The languages are: %2.</source>
         <translation>Es gibt keine Sprache „%1“. Die Sprachen sind: %2.</translation>
     </message>
     <message>
@@ -2099,22 +2095,26 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
         <translation>--%1 braucht einen Wert.</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
+        <source>Unexpected argument "%1".</source>
         <translation>Unerwartetes Argument „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
+        <translation>Es gibt keine Palette „%1“. Die Paletten sind: light, dark, contrast.</translation>
     </message>
 </context>
 <context>
     <name>GalleryGrabber</name>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>Der Ordner „%1“ kann nicht angelegt werden.</translation>
     </message>
     <message>
-        <source>The page &quot;%1&quot; was not ready after %2 seconds.</source>
+        <source>The page "%1" was not ready after %2 seconds.</source>
         <translation>Die Seite „%1“ war nach %2 Sekunden nicht fertig.</translation>
     </message>
     <message>
-        <source>The picture &quot;%1&quot; cannot be written: %2.</source>
+        <source>The picture "%1" cannot be written: %2.</source>
         <translation>Das Bild „%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
@@ -2172,6 +2172,10 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     <message>
         <source>About this program (%1)</source>
         <translation>Über dieses Programm (%1)</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>Hoher Kontrast</translation>
     </message>
 </context>
 <context>
@@ -2310,7 +2314,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
         <translation>Auf&amp;teilen</translation>
     </message>
     <message>
-        <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
+        <source>Each zone's share of the width: a half with two pictures, also when the window changes</source>
         <translation>Der Anteil jedes Felds an der Breite: bei zwei Bildern die Hälfte, auch wenn sich das Fenster ändert</translation>
     </message>
     <message>
@@ -2419,31 +2423,31 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
         <translation>Darin steht kein JSON-Objekt.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not known.</source>
+        <source>"%1" is not known.</source>
         <translation>„%1“ ist nicht bekannt.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no text.</source>
+        <source>"%1" is no text.</source>
         <translation>„%1“ ist kein Text.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither true nor false.</source>
+        <source>"%1" is neither true nor false.</source>
         <translation>„%1“ ist weder true noch false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <source>"%1" is no number from %2 to %3.</source>
         <translation>„%1“ ist keine Zahl von %2 bis %3.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number.</source>
+        <source>"%1" is no whole number.</source>
         <translation>„%1“ ist keine ganze Zahl.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no object.</source>
+        <source>"%1" is no object.</source>
         <translation>„%1“ ist kein Objekt.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is missing.</source>
+        <source>"%1" is missing.</source>
         <translation>„%1“ fehlt.</translation>
     </message>
 </context>
@@ -2615,6 +2619,40 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
 </context>
 <context>
+    <name>LocalMariaDbServer</name>
+    <message>
+        <source>the user has no name</source>
+        <translation>der Benutzer hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>the database "%1" is the closed one</source>
+        <translation>die Datenbank „%1“ ist die gesperrte</translation>
+    </message>
+</context>
+<context>
+    <name>LocalServer</name>
+    <message>
+        <source>no folder for the server: %1</source>
+        <translation>kein Ordner für den Server: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not start: %2</source>
+        <translation>%1 startet nicht: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not ready in time</source>
+        <translation>%1 ist nicht rechtzeitig bereit</translation>
+    </message>
+    <message>
+        <source>%1 ended before it was ready</source>
+        <translation>%1 endete, bevor es bereit war</translation>
+    </message>
+    <message>
+        <source>%1 told no port but "%2"</source>
+        <translation>%1 nannte keinen Port, sondern „%2“</translation>
+    </message>
+</context>
+<context>
     <name>LocalServerPanel</name>
     <message>
         <source>Ser&amp;ver:</source>
@@ -2637,7 +2675,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
         <translation>Der Server ist nicht gestartet: %1</translation>
     </message>
     <message>
-        <source>&quot;./dev setup&quot; installs what is needed.</source>
+        <source>"./dev setup" installs what is needed.</source>
         <translation>„./dev setup“ installiert, was nötig ist.</translation>
     </message>
     <message>
@@ -2647,6 +2685,24 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     <message>
         <source>The server has stopped by itself: %1</source>
         <translation>Der Server hat sich von selbst beendet: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalUpdateService</name>
+    <message>
+        <source>no folder for the replies: %1</source>
+        <translation>kein Ordner für die Antworten: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalWebServer</name>
+    <message>
+        <source>there is no file %1</source>
+        <translation>es gibt keine Datei %1</translation>
+    </message>
+    <message>
+        <source>%1 is no file with a certificate</source>
+        <translation>%1 ist keine Datei mit einem Zertifikat</translation>
     </message>
 </context>
 <context>
@@ -2750,7 +2806,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
 <context>
     <name>LogPage</name>
     <message>
-        <source>The log of this very program, live: Qt&apos;s own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
+        <source>The log of this very program, live: Qt's own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
         <translation>Das Protokoll dieses Programms, live: Meldungen von Qt, Zeilen, die das Programm ausgibt, und ein Auftrag, der aus mehreren Threads Einträge mit Untereinträgen schreibt.</translation>
     </message>
     <message>
@@ -2841,11 +2897,11 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
         <translation>Logo einsetzen</translation>
     </message>
     <message>
-        <source>Remove the installed logo &quot;%1&quot;?</source>
+        <source>Remove the installed logo "%1"?</source>
         <translation>Das installierte Logo „%1“ entfernen?</translation>
     </message>
     <message>
-        <source>Remove the copy &quot;%1&quot;?</source>
+        <source>Remove the copy "%1"?</source>
         <translation>Die Kopie „%1“ entfernen?</translation>
     </message>
     <message>
@@ -2877,7 +2933,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
         <translation>Die Kopie, da kein Logo installiert ist.</translation>
     </message>
     <message>
-        <source>The gallery&apos;s own picture.</source>
+        <source>The gallery's own picture.</source>
         <translation>Das eigene Bild der Galerie.</translation>
     </message>
 </context>
@@ -2982,7 +3038,7 @@ Drucksaal</translation>
         <translation>Fehlendes Handb&amp;uch öffnen</translation>
     </message>
     <message>
-        <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
+        <source>The manual of this gallery, in the system's viewer of PDF files.</source>
         <translation>Das Handbuch dieser Galerie, im PDF-Programm des Systems.</translation>
     </message>
 </context>
@@ -3021,7 +3077,7 @@ Drucksaal</translation>
         <translation>Fortschritt</translation>
     </message>
     <message>
-        <source>On a server the table &quot;%1&quot; is dropped, made anew and left there.</source>
+        <source>On a server the table "%1" is dropped, made anew and left there.</source>
         <translation>Auf einem Server wird die Tabelle „%1“ gelöscht, neu angelegt und dort belassen.</translation>
     </message>
     <message>
@@ -3130,19 +3186,19 @@ Drucksaal</translation>
 <context>
     <name>OemLogo</name>
     <message>
-        <source>The logo &quot;%1&quot; cannot be written: %2.</source>
+        <source>The logo "%1" cannot be written: %2.</source>
         <translation>Das Logo „%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
-        <source>No copy is kept: the folder &quot;%1&quot; cannot be written.</source>
+        <source>No copy is kept: the folder "%1" cannot be written.</source>
         <translation>Es wird keine Kopie aufbewahrt: In den Ordner „%1“ kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>No copy is kept: there is no folder &quot;%1&quot;.</source>
+        <source>No copy is kept: there is no folder "%1".</source>
         <translation>Es wird keine Kopie aufbewahrt: Den Ordner „%1“ gibt es nicht.</translation>
     </message>
     <message>
-        <source>The logo &quot;%1&quot; cannot be removed: %2.</source>
+        <source>The logo "%1" cannot be removed: %2.</source>
         <translation>Das Logo „%1“ kann nicht entfernt werden: %2.</translation>
     </message>
 </context>
@@ -3515,15 +3571,15 @@ Auf dem Bildschirm: %4</translation>
 <context>
     <name>PictureFile</name>
     <message>
-        <source>&quot;%1&quot; is no file.</source>
+        <source>"%1" is no file.</source>
         <translation>„%1“ ist keine Datei.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <source>"%1" cannot be read: %2.</source>
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
+        <source>"%1" is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
         <translation>„%1“ ist zu groß: %2 × %3 Pixel, die mehr als %4 MB Speicher brauchen.</translation>
     </message>
     <message>
@@ -3584,7 +3640,7 @@ Auf dem Bildschirm: %4</translation>
         <translation>Diese Einstellungen sind gespeichert.</translation>
     </message>
     <message>
-        <source>The page&apos;s defaults; nothing is saved yet.</source>
+        <source>The page's defaults; nothing is saved yet.</source>
         <translation>Die Vorgaben der Seite; noch ist nichts gespeichert.</translation>
     </message>
     <message>
@@ -3592,7 +3648,7 @@ Auf dem Bildschirm: %4</translation>
         <translation>Konfigurationsseiten aus Plug-ins</translation>
     </message>
     <message>
-        <source>No plug-in was found. Plug-ins are looked for in the folder &quot;%1&quot;; put one there and start the gallery again.</source>
+        <source>No plug-in was found. Plug-ins are looked for in the folder "%1"; put one there and start the gallery again.</source>
         <translation>Es wurde kein Plug-in gefunden. Plug-ins werden im Ordner „%1“ gesucht; legen Sie dort eines ab und starten Sie die Galerie neu.</translation>
     </message>
     <message>
@@ -3859,7 +3915,7 @@ Auf dem Bildschirm: %4</translation>
         <translation>PDF öff&amp;nen</translation>
     </message>
     <message numerus="yes">
-        <source>%n page(s) in &quot;%1&quot;</source>
+        <source>%n page(s) in "%1"</source>
         <translation>
             <numerusform>%n Seite in „%1“</numerusform>
             <numerusform>%n Seiten in „%1“</numerusform>
@@ -4457,15 +4513,15 @@ Auf dem Bildschirm: %4</translation>
         <translation>Version</translation>
     </message>
     <message>
-        <source>&quot;Download and Install&quot; writes the file to &quot;%1&quot;, which a check makes where it is missing, &quot;Download&quot; to the folder that you choose. The file is a harmless text. &quot;Install&quot; opens it with the desktop&apos;s program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: &quot;Show in Folder&quot; shows the file.</source>
+        <source>"Download and Install" writes the file to "%1", which a check makes where it is missing, "Download" to the folder that you choose. The file is a harmless text. "Install" opens it with the desktop's program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: "Show in Folder" shows the file.</source>
         <translation>„Herunterladen und installieren“ schreibt die Datei nach „%1“, das eine Prüfung anlegt, wo es fehlt, „Herunterladen“ in den Ordner, den Sie wählen. Die Datei ist ein harmloser Text. „Installieren“ öffnet sie mit dem Textprogramm des Systems und schließt alle Fenster der Galerie. Wo es kein solches Programm gibt, geschieht nichts: „Im Ordner zeigen“ zeigt die Datei.</translation>
     </message>
     <message>
-        <source>There is no folder &quot;%1&quot;.</source>
+        <source>There is no folder "%1".</source>
         <translation>Es gibt keinen Ordner „%1“.</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>Kein Programm zeigt den Ordner „%1“.</translation>
     </message>
     <message>
@@ -4476,8 +4532,8 @@ Auf dem Bildschirm: %4</translation>
 <context>
     <name>UpdateOffer</name>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;Neu in dieser Version&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Datenbanken: eine Million Zeilen, Seite für Seite&lt;/li&gt;&lt;li&gt;Updates: was Sie gerade ansehen&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Mehr unter &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;Neu in dieser Version&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Datenbanken: eine Million Zeilen, Seite für Seite&lt;/li&gt;&lt;li&gt;Updates: was Sie gerade ansehen&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Mehr unter &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>And one more thing. </source>
@@ -4752,11 +4808,11 @@ Auf dem Bildschirm: %4</translation>
         <translation>JSON-Dateien (*.json);;Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>File &quot;%1&quot;</source>
+        <source>File "%1"</source>
         <translation>Datei „%1“</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is not shown.</source>
+        <source>The file "%1" is not shown.</source>
         <translation>Die Datei „%1“ wird nicht gezeigt.</translation>
     </message>
     <message>
@@ -4809,7 +4865,7 @@ Auf dem Bildschirm: %4</translation>
         <translation>Seite &amp;besuchen</translation>
     </message>
     <message>
-        <source>the box &quot;Enabled&quot; of the panel is not checked</source>
+        <source>the box "Enabled" of the panel is not checked</source>
         <translation>das Kästchen „Aktiviert“ des Felds ist nicht angekreuzt</translation>
     </message>
     <message>
@@ -4875,7 +4931,7 @@ Auf dem Bildschirm: %4</translation>
         <translation>Es wurde noch nichts gespeichert.</translation>
     </message>
     <message>
-        <source>The example is for the user &quot;%1&quot; with the password &quot;%2&quot;.</source>
+        <source>The example is for the user "%1" with the password "%2".</source>
         <translation>Das Beispiel ist für den Benutzer „%1“ mit dem Passwort „%2“.</translation>
     </message>
     <message>
@@ -4972,7 +5028,7 @@ Auf dem Bildschirm: %4</translation>
         <translation>Zustand von Widgets</translation>
     </message>
     <message>
-        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program&apos;s settings. Another gives them back.</source>
+        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program's settings. Another gives them back.</source>
         <translation>Ein Aufruf merkt sich Ort und Größe eines Fensters, seine Teiler und die Spalten seiner Ansichten, in einem verschachtelten Wörterbuch für die Einstellungen des Programms. Ein anderer stellt sie wieder her.</translation>
     </message>
     <message>

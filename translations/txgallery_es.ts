@@ -27,11 +27,11 @@
         <translation>A&amp;brir avisos legales</translation>
     </message>
     <message>
-        <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
+        <source>The notices are opened from a copy in the folder "%1".</source>
         <translation>Los avisos se abren desde una copia en la carpeta «%1».</translation>
     </message>
     <message>
-        <source>There are no notices at &quot;%1&quot;.</source>
+        <source>There are no notices at "%1".</source>
         <translation>No hay avisos en «%1».</translation>
     </message>
 </context>
@@ -452,7 +452,7 @@
         <translation>Su versión, %1, es desconocida.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no rendering intent.</source>
+        <source>"%1" is no rendering intent.</source>
         <translation>«%1» no es un propósito de representación.</translation>
     </message>
     <message>
@@ -503,7 +503,7 @@
         <translation>Preajustes de color</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be saved.</source>
+        <source>"%1" cannot be saved.</source>
         <translation>No se puede guardar «%1».</translation>
     </message>
     <message>
@@ -527,7 +527,7 @@
         <translation>No se puede cargar ningún preajuste.</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be read.</source>
+        <source>The folder "%1" cannot be read.</source>
         <translation>No se puede leer la carpeta «%1».</translation>
     </message>
     <message>
@@ -535,11 +535,11 @@
         <translation>No se puede duplicar nada.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be imported.</source>
+        <source>"%1" cannot be imported.</source>
         <translation>No se puede importar «%1».</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
+        <source>"%1" cannot be written.</source>
         <translation>No se puede escribir «%1».</translation>
     </message>
     <message>
@@ -551,7 +551,7 @@
         <translation>No es un archivo.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be deleted.</source>
+        <source>"%1" cannot be deleted.</source>
         <translation>No se puede eliminar «%1».</translation>
     </message>
     <message>
@@ -563,11 +563,11 @@
         <translation>Entretanto, otro programa lo ha cambiado. Inténtelo de nuevo si ese cambio se puede perder.</translation>
     </message>
     <message>
-        <source>Another preset is called &quot;%1&quot;.</source>
+        <source>Another preset is called "%1".</source>
         <translation>Otro preajuste se llama «%1».</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>No se puede crear la carpeta «%1».</translation>
     </message>
 </context>
@@ -637,7 +637,7 @@
         <translation>Eliminar preajuste</translation>
     </message>
     <message>
-        <source>Delete the preset &quot;%1&quot; for good?</source>
+        <source>Delete the preset "%1" for good?</source>
         <translation>¿Eliminar definitivamente el preajuste «%1»?</translation>
     </message>
     <message>
@@ -653,7 +653,7 @@
         <translation>Los ajustes se pueden cambiar cuando se edita el preajuste.</translation>
     </message>
     <message>
-        <source>Files in &quot;%1&quot; that are no presets, and are left as they are: %2</source>
+        <source>Files in "%1" that are no presets, and are left as they are: %2</source>
         <translation>Archivos en «%1» que no son preajustes y se dejan como están: %2</translation>
     </message>
     <message>
@@ -661,7 +661,7 @@
         <translation>Guardar preajuste</translation>
     </message>
     <message>
-        <source>The preset &quot;%1&quot; has been edited. Save it?</source>
+        <source>The preset "%1" has been edited. Save it?</source>
         <translation>El preajuste «%1» se ha editado. ¿Guardarlo?</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>%1 bytes según la cabecera, %2 en el archivo.</translation>
     </message>
     <message>
-        <source>The signature is &quot;%1&quot; instead of &quot;acsp&quot;.</source>
+        <source>The signature is "%1" instead of "acsp".</source>
         <translation>La firma es «%1» en lugar de «acsp».</translation>
     </message>
     <message>
@@ -692,7 +692,7 @@
         <translation>La versión %1 no se admite.</translation>
     </message>
     <message>
-        <source>The device class &quot;%1&quot; is unknown.</source>
+        <source>The device class "%1" is unknown.</source>
         <translation>La clase de dispositivo «%1» es desconocida.</translation>
     </message>
     <message>
@@ -704,7 +704,7 @@
         <translation>El archivo termina dentro de la cabecera, tras %1 bytes.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be used as a colour profile.</source>
+        <source>"%1" cannot be used as a colour profile.</source>
         <translation>«%1» no se puede usar como perfil de color.</translation>
     </message>
 </context>
@@ -812,7 +812,7 @@
         <translation>Ofrecer &amp;recordar</translation>
     </message>
     <message>
-        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether &quot;Remember&quot; is checked.</source>
+        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether "Remember" is checked.</source>
         <translation>Con la oferta, el diálogo avisa cada vez que se pulsa «Aceptar» con ambos campos rellenos; el programa comprueba por sí mismo si «Recordar» está marcado.</translation>
     </message>
     <message>
@@ -840,18 +840,18 @@
         <translation>No se llamó a la función de aviso.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is checked.</source>
+        <source>"Remember" is checked.</source>
         <translation>«Recordar» está marcado.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is not checked.</source>
+        <source>"Remember" is not checked.</source>
         <translation>«Recordar» no está marcado.</translation>
     </message>
 </context>
 <context>
     <name>DatabasePage</name>
     <message>
-        <source>The panel for the place of a program&apos;s data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
+        <source>The panel for the place of a program's data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
         <translation>El panel para el lugar de los datos de un programa: su base de datos interna o un servidor. Active un servidor MariaDB real en este equipo, elija qué debe fallar y pase las páginas de un millón de mediciones en cualquiera de las dos bases de datos.</translation>
     </message>
     <message>
@@ -1090,7 +1090,7 @@
         <translation>&amp;Mostrar carpeta</translation>
     </message>
     <message>
-        <source>Check &quot;Enabled&quot;, and all active drives in the list are connected, your own too. A connected drive is a link in &quot;%1&quot;. The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
+        <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
         <translation>Marque «Habilitado» y se conectarán todas las unidades activas de la lista, también las suyas. Una unidad conectada es un enlace en «%1». El editor no conoce puertos: una unidad que usted introduzca o edite lleva al puerto estándar 445, no al servidor de arriba. Las unidades añadidas se quitan al terminar la galería; la que usted haya editado es suya y permanece.</translation>
     </message>
     <message>
@@ -1098,11 +1098,11 @@
         <translation>Añadida: %1.</translation>
     </message>
     <message>
-        <source>Added: %1. Check &quot;Enabled&quot; to have it connected.</source>
+        <source>Added: %1. Check "Enabled" to have it connected.</source>
         <translation>Añadida: %1. Marque «Habilitado» para que se conecte.</translation>
     </message>
     <message>
-        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with &quot;-&quot;.</source>
+        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with "-".</source>
         <translation>%1 es ahora suya y lleva al puerto %2: el editor no conoce puertos. Quítela con «-».</translation>
     </message>
     <message>
@@ -1110,11 +1110,11 @@
         <translation>Todas las letras de unidad están ocupadas.</translation>
     </message>
     <message>
-        <source>No drive has been connected yet: there is no folder &quot;%1&quot;.</source>
+        <source>No drive has been connected yet: there is no folder "%1".</source>
         <translation>Aún no se ha conectado ninguna unidad: no existe la carpeta «%1».</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>Ningún programa muestra la carpeta «%1».</translation>
     </message>
 </context>
@@ -1173,7 +1173,7 @@
 <context>
     <name>EncodedTextFile</name>
     <message>
-        <source>There is no codec &quot;%1&quot;.</source>
+        <source>There is no codec "%1".</source>
         <translation>No existe el códec «%1».</translation>
     </message>
     <message>
@@ -1697,7 +1697,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
 <context>
     <name>FolderJobBar</name>
     <message>
-        <source>Relative paths start at the program&apos;s folder; several paths are separated by &quot;%1&quot;.</source>
+        <source>Relative paths start at the program's folder; several paths are separated by "%1".</source>
         <translation>Las rutas relativas parten de la carpeta del programa; varias rutas se separan con «%1».</translation>
     </message>
 </context>
@@ -1929,11 +1929,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
         <translation>Mo&amp;strar estado</translation>
     </message>
     <message>
-        <source>Show &amp;box &quot;Active&quot;</source>
+        <source>Show &amp;box "Active"</source>
         <translation>Mostrar casilla «&amp;Activo»</translation>
     </message>
     <message>
-        <source>Show box &quot;&amp;Erase&quot;</source>
+        <source>Show box "&amp;Erase"</source>
         <translation>Mos&amp;trar casilla «Borrar»</translation>
     </message>
     <message>
@@ -2083,38 +2083,38 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
         <translation>--%1 necesita un valor.</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
+        <source>Unexpected argument "%1".</source>
         <translation>Argumento inesperado «%1».</translation>
     </message>
     <message>
-        <source>There is no page &quot;%1&quot;. The pages are: %2.</source>
+        <source>There is no page "%1". The pages are: %2.</source>
         <translation>No existe la página «%1». Las páginas son: %2.</translation>
     </message>
     <message>
-        <source>There is no style &quot;%1&quot;. The styles are: %2.</source>
+        <source>There is no style "%1". The styles are: %2.</source>
         <translation>No existe el estilo «%1». Los estilos son: %2.</translation>
     </message>
     <message>
-        <source>There is no palette &quot;%1&quot;. The palettes are: light, dark.</source>
-        <translation>No existe la paleta «%1». Las paletas son: light, dark.</translation>
+        <source>There is no language "%1". The languages are: %2.</source>
+        <translation>No existe el idioma «%1». Los idiomas son: %2.</translation>
     </message>
     <message>
-        <source>There is no language &quot;%1&quot;. The languages are: %2.</source>
-        <translation>No existe el idioma «%1». Los idiomas son: %2.</translation>
+        <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
+        <translation>No hay ninguna paleta «%1». Las paletas son: light, dark, contrast.</translation>
     </message>
 </context>
 <context>
     <name>GalleryGrabber</name>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>No se puede crear la carpeta «%1».</translation>
     </message>
     <message>
-        <source>The page &quot;%1&quot; was not ready after %2 seconds.</source>
+        <source>The page "%1" was not ready after %2 seconds.</source>
         <translation>La página «%1» no estaba lista tras %2 segundos.</translation>
     </message>
     <message>
-        <source>The picture &quot;%1&quot; cannot be written: %2.</source>
+        <source>The picture "%1" cannot be written: %2.</source>
         <translation>No se puede escribir la imagen «%1»: %2.</translation>
     </message>
 </context>
@@ -2172,6 +2172,10 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     <message>
         <source>Language</source>
         <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>Alto contraste</translation>
     </message>
 </context>
 <context>
@@ -2310,7 +2314,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
         <translation>&amp;Repartir</translation>
     </message>
     <message>
-        <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
+        <source>Each zone's share of the width: a half with two pictures, also when the window changes</source>
         <translation>La parte del ancho de cada zona: la mitad con dos imágenes, también cuando cambia la ventana</translation>
     </message>
     <message>
@@ -2419,31 +2423,31 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
         <translation>No contiene ningún objeto JSON.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not known.</source>
+        <source>"%1" is not known.</source>
         <translation>«%1» es desconocido.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no text.</source>
+        <source>"%1" is no text.</source>
         <translation>«%1» no es un texto.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither true nor false.</source>
+        <source>"%1" is neither true nor false.</source>
         <translation>«%1» no es ni true ni false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <source>"%1" is no number from %2 to %3.</source>
         <translation>«%1» no es un número de %2 a %3.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number.</source>
+        <source>"%1" is no whole number.</source>
         <translation>«%1» no es un número entero.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no object.</source>
+        <source>"%1" is no object.</source>
         <translation>«%1» no es un objeto.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is missing.</source>
+        <source>"%1" is missing.</source>
         <translation>Falta «%1».</translation>
     </message>
 </context>
@@ -2615,6 +2619,40 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
 </context>
 <context>
+    <name>LocalMariaDbServer</name>
+    <message>
+        <source>the user has no name</source>
+        <translation>el usuario no tiene nombre</translation>
+    </message>
+    <message>
+        <source>the database "%1" is the closed one</source>
+        <translation>la base de datos «%1» es la que está cerrada</translation>
+    </message>
+</context>
+<context>
+    <name>LocalServer</name>
+    <message>
+        <source>no folder for the server: %1</source>
+        <translation>no hay carpeta para el servidor: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not start: %2</source>
+        <translation>%1 no se inicia: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not ready in time</source>
+        <translation>%1 no está listo a tiempo</translation>
+    </message>
+    <message>
+        <source>%1 ended before it was ready</source>
+        <translation>%1 terminó antes de estar listo</translation>
+    </message>
+    <message>
+        <source>%1 told no port but "%2"</source>
+        <translation>%1 no indicó ningún puerto, sino «%2»</translation>
+    </message>
+</context>
+<context>
     <name>LocalServerPanel</name>
     <message>
         <source>Ser&amp;ver:</source>
@@ -2637,7 +2675,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
         <translation>El servidor no se ha iniciado: %1</translation>
     </message>
     <message>
-        <source>&quot;./dev setup&quot; installs what is needed.</source>
+        <source>"./dev setup" installs what is needed.</source>
         <translation>«./dev setup» instala lo necesario.</translation>
     </message>
     <message>
@@ -2647,6 +2685,24 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     <message>
         <source>The server has stopped by itself: %1</source>
         <translation>El servidor se ha detenido por sí solo: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalUpdateService</name>
+    <message>
+        <source>no folder for the replies: %1</source>
+        <translation>no hay carpeta para las respuestas: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalWebServer</name>
+    <message>
+        <source>there is no file %1</source>
+        <translation>no existe el archivo %1</translation>
+    </message>
+    <message>
+        <source>%1 is no file with a certificate</source>
+        <translation>%1 no es un archivo con un certificado</translation>
     </message>
 </context>
 <context>
@@ -2750,7 +2806,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
 <context>
     <name>LogPage</name>
     <message>
-        <source>The log of this very program, live: Qt&apos;s own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
+        <source>The log of this very program, live: Qt's own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
         <translation>El registro de este mismo programa, en directo: mensajes de Qt, líneas que el programa emite y un trabajo que escribe entradas con subentradas desde varios hilos.</translation>
     </message>
     <message>
@@ -2841,11 +2897,11 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
         <translation>Poner un logotipo</translation>
     </message>
     <message>
-        <source>Remove the installed logo &quot;%1&quot;?</source>
+        <source>Remove the installed logo "%1"?</source>
         <translation>¿Quitar el logotipo instalado «%1»?</translation>
     </message>
     <message>
-        <source>Remove the copy &quot;%1&quot;?</source>
+        <source>Remove the copy "%1"?</source>
         <translation>¿Quitar la copia «%1»?</translation>
     </message>
     <message>
@@ -2877,7 +2933,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
         <translation>La copia, ya que no hay ningún logotipo instalado.</translation>
     </message>
     <message>
-        <source>The gallery&apos;s own picture.</source>
+        <source>The gallery's own picture.</source>
         <translation>La imagen propia de la galería.</translation>
     </message>
 </context>
@@ -2982,7 +3038,7 @@ Sala de impresión</translation>
         <translation>Abrir uno inexi&amp;stente</translation>
     </message>
     <message>
-        <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
+        <source>The manual of this gallery, in the system's viewer of PDF files.</source>
         <translation>El manual de esta galería, en el visor de archivos PDF del sistema.</translation>
     </message>
 </context>
@@ -3021,7 +3077,7 @@ Sala de impresión</translation>
         <translation>Progreso</translation>
     </message>
     <message>
-        <source>On a server the table &quot;%1&quot; is dropped, made anew and left there.</source>
+        <source>On a server the table "%1" is dropped, made anew and left there.</source>
         <translation>En un servidor, la tabla «%1» se elimina, se crea de nuevo y se deja allí.</translation>
     </message>
     <message>
@@ -3130,19 +3186,19 @@ Sala de impresión</translation>
 <context>
     <name>OemLogo</name>
     <message>
-        <source>The logo &quot;%1&quot; cannot be written: %2.</source>
+        <source>The logo "%1" cannot be written: %2.</source>
         <translation>No se puede escribir el logotipo «%1»: %2.</translation>
     </message>
     <message>
-        <source>No copy is kept: the folder &quot;%1&quot; cannot be written.</source>
+        <source>No copy is kept: the folder "%1" cannot be written.</source>
         <translation>No se conserva ninguna copia: no se puede escribir en la carpeta «%1».</translation>
     </message>
     <message>
-        <source>No copy is kept: there is no folder &quot;%1&quot;.</source>
+        <source>No copy is kept: there is no folder "%1".</source>
         <translation>No se conserva ninguna copia: no existe la carpeta «%1».</translation>
     </message>
     <message>
-        <source>The logo &quot;%1&quot; cannot be removed: %2.</source>
+        <source>The logo "%1" cannot be removed: %2.</source>
         <translation>No se puede quitar el logotipo «%1»: %2.</translation>
     </message>
 </context>
@@ -3523,15 +3579,15 @@ En pantalla: %4</translation>
         <translation>Todos los archivos (*)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file.</source>
+        <source>"%1" is no file.</source>
         <translation>«%1» no es un archivo.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <source>"%1" cannot be read: %2.</source>
         <translation>No se puede leer «%1»: %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
+        <source>"%1" is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
         <translation>«%1» es demasiado grande: %2 × %3 píxeles, que ocupan más de %4 MB de memoria.</translation>
     </message>
 </context>
@@ -3584,7 +3640,7 @@ En pantalla: %4</translation>
         <translation>Estos ajustes están guardados.</translation>
     </message>
     <message>
-        <source>The page&apos;s defaults; nothing is saved yet.</source>
+        <source>The page's defaults; nothing is saved yet.</source>
         <translation>Los valores predeterminados de la página; aún no hay nada guardado.</translation>
     </message>
     <message>
@@ -3592,7 +3648,7 @@ En pantalla: %4</translation>
         <translation>Páginas de configuración de complementos</translation>
     </message>
     <message>
-        <source>No plug-in was found. Plug-ins are looked for in the folder &quot;%1&quot;; put one there and start the gallery again.</source>
+        <source>No plug-in was found. Plug-ins are looked for in the folder "%1"; put one there and start the gallery again.</source>
         <translation>No se ha encontrado ningún complemento. Los complementos se buscan en la carpeta «%1»; ponga uno allí y reinicie la galería.</translation>
     </message>
     <message>
@@ -3859,7 +3915,7 @@ En pantalla: %4</translation>
         <translation>A&amp;brir PDF</translation>
     </message>
     <message numerus="yes">
-        <source>%n page(s) in &quot;%1&quot;</source>
+        <source>%n page(s) in "%1"</source>
         <translation>
             <numerusform>%n página en «%1»</numerusform>
             <numerusform>%n páginas en «%1»</numerusform>
@@ -4457,15 +4513,15 @@ En pantalla: %4</translation>
         <translation>Versión</translation>
     </message>
     <message>
-        <source>&quot;Download and Install&quot; writes the file to &quot;%1&quot;, which a check makes where it is missing, &quot;Download&quot; to the folder that you choose. The file is a harmless text. &quot;Install&quot; opens it with the desktop&apos;s program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: &quot;Show in Folder&quot; shows the file.</source>
+        <source>"Download and Install" writes the file to "%1", which a check makes where it is missing, "Download" to the folder that you choose. The file is a harmless text. "Install" opens it with the desktop's program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: "Show in Folder" shows the file.</source>
         <translation>«Descargar e instalar» escribe el archivo en «%1», que una búsqueda crea si falta; «Descargar», en la carpeta que usted elija. El archivo es un texto inofensivo. «Instalar» lo abre con el programa de textos del escritorio y cierra todas las ventanas de la galería. Si no hay tal programa, no ocurre nada: «Mostrar en la carpeta» muestra el archivo.</translation>
     </message>
     <message>
-        <source>There is no folder &quot;%1&quot;.</source>
+        <source>There is no folder "%1".</source>
         <translation>No existe la carpeta «%1».</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>Ningún programa muestra la carpeta «%1».</translation>
     </message>
     <message>
@@ -4476,8 +4532,8 @@ En pantalla: %4</translation>
 <context>
     <name>UpdateOffer</name>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;Novedades de esta versión&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Bases de datos: un millón de filas, página a página&lt;/li&gt;&lt;li&gt;Actualizaciones: lo que está viendo&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Más en &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;Novedades de esta versión&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Bases de datos: un millón de filas, página a página&lt;/li&gt;&lt;li&gt;Actualizaciones: lo que está viendo&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Más en &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>And one more thing. </source>
@@ -4752,11 +4808,11 @@ En pantalla: %4</translation>
         <translation>Archivos JSON (*.json);;Todos los archivos (*)</translation>
     </message>
     <message>
-        <source>File &quot;%1&quot;</source>
+        <source>File "%1"</source>
         <translation>Archivo «%1»</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is not shown.</source>
+        <source>The file "%1" is not shown.</source>
         <translation>El archivo «%1» no se muestra.</translation>
     </message>
     <message>
@@ -4809,7 +4865,7 @@ En pantalla: %4</translation>
         <translation>Visitar &amp;la página</translation>
     </message>
     <message>
-        <source>the box &quot;Enabled&quot; of the panel is not checked</source>
+        <source>the box "Enabled" of the panel is not checked</source>
         <translation>la casilla «Habilitada» del panel no está marcada</translation>
     </message>
     <message>
@@ -4875,7 +4931,7 @@ En pantalla: %4</translation>
         <translation>Aún no se ha guardado nada.</translation>
     </message>
     <message>
-        <source>The example is for the user &quot;%1&quot; with the password &quot;%2&quot;.</source>
+        <source>The example is for the user "%1" with the password "%2".</source>
         <translation>El ejemplo es para el usuario «%1» con la contraseña «%2».</translation>
     </message>
     <message>
@@ -4972,7 +5028,7 @@ En pantalla: %4</translation>
         <translation>Estado de los widgets</translation>
     </message>
     <message>
-        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program&apos;s settings. Another gives them back.</source>
+        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program's settings. Another gives them back.</source>
         <translation>Una llamada conserva la posición y el tamaño de una ventana, sus divisores y las columnas de sus vistas, en un único diccionario anidado para los ajustes del programa. Otra los restablece.</translation>
     </message>
     <message>

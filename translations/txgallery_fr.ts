@@ -12,7 +12,7 @@
     <name>AboutWindowPanel</name>
     <message>
         <source>About window</source>
-        <translation>Fenêtre «&#xa0;À propos&#xa0;»</translation>
+        <translation>Fenêtre « À propos »</translation>
     </message>
     <message>
         <source>With the &amp;version of Qt</source>
@@ -20,26 +20,26 @@
     </message>
     <message>
         <source>Open About &amp;Window</source>
-        <translation>Ouvrir la &amp;fenêtre «&#xa0;À propos&#xa0;»</translation>
+        <translation>Ouvrir la &amp;fenêtre « À propos »</translation>
     </message>
     <message>
         <source>Open Legal &amp;Notices</source>
         <translation>Ouvrir les &amp;mentions légales</translation>
     </message>
     <message>
-        <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
-        <translation>Les mentions sont ouvertes à partir d’une copie dans le dossier «&#xa0;%1&#xa0;».</translation>
+        <source>The notices are opened from a copy in the folder "%1".</source>
+        <translation>Les mentions sont ouvertes à partir d’une copie dans le dossier « %1 ».</translation>
     </message>
     <message>
-        <source>There are no notices at &quot;%1&quot;.</source>
-        <translation>Il n’y a pas de mentions à l’emplacement «&#xa0;%1&#xa0;».</translation>
+        <source>There are no notices at "%1".</source>
+        <translation>Il n’y a pas de mentions à l’emplacement « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>AccessPage</name>
     <message>
         <source>A program whose user interface can be locked behind a password. The dialogs ask for it; the program keeps it and does the locking, here of the work area.</source>
-        <translation>Un programme dont l’interface peut être verrouillée par un mot de passe. Les dialogues le demandent&#xa0;; le programme le conserve et effectue le verrouillage, ici celui de l’espace de travail.</translation>
+        <translation>Un programme dont l’interface peut être verrouillée par un mot de passe. Les dialogues le demandent ; le programme le conserve et effectue le verrouillage, ici celui de l’espace de travail.</translation>
     </message>
 </context>
 <context>
@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>%1: ΔE %2</source>
-        <translation>%1&#xa0;: ΔE %2</translation>
+        <translation>%1 : ΔE %2</translation>
     </message>
 </context>
 <context>
@@ -238,11 +238,11 @@
     </message>
     <message>
         <source>Left half, set A: average of charts made before November 2014</source>
-        <translation>Moitié gauche, jeu A&#xa0;: moyenne de chartes fabriquées avant novembre 2014</translation>
+        <translation>Moitié gauche, jeu A : moyenne de chartes fabriquées avant novembre 2014</translation>
     </message>
     <message>
         <source>Right half, set B: charts made since November 2014</source>
-        <translation>Moitié droite, jeu B&#xa0;: chartes fabriquées depuis novembre 2014</translation>
+        <translation>Moitié droite, jeu B : chartes fabriquées depuis novembre 2014</translation>
     </message>
     <message>
         <source>CIELAB under D50 for the 2° observer, shown in sRGB</source>
@@ -266,7 +266,7 @@
     </message>
     <message>
         <source>95 %</source>
-        <translation>95&#xa0;%</translation>
+        <translation>95 %</translation>
     </message>
     <message>
         <source>Maximum</source>
@@ -282,11 +282,11 @@
     </message>
     <message>
         <source>ΔE*ab: CIE76, the distance in CIELAB. CIE 15, Colorimetry.</source>
-        <translation>ΔE*ab&#xa0;: CIE76, la distance dans CIELAB. CIE 15, Colorimetry.</translation>
+        <translation>ΔE*ab : CIE76, la distance dans CIELAB. CIE 15, Colorimetry.</translation>
     </message>
     <message>
         <source>ΔE00: CIEDE2000, all weights 1. CIE 142:2001; ISO/CIE 11664-6.</source>
-        <translation>ΔE00&#xa0;: CIEDE2000, tous les poids à 1. CIE 142:2001&#xa0;; ISO/CIE 11664-6.</translation>
+        <translation>ΔE00 : CIEDE2000, tous les poids à 1. CIE 142:2001 ; ISO/CIE 11664-6.</translation>
     </message>
     <message>
         <source>G. Sharma, W. Wu, E. N. Dalal: The CIEDE2000 color-difference formula. Color Research and Application 30 (2005).</source>
@@ -387,14 +387,14 @@
     <name>ColourDifferencePage</name>
     <message>
         <source>How far two sets of colours of a chart are apart: as a bar, as swatches, and the spectrum behind a curve.</source>
-        <translation>À quel point deux jeux de couleurs d’une charte s’écartent l’un de l’autre&#xa0;: sous forme de barre, de nuances, et le spectre derrière une courbe.</translation>
+        <translation>À quel point deux jeux de couleurs d’une charte s’écartent l’un de l’autre : sous forme de barre, de nuances, et le spectre derrière une courbe.</translation>
     </message>
 </context>
 <context>
     <name>ColourPreferencesPage</name>
     <message>
         <source>&amp;Illuminant:</source>
-        <translation>&amp;Illuminant&#xa0;:</translation>
+        <translation>&amp;Illuminant :</translation>
     </message>
     <message>
         <source>D&amp;50, prints</source>
@@ -406,7 +406,7 @@
     </message>
     <message>
         <source>&amp;Observer:</source>
-        <translation>&amp;Observateur&#xa0;:</translation>
+        <translation>&amp;Observateur :</translation>
     </message>
     <message>
         <source>&amp;2° field</source>
@@ -418,15 +418,15 @@
     </message>
     <message>
         <source>White point:</source>
-        <translation>Point blanc&#xa0;:</translation>
+        <translation>Point blanc :</translation>
     </message>
     <message>
         <source>Difference &amp;formula:</source>
-        <translation>&amp;Formule d’écart&#xa0;:</translation>
+        <translation>&amp;Formule d’écart :</translation>
     </message>
     <message>
         <source>&amp;Tolerance:</source>
-        <translation>&amp;Tolérance&#xa0;:</translation>
+        <translation>&amp;Tolérance :</translation>
     </message>
     <message>
         <source>ΔE </source>
@@ -452,8 +452,8 @@
         <translation>Sa version, %1, n’est pas connue.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no rendering intent.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un mode de rendu.</translation>
+        <source>"%1" is no rendering intent.</source>
+        <translation>« %1 » n’est pas un mode de rendu.</translation>
     </message>
     <message>
         <source>Perceptual</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>%1, %2, paper L* %3 a* %4 b* %5, at most %6 % ink</source>
-        <translation>%1, %2, papier L* %3 a* %4 b* %5, encrage d’au plus %6&#xa0;%</translation>
+        <translation>%1, %2, papier L* %3 a* %4 b* %5, encrage d’au plus %6 %</translation>
     </message>
 </context>
 <context>
@@ -503,8 +503,8 @@
         <translation>Préréglages de couleur</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be saved.</source>
-        <translation>Impossible d’enregistrer «&#xa0;%1&#xa0;».</translation>
+        <source>"%1" cannot be saved.</source>
+        <translation>Impossible d’enregistrer « %1 ».</translation>
     </message>
     <message>
         <source>There is no such preset.</source>
@@ -527,20 +527,20 @@
         <translation>Aucun préréglage ne peut être chargé.</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be read.</source>
-        <translation>Impossible de lire le dossier «&#xa0;%1&#xa0;».</translation>
+        <source>The folder "%1" cannot be read.</source>
+        <translation>Impossible de lire le dossier « %1 ».</translation>
     </message>
     <message>
         <source>Nothing can be duplicated.</source>
         <translation>Il n’y a rien à dupliquer.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be imported.</source>
-        <translation>Impossible d’importer «&#xa0;%1&#xa0;».</translation>
+        <source>"%1" cannot be imported.</source>
+        <translation>Impossible d’importer « %1 ».</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>Impossible d’écrire «&#xa0;%1&#xa0;».</translation>
+        <source>"%1" cannot be written.</source>
+        <translation>Impossible d’écrire « %1 ».</translation>
     </message>
     <message>
         <source>That is the folder of the presets themselves.</source>
@@ -551,8 +551,8 @@
         <translation>Ce n’est pas un fichier.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be deleted.</source>
-        <translation>Impossible de supprimer «&#xa0;%1&#xa0;».</translation>
+        <source>"%1" cannot be deleted.</source>
+        <translation>Impossible de supprimer « %1 ».</translation>
     </message>
     <message>
         <source>It is a link to another place.</source>
@@ -563,19 +563,19 @@
         <translation>Un autre programme l’a modifié entre-temps. Réessayez si ces modifications peuvent être perdues.</translation>
     </message>
     <message>
-        <source>Another preset is called &quot;%1&quot;.</source>
-        <translation>Un autre préréglage s’appelle «&#xa0;%1&#xa0;».</translation>
+        <source>Another preset is called "%1".</source>
+        <translation>Un autre préréglage s’appelle « %1 ».</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
-        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;».</translation>
+        <source>The folder "%1" cannot be made.</source>
+        <translation>Impossible de créer le dossier « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>ColourPresetForm</name>
     <message>
         <source>Rendering &amp;intent:</source>
-        <translation>Mode de &amp;rendu&#xa0;:</translation>
+        <translation>Mode de &amp;rendu :</translation>
     </message>
     <message>
         <source>&amp;Black point compensation</source>
@@ -583,11 +583,11 @@
     </message>
     <message>
         <source>In&amp;k limit:</source>
-        <translation>Limite &amp;d’encrage&#xa0;:</translation>
+        <translation>Limite &amp;d’encrage :</translation>
     </message>
     <message>
         <source>Paper white:</source>
-        <translation>Blanc du papier&#xa0;:</translation>
+        <translation>Blanc du papier :</translation>
     </message>
     <message>
         <source>The paper as a screen shows it</source>
@@ -618,7 +618,7 @@
     </message>
     <message>
         <source>Preset:</source>
-        <translation>Préréglage&#xa0;:</translation>
+        <translation>Préréglage :</translation>
     </message>
     <message>
         <source>No preset</source>
@@ -637,8 +637,8 @@
         <translation>Supprimer le préréglage</translation>
     </message>
     <message>
-        <source>Delete the preset &quot;%1&quot; for good?</source>
-        <translation>Supprimer définitivement le préréglage «&#xa0;%1&#xa0;»&#xa0;?</translation>
+        <source>Delete the preset "%1" for good?</source>
+        <translation>Supprimer définitivement le préréglage « %1 » ?</translation>
     </message>
     <message>
         <source>Change the name in the box and the settings, then save.</source>
@@ -653,16 +653,16 @@
         <translation>Les paramètres peuvent être changés dès que le préréglage est en cours de modification.</translation>
     </message>
     <message>
-        <source>Files in &quot;%1&quot; that are no presets, and are left as they are: %2</source>
-        <translation>Fichiers de «&#xa0;%1&#xa0;» qui ne sont pas des préréglages et sont laissés tels quels&#xa0;: %2</translation>
+        <source>Files in "%1" that are no presets, and are left as they are: %2</source>
+        <translation>Fichiers de « %1 » qui ne sont pas des préréglages et sont laissés tels quels : %2</translation>
     </message>
     <message>
         <source>Save Preset</source>
         <translation>Enregistrer le préréglage</translation>
     </message>
     <message>
-        <source>The preset &quot;%1&quot; has been edited. Save it?</source>
-        <translation>Le préréglage «&#xa0;%1&#xa0;» a été modifié. L’enregistrer&#xa0;?</translation>
+        <source>The preset "%1" has been edited. Save it?</source>
+        <translation>Le préréglage « %1 » a été modifié. L’enregistrer ?</translation>
     </message>
     <message>
         <source>Import Preset</source>
@@ -684,16 +684,16 @@
         <translation>%1 octets selon l’en-tête, %2 dans le fichier.</translation>
     </message>
     <message>
-        <source>The signature is &quot;%1&quot; instead of &quot;acsp&quot;.</source>
-        <translation>La signature est «&#xa0;%1&#xa0;» au lieu de «&#xa0;acsp&#xa0;».</translation>
+        <source>The signature is "%1" instead of "acsp".</source>
+        <translation>La signature est « %1 » au lieu de « acsp ».</translation>
     </message>
     <message>
         <source>Version %1 is not supported.</source>
         <translation>La version %1 n’est pas prise en charge.</translation>
     </message>
     <message>
-        <source>The device class &quot;%1&quot; is unknown.</source>
-        <translation>La classe de périphérique «&#xa0;%1&#xa0;» est inconnue.</translation>
+        <source>The device class "%1" is unknown.</source>
+        <translation>La classe de périphérique « %1 » est inconnue.</translation>
     </message>
     <message>
         <source>The file cannot be opened.</source>
@@ -704,8 +704,8 @@
         <translation>Le fichier se termine dans l’en-tête, après %1 octets.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be used as a colour profile.</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas servir de profil de couleur.</translation>
+        <source>"%1" cannot be used as a colour profile.</source>
+        <translation>« %1 » ne peut pas servir de profil de couleur.</translation>
     </message>
 </context>
 <context>
@@ -724,15 +724,15 @@
     </message>
     <message>
         <source>&amp;Measured under:</source>
-        <translation>Condition de &amp;mesure&#xa0;:</translation>
+        <translation>Condition de &amp;mesure :</translation>
     </message>
     <message>
         <source>Pa&amp;per:</source>
-        <translation>&amp;Papier&#xa0;:</translation>
+        <translation>&amp;Papier :</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
-        <translation>&amp;Dossier&#xa0;:</translation>
+        <translation>&amp;Dossier :</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
@@ -756,7 +756,7 @@
     </message>
     <message>
         <source>Focus lost: %1</source>
-        <translation>Focus perdu&#xa0;: %1</translation>
+        <translation>Focus perdu : %1</translation>
     </message>
     <message>
         <source>Measured under</source>
@@ -787,14 +787,14 @@
     <name>ContainersPage</name>
     <message>
         <source>What holds other widgets: a flow of equal cells, a square, splitters with a grip, group boxes that fold or have a bold title; and labels that are turned.</source>
-        <translation>Ce qui contient d’autres widgets&#xa0;: un flux de cellules égales, un carré, des séparateurs avec poignée, des groupes repliables ou à titre en gras&#xa0;; et des libellés pivotés.</translation>
+        <translation>Ce qui contient d’autres widgets : un flux de cellules égales, un carré, des séparateurs avec poignée, des groupes repliables ou à titre en gras ; et des libellés pivotés.</translation>
     </message>
 </context>
 <context>
     <name>ControlsPage</name>
     <message>
         <source>Numbers with a slider beside them, switches, and spin boxes that read as a plain value when they are disabled; and the state of a whole window in one call.</source>
-        <translation>Des nombres accompagnés d’un curseur, des interrupteurs, et des champs numériques qui se lisent comme une simple valeur lorsqu’ils sont désactivés&#xa0;; et l’état de toute une fenêtre en un seul appel.</translation>
+        <translation>Des nombres accompagnés d’un curseur, des interrupteurs, et des champs numériques qui se lisent comme une simple valeur lorsqu’ils sont désactivés ; et l’état de toute une fenêtre en un seul appel.</translation>
     </message>
 </context>
 <context>
@@ -812,8 +812,8 @@
         <translation>Proposer de &amp;mémoriser</translation>
     </message>
     <message>
-        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether &quot;Remember&quot; is checked.</source>
-        <translation>Avec cette proposition, le dialogue rappelle le programme à chaque OK si les deux champs sont remplis&#xa0;; le programme demande lui-même si «&#xa0;Mémoriser&#xa0;» est coché.</translation>
+        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether "Remember" is checked.</source>
+        <translation>Avec cette proposition, le dialogue rappelle le programme à chaque OK si les deux champs sont remplis ; le programme demande lui-même si « Mémoriser » est coché.</translation>
     </message>
     <message>
         <source>Not asked yet.</source>
@@ -825,11 +825,11 @@
     </message>
     <message>
         <source>User: %1.</source>
-        <translation>Utilisateur&#xa0;: %1.</translation>
+        <translation>Utilisateur : %1.</translation>
     </message>
     <message>
         <source>Characters of the password: %1.</source>
-        <translation>Caractères du mot de passe&#xa0;: %1.</translation>
+        <translation>Caractères du mot de passe : %1.</translation>
     </message>
     <message>
         <source>The callback was called.</source>
@@ -840,19 +840,19 @@
         <translation>Le rappel n’a pas eu lieu.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is checked.</source>
-        <translation>«&#xa0;Mémoriser&#xa0;» est coché.</translation>
+        <source>"Remember" is checked.</source>
+        <translation>« Mémoriser » est coché.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is not checked.</source>
-        <translation>«&#xa0;Mémoriser&#xa0;» n’est pas coché.</translation>
+        <source>"Remember" is not checked.</source>
+        <translation>« Mémoriser » n’est pas coché.</translation>
     </message>
 </context>
 <context>
     <name>DatabasePage</name>
     <message>
-        <source>The panel for the place of a program&apos;s data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
-        <translation>Le panneau pour l’emplacement des données d’un programme&#xa0;: sa base de données interne ou un serveur. Démarrez un vrai serveur MariaDB sur cet ordinateur, choisissez ce qui doit mal tourner et feuilletez un million de mesures dans l’une ou l’autre base de données.</translation>
+        <source>The panel for the place of a program's data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
+        <translation>Le panneau pour l’emplacement des données d’un programme : sa base de données interne ou un serveur. Démarrez un vrai serveur MariaDB sur cet ordinateur, choisissez ce qui doit mal tourner et feuilletez un million de mesures dans l’une ou l’autre base de données.</translation>
     </message>
     <message>
         <source>Database panel</source>
@@ -867,7 +867,7 @@
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>Problè&amp;me&#xa0;:</translation>
+        <translation>Problè&amp;me :</translation>
     </message>
     <message>
         <source>None</source>
@@ -922,15 +922,15 @@
     </message>
     <message>
         <source>Saved: a connection can be opened.</source>
-        <translation>Enregistré&#xa0;: une connexion peut être ouverte.</translation>
+        <translation>Enregistré : une connexion peut être ouverte.</translation>
     </message>
     <message>
         <source>Nothing to save: no connection can be opened.</source>
-        <translation>Rien à enregistrer&#xa0;: aucune connexion ne peut être ouverte.</translation>
+        <translation>Rien à enregistrer : aucune connexion ne peut être ouverte.</translation>
     </message>
     <message>
         <source>Confirmed in the dialog: a connection can be opened.</source>
-        <translation>Confirmé dans le dialogue&#xa0;: une connexion peut être ouverte.</translation>
+        <translation>Confirmé dans le dialogue : une connexion peut être ouverte.</translation>
     </message>
     <message>
         <source>Cancelled, or no connection can be opened.</source>
@@ -964,7 +964,7 @@
     </message>
     <message>
         <source>&amp;Formula:</source>
-        <translation>&amp;Formule&#xa0;:</translation>
+        <translation>&amp;Formule :</translation>
     </message>
     <message>
         <source>CIE76</source>
@@ -980,7 +980,7 @@
     </message>
     <message>
         <source>Pa&amp;irs:</source>
-        <translation>Pa&amp;ires&#xa0;:</translation>
+        <translation>Pa&amp;ires :</translation>
     </message>
     <message>
         <source>Same patches</source>
@@ -996,18 +996,18 @@
     </message>
     <message>
         <source>Limit:</source>
-        <translation>Limite&#xa0;:</translation>
+        <translation>Limite :</translation>
     </message>
     <message>
         <source>%1 of %2 pairs are below the limit of %3. The mean is %4, and %5 % of the pairs are below it; the largest difference is %6.</source>
-        <translation>%1 paires sur %2 sont sous la limite de %3. La moyenne est de %4, et %5&#xa0;% des paires sont en dessous&#xa0;; le plus grand écart est de %6.</translation>
+        <translation>%1 paires sur %2 sont sous la limite de %3. La moyenne est de %4, et %5 % des paires sont en dessous ; le plus grand écart est de %6.</translation>
     </message>
 </context>
 <context>
     <name>DifferenceLegend</name>
     <message>
         <source>Colour difference by CIEDE2000. Up to %1: close.</source>
-        <translation>Écart de couleur selon CIEDE2000. Jusqu’à %1&#xa0;: faible.</translation>
+        <translation>Écart de couleur selon CIEDE2000. Jusqu’à %1 : faible.</translation>
     </message>
     <message>
         <source>Colours of the difference</source>
@@ -1049,7 +1049,7 @@
     </message>
     <message>
         <source>Signals o&amp;f the page: %1</source>
-        <translation>Signau&amp;x de la page&#xa0;: %1</translation>
+        <translation>Signau&amp;x de la page : %1</translation>
     </message>
     <message>
         <source>Signals of the page</source>
@@ -1057,7 +1057,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
@@ -1075,7 +1075,7 @@
     </message>
     <message>
         <source>S&amp;hare:</source>
-        <translation>&amp;Partage&#xa0;:</translation>
+        <translation>&amp;Partage :</translation>
     </message>
     <message>
         <source>Add &amp;Drive</source>
@@ -1090,43 +1090,43 @@
         <translation>A&amp;fficher le dossier</translation>
     </message>
     <message>
-        <source>Check &quot;Enabled&quot;, and all active drives in the list are connected, your own too. A connected drive is a link in &quot;%1&quot;. The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
-        <translation>Cochez «&#xa0;Activé&#xa0;» et tous les lecteurs actifs de la liste sont connectés, les vôtres aussi. Un lecteur connecté est un lien dans «&#xa0;%1&#xa0;». L’éditeur ne connaît pas de port&#xa0;: un lecteur que vous saisissez ou modifiez mène au port standard 445, et non au serveur ci-dessus. Les lecteurs ajoutés sont supprimés à la fin de la galerie&#xa0;; celui que vous avez modifié est à vous, et reste.</translation>
+        <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
+        <translation>Cochez « Activé » et tous les lecteurs actifs de la liste sont connectés, les vôtres aussi. Un lecteur connecté est un lien dans « %1 ». L’éditeur ne connaît pas de port : un lecteur que vous saisissez ou modifiez mène au port standard 445, et non au serveur ci-dessus. Les lecteurs ajoutés sont supprimés à la fin de la galerie ; celui que vous avez modifié est à vous, et reste.</translation>
     </message>
     <message>
         <source>Added: %1.</source>
-        <translation>Ajoutés&#xa0;: %1.</translation>
+        <translation>Ajoutés : %1.</translation>
     </message>
     <message>
-        <source>Added: %1. Check &quot;Enabled&quot; to have it connected.</source>
-        <translation>Ajoutés&#xa0;: %1. Cochez «&#xa0;Activé&#xa0;» pour établir la connexion.</translation>
+        <source>Added: %1. Check "Enabled" to have it connected.</source>
+        <translation>Ajoutés : %1. Cochez « Activé » pour établir la connexion.</translation>
     </message>
     <message>
-        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with &quot;-&quot;.</source>
-        <translation>%1 est désormais à vous et mène au port %2&#xa0;: l’éditeur ne connaît pas de port. Supprimez-le avec «&#xa0;-&#xa0;».</translation>
+        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with "-".</source>
+        <translation>%1 est désormais à vous et mène au port %2 : l’éditeur ne connaît pas de port. Supprimez-le avec « - ».</translation>
     </message>
     <message>
         <source>All drive letters are taken.</source>
         <translation>Toutes les lettres de lecteur sont prises.</translation>
     </message>
     <message>
-        <source>No drive has been connected yet: there is no folder &quot;%1&quot;.</source>
-        <translation>Aucun lecteur n’a encore été connecté&#xa0;: il n’y a pas de dossier «&#xa0;%1&#xa0;».</translation>
+        <source>No drive has been connected yet: there is no folder "%1".</source>
+        <translation>Aucun lecteur n’a encore été connecté : il n’y a pas de dossier « %1 ».</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
-        <translation>Aucun programme n’affiche le dossier «&#xa0;%1&#xa0;».</translation>
+        <source>No program shows the folder "%1".</source>
+        <translation>Aucun programme n’affiche le dossier « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>DriveSessionPanel</name>
     <message>
         <source>Lo&amp;g of the drives:</source>
-        <translation>&amp;Journal des lecteurs&#xa0;:</translation>
+        <translation>&amp;Journal des lecteurs :</translation>
     </message>
     <message>
         <source>S&amp;ignals of the manager:</source>
-        <translation>Signaux du &amp;gestionnaire&#xa0;:</translation>
+        <translation>Signaux du &amp;gestionnaire :</translation>
     </message>
 </context>
 <context>
@@ -1144,11 +1144,11 @@
     </message>
     <message>
         <source>OK closed the window; its colour was taken over.</source>
-        <translation>OK a fermé la fenêtre&#xa0;; sa couleur a été reprise.</translation>
+        <translation>OK a fermé la fenêtre ; sa couleur a été reprise.</translation>
     </message>
     <message>
         <source>Cancel closed the window; the colour stays as it was.</source>
-        <translation>«&#xa0;Annuler&#xa0;» a fermé la fenêtre&#xa0;; la couleur reste inchangée.</translation>
+        <translation>« Annuler » a fermé la fenêtre ; la couleur reste inchangée.</translation>
     </message>
     <message>
         <source>A dialog in two places</source>
@@ -1173,8 +1173,8 @@
 <context>
     <name>EncodedTextFile</name>
     <message>
-        <source>There is no codec &quot;%1&quot;.</source>
-        <translation>Il n’y a pas de codec «&#xa0;%1&#xa0;».</translation>
+        <source>There is no codec "%1".</source>
+        <translation>Il n’y a pas de codec « %1 ».</translation>
     </message>
     <message>
         <source>It is no file.</source>
@@ -1182,7 +1182,7 @@
     </message>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation>Lecture impossible&#xa0;: %1.</translation>
+        <translation>Lecture impossible : %1.</translation>
     </message>
 </context>
 <context>
@@ -1209,7 +1209,7 @@
     </message>
     <message>
         <source>&amp;Text file:</source>
-        <translation>Fichier &amp;texte&#xa0;:</translation>
+        <translation>Fichier &amp;texte :</translation>
     </message>
     <message>
         <source>Example in UTF-8</source>
@@ -1233,11 +1233,11 @@
     </message>
     <message>
         <source>Bytes read as %1: %2.</source>
-        <translation>Octets lus en %1&#xa0;: %2.</translation>
+        <translation>Octets lus en %1 : %2.</translation>
     </message>
     <message>
         <source>Places that this encoding cannot read: %1.</source>
-        <translation>Endroits illisibles dans cet encodage&#xa0;: %1.</translation>
+        <translation>Endroits illisibles dans cet encodage : %1.</translation>
     </message>
     <message>
         <source>The rest of the file is not shown.</source>
@@ -1252,11 +1252,11 @@
     </message>
     <message>
         <source>Short:</source>
-        <translation>Court&#xa0;:</translation>
+        <translation>Court :</translation>
     </message>
     <message>
         <source>With details:</source>
-        <translation>Avec détails&#xa0;:</translation>
+        <translation>Avec détails :</translation>
     </message>
     <message>
         <source>a line for each nested error</source>
@@ -1323,7 +1323,7 @@
     </message>
     <message>
         <source>E&amp;xample:</source>
-        <translation>E&amp;xemple&#xa0;:</translation>
+        <translation>E&amp;xemple :</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -1335,7 +1335,7 @@
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation>&amp;Titre&#xa0;:</translation>
+        <translation>&amp;Titre :</translation>
     </message>
     <message>
         <source>Title</source>
@@ -1347,23 +1347,23 @@
     </message>
     <message>
         <source>&amp;Description:</source>
-        <translation>Descri&amp;ption&#xa0;:</translation>
+        <translation>Descri&amp;ption :</translation>
     </message>
     <message>
         <source>D&amp;omain:</source>
-        <translation>&amp;Domaine&#xa0;:</translation>
+        <translation>&amp;Domaine :</translation>
     </message>
     <message>
         <source>N&amp;ested errors:</source>
-        <translation>Erreurs im&amp;briquées&#xa0;:</translation>
+        <translation>Erreurs im&amp;briquées :</translation>
     </message>
     <message>
         <source>One a line; two blanks put it below the line above</source>
-        <translation>Une par ligne&#xa0;; deux espaces la placent sous la ligne précédente</translation>
+        <translation>Une par ligne ; deux espaces la placent sous la ligne précédente</translation>
     </message>
     <message>
         <source>Com&amp;plete text:</source>
-        <translation>Texte &amp;complet&#xa0;:</translation>
+        <translation>Texte &amp;complet :</translation>
     </message>
     <message>
         <source>An error with nothing to say opens no box.</source>
@@ -1401,7 +1401,7 @@
     <name>ErrorsPage</name>
     <message>
         <source>How a failure reaches the user: an error with the errors that led to it, the boxes that show it, and the manual.</source>
-        <translation>Comment un échec parvient à l’utilisateur&#xa0;: une erreur avec les erreurs qui y ont mené, les boîtes de message qui l’affichent, et le manuel.</translation>
+        <translation>Comment un échec parvient à l’utilisateur : une erreur avec les erreurs qui y ont mené, les boîtes de message qui l’affichent, et le manuel.</translation>
     </message>
 </context>
 <context>
@@ -1452,8 +1452,8 @@
     <message>
         <source>A note goes to port 5050 of this computer, and nowhere else; the service takes it there while it is on. The form waits for the answer as long as it takes, and nothing can be pressed meanwhile.
 It tells success only if part of the answer still comes in while it reads. An answer that has come whole, as from this computer, is not looked at: the form then says that the service may be unavailable, for an accepted note too. What has arrived stands in the session.</source>
-        <translation>Un message est envoyé au port 5050 de cet ordinateur, et nulle part ailleurs&#xa0;; le service l’y reçoit tant qu’il est en marche. Le formulaire attend la réponse aussi longtemps qu’il le faut, et rien n’est utilisable pendant ce temps.
-Il n’annonce un succès que si une partie de la réponse arrive encore pendant qu’il lit. Une réponse arrivée tout entière, comme depuis cet ordinateur, n’est pas examinée&#xa0;: le formulaire dit alors que le service est peut-être indisponible, même pour un message accepté. Ce qui est arrivé figure dans la session.</translation>
+        <translation>Un message est envoyé au port 5050 de cet ordinateur, et nulle part ailleurs ; le service l’y reçoit tant qu’il est en marche. Le formulaire attend la réponse aussi longtemps qu’il le faut, et rien n’est utilisable pendant ce temps.
+Il n’annonce un succès que si une partie de la réponse arrive encore pendant qu’il lit. Une réponse arrivée tout entière, comme depuis cet ordinateur, n’est pas examinée : le formulaire dit alors que le service est peut-être indisponible, même pour un message accepté. Ce qui est arrivé figure dans la session.</translation>
     </message>
 </context>
 <context>
@@ -1471,7 +1471,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Ans&amp;wer:</source>
-        <translation>&amp;Réponse&#xa0;:</translation>
+        <translation>&amp;Réponse :</translation>
     </message>
     <message>
         <source>Accepted</source>
@@ -1502,11 +1502,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     <name>FeedbackSessionPanel</name>
     <message>
         <source>What the service &amp;got:</source>
-        <translation>Reçu &amp;par le service&#xa0;:</translation>
+        <translation>Reçu &amp;par le service :</translation>
     </message>
     <message>
         <source>Signals of t&amp;he form and its dialog:</source>
-        <translation>Signaux du &amp;formulaire et de son dialogue&#xa0;:</translation>
+        <translation>Signaux du &amp;formulaire et de son dialogue :</translation>
     </message>
 </context>
 <context>
@@ -1528,7 +1528,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Files of the &amp;gallery:</source>
-        <translation>Fichiers de la &amp;galerie&#xa0;:</translation>
+        <translation>Fichiers de la &amp;galerie :</translation>
     </message>
     <message>
         <source>Files of the gallery</source>
@@ -1540,7 +1540,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Dropped file:</source>
-        <translation>&amp;Fichier déposé&#xa0;:</translation>
+        <translation>&amp;Fichier déposé :</translation>
     </message>
     <message>
         <source>Drop files here</source>
@@ -1552,11 +1552,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Dropped: %1</source>
-        <translation>Déposés&#xa0;: %1</translation>
+        <translation>Déposés : %1</translation>
     </message>
     <message>
         <source>Dropped: %1, not on this computer: %2</source>
-        <translation>Déposés&#xa0;: %1, hors de cet ordinateur&#xa0;: %2</translation>
+        <translation>Déposés : %1, hors de cet ordinateur : %2</translation>
     </message>
 </context>
 <context>
@@ -1567,11 +1567,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>In your own &amp;order:</source>
-        <translation>Da&amp;ns votre propre ordre&#xa0;:</translation>
+        <translation>Da&amp;ns votre propre ordre :</translation>
     </message>
     <message>
         <source>In alphab&amp;etical order:</source>
-        <translation>Dans l’ordre alp&amp;habétique&#xa0;:</translation>
+        <translation>Dans l’ordre alp&amp;habétique :</translation>
     </message>
     <message>
         <source>Folders in your own order</source>
@@ -1583,7 +1583,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;May be dropped:</source>
-        <translation>Dépôt p&amp;ermis&#xa0;:</translation>
+        <translation>Dépôt p&amp;ermis :</translation>
     </message>
     <message>
         <source>Onto folders and between them</source>
@@ -1635,15 +1635,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>“%1” is removed</source>
-        <translation>«&#xa0;%1&#xa0;» a été supprimé</translation>
+        <translation>« %1 » a été supprimé</translation>
     </message>
     <message>
         <source>“%1” is moved</source>
-        <translation>«&#xa0;%1&#xa0;» a été déplacé</translation>
+        <translation>« %1 » a été déplacé</translation>
     </message>
     <message>
         <source>“%1” cannot move there</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas être déplacé là</translation>
+        <translation>« %1 » ne peut pas être déplacé là</translation>
     </message>
     <message>
         <source>Printing</source>
@@ -1697,8 +1697,8 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
 <context>
     <name>FolderJobBar</name>
     <message>
-        <source>Relative paths start at the program&apos;s folder; several paths are separated by &quot;%1&quot;.</source>
-        <translation>Les chemins relatifs partent du dossier du programme&#xa0;; plusieurs chemins sont séparés par «&#xa0;%1&#xa0;».</translation>
+        <source>Relative paths start at the program's folder; several paths are separated by "%1".</source>
+        <translation>Les chemins relatifs partent du dossier du programme ; plusieurs chemins sont séparés par « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -1709,15 +1709,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Broken link: %1</source>
-        <translation>Lien rompu&#xa0;: %1</translation>
+        <translation>Lien rompu : %1</translation>
     </message>
     <message>
         <source>Very long name: %1</source>
-        <translation>Nom très long&#xa0;: %1</translation>
+        <translation>Nom très long : %1</translation>
     </message>
     <message>
         <source>No right to read: %1</source>
-        <translation>Pas de droit de lecture&#xa0;: %1</translation>
+        <translation>Pas de droit de lecture : %1</translation>
     </message>
     <message>
         <source>No right to list the folder.</source>
@@ -1733,15 +1733,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Files: %1</source>
-        <translation>Fichiers&#xa0;: %1</translation>
+        <translation>Fichiers : %1</translation>
     </message>
     <message>
         <source>Total size: %1</source>
-        <translation>Taille totale&#xa0;: %1</translation>
+        <translation>Taille totale : %1</translation>
     </message>
     <message>
         <source>Changed last: %1</source>
-        <translation>Modifié en dernier&#xa0;: %1</translation>
+        <translation>Modifié en dernier : %1</translation>
     </message>
     <message>
         <source>Further findings are not listed.</source>
@@ -1761,15 +1761,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Folders: %1</source>
-        <translation>Dossiers&#xa0;: %1</translation>
+        <translation>Dossiers : %1</translation>
     </message>
     <message>
         <source>Warnings: %1</source>
-        <translation>Avertissements&#xa0;: %1</translation>
+        <translation>Avertissements : %1</translation>
     </message>
     <message>
         <source>Errors: %1</source>
-        <translation>Erreurs&#xa0;: %1</translation>
+        <translation>Erreurs : %1</translation>
     </message>
 </context>
 <context>
@@ -1780,7 +1780,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Folder:</source>
-        <translation>&amp;Dossier&#xa0;:</translation>
+        <translation>&amp;Dossier :</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -1800,7 +1800,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Spinner si&amp;ze:</source>
-        <translation>&amp;Taille de l’indicateur&#xa0;:</translation>
+        <translation>&amp;Taille de l’indicateur :</translation>
     </message>
     <message>
         <source>%1 pixels</source>
@@ -1836,7 +1836,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>%1 folders, %2 files, %3; cancelled</source>
-        <translation>%1 dossiers, %2 fichiers, %3&#xa0;; annulé</translation>
+        <translation>%1 dossiers, %2 fichiers, %3 ; annulé</translation>
     </message>
 </context>
 <context>
@@ -1851,7 +1851,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Rendering intent:</source>
-        <translation>Mode de rendu&#xa0;:</translation>
+        <translation>Mode de rendu :</translation>
     </message>
     <message>
         <source>Perceptual</source>
@@ -1929,12 +1929,12 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
         <translation>A&amp;fficher l’état</translation>
     </message>
     <message>
-        <source>Show &amp;box &quot;Active&quot;</source>
-        <translation>Afficher la &amp;case «&#xa0;Actif&#xa0;»</translation>
+        <source>Show &amp;box "Active"</source>
+        <translation>Afficher la &amp;case « Actif »</translation>
     </message>
     <message>
-        <source>Show box &quot;&amp;Erase&quot;</source>
-        <translation>Afficher la case «&#xa0;&amp;Effacer&#xa0;»</translation>
+        <source>Show box "&amp;Erase"</source>
+        <translation>Afficher la case « &amp;Effacer »</translation>
     </message>
     <message>
         <source>&amp;Importer</source>
@@ -1956,7 +1956,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Protoc&amp;ol:</source>
-        <translation>Pr&amp;otocole&#xa0;:</translation>
+        <translation>Pr&amp;otocole :</translation>
     </message>
     <message>
         <source>FTP</source>
@@ -1968,7 +1968,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>Pro&amp;blème&#xa0;:</translation>
+        <translation>Pro&amp;blème :</translation>
     </message>
     <message>
         <source>None</source>
@@ -1991,11 +1991,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     <name>FtpSessionPanel</name>
     <message>
         <source>What the server &amp;got:</source>
-        <translation>Reçu &amp;par le serveur&#xa0;:</translation>
+        <translation>Reçu &amp;par le serveur :</translation>
     </message>
     <message>
         <source>Signals of t&amp;he panel:</source>
-        <translation>Si&amp;gnaux du panneau&#xa0;:</translation>
+        <translation>Si&amp;gnaux du panneau :</translation>
     </message>
 </context>
 <context>
@@ -2052,7 +2052,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Open at this page: %1.</source>
-        <translation>Ouvre cette page&#xa0;: %1.</translation>
+        <translation>Ouvre cette page : %1.</translation>
     </message>
     <message>
         <source>file|folder</source>
@@ -2064,7 +2064,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Widget style: %1.</source>
-        <translation>Style des widgets&#xa0;: %1.</translation>
+        <translation>Style des widgets : %1.</translation>
     </message>
     <message>
         <source>Colours.</source>
@@ -2083,39 +2083,39 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
         <translation>--%1 exige une valeur.</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation>Argument inattendu «&#xa0;%1&#xa0;».</translation>
+        <source>Unexpected argument "%1".</source>
+        <translation>Argument inattendu « %1 ».</translation>
     </message>
     <message>
-        <source>There is no page &quot;%1&quot;. The pages are: %2.</source>
-        <translation>Il n’y a pas de page «&#xa0;%1&#xa0;». Les pages sont&#xa0;: %2.</translation>
+        <source>There is no page "%1". The pages are: %2.</source>
+        <translation>Il n’y a pas de page « %1 ». Les pages sont : %2.</translation>
     </message>
     <message>
-        <source>There is no style &quot;%1&quot;. The styles are: %2.</source>
-        <translation>Il n’y a pas de style «&#xa0;%1&#xa0;». Les styles sont&#xa0;: %2.</translation>
+        <source>There is no style "%1". The styles are: %2.</source>
+        <translation>Il n’y a pas de style « %1 ». Les styles sont : %2.</translation>
     </message>
     <message>
-        <source>There is no palette &quot;%1&quot;. The palettes are: light, dark.</source>
-        <translation>Il n’y a pas de palette «&#xa0;%1&#xa0;». Les palettes sont&#xa0;: light, dark.</translation>
+        <source>There is no language "%1". The languages are: %2.</source>
+        <translation>Il n’y a pas de langue « %1 ». Les langues sont : %2.</translation>
     </message>
     <message>
-        <source>There is no language &quot;%1&quot;. The languages are: %2.</source>
-        <translation>Il n’y a pas de langue «&#xa0;%1&#xa0;». Les langues sont&#xa0;: %2.</translation>
+        <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
+        <translation>Il n’y a pas de palette « %1 ». Les palettes sont : light, dark, contrast.</translation>
     </message>
 </context>
 <context>
     <name>GalleryGrabber</name>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
-        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;».</translation>
+        <source>The folder "%1" cannot be made.</source>
+        <translation>Impossible de créer le dossier « %1 ».</translation>
     </message>
     <message>
-        <source>The page &quot;%1&quot; was not ready after %2 seconds.</source>
-        <translation>La page «&#xa0;%1&#xa0;» n’était pas prête après %2 secondes.</translation>
+        <source>The page "%1" was not ready after %2 seconds.</source>
+        <translation>La page « %1 » n’était pas prête après %2 secondes.</translation>
     </message>
     <message>
-        <source>The picture &quot;%1&quot; cannot be written: %2.</source>
-        <translation>Impossible d’écrire l’image «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>The picture "%1" cannot be written: %2.</source>
+        <translation>Impossible d’écrire l’image « %1 » : %2.</translation>
     </message>
 </context>
 <context>
@@ -2172,6 +2172,10 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     <message>
         <source>Language</source>
         <translation>Langue</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>Contraste élevé</translation>
     </message>
 </context>
 <context>
@@ -2310,12 +2314,12 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
         <translation>&amp;Répartir</translation>
     </message>
     <message>
-        <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
-        <translation>La part de chaque zone dans la largeur&#xa0;: la moitié avec deux images, même quand la fenêtre change</translation>
+        <source>Each zone's share of the width: a half with two pictures, also when the window changes</source>
+        <translation>La part de chaque zone dans la largeur : la moitié avec deux images, même quand la fenêtre change</translation>
     </message>
     <message>
         <source>1&amp;00 %</source>
-        <translation>1&amp;00&#xa0;%</translation>
+        <translation>1&amp;00 %</translation>
     </message>
     <message>
         <source>A pixel of the picture as one of the screen</source>
@@ -2323,7 +2327,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Scal&amp;e:</source>
-        <translation>Éc&amp;helle&#xa0;:</translation>
+        <translation>Éc&amp;helle :</translation>
     </message>
     <message>
         <source> %</source>
@@ -2350,7 +2354,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     <name>ImagesPage</name>
     <message>
         <source>Pictures side by side at one scale and position: a colour chart, the same chart in a simulated print, and how the two differ. Drag them, and turn the wheel to look closer.</source>
-        <translation>Des images côte à côte, à la même échelle et à la même position&#xa0;: une charte de couleurs, la même charte en impression simulée, et ce qui les distingue. Faites-les glisser et tournez la molette pour regarder de plus près.</translation>
+        <translation>Des images côte à côte, à la même échelle et à la même position : une charte de couleurs, la même charte en impression simulée, et ce qui les distingue. Faites-les glisser et tournez la molette pour regarder de plus près.</translation>
     </message>
     <message>
         <source>Pictures side by side</source>
@@ -2374,11 +2378,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>The print is computed: paper that is not white, ink that is not black, dots that grow by %1 percent and a trace of their screen. It shows what these four do, and is no proof of what a press would print.</source>
-        <translation>L’imprimé est calculé&#xa0;: un papier qui n’est pas blanc, une encre qui n’est pas noire, des points qui grossissent de %1 pour cent et une trace de leur trame. Il montre ce que produisent ces quatre facteurs, et n’est pas une épreuve de ce qu’imprimerait une presse.</translation>
+        <translation>L’imprimé est calculé : un papier qui n’est pas blanc, une encre qui n’est pas noire, des points qui grossissent de %1 pour cent et une trace de leur trame. Il montre ce que produisent ces quatre facteurs, et n’est pas une épreuve de ce qu’imprimerait une presse.</translation>
     </message>
     <message>
         <source>The first %1 of %2 files.</source>
@@ -2390,7 +2394,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>The pictures differ in size: %1 pixels. All are laid out by the first.</source>
-        <translation>Les images diffèrent par leur taille&#xa0;: %1 pixels. Toutes sont disposées d’après la première.</translation>
+        <translation>Les images diffèrent par leur taille : %1 pixels. Toutes sont disposées d’après la première.</translation>
     </message>
     <message>
         <source>, </source>
@@ -2405,7 +2409,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     <name>JsonFile</name>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation>Lecture impossible&#xa0;: %1.</translation>
+        <translation>Lecture impossible : %1.</translation>
     </message>
     <message>
         <source>It is no file.</source>
@@ -2419,32 +2423,32 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
         <translation>Il ne contient pas d’objet JSON.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not known.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas connu.</translation>
+        <source>"%1" is not known.</source>
+        <translation>« %1 » n’est pas connu.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no text.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un texte.</translation>
+        <source>"%1" is no text.</source>
+        <translation>« %1 » n’est pas un texte.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither true nor false.</source>
-        <translation>«&#xa0;%1&#xa0;» ne vaut ni true ni false.</translation>
+        <source>"%1" is neither true nor false.</source>
+        <translation>« %1 » ne vaut ni true ni false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number from %2 to %3.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de %2 à %3.</translation>
+        <source>"%1" is no number from %2 to %3.</source>
+        <translation>« %1 » n’est pas un nombre de %2 à %3.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre entier.</translation>
+        <source>"%1" is no whole number.</source>
+        <translation>« %1 » n’est pas un nombre entier.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no object.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un objet.</translation>
+        <source>"%1" is no object.</source>
+        <translation>« %1 » n’est pas un objet.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is missing.</source>
-        <translation>«&#xa0;%1&#xa0;» est absent.</translation>
+        <source>"%1" is missing.</source>
+        <translation>« %1 » est absent.</translation>
     </message>
 </context>
 <context>
@@ -2455,15 +2459,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>It is no JSON (line %1: %2).</source>
-        <translation>Le texte n’est pas du JSON (ligne %1&#xa0;: %2).</translation>
+        <translation>Le texte n’est pas du JSON (ligne %1 : %2).</translation>
     </message>
     <message>
         <source>It is too large: more than %1.</source>
-        <translation>Le texte est trop grand&#xa0;: plus de %1.</translation>
+        <translation>Le texte est trop grand : plus de %1.</translation>
     </message>
     <message>
         <source>It holds too many values: more than %1.</source>
-        <translation>Le texte contient trop de valeurs&#xa0;: plus de %1.</translation>
+        <translation>Le texte contient trop de valeurs : plus de %1.</translation>
     </message>
 </context>
 <context>
@@ -2474,7 +2478,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Beyond the screen; shown as %1</source>
-        <translation>Hors de portée de l’écran&#xa0;; affichée comme %1</translation>
+        <translation>Hors de portée de l’écran ; affichée comme %1</translation>
     </message>
     <message>
         <source>Mix a Colour</source>
@@ -2482,15 +2486,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Li&amp;ghtness L*:</source>
-        <translation>&amp;Clarté L*&#xa0;:</translation>
+        <translation>&amp;Clarté L* :</translation>
     </message>
     <message>
         <source>Gree&amp;n-red a*:</source>
-        <translation>&amp;Vert–rouge a*&#xa0;:</translation>
+        <translation>&amp;Vert–rouge a* :</translation>
     </message>
     <message>
         <source>&amp;Blue-yellow b*:</source>
-        <translation>&amp;Bleu–jaune b*&#xa0;:</translation>
+        <translation>&amp;Bleu–jaune b* :</translation>
     </message>
     <message>
         <source>Lightness</source>
@@ -2513,19 +2517,19 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>b*: blue to yellow</source>
-        <translation>b*&#xa0;: du bleu au jaune</translation>
+        <translation>b* : du bleu au jaune</translation>
     </message>
     <message>
         <source>a*: green to red</source>
-        <translation>a*&#xa0;: du vert au rouge</translation>
+        <translation>a* : du vert au rouge</translation>
     </message>
     <message>
         <source>Lig&amp;htness:</source>
-        <translation>&amp;Clarté&#xa0;:</translation>
+        <translation>&amp;Clarté :</translation>
     </message>
     <message>
         <source>&amp;Vertical axis:</source>
-        <translation>A&amp;xe vertical&#xa0;:</translation>
+        <translation>A&amp;xe vertical :</translation>
     </message>
     <message>
         <source>Upright</source>
@@ -2541,7 +2545,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Margins:</source>
-        <translation>&amp;Marges&#xa0;:</translation>
+        <translation>&amp;Marges :</translation>
     </message>
     <message>
         <source> px</source>
@@ -2575,7 +2579,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>&amp;Texts of the gallery:</source>
-        <translation>Textes de la &amp;galerie&#xa0;:</translation>
+        <translation>Textes de la &amp;galerie :</translation>
     </message>
     <message>
         <source>Texts of the gallery</source>
@@ -2596,15 +2600,15 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Result 0: the file was copied.</source>
-        <translation>Résultat 0&#xa0;: le fichier a été copié.</translation>
+        <translation>Résultat 0 : le fichier a été copié.</translation>
     </message>
     <message>
         <source>Result 1: the file was not copied.</source>
-        <translation>Résultat 1&#xa0;: le fichier n’a pas été copié.</translation>
+        <translation>Résultat 1 : le fichier n’a pas été copié.</translation>
     </message>
     <message>
         <source>Result 2: cancelled.</source>
-        <translation>Résultat 2&#xa0;: annulé.</translation>
+        <translation>Résultat 2 : annulé.</translation>
     </message>
 </context>
 <context>
@@ -2615,10 +2619,44 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
 </context>
 <context>
+    <name>LocalMariaDbServer</name>
+    <message>
+        <source>the user has no name</source>
+        <translation>l’utilisateur n’a pas de nom</translation>
+    </message>
+    <message>
+        <source>the database "%1" is the closed one</source>
+        <translation>la base de données « %1 » est celle qui est fermée</translation>
+    </message>
+</context>
+<context>
+    <name>LocalServer</name>
+    <message>
+        <source>no folder for the server: %1</source>
+        <translation>pas de dossier pour le serveur : %1</translation>
+    </message>
+    <message>
+        <source>%1 does not start: %2</source>
+        <translation>%1 ne démarre pas : %2</translation>
+    </message>
+    <message>
+        <source>%1 is not ready in time</source>
+        <translation>%1 n’est pas prêt à temps</translation>
+    </message>
+    <message>
+        <source>%1 ended before it was ready</source>
+        <translation>%1 s’est terminé avant d’être prêt</translation>
+    </message>
+    <message>
+        <source>%1 told no port but "%2"</source>
+        <translation>%1 n’a indiqué aucun port, mais « %2 »</translation>
+    </message>
+</context>
+<context>
     <name>LocalServerPanel</name>
     <message>
         <source>Ser&amp;ver:</source>
-        <translation>Ser&amp;veur&#xa0;:</translation>
+        <translation>Ser&amp;veur :</translation>
     </message>
     <message>
         <source>&amp;Fill In the Panel</source>
@@ -2634,11 +2672,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>The server did not start: %1</source>
-        <translation>Le serveur n’a pas démarré&#xa0;: %1</translation>
+        <translation>Le serveur n’a pas démarré : %1</translation>
     </message>
     <message>
-        <source>&quot;./dev setup&quot; installs what is needed.</source>
-        <translation>«&#xa0;./dev setup&#xa0;» installe ce qu’il faut.</translation>
+        <source>"./dev setup" installs what is needed.</source>
+        <translation>« ./dev setup » installe ce qu’il faut.</translation>
     </message>
     <message>
         <source>The server has stopped by itself.</source>
@@ -2646,7 +2684,25 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>The server has stopped by itself: %1</source>
-        <translation>Le serveur s’est arrêté de lui-même&#xa0;: %1</translation>
+        <translation>Le serveur s’est arrêté de lui-même : %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalUpdateService</name>
+    <message>
+        <source>no folder for the replies: %1</source>
+        <translation>pas de dossier pour les réponses : %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalWebServer</name>
+    <message>
+        <source>there is no file %1</source>
+        <translation>le fichier %1 n’existe pas</translation>
+    </message>
+    <message>
+        <source>%1 is no file with a certificate</source>
+        <translation>%1 n’est pas un fichier contenant un certificat</translation>
     </message>
 </context>
 <context>
@@ -2701,11 +2757,11 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Cancelled: nothing is locked, and what is stored stays.</source>
-        <translation>Annulé&#xa0;: rien n’est verrouillé, et ce qui est stocké reste.</translation>
+        <translation>Annulé : rien n’est verrouillé, et ce qui est stocké reste.</translation>
     </message>
     <message>
         <source>Cancelled after the password was changed: nothing is locked, and the new password is not kept.</source>
-        <translation>Annulé après la modification du mot de passe&#xa0;: rien n’est verrouillé, et le nouveau mot de passe n’est pas conservé.</translation>
+        <translation>Annulé après la modification du mot de passe : rien n’est verrouillé, et le nouveau mot de passe n’est pas conservé.</translation>
     </message>
     <message>
         <source>The new password is stored.</source>
@@ -2713,7 +2769,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Cancelled: what is stored stays.</source>
-        <translation>Annulé&#xa0;: ce qui est stocké reste.</translation>
+        <translation>Annulé : ce qui est stocké reste.</translation>
     </message>
     <message>
         <source>The password is forgotten.</source>
@@ -2725,7 +2781,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>A digest cannot be turned back into the password: it is forgotten.</source>
-        <translation>Une empreinte ne permet pas de retrouver le mot de passe&#xa0;: il est oublié.</translation>
+        <translation>Une empreinte ne permet pas de retrouver le mot de passe : il est oublié.</translation>
     </message>
     <message>
         <source>Unlocked with the right password.</source>
@@ -2737,7 +2793,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>No password has been set: the lock asks for a first one.</source>
-        <translation>Aucun mot de passe n’est défini&#xa0;: le verrouillage en demande un premier.</translation>
+        <translation>Aucun mot de passe n’est défini : le verrouillage en demande un premier.</translation>
     </message>
 </context>
 <context>
@@ -2750,8 +2806,8 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
 <context>
     <name>LogPage</name>
     <message>
-        <source>The log of this very program, live: Qt&apos;s own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
-        <translation>Le journal de ce programme même, en direct&#xa0;: les messages de Qt, les lignes que le programme affiche, et une tâche qui écrit des entrées et des sous-entrées depuis plusieurs threads.</translation>
+        <source>The log of this very program, live: Qt's own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
+        <translation>Le journal de ce programme même, en direct : les messages de Qt, les lignes que le programme affiche, et une tâche qui écrit des entrées et des sous-entrées depuis plusieurs threads.</translation>
     </message>
     <message>
         <source>Write a line</source>
@@ -2775,7 +2831,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Live &amp;view:</source>
-        <translation>Vue en dire&amp;ct&#xa0;:</translation>
+        <translation>Vue en dire&amp;ct :</translation>
     </message>
     <message>
         <source>&amp;Open Log Window</source>
@@ -2841,12 +2897,12 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
         <translation>Installer un logo</translation>
     </message>
     <message>
-        <source>Remove the installed logo &quot;%1&quot;?</source>
-        <translation>Supprimer le logo installé «&#xa0;%1&#xa0;»&#xa0;?</translation>
+        <source>Remove the installed logo "%1"?</source>
+        <translation>Supprimer le logo installé « %1 » ?</translation>
     </message>
     <message>
-        <source>Remove the copy &quot;%1&quot;?</source>
-        <translation>Supprimer la copie «&#xa0;%1&#xa0;»&#xa0;?</translation>
+        <source>Remove the copy "%1"?</source>
+        <translation>Supprimer la copie « %1 » ?</translation>
     </message>
     <message>
         <source>Click to close.</source>
@@ -2866,7 +2922,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source>Nothing: there is no picture.</source>
-        <translation>Rien&#xa0;: il n’y a pas d’image.</translation>
+        <translation>Rien : il n’y a pas d’image.</translation>
     </message>
     <message>
         <source>The installed logo.</source>
@@ -2877,7 +2933,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
         <translation>La copie, puisqu’aucun logo n’est installé.</translation>
     </message>
     <message>
-        <source>The gallery&apos;s own picture.</source>
+        <source>The gallery's own picture.</source>
         <translation>L’image propre à la galerie.</translation>
     </message>
 </context>
@@ -2924,7 +2980,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Se&amp;curity:</source>
-        <translation>Sé&amp;curité&#xa0;:</translation>
+        <translation>Sé&amp;curité :</translation>
     </message>
     <message>
         <source>Plain</source>
@@ -2940,7 +2996,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>&amp;Problème&#xa0;:</translation>
+        <translation>&amp;Problème :</translation>
     </message>
     <message>
         <source>None</source>
@@ -2982,7 +3038,7 @@ Atelier d’impression</translation>
         <translation>Ouvrir un manu&amp;el manquant</translation>
     </message>
     <message>
-        <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
+        <source>The manual of this gallery, in the system's viewer of PDF files.</source>
         <translation>Le manuel de cette galerie, dans la visionneuse de fichiers PDF du système.</translation>
     </message>
 </context>
@@ -2994,7 +3050,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Fol&amp;der of the internal database:</source>
-        <translation>Dossier de la &amp;base de données interne&#xa0;:</translation>
+        <translation>Dossier de la &amp;base de données interne :</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -3002,7 +3058,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Amo&amp;unt:</source>
-        <translation>&amp;Quantité&#xa0;:</translation>
+        <translation>&amp;Quantité :</translation>
     </message>
     <message>
         <source>%1 rows</source>
@@ -3021,8 +3077,8 @@ Atelier d’impression</translation>
         <translation>Progression</translation>
     </message>
     <message>
-        <source>On a server the table &quot;%1&quot; is dropped, made anew and left there.</source>
-        <translation>Sur un serveur, la table «&#xa0;%1&#xa0;» est supprimée, recréée et laissée en place.</translation>
+        <source>On a server the table "%1" is dropped, made anew and left there.</source>
+        <translation>Sur un serveur, la table « %1 » est supprimée, recréée et laissée en place.</translation>
     </message>
     <message>
         <source>Folder of the Internal Database</source>
@@ -3038,7 +3094,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>No table was made: %1</source>
-        <translation>Aucune table n’a été créée&#xa0;: %1</translation>
+        <translation>Aucune table n’a été créée : %1</translation>
     </message>
     <message>
         <source>Made in %1 s.</source>
@@ -3046,7 +3102,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Cancelled: no table was made.</source>
-        <translation>Annulé&#xa0;: aucune table n’a été créée.</translation>
+        <translation>Annulé : aucune table n’a été créée.</translation>
     </message>
 </context>
 <context>
@@ -3092,7 +3148,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>ΔE ab&amp;ove:</source>
-        <translation>ΔE s&amp;upérieur à&#xa0;:</translation>
+        <translation>ΔE s&amp;upérieur à :</translation>
     </message>
     <message>
         <source>all</source>
@@ -3100,7 +3156,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Rows per &amp;page:</source>
-        <translation>Lignes par &amp;page&#xa0;:</translation>
+        <translation>Lignes par &amp;page :</translation>
     </message>
     <message>
         <source>&amp;Remove Rows</source>
@@ -3108,15 +3164,15 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Stateme&amp;nt:</source>
-        <translation>&amp;Instruction&#xa0;:</translation>
+        <translation>&amp;Instruction :</translation>
     </message>
     <message>
         <source>A click on No. or ΔE sorts: these columns have an index.</source>
-        <translation>Un clic sur N° ou ΔE trie&#xa0;: ces colonnes ont un index.</translation>
+        <translation>Un clic sur N° ou ΔE trie : ces colonnes ont un index.</translation>
     </message>
     <message>
         <source>The database refuses: %1</source>
-        <translation>La base de données refuse&#xa0;: %1</translation>
+        <translation>La base de données refuse : %1</translation>
     </message>
     <message>
         <source>Answered in %1 ms.</source>
@@ -3130,20 +3186,20 @@ Atelier d’impression</translation>
 <context>
     <name>OemLogo</name>
     <message>
-        <source>The logo &quot;%1&quot; cannot be written: %2.</source>
-        <translation>Impossible d’écrire le logo «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>The logo "%1" cannot be written: %2.</source>
+        <translation>Impossible d’écrire le logo « %1 » : %2.</translation>
     </message>
     <message>
-        <source>No copy is kept: the folder &quot;%1&quot; cannot be written.</source>
-        <translation>Aucune copie n’est conservée&#xa0;: impossible d’écrire dans le dossier «&#xa0;%1&#xa0;».</translation>
+        <source>No copy is kept: the folder "%1" cannot be written.</source>
+        <translation>Aucune copie n’est conservée : impossible d’écrire dans le dossier « %1 ».</translation>
     </message>
     <message>
-        <source>No copy is kept: there is no folder &quot;%1&quot;.</source>
-        <translation>Aucune copie n’est conservée&#xa0;: il n’y a pas de dossier «&#xa0;%1&#xa0;».</translation>
+        <source>No copy is kept: there is no folder "%1".</source>
+        <translation>Aucune copie n’est conservée : il n’y a pas de dossier « %1 ».</translation>
     </message>
     <message>
-        <source>The logo &quot;%1&quot; cannot be removed: %2.</source>
-        <translation>Impossible de supprimer le logo «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>The logo "%1" cannot be removed: %2.</source>
+        <translation>Impossible de supprimer le logo « %1 » : %2.</translation>
     </message>
 </context>
 <context>
@@ -3191,7 +3247,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>&amp;Value:</source>
-        <translation>&amp;Valeur&#xa0;:</translation>
+        <translation>&amp;Valeur :</translation>
     </message>
     <message>
         <source>Set &amp;by the Program</source>
@@ -3261,11 +3317,11 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>S&amp;watches:</source>
-        <translation>&amp;Nuances&#xa0;:</translation>
+        <translation>&amp;Nuances :</translation>
     </message>
     <message>
         <source>&amp;Position:</source>
-        <translation>&amp;Position&#xa0;:</translation>
+        <translation>&amp;Position :</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
@@ -3281,7 +3337,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>&amp;Frame:</source>
-        <translation>&amp;Bordure&#xa0;:</translation>
+        <translation>&amp;Bordure :</translation>
     </message>
     <message>
         <source>None</source>
@@ -3332,11 +3388,11 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Row %1: line drawn</source>
-        <translation>Ligne %1&#xa0;: trait tracé</translation>
+        <translation>Ligne %1 : trait tracé</translation>
     </message>
     <message>
         <source>Row %1: line removed</source>
-        <translation>Ligne %1&#xa0;: trait supprimé</translation>
+        <translation>Ligne %1 : trait supprimé</translation>
     </message>
 </context>
 <context>
@@ -3355,7 +3411,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>Compares the chosen rows. Make the last column narrow: first the time goes, then the end of the date.</source>
-        <translation>Compare les lignes choisies. Rétrécissez la dernière colonne&#xa0;: d’abord l’heure disparaît, puis la fin de la date.</translation>
+        <translation>Compare les lignes choisies. Rétrécissez la dernière colonne : d’abord l’heure disparaît, puis la fin de la date.</translation>
     </message>
     <message>
         <source>Patch</source>
@@ -3398,7 +3454,7 @@ Atelier d’impression</translation>
     </message>
     <message>
         <source>&amp;Grip width:</source>
-        <translation>Lar&amp;geur de la poignée&#xa0;:</translation>
+        <translation>Lar&amp;geur de la poignée :</translation>
     </message>
     <message>
         <source> px</source>
@@ -3412,7 +3468,7 @@ On the screen: %4</source>
         <translation>L* %1
 a* %2
 b* %3
-À l’écran&#xa0;: %4</translation>
+À l’écran : %4</translation>
     </message>
 </context>
 <context>
@@ -3423,14 +3479,14 @@ b* %3
     </message>
     <message>
         <source>On the left of each patch charts made before November 2014, on the right those made since. A patch whose difference reaches the limit is framed.</source>
-        <translation>À gauche de chaque plage, les chartes fabriquées avant novembre 2014&#xa0;; à droite, celles fabriquées depuis. Une plage dont l’écart atteint la limite est encadrée.</translation>
+        <translation>À gauche de chaque plage, les chartes fabriquées avant novembre 2014 ; à droite, celles fabriquées depuis. Une plage dont l’écart atteint la limite est encadrée.</translation>
     </message>
 </context>
 <context>
     <name>PatchTint</name>
     <message>
         <source>%1, %2 %</source>
-        <translation>%1, %2&#xa0;%</translation>
+        <translation>%1, %2 %</translation>
     </message>
 </context>
 <context>
@@ -3523,16 +3579,16 @@ b* %3
         <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier.</translation>
+        <source>"%1" is no file.</source>
+        <translation>« %1 » n’est pas un fichier.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
-        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>Impossible de lire « %1 » : %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
-        <translation>«&#xa0;%1&#xa0;» est trop grand&#xa0;: %2 × %3 pixels, qui exigent plus de %4 Mo de mémoire.</translation>
+        <source>"%1" is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
+        <translation>« %1 » est trop grand : %2 × %3 pixels, qui exigent plus de %4 Mo de mémoire.</translation>
     </message>
 </context>
 <context>
@@ -3555,7 +3611,7 @@ b* %3
     </message>
     <message>
         <source>Shown:</source>
-        <translation>Affichées&#xa0;:</translation>
+        <translation>Affichées :</translation>
     </message>
 </context>
 <context>
@@ -3577,27 +3633,27 @@ b* %3
     <name>PluginPanel</name>
     <message>
         <source>Changed; what is in bold is not saved.</source>
-        <translation>Modifié&#xa0;; ce qui est en gras n’est pas enregistré.</translation>
+        <translation>Modifié ; ce qui est en gras n’est pas enregistré.</translation>
     </message>
     <message>
         <source>These settings are saved.</source>
         <translation>Ces paramètres sont enregistrés.</translation>
     </message>
     <message>
-        <source>The page&apos;s defaults; nothing is saved yet.</source>
-        <translation>Les valeurs par défaut de la page&#xa0;; rien n’est encore enregistré.</translation>
+        <source>The page's defaults; nothing is saved yet.</source>
+        <translation>Les valeurs par défaut de la page ; rien n’est encore enregistré.</translation>
     </message>
     <message>
         <source>Configuration pages from plug-ins</source>
         <translation>Pages de configuration issues de modules</translation>
     </message>
     <message>
-        <source>No plug-in was found. Plug-ins are looked for in the folder &quot;%1&quot;; put one there and start the gallery again.</source>
-        <translation>Aucun module n’a été trouvé. Les modules sont cherchés dans le dossier «&#xa0;%1&#xa0;»&#xa0;; placez-en un à cet endroit et redémarrez la galerie.</translation>
+        <source>No plug-in was found. Plug-ins are looked for in the folder "%1"; put one there and start the gallery again.</source>
+        <translation>Aucun module n’a été trouvé. Les modules sont cherchés dans le dossier « %1 » ; placez-en un à cet endroit et redémarrez la galerie.</translation>
     </message>
     <message>
         <source>&amp;Plug-ins found:</source>
-        <translation>&amp;Modules trouvés&#xa0;:</translation>
+        <translation>&amp;Modules trouvés :</translation>
     </message>
     <message>
         <source>Plug-ins found</source>
@@ -3617,7 +3673,7 @@ b* %3
     </message>
     <message>
         <source>Settings, read bac&amp;k live:</source>
-        <translation>Paramètres, relus en &amp;direct&#xa0;:</translation>
+        <translation>Paramètres, relus en &amp;direct :</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
@@ -3632,7 +3688,7 @@ b* %3
     <name>PrintJobForm</name>
     <message>
         <source>Pape&amp;r:</source>
-        <translation>&amp;Papier&#xa0;:</translation>
+        <translation>&amp;Papier :</translation>
     </message>
     <message>
         <source>Coated, 115 g/m²</source>
@@ -3648,7 +3704,7 @@ b* %3
     </message>
     <message>
         <source>Rendering &amp;intent:</source>
-        <translation>&amp;Mode de rendu&#xa0;:</translation>
+        <translation>&amp;Mode de rendu :</translation>
     </message>
     <message>
         <source>Relative colorimetric</source>
@@ -3668,11 +3724,11 @@ b* %3
     </message>
     <message>
         <source>Total i&amp;nk limit:</source>
-        <translation>Limite d’en&amp;crage total&#xa0;:</translation>
+        <translation>Limite d’en&amp;crage total :</translation>
     </message>
     <message>
         <source>Delta &amp;E tolerance:</source>
-        <translation>Tolérance Delta &amp;E&#xa0;:</translation>
+        <translation>Tolérance Delta &amp;E :</translation>
     </message>
     <message>
         <source>Black point c&amp;ompensation</source>
@@ -3687,7 +3743,7 @@ b* %3
     </message>
     <message>
         <source>For&amp;mat:</source>
-        <translation>For&amp;mat&#xa0;:</translation>
+        <translation>For&amp;mat :</translation>
     </message>
     <message>
         <source>%p stands for the percentage, %v for the value, %m for the number of steps.</source>
@@ -3710,7 +3766,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Mails:</source>
-        <translation>C&amp;ourriels&#xa0;:</translation>
+        <translation>C&amp;ourriels :</translation>
     </message>
     <message>
         <source>From</source>
@@ -3734,7 +3790,7 @@ b* %3
     </message>
     <message>
         <source>As it cam&amp;e:</source>
-        <translation>&amp;Tel que reçu&#xa0;:</translation>
+        <translation>&amp;Tel que reçu :</translation>
     </message>
     <message>
         <source>Clea&amp;r</source>
@@ -3757,23 +3813,23 @@ b* %3
     </message>
     <message>
         <source>&amp;Formula:</source>
-        <translation>&amp;Formule&#xa0;:</translation>
+        <translation>&amp;Formule :</translation>
     </message>
     <message>
         <source>&amp;Tolerance:</source>
-        <translation>&amp;Tolérance&#xa0;:</translation>
+        <translation>&amp;Tolérance :</translation>
     </message>
     <message>
         <source>Pa&amp;irs:</source>
-        <translation>Pa&amp;ires&#xa0;:</translation>
+        <translation>Pa&amp;ires :</translation>
     </message>
     <message>
         <source>&amp;Paper:</source>
-        <translation>&amp;Papier&#xa0;:</translation>
+        <translation>&amp;Papier :</translation>
     </message>
     <message>
         <source>O&amp;rientation:</source>
-        <translation>O&amp;rientation&#xa0;:</translation>
+        <translation>O&amp;rientation :</translation>
     </message>
     <message>
         <source>CIE76</source>
@@ -3859,10 +3915,10 @@ b* %3
         <translation>&amp;Ouvrir le PDF</translation>
     </message>
     <message numerus="yes">
-        <source>%n page(s) in &quot;%1&quot;</source>
+        <source>%n page(s) in "%1"</source>
         <translation>
-            <numerusform>%n page dans «&#xa0;%1&#xa0;»</numerusform>
-            <numerusform>%n pages dans «&#xa0;%1&#xa0;»</numerusform>
+            <numerusform>%n page dans « %1 »</numerusform>
+            <numerusform>%n pages dans « %1 »</numerusform>
         </translation>
     </message>
     <message>
@@ -3890,7 +3946,7 @@ b* %3
     <name>ReportPage</name>
     <message>
         <source>A colour comparison as pages of paper: drawn on the report canvas, with tables cut into pages, and taken to a PDF file or a printer.</source>
-        <translation>Une comparaison de couleurs sous forme de pages de papier&#xa0;: dessinée sur la surface du rapport, avec des tableaux répartis sur plusieurs pages, et envoyée dans un fichier PDF ou vers une imprimante.</translation>
+        <translation>Une comparaison de couleurs sous forme de pages de papier : dessinée sur la surface du rapport, avec des tableaux répartis sur plusieurs pages, et envoyée dans un fichier PDF ou vers une imprimante.</translation>
     </message>
     <message>
         <source>Pages of the report</source>
@@ -3901,7 +3957,7 @@ b* %3
     <name>ReportPreferencesPage</name>
     <message>
         <source>&amp;Company:</source>
-        <translation>&amp;Entreprise&#xa0;:</translation>
+        <translation>&amp;Entreprise :</translation>
     </message>
     <message>
         <source>Stands at the head of the report</source>
@@ -3909,7 +3965,7 @@ b* %3
     </message>
     <message>
         <source>Op&amp;erator:</source>
-        <translation>&amp;Opérateur&#xa0;:</translation>
+        <translation>&amp;Opérateur :</translation>
     </message>
     <message>
         <source>Who has measured</source>
@@ -3917,7 +3973,7 @@ b* %3
     </message>
     <message>
         <source>Paper si&amp;ze:</source>
-        <translation>Format du &amp;papier&#xa0;:</translation>
+        <translation>Format du &amp;papier :</translation>
     </message>
     <message>
         <source>&amp;Date on each page</source>
@@ -3935,7 +3991,7 @@ b* %3
     <name>ReportViewBar</name>
     <message>
         <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>of %1</source>
@@ -3943,11 +3999,11 @@ b* %3
     </message>
     <message>
         <source>Pa&amp;ge:</source>
-        <translation>Pa&amp;ge&#xa0;:</translation>
+        <translation>Pa&amp;ge :</translation>
     </message>
     <message>
         <source>&amp;Zoom:</source>
-        <translation>&amp;Zoom&#xa0;:</translation>
+        <translation>&amp;Zoom :</translation>
     </message>
     <message>
         <source>Fit width</source>
@@ -3990,7 +4046,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Trouble:</source>
-        <translation>P&amp;roblème&#xa0;:</translation>
+        <translation>P&amp;roblème :</translation>
     </message>
     <message>
         <source>None</source>
@@ -4014,7 +4070,7 @@ b* %3
     </message>
     <message>
         <source>The server has another port now: drives added before do not lead to it.</source>
-        <translation>Le serveur a maintenant un autre port&#xa0;: les lecteurs ajoutés auparavant n’y mènent pas.</translation>
+        <translation>Le serveur a maintenant un autre port : les lecteurs ajoutés auparavant n’y mènent pas.</translation>
     </message>
 </context>
 <context>
@@ -4025,7 +4081,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Folder:</source>
-        <translation>&amp;Dossier&#xa0;:</translation>
+        <translation>&amp;Dossier :</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -4075,7 +4131,7 @@ b* %3
     </message>
     <message>
         <source>Si&amp;gnals of the bar: %1</source>
-        <translation>Signaux de la &amp;barre&#xa0;: %1</translation>
+        <translation>Signaux de la &amp;barre : %1</translation>
     </message>
     <message>
         <source>Signals of the bar</source>
@@ -4090,7 +4146,7 @@ b* %3
     </message>
     <message>
         <source>Import:</source>
-        <translation>Importer&#xa0;:</translation>
+        <translation>Importer :</translation>
     </message>
     <message>
         <source>in the bo&amp;x</source>
@@ -4106,7 +4162,7 @@ b* %3
     </message>
     <message>
         <source>Sho&amp;w the label:</source>
-        <translation>A&amp;fficher le libellé&#xa0;:</translation>
+        <translation>A&amp;fficher le libellé :</translation>
     </message>
     <message>
         <source>Text of the label</source>
@@ -4117,7 +4173,7 @@ b* %3
     <name>SelectionPage</name>
     <message>
         <source>The bar with which a user keeps a collection of presets, each a file of its own: pick, create, duplicate, rename, import, export, delete.</source>
-        <translation>La barre avec laquelle un utilisateur gère une collection de préréglages, chacun dans son propre fichier&#xa0;: choisir, créer, dupliquer, renommer, importer, exporter, supprimer.</translation>
+        <translation>La barre avec laquelle un utilisateur gère une collection de préréglages, chacun dans son propre fichier : choisir, créer, dupliquer, renommer, importer, exporter, supprimer.</translation>
     </message>
 </context>
 <context>
@@ -4148,7 +4204,7 @@ b* %3
     </message>
     <message>
         <source>The service cannot be asked: %1.</source>
-        <translation>Impossible d’interroger le service&#xa0;: %1.</translation>
+        <translation>Impossible d’interroger le service : %1.</translation>
     </message>
 </context>
 <context>
@@ -4178,7 +4234,7 @@ b* %3
     </message>
     <message>
         <source>Chosen: %1</source>
-        <translation>Choisi&#xa0;: %1</translation>
+        <translation>Choisi : %1</translation>
     </message>
     <message>
         <source>Nothing was chosen.</source>
@@ -4205,7 +4261,7 @@ b* %3
     </message>
     <message>
         <source>By name:</source>
-        <translation>Par nom&#xa0;:</translation>
+        <translation>Par nom :</translation>
     </message>
     <message>
         <source>Import...</source>
@@ -4224,11 +4280,11 @@ b* %3
     </message>
     <message>
         <source>F&amp;rom:</source>
-        <translation>&amp;De&#xa0;:</translation>
+        <translation>&amp;De :</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation>&amp;Jusqu’à&#xa0;:</translation>
+        <translation>&amp;Jusqu’à :</translation>
     </message>
     <message>
         <source>First wavelength</source>
@@ -4244,7 +4300,7 @@ b* %3
     </message>
     <message>
         <source>How strongly the eye sees light of each wavelength: the function y of the CIE 1931 standard observer. The spectrum lies behind it.</source>
-        <translation>L’intensité avec laquelle l’œil voit la lumière de chaque longueur d’onde&#xa0;: la fonction y de l’observateur de référence CIE 1931. Le spectre se trouve derrière.</translation>
+        <translation>L’intensité avec laquelle l’œil voit la lumière de chaque longueur d’onde : la fonction y de l’observateur de référence CIE 1931. Le spectre se trouve derrière.</translation>
     </message>
     <message>
         <source>Luminous efficiency from %1 to %2 nm</source>
@@ -4266,11 +4322,11 @@ b* %3
     </message>
     <message>
         <source>&amp;Job:</source>
-        <translation>&amp;Travail&#xa0;:</translation>
+        <translation>&amp;Travail :</translation>
     </message>
     <message>
         <source>&amp;Paper:</source>
-        <translation>&amp;Papier&#xa0;:</translation>
+        <translation>&amp;Papier :</translation>
     </message>
     <message>
         <source>Coated</source>
@@ -4282,7 +4338,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Copies of %1:</source>
-        <translation>&amp;Exemplaires de %1&#xa0;:</translation>
+        <translation>&amp;Exemplaires de %1 :</translation>
     </message>
     <message>
         <source>Tri&amp;m marks</source>
@@ -4314,7 +4370,7 @@ b* %3
     </message>
     <message>
         <source>S&amp;heet:</source>
-        <translation>&amp;Feuille&#xa0;:</translation>
+        <translation>&amp;Feuille :</translation>
     </message>
     <message>
         <source>Sheet</source>
@@ -4330,7 +4386,7 @@ b* %3
     </message>
     <message>
         <source>Te&amp;xt as applied:</source>
-        <translation>Te&amp;xte appliqué&#xa0;:</translation>
+        <translation>Te&amp;xte appliqué :</translation>
     </message>
     <message>
         <source>Text as applied</source>
@@ -4338,7 +4394,7 @@ b* %3
     </message>
     <message>
         <source>No style sheet: the widgets look as their style draws them.</source>
-        <translation>Aucune feuille de style&#xa0;: les widgets ont l’aspect que leur donne leur style.</translation>
+        <translation>Aucune feuille de style : les widgets ont l’aspect que leur donne leur style.</translation>
     </message>
 </context>
 <context>
@@ -4381,11 +4437,11 @@ b* %3
     </message>
     <message>
         <source>clicked: 0</source>
-        <translation>clics&#xa0;: 0</translation>
+        <translation>clics : 0</translation>
     </message>
     <message>
         <source>clicked: %1, last by %2 pixels: %3</source>
-        <translation>clics&#xa0;: %1, le dernier sur %2 pixels&#xa0;: %3</translation>
+        <translation>clics : %1, le dernier sur %2 pixels : %3</translation>
     </message>
 </context>
 <context>
@@ -4396,7 +4452,7 @@ b* %3
     </message>
     <message>
         <source>By the settings that are kept, the event comes next on:</source>
-        <translation>D’après les paramètres enregistrés, l’événement aura lieu le&#xa0;:</translation>
+        <translation>D’après les paramètres enregistrés, l’événement aura lieu le :</translation>
     </message>
     <message>
         <source>Trigger event</source>
@@ -4427,7 +4483,7 @@ b* %3
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation>&amp;Mot de passe&#xa0;:</translation>
+        <translation>&amp;Mot de passe :</translation>
     </message>
     <message>
         <source>&amp;Unlock</source>
@@ -4457,16 +4513,16 @@ b* %3
         <translation>Version</translation>
     </message>
     <message>
-        <source>&quot;Download and Install&quot; writes the file to &quot;%1&quot;, which a check makes where it is missing, &quot;Download&quot; to the folder that you choose. The file is a harmless text. &quot;Install&quot; opens it with the desktop&apos;s program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: &quot;Show in Folder&quot; shows the file.</source>
-        <translation>«&#xa0;Télécharger et installer&#xa0;» écrit le fichier dans «&#xa0;%1&#xa0;», qu’une recherche crée s’il manque, «&#xa0;Télécharger&#xa0;» dans le dossier que vous choisissez. Le fichier est un texte inoffensif. «&#xa0;Installer&#xa0;» l’ouvre avec le programme du bureau pour les textes et ferme toutes les fenêtres de la galerie. Sans un tel programme, rien ne se passe&#xa0;: «&#xa0;Afficher dans le dossier&#xa0;» montre le fichier.</translation>
+        <source>"Download and Install" writes the file to "%1", which a check makes where it is missing, "Download" to the folder that you choose. The file is a harmless text. "Install" opens it with the desktop's program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: "Show in Folder" shows the file.</source>
+        <translation>« Télécharger et installer » écrit le fichier dans « %1 », qu’une recherche crée s’il manque, « Télécharger » dans le dossier que vous choisissez. Le fichier est un texte inoffensif. « Installer » l’ouvre avec le programme du bureau pour les textes et ferme toutes les fenêtres de la galerie. Sans un tel programme, rien ne se passe : « Afficher dans le dossier » montre le fichier.</translation>
     </message>
     <message>
-        <source>There is no folder &quot;%1&quot;.</source>
-        <translation>Il n’y a pas de dossier «&#xa0;%1&#xa0;».</translation>
+        <source>There is no folder "%1".</source>
+        <translation>Il n’y a pas de dossier « %1 ».</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
-        <translation>Aucun programme n’affiche le dossier «&#xa0;%1&#xa0;».</translation>
+        <source>No program shows the folder "%1".</source>
+        <translation>Aucun programme n’affiche le dossier « %1 ».</translation>
     </message>
     <message>
         <source>Update</source>
@@ -4476,8 +4532,8 @@ b* %3
 <context>
     <name>UpdateOffer</name>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;Nouveau dans cette version&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Bases de données&#xa0;: un million de lignes, page par page&lt;/li&gt;&lt;li&gt;Mises à jour&#xa0;: ce que vous regardez en ce moment&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Pour en savoir plus&#xa0;: &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;Nouveau dans cette version&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Bases de données : un million de lignes, page par page&lt;/li&gt;&lt;li&gt;Mises à jour : ce que vous regardez en ce moment&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Pour en savoir plus : &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>And one more thing. </source>
@@ -4499,7 +4555,7 @@ b* %3
     </message>
     <message>
         <source>Off&amp;er:</source>
-        <translation>&amp;Offre&#xa0;:</translation>
+        <translation>&amp;Offre :</translation>
     </message>
     <message>
         <source>Newer release</source>
@@ -4554,11 +4610,11 @@ b* %3
     <name>UpdateSessionPanel</name>
     <message>
         <source>What the service &amp;got:</source>
-        <translation>&amp;Reçu par le service&#xa0;:</translation>
+        <translation>&amp;Reçu par le service :</translation>
     </message>
     <message>
         <source>Signals of t&amp;he dialog:</source>
-        <translation>Si&amp;gnaux du dialogue&#xa0;:</translation>
+        <translation>Si&amp;gnaux du dialogue :</translation>
     </message>
 </context>
 <context>
@@ -4577,7 +4633,7 @@ b* %3
     </message>
     <message>
         <source>Stored settings:</source>
-        <translation>Paramètres stockés&#xa0;:</translation>
+        <translation>Paramètres stockés :</translation>
     </message>
     <message>
         <source>Stored settings</source>
@@ -4624,7 +4680,7 @@ b* %3
     </message>
     <message>
         <source>Values: %1. Characters of the line: %2. %3</source>
-        <translation>Valeurs&#xa0;: %1. Caractères de la ligne&#xa0;: %2. %3</translation>
+        <translation>Valeurs : %1. Caractères de la ligne : %2. %3</translation>
     </message>
     <message>
         <source>Shown in %1 ms.</source>
@@ -4699,7 +4755,7 @@ b* %3
     </message>
     <message>
         <source>&amp;valueChanged: %1</source>
-        <translation>valueC&amp;hanged&#xa0;: %1</translation>
+        <translation>valueC&amp;hanged : %1</translation>
     </message>
     <message>
         <source>Emissions of valueChanged</source>
@@ -4707,7 +4763,7 @@ b* %3
     </message>
     <message>
         <source>A value typed into the box goes to the slider and comes back, so one edit tells of itself more than once. The wheel changes nothing: it scrolls the page.</source>
-        <translation>Une valeur saisie dans le champ passe au curseur et en revient, si bien qu’une saisie se signale plus d’une fois. La molette ne change rien&#xa0;: elle fait défiler la page.</translation>
+        <translation>Une valeur saisie dans le champ passe au curseur et en revient, si bien qu’une saisie se signale plus d’une fois. La molette ne change rien : elle fait défiler la page.</translation>
     </message>
 </context>
 <context>
@@ -4733,7 +4789,7 @@ b* %3
     <name>VariantPage</name>
     <message>
         <source>A value of any depth as one line of coloured text, which folds open level by level: the settings of this gallery, a JSON file, or the live answer of an update service.</source>
-        <translation>Une valeur de profondeur quelconque sous forme d’une ligne de texte en couleur, qui se déplie niveau par niveau&#xa0;: les paramètres de cette galerie, un fichier JSON ou la réponse en direct d’un service de mise à jour.</translation>
+        <translation>Une valeur de profondeur quelconque sous forme d’une ligne de texte en couleur, qui se déplie niveau par niveau : les paramètres de cette galerie, un fichier JSON ou la réponse en direct d’un service de mise à jour.</translation>
     </message>
     <message>
         <source>Settings of this gallery</source>
@@ -4741,7 +4797,7 @@ b* %3
     </message>
     <message>
         <source>Nothing is stored yet: the gallery keeps its settings when it ends.</source>
-        <translation>Rien n’est encore stocké&#xa0;: la galerie conserve ses paramètres quand elle se termine.</translation>
+        <translation>Rien n’est encore stocké : la galerie conserve ses paramètres quand elle se termine.</translation>
     </message>
     <message>
         <source>JSON File</source>
@@ -4752,12 +4808,12 @@ b* %3
         <translation>Fichiers JSON (*.json);;Tous les fichiers (*)</translation>
     </message>
     <message>
-        <source>File &quot;%1&quot;</source>
-        <translation>Fichier «&#xa0;%1&#xa0;»</translation>
+        <source>File "%1"</source>
+        <translation>Fichier « %1 »</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is not shown.</source>
-        <translation>Le fichier «&#xa0;%1&#xa0;» n’est pas affiché.</translation>
+        <source>The file "%1" is not shown.</source>
+        <translation>Le fichier « %1 » n’est pas affiché.</translation>
     </message>
     <message>
         <source>The update service is off. Its switch turns it on.</source>
@@ -4783,7 +4839,7 @@ b* %3
     <name>WebInterfacePage</name>
     <message>
         <source>The panel for the web interface of a program, beside a real web server that serves a page of the gallery. Only this computer reaches it, at the link with 127.0.0.1; the other links work once other computers may connect.</source>
-        <translation>Le panneau pour l’interface web d’un programme, à côté d’un vrai serveur web qui fournit une page de la galerie. Seul cet ordinateur y accède, par le lien avec 127.0.0.1&#xa0;; les autres liens fonctionnent dès que d’autres ordinateurs peuvent se connecter.</translation>
+        <translation>Le panneau pour l’interface web d’un programme, à côté d’un vrai serveur web qui fournit une page de la galerie. Seul cet ordinateur y accède, par le lien avec 127.0.0.1 ; les autres liens fonctionnent dès que d’autres ordinateurs peuvent se connecter.</translation>
     </message>
     <message>
         <source>Web interface panel</source>
@@ -4809,8 +4865,8 @@ b* %3
         <translation>Visi&amp;ter la page</translation>
     </message>
     <message>
-        <source>the box &quot;Enabled&quot; of the panel is not checked</source>
-        <translation>la case «&#xa0;Activée&#xa0;» du panneau n’est pas cochée</translation>
+        <source>the box "Enabled" of the panel is not checked</source>
+        <translation>la case « Activée » du panneau n’est pas cochée</translation>
     </message>
     <message>
         <source>HTTPS needs a certificate file</source>
@@ -4821,11 +4877,11 @@ b* %3
     <name>WebSessionPanel</name>
     <message>
         <source>What the server &amp;got:</source>
-        <translation>&amp;Reçu par le serveur&#xa0;:</translation>
+        <translation>&amp;Reçu par le serveur :</translation>
     </message>
     <message>
         <source>&amp;Own visits:</source>
-        <translation>Visites &amp;propres&#xa0;:</translation>
+        <translation>Visites &amp;propres :</translation>
     </message>
 </context>
 <context>
@@ -4875,8 +4931,8 @@ b* %3
         <translation>Rien n’a encore été enregistré.</translation>
     </message>
     <message>
-        <source>The example is for the user &quot;%1&quot; with the password &quot;%2&quot;.</source>
-        <translation>L’exemple est pour l’utilisateur «&#xa0;%1&#xa0;» avec le mot de passe «&#xa0;%2&#xa0;».</translation>
+        <source>The example is for the user "%1" with the password "%2".</source>
+        <translation>L’exemple est pour l’utilisateur « %1 » avec le mot de passe « %2 ».</translation>
     </message>
     <message>
         <source>A certificate for localhost and 127.0.0.1 is in %1. A browser warns of it.</source>
@@ -4884,7 +4940,7 @@ b* %3
     </message>
     <message>
         <source>No certificate was made: %1</source>
-        <translation>Aucun certificat n’a été créé&#xa0;: %1</translation>
+        <translation>Aucun certificat n’a été créé : %1</translation>
     </message>
 </context>
 <context>
@@ -4958,11 +5014,11 @@ b* %3
     <name>WebVisit</name>
     <message>
         <source>%1: status %2, %3 bytes</source>
-        <translation>%1&#xa0;: statut %2, %3 octets</translation>
+        <translation>%1 : statut %2, %3 octets</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
@@ -4972,7 +5028,7 @@ b* %3
         <translation>État des widgets</translation>
     </message>
     <message>
-        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program&apos;s settings. Another gives them back.</source>
+        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program's settings. Another gives them back.</source>
         <translation>Un appel conserve la position et la taille d’une fenêtre, ses séparateurs et les colonnes de ses vues, dans un dictionnaire imbriqué pour les paramètres du programme. Un autre les rétablit.</translation>
     </message>
     <message>
@@ -4993,7 +5049,7 @@ b* %3
     </message>
     <message>
         <source>K&amp;ept state:</source>
-        <translation>État co&amp;nservé&#xa0;:</translation>
+        <translation>État co&amp;nservé :</translation>
     </message>
     <message>
         <source>Kept state</source>
@@ -5019,7 +5075,7 @@ b* %3
     </message>
     <message>
         <source>Files &amp;in:</source>
-        <translation>&amp;Fichiers dans&#xa0;:</translation>
+        <translation>&amp;Fichiers dans :</translation>
     </message>
     <message>
         <source>Bro&amp;wse...</source>
@@ -5039,7 +5095,7 @@ b* %3
     </message>
     <message>
         <source>T&amp;hreads:</source>
-        <translation>T&amp;hreads&#xa0;:</translation>
+        <translation>T&amp;hreads :</translation>
     </message>
     <message>
         <source>Progress of the workers</source>
@@ -5063,11 +5119,11 @@ b* %3
     </message>
     <message>
         <source>%1 in %2 s; copies of other files: %3, not readable: %4.</source>
-        <translation>%1 en %2 s&#xa0;; copies d’autres fichiers&#xa0;: %3, illisibles&#xa0;: %4.</translation>
+        <translation>%1 en %2 s ; copies d’autres fichiers : %3, illisibles : %4.</translation>
     </message>
     <message>
         <source>Cancelled after %1 in %2 s; copies of other files: %3, not readable: %4.</source>
-        <translation>Annulé après %1 en %2 s&#xa0;; copies d’autres fichiers&#xa0;: %3, illisibles&#xa0;: %4.</translation>
+        <translation>Annulé après %1 en %2 s ; copies d’autres fichiers : %3, illisibles : %4.</translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>AboutPage</name>
     <message>
         <source>The picture that a program shows while it starts, which a partner can replace by a logo, and the window that tells what the program is.</source>
-        <translation>L&apos;immagine che un programma mostra mentre si avvia, che un partner può sostituire con un logo, e la finestra che dice che cos&apos;è il programma.</translation>
+        <translation>L'immagine che un programma mostra mentre si avvia, che un partner può sostituire con un logo, e la finestra che dice che cos'è il programma.</translation>
     </message>
 </context>
 <context>
@@ -27,11 +27,11 @@
         <translation>Apri le &amp;note legali</translation>
     </message>
     <message>
-        <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
+        <source>The notices are opened from a copy in the folder "%1".</source>
         <translation>Le note vengono aperte da una copia nella cartella «%1».</translation>
     </message>
     <message>
-        <source>There are no notices at &quot;%1&quot;.</source>
+        <source>There are no notices at "%1".</source>
         <translation>Non ci sono note in «%1».</translation>
     </message>
 </context>
@@ -39,7 +39,7 @@
     <name>AccessPage</name>
     <message>
         <source>A program whose user interface can be locked behind a password. The dialogs ask for it; the program keeps it and does the locking, here of the work area.</source>
-        <translation>Un programma la cui interfaccia utente può essere bloccata con una password. Le finestre di dialogo la chiedono; il programma la conserva ed esegue il blocco, qui dell&apos;area di lavoro.</translation>
+        <translation>Un programma la cui interfaccia utente può essere bloccata con una password. Le finestre di dialogo la chiedono; il programma la conserva ed esegue il blocco, qui dell'area di lavoro.</translation>
     </message>
 </context>
 <context>
@@ -246,7 +246,7 @@
     </message>
     <message>
         <source>CIELAB under D50 for the 2° observer, shown in sRGB</source>
-        <translation>CIELAB con D50 per l&apos;osservatore a 2°, mostrato in sRGB</translation>
+        <translation>CIELAB con D50 per l'osservatore a 2°, mostrato in sRGB</translation>
     </message>
     <message>
         <source>Differences of the 24 patches</source>
@@ -452,7 +452,7 @@
         <translation>La sua versione, %1, non è nota.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no rendering intent.</source>
+        <source>"%1" is no rendering intent.</source>
         <translation>«%1» non è un intento di rendering.</translation>
     </message>
     <message>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>%1, %2, paper L* %3 a* %4 b* %5, at most %6 % ink</source>
-        <translation>%1, %2, carta L* %3 a* %4 b* %5, al massimo %6 % d&apos;inchiostro</translation>
+        <translation>%1, %2, carta L* %3 a* %4 b* %5, al massimo %6 % d'inchiostro</translation>
     </message>
 </context>
 <context>
@@ -503,7 +503,7 @@
         <translation>Preimpostazioni colore</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be saved.</source>
+        <source>"%1" cannot be saved.</source>
         <translation>Impossibile salvare «%1».</translation>
     </message>
     <message>
@@ -527,19 +527,19 @@
         <translation>Non è possibile caricare alcuna preimpostazione.</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be read.</source>
+        <source>The folder "%1" cannot be read.</source>
         <translation>Impossibile leggere la cartella «%1».</translation>
     </message>
     <message>
         <source>Nothing can be duplicated.</source>
-        <translation>Non c&apos;è nulla da duplicare.</translation>
+        <translation>Non c'è nulla da duplicare.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be imported.</source>
+        <source>"%1" cannot be imported.</source>
         <translation>Impossibile importare «%1».</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
+        <source>"%1" cannot be written.</source>
         <translation>Impossibile scrivere «%1».</translation>
     </message>
     <message>
@@ -551,23 +551,23 @@
         <translation>Non è un file.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be deleted.</source>
+        <source>"%1" cannot be deleted.</source>
         <translation>Impossibile eliminare «%1».</translation>
     </message>
     <message>
         <source>It is a link to another place.</source>
-        <translation>È un collegamento a un&apos;altra posizione.</translation>
+        <translation>È un collegamento a un'altra posizione.</translation>
     </message>
     <message>
         <source>Another program has changed it in the meantime. Try again if that is to be lost.</source>
-        <translation>Nel frattempo un altro programma l&apos;ha modificata. Riprovare se queste modifiche possono andare perse.</translation>
+        <translation>Nel frattempo un altro programma l'ha modificata. Riprovare se queste modifiche possono andare perse.</translation>
     </message>
     <message>
-        <source>Another preset is called &quot;%1&quot;.</source>
-        <translation>Un&apos;altra preimpostazione si chiama «%1».</translation>
+        <source>Another preset is called "%1".</source>
+        <translation>Un'altra preimpostazione si chiama «%1».</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>Impossibile creare la cartella «%1».</translation>
     </message>
 </context>
@@ -583,7 +583,7 @@
     </message>
     <message>
         <source>In&amp;k limit:</source>
-        <translation>Limite &amp;d&apos;inchiostro:</translation>
+        <translation>Limite &amp;d'inchiostro:</translation>
     </message>
     <message>
         <source>Paper white:</source>
@@ -637,7 +637,7 @@
         <translation>Elimina preimpostazione</translation>
     </message>
     <message>
-        <source>Delete the preset &quot;%1&quot; for good?</source>
+        <source>Delete the preset "%1" for good?</source>
         <translation>Eliminare definitivamente la preimpostazione «%1»?</translation>
     </message>
     <message>
@@ -646,14 +646,14 @@
     </message>
     <message>
         <source>There is no preset. Make a new one, or import one.</source>
-        <translation>Non c&apos;è alcuna preimpostazione. Crearne una nuova o importarne una.</translation>
+        <translation>Non c'è alcuna preimpostazione. Crearne una nuova o importarne una.</translation>
     </message>
     <message>
         <source>The settings can be changed once the preset is edited.</source>
         <translation>Le impostazioni si possono cambiare quando la preimpostazione è in modifica.</translation>
     </message>
     <message>
-        <source>Files in &quot;%1&quot; that are no presets, and are left as they are: %2</source>
+        <source>Files in "%1" that are no presets, and are left as they are: %2</source>
         <translation>File in «%1» che non sono preimpostazioni e restano invariati: %2</translation>
     </message>
     <message>
@@ -661,7 +661,7 @@
         <translation>Salva preimpostazione</translation>
     </message>
     <message>
-        <source>The preset &quot;%1&quot; has been edited. Save it?</source>
+        <source>The preset "%1" has been edited. Save it?</source>
         <translation>La preimpostazione «%1» è stata modificata. Salvarla?</translation>
     </message>
     <message>
@@ -681,10 +681,10 @@
     <name>ColourProfileCheck</name>
     <message>
         <source>%1 bytes by the header, %2 in the file.</source>
-        <translation>%1 byte secondo l&apos;intestazione, %2 nel file.</translation>
+        <translation>%1 byte secondo l'intestazione, %2 nel file.</translation>
     </message>
     <message>
-        <source>The signature is &quot;%1&quot; instead of &quot;acsp&quot;.</source>
+        <source>The signature is "%1" instead of "acsp".</source>
         <translation>La firma è «%1» invece di «acsp».</translation>
     </message>
     <message>
@@ -692,7 +692,7 @@
         <translation>La versione %1 non è supportata.</translation>
     </message>
     <message>
-        <source>The device class &quot;%1&quot; is unknown.</source>
+        <source>The device class "%1" is unknown.</source>
         <translation>La classe di dispositivo «%1» è sconosciuta.</translation>
     </message>
     <message>
@@ -701,10 +701,10 @@
     </message>
     <message>
         <source>The file ends within the header, after %1 bytes.</source>
-        <translation>Il file termina all&apos;interno dell&apos;intestazione, dopo %1 byte.</translation>
+        <translation>Il file termina all'interno dell'intestazione, dopo %1 byte.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be used as a colour profile.</source>
+        <source>"%1" cannot be used as a colour profile.</source>
         <translation>Impossibile usare «%1» come profilo colore.</translation>
     </message>
 </context>
@@ -794,7 +794,7 @@
     <name>ControlsPage</name>
     <message>
         <source>Numbers with a slider beside them, switches, and spin boxes that read as a plain value when they are disabled; and the state of a whole window in one call.</source>
-        <translation>Numeri con accanto un cursore, interruttori, e caselle numeriche che da disabilitate si leggono come un semplice valore; e lo stato di un&apos;intera finestra in una sola chiamata.</translation>
+        <translation>Numeri con accanto un cursore, interruttori, e caselle numeriche che da disabilitate si leggono come un semplice valore; e lo stato di un'intera finestra in una sola chiamata.</translation>
     </message>
 </context>
 <context>
@@ -812,8 +812,8 @@
         <translation>&amp;Offri di ricordare</translation>
     </message>
     <message>
-        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether &quot;Remember&quot; is checked.</source>
-        <translation>Con l&apos;offerta la finestra richiama il programma a ogni OK con entrambi i campi compilati; il programma verifica da sé se «Ricorda» è selezionato.</translation>
+        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether "Remember" is checked.</source>
+        <translation>Con l'offerta la finestra richiama il programma a ogni OK con entrambi i campi compilati; il programma verifica da sé se «Ricorda» è selezionato.</translation>
     </message>
     <message>
         <source>Not asked yet.</source>
@@ -840,19 +840,19 @@
         <translation>La funzione di richiamo non è stata chiamata.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is checked.</source>
+        <source>"Remember" is checked.</source>
         <translation>«Ricorda» è selezionato.</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is not checked.</source>
+        <source>"Remember" is not checked.</source>
         <translation>«Ricorda» non è selezionato.</translation>
     </message>
 </context>
 <context>
     <name>DatabasePage</name>
     <message>
-        <source>The panel for the place of a program&apos;s data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
-        <translation>Il pannello per la posizione dei dati di un programma: il suo database interno o un server. Attivare un vero server MariaDB su questo computer, scegliere che cosa deve andare storto e sfogliare le pagine di un milione di misure nell&apos;uno o nell&apos;altro database.</translation>
+        <source>The panel for the place of a program's data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
+        <translation>Il pannello per la posizione dei dati di un programma: il suo database interno o un server. Attivare un vero server MariaDB su questo computer, scegliere che cosa deve andare storto e sfogliare le pagine di un milione di misure nell'uno o nell'altro database.</translation>
     </message>
     <message>
         <source>Database panel</source>
@@ -1090,31 +1090,31 @@
         <translation>Mostra &amp;cartella</translation>
     </message>
     <message>
-        <source>Check &quot;Enabled&quot;, and all active drives in the list are connected, your own too. A connected drive is a link in &quot;%1&quot;. The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
-        <translation>Selezionando «Abilitato» vengono connesse tutte le unità attive dell&apos;elenco, anche le proprie. Un&apos;unità connessa è un collegamento in «%1». L&apos;editor non prevede una porta: un&apos;unità immessa o modificata a mano conduce alla porta standard 445, non al server qui sopra. Le unità aggiunte vengono rimosse alla chiusura della galleria; un&apos;unità modificata appartiene all&apos;utente e resta.</translation>
+        <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
+        <translation>Selezionando «Abilitato» vengono connesse tutte le unità attive dell'elenco, anche le proprie. Un'unità connessa è un collegamento in «%1». L'editor non prevede una porta: un'unità immessa o modificata a mano conduce alla porta standard 445, non al server qui sopra. Le unità aggiunte vengono rimosse alla chiusura della galleria; un'unità modificata appartiene all'utente e resta.</translation>
     </message>
     <message>
         <source>Added: %1.</source>
         <translation>Aggiunta: %1.</translation>
     </message>
     <message>
-        <source>Added: %1. Check &quot;Enabled&quot; to have it connected.</source>
+        <source>Added: %1. Check "Enabled" to have it connected.</source>
         <translation>Aggiunta: %1. Selezionare «Abilitato» per connetterla.</translation>
     </message>
     <message>
-        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with &quot;-&quot;.</source>
-        <translation>%1 ora appartiene all&apos;utente e conduce alla porta %2: l&apos;editor non prevede una porta. Rimuoverla con «-».</translation>
+        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with "-".</source>
+        <translation>%1 ora appartiene all'utente e conduce alla porta %2: l'editor non prevede una porta. Rimuoverla con «-».</translation>
     </message>
     <message>
         <source>All drive letters are taken.</source>
         <translation>Tutte le lettere di unità sono occupate.</translation>
     </message>
     <message>
-        <source>No drive has been connected yet: there is no folder &quot;%1&quot;.</source>
+        <source>No drive has been connected yet: there is no folder "%1".</source>
         <translation>Nessuna unità è ancora stata connessa: la cartella «%1» non esiste.</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>Nessun programma mostra la cartella «%1».</translation>
     </message>
 </context>
@@ -1133,7 +1133,7 @@
     <name>DrivesPage</name>
     <message>
         <source>Drives of file servers that a program keeps connected. Switch on a real Samba server on this computer, choose what is to go wrong, add its drives to the list, and see how they stand.</source>
-        <translation>Unità di server di file che un programma tiene connesse. Attivare un vero server Samba su questo computer, scegliere che cosa deve andare storto, aggiungere le sue unità all&apos;elenco e osservarne lo stato.</translation>
+        <translation>Unità di server di file che un programma tiene connesse. Attivare un vero server Samba su questo computer, scegliere che cosa deve andare storto, aggiungere le sue unità all'elenco e osservarne lo stato.</translation>
     </message>
 </context>
 <context>
@@ -1148,7 +1148,7 @@
     </message>
     <message>
         <source>Cancel closed the window; the colour stays as it was.</source>
-        <translation>«Annulla» ha chiuso la finestra; il colore resta com&apos;era.</translation>
+        <translation>«Annulla» ha chiuso la finestra; il colore resta com'era.</translation>
     </message>
     <message>
         <source>A dialog in two places</source>
@@ -1173,7 +1173,7 @@
 <context>
     <name>EncodedTextFile</name>
     <message>
-        <source>There is no codec &quot;%1&quot;.</source>
+        <source>There is no codec "%1".</source>
         <translation>Il codec «%1» non esiste.</translation>
     </message>
     <message>
@@ -1343,7 +1343,7 @@
     </message>
     <message>
         <source>Without a title the domain stands in</source>
-        <translation>Senza titolo vale al suo posto l&apos;ambito</translation>
+        <translation>Senza titolo vale al suo posto l'ambito</translation>
     </message>
     <message>
         <source>&amp;Description:</source>
@@ -1401,7 +1401,7 @@
     <name>ErrorsPage</name>
     <message>
         <source>How a failure reaches the user: an error with the errors that led to it, the boxes that show it, and the manual.</source>
-        <translation>Come un problema arriva all&apos;utente: un errore con gli errori che l&apos;hanno causato, le finestre che lo mostrano e il manuale.</translation>
+        <translation>Come un problema arriva all'utente: un errore con gli errori che l'hanno causato, le finestre che lo mostrano e il manuale.</translation>
     </message>
 </context>
 <context>
@@ -1697,7 +1697,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
 <context>
     <name>FolderJobBar</name>
     <message>
-        <source>Relative paths start at the program&apos;s folder; several paths are separated by &quot;%1&quot;.</source>
+        <source>Relative paths start at the program's folder; several paths are separated by "%1".</source>
         <translation>I percorsi relativi partono dalla cartella del programma; più percorsi vanno separati con «%1».</translation>
     </message>
 </context>
@@ -1800,7 +1800,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Spinner si&amp;ze:</source>
-        <translation>&amp;Dimensione dell&apos;indicatore:</translation>
+        <translation>&amp;Dimensione dell'indicatore:</translation>
     </message>
     <message>
         <source>%1 pixels</source>
@@ -1929,11 +1929,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
         <translation>&amp;Mostra stato</translation>
     </message>
     <message>
-        <source>Show &amp;box &quot;Active&quot;</source>
+        <source>Show &amp;box "Active"</source>
         <translation>Mostra la &amp;casella «Attivo»</translation>
     </message>
     <message>
-        <source>Show box &quot;&amp;Erase&quot;</source>
+        <source>Show box "&amp;Erase"</source>
         <translation>Mostra la casella «&amp;Elimina»</translation>
     </message>
     <message>
@@ -2060,7 +2060,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Save a picture of the named page as this PNG file, or of every page into this folder, print the paths and exit.</source>
-        <translation>Salva un&apos;immagine della pagina indicata in questo file PNG, o di ogni pagina in questa cartella, mostra i percorsi ed esce.</translation>
+        <translation>Salva un'immagine della pagina indicata in questo file PNG, o di ogni pagina in questa cartella, mostra i percorsi ed esce.</translation>
     </message>
     <message>
         <source>Widget style: %1.</source>
@@ -2083,39 +2083,39 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
         <translation>--%1 richiede un valore.</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
+        <source>Unexpected argument "%1".</source>
         <translation>Argomento imprevisto «%1».</translation>
     </message>
     <message>
-        <source>There is no page &quot;%1&quot;. The pages are: %2.</source>
+        <source>There is no page "%1". The pages are: %2.</source>
         <translation>La pagina «%1» non esiste. Le pagine sono: %2.</translation>
     </message>
     <message>
-        <source>There is no style &quot;%1&quot;. The styles are: %2.</source>
+        <source>There is no style "%1". The styles are: %2.</source>
         <translation>Lo stile «%1» non esiste. Gli stili sono: %2.</translation>
     </message>
     <message>
-        <source>There is no palette &quot;%1&quot;. The palettes are: light, dark.</source>
-        <translation>La tavolozza «%1» non esiste. Le tavolozze sono: light, dark.</translation>
+        <source>There is no language "%1". The languages are: %2.</source>
+        <translation>La lingua «%1» non esiste. Le lingue sono: %2.</translation>
     </message>
     <message>
-        <source>There is no language &quot;%1&quot;. The languages are: %2.</source>
-        <translation>La lingua «%1» non esiste. Le lingue sono: %2.</translation>
+        <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
+        <translation>Non esiste la tavolozza «%1». Le tavolozze sono: light, dark, contrast.</translation>
     </message>
 </context>
 <context>
     <name>GalleryGrabber</name>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>Impossibile creare la cartella «%1».</translation>
     </message>
     <message>
-        <source>The page &quot;%1&quot; was not ready after %2 seconds.</source>
+        <source>The page "%1" was not ready after %2 seconds.</source>
         <translation>La pagina «%1» non era pronta dopo %2 secondi.</translation>
     </message>
     <message>
-        <source>The picture &quot;%1&quot; cannot be written: %2.</source>
-        <translation>Impossibile scrivere l&apos;immagine «%1»: %2.</translation>
+        <source>The picture "%1" cannot be written: %2.</source>
+        <translation>Impossibile scrivere l'immagine «%1»: %2.</translation>
     </message>
 </context>
 <context>
@@ -2172,6 +2172,10 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     <message>
         <source>Language</source>
         <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>Contrasto elevato</translation>
     </message>
 </context>
 <context>
@@ -2303,14 +2307,14 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>The whole picture in each zone, also when the window changes</source>
-        <translation>L&apos;intera immagine in ogni riquadro, anche quando la finestra cambia</translation>
+        <translation>L'intera immagine in ogni riquadro, anche quando la finestra cambia</translation>
     </message>
     <message>
         <source>S&amp;hare</source>
         <translation>&amp;Ripartisci</translation>
     </message>
     <message>
-        <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
+        <source>Each zone's share of the width: a half with two pictures, also when the window changes</source>
         <translation>La parte di larghezza di ogni riquadro: metà con due immagini, anche quando la finestra cambia</translation>
     </message>
     <message>
@@ -2319,7 +2323,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>A pixel of the picture as one of the screen</source>
-        <translation>Un pixel dell&apos;immagine come uno dello schermo</translation>
+        <translation>Un pixel dell'immagine come uno dello schermo</translation>
     </message>
     <message>
         <source>Scal&amp;e:</source>
@@ -2378,7 +2382,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>The print is computed: paper that is not white, ink that is not black, dots that grow by %1 percent and a trace of their screen. It shows what these four do, and is no proof of what a press would print.</source>
-        <translation>La stampa è calcolata: carta che non è bianca, inchiostro che non è nero, punti che crescono del %1 percento e una traccia del loro retino. Mostra l&apos;effetto di questi quattro fattori, e non è una prova colore di ciò che produrrebbe una macchina da stampa.</translation>
+        <translation>La stampa è calcolata: carta che non è bianca, inchiostro che non è nero, punti che crescono del %1 percento e una traccia del loro retino. Mostra l'effetto di questi quattro fattori, e non è una prova colore di ciò che produrrebbe una macchina da stampa.</translation>
     </message>
     <message>
         <source>The first %1 of %2 files.</source>
@@ -2419,31 +2423,31 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
         <translation>Non contiene alcun oggetto JSON.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not known.</source>
+        <source>"%1" is not known.</source>
         <translation>«%1» non è noto.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no text.</source>
+        <source>"%1" is no text.</source>
         <translation>«%1» non è un testo.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither true nor false.</source>
+        <source>"%1" is neither true nor false.</source>
         <translation>«%1» non è né true né false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <source>"%1" is no number from %2 to %3.</source>
         <translation>«%1» non è un numero da %2 a %3.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number.</source>
+        <source>"%1" is no whole number.</source>
         <translation>«%1» non è un numero intero.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no object.</source>
+        <source>"%1" is no object.</source>
         <translation>«%1» non è un oggetto.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is missing.</source>
+        <source>"%1" is missing.</source>
         <translation>«%1» manca.</translation>
     </message>
 </context>
@@ -2615,6 +2619,40 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
 </context>
 <context>
+    <name>LocalMariaDbServer</name>
+    <message>
+        <source>the user has no name</source>
+        <translation>l'utente non ha un nome</translation>
+    </message>
+    <message>
+        <source>the database "%1" is the closed one</source>
+        <translation>la base di dati «%1» è quella chiusa</translation>
+    </message>
+</context>
+<context>
+    <name>LocalServer</name>
+    <message>
+        <source>no folder for the server: %1</source>
+        <translation>nessuna cartella per il server: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not start: %2</source>
+        <translation>%1 non si avvia: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not ready in time</source>
+        <translation>%1 non è pronto in tempo</translation>
+    </message>
+    <message>
+        <source>%1 ended before it was ready</source>
+        <translation>%1 è terminato prima di essere pronto</translation>
+    </message>
+    <message>
+        <source>%1 told no port but "%2"</source>
+        <translation>%1 non ha indicato una porta, ma «%2»</translation>
+    </message>
+</context>
+<context>
     <name>LocalServerPanel</name>
     <message>
         <source>Ser&amp;ver:</source>
@@ -2637,7 +2675,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
         <translation>Il server non si è avviato: %1</translation>
     </message>
     <message>
-        <source>&quot;./dev setup&quot; installs what is needed.</source>
+        <source>"./dev setup" installs what is needed.</source>
         <translation>«./dev setup» installa ciò che serve.</translation>
     </message>
     <message>
@@ -2650,10 +2688,28 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
 </context>
 <context>
+    <name>LocalUpdateService</name>
+    <message>
+        <source>no folder for the replies: %1</source>
+        <translation>nessuna cartella per le risposte: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalWebServer</name>
+    <message>
+        <source>there is no file %1</source>
+        <translation>il file %1 non esiste</translation>
+    </message>
+    <message>
+        <source>%1 is no file with a certificate</source>
+        <translation>%1 non è un file con un certificato</translation>
+    </message>
+</context>
+<context>
     <name>LockPanel</name>
     <message>
         <source>Lock of the user interface</source>
-        <translation>Blocco dell&apos;interfaccia utente</translation>
+        <translation>Blocco dell'interfaccia utente</translation>
     </message>
     <message>
         <source>The password is stored as</source>
@@ -2725,7 +2781,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>A digest cannot be turned back into the password: it is forgotten.</source>
-        <translation>Da un&apos;impronta non si può ricavare la password: è dimenticata.</translation>
+        <translation>Da un'impronta non si può ricavare la password: è dimenticata.</translation>
     </message>
     <message>
         <source>Unlocked with the right password.</source>
@@ -2733,7 +2789,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>The work area is open.</source>
-        <translation>L&apos;area di lavoro è aperta.</translation>
+        <translation>L'area di lavoro è aperta.</translation>
     </message>
     <message>
         <source>No password has been set: the lock asks for a first one.</source>
@@ -2750,7 +2806,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
 <context>
     <name>LogPage</name>
     <message>
-        <source>The log of this very program, live: Qt&apos;s own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
+        <source>The log of this very program, live: Qt's own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
         <translation>Il registro di questo stesso programma, dal vivo: i messaggi di Qt, le righe emesse dal programma, e un lavoro che scrive voci con sottovoci da più thread.</translation>
     </message>
     <message>
@@ -2787,7 +2843,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Some information, written by hand</source>
-        <translation>Un&apos;informazione, scritta a mano</translation>
+        <translation>Un'informazione, scritta a mano</translation>
     </message>
     <message>
         <source>A warning, written by hand</source>
@@ -2818,7 +2874,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>Shown at the start</source>
-        <translation>Mostrato all&apos;avvio</translation>
+        <translation>Mostrato all'avvio</translation>
     </message>
     <message>
         <source>&amp;Put In a Logo...</source>
@@ -2841,11 +2897,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
         <translation>Inserisci un logo</translation>
     </message>
     <message>
-        <source>Remove the installed logo &quot;%1&quot;?</source>
+        <source>Remove the installed logo "%1"?</source>
         <translation>Rimuovere il logo installato «%1»?</translation>
     </message>
     <message>
-        <source>Remove the copy &quot;%1&quot;?</source>
+        <source>Remove the copy "%1"?</source>
         <translation>Rimuovere la copia «%1»?</translation>
     </message>
     <message>
@@ -2858,15 +2914,15 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>There is none.</source>
-        <translation>Non c&apos;è.</translation>
+        <translation>Non c'è.</translation>
     </message>
     <message>
         <source>There is none yet.</source>
-        <translation>Non c&apos;è ancora.</translation>
+        <translation>Non c'è ancora.</translation>
     </message>
     <message>
         <source>Nothing: there is no picture.</source>
-        <translation>Niente: non c&apos;è alcuna immagine.</translation>
+        <translation>Niente: non c'è alcuna immagine.</translation>
     </message>
     <message>
         <source>The installed logo.</source>
@@ -2874,11 +2930,11 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>The copy, since there is no installed logo.</source>
-        <translation>La copia, poiché non c&apos;è un logo installato.</translation>
+        <translation>La copia, poiché non c'è un logo installato.</translation>
     </message>
     <message>
-        <source>The gallery&apos;s own picture.</source>
-        <translation>L&apos;immagine propria della galleria.</translation>
+        <source>The gallery's own picture.</source>
+        <translation>L'immagine propria della galleria.</translation>
     </message>
 </context>
 <context>
@@ -2982,7 +3038,7 @@ Reparto stampa</translation>
         <translation>Apri un manuale c&amp;he manca</translation>
     </message>
     <message>
-        <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
+        <source>The manual of this gallery, in the system's viewer of PDF files.</source>
         <translation>Il manuale di questa galleria, nel visualizzatore di PDF del sistema.</translation>
     </message>
 </context>
@@ -3021,7 +3077,7 @@ Reparto stampa</translation>
         <translation>Avanzamento</translation>
     </message>
     <message>
-        <source>On a server the table &quot;%1&quot; is dropped, made anew and left there.</source>
+        <source>On a server the table "%1" is dropped, made anew and left there.</source>
         <translation>Su un server la tabella «%1» viene eliminata, creata di nuovo e lasciata lì.</translation>
     </message>
     <message>
@@ -3081,7 +3137,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>There is no connection to the database.</source>
-        <translation>Non c&apos;è connessione al database.</translation>
+        <translation>Non c'è connessione al database.</translation>
     </message>
 </context>
 <context>
@@ -3130,19 +3186,19 @@ Reparto stampa</translation>
 <context>
     <name>OemLogo</name>
     <message>
-        <source>The logo &quot;%1&quot; cannot be written: %2.</source>
+        <source>The logo "%1" cannot be written: %2.</source>
         <translation>Impossibile scrivere il logo «%1»: %2.</translation>
     </message>
     <message>
-        <source>No copy is kept: the folder &quot;%1&quot; cannot be written.</source>
+        <source>No copy is kept: the folder "%1" cannot be written.</source>
         <translation>Non viene conservata alcuna copia: impossibile scrivere nella cartella «%1».</translation>
     </message>
     <message>
-        <source>No copy is kept: there is no folder &quot;%1&quot;.</source>
+        <source>No copy is kept: there is no folder "%1".</source>
         <translation>Non viene conservata alcuna copia: la cartella «%1» non esiste.</translation>
     </message>
     <message>
-        <source>The logo &quot;%1&quot; cannot be removed: %2.</source>
+        <source>The logo "%1" cannot be removed: %2.</source>
         <translation>Impossibile rimuovere il logo «%1»: %2.</translation>
     </message>
 </context>
@@ -3176,11 +3232,11 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>The password itself stands in the field.</source>
-        <translation>Nel campo c&apos;è la password stessa.</translation>
+        <translation>Nel campo c'è la password stessa.</translation>
     </message>
     <message>
         <source>A mask stands in the field, not the password.</source>
-        <translation>Nel campo c&apos;è una maschera, non la password.</translation>
+        <translation>Nel campo c'è una maschera, non la password.</translation>
     </message>
 </context>
 <context>
@@ -3231,7 +3287,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>What the program has set stays enciphered, and a mask of fixed length stands in its place, until the first key pressed in the field drops both. What the user types stands in the field, as in any other.</source>
-        <translation>Ciò che il programma ha impostato resta cifrato, e al suo posto c&apos;è una maschera di lunghezza fissa, finché il primo tasto premuto nel campo non li scarta entrambi. Ciò che l&apos;utente digita sta nel campo, come in qualsiasi altro.</translation>
+        <translation>Ciò che il programma ha impostato resta cifrato, e al suo posto c'è una maschera di lunghezza fissa, finché il primo tasto premuto nel campo non li scarta entrambi. Ciò che l'utente digita sta nel campo, come in qualsiasi altro.</translation>
     </message>
 </context>
 <context>
@@ -3355,7 +3411,7 @@ Reparto stampa</translation>
     </message>
     <message>
         <source>Compares the chosen rows. Make the last column narrow: first the time goes, then the end of the date.</source>
-        <translation>Confronta le righe scelte. Restringendo l&apos;ultima colonna sparisce prima l&apos;ora, poi la fine della data.</translation>
+        <translation>Confronta le righe scelte. Restringendo l'ultima colonna sparisce prima l'ora, poi la fine della data.</translation>
     </message>
     <message>
         <source>Patch</source>
@@ -3523,15 +3579,15 @@ Schermo: %4</translation>
         <translation>Tutti i file (*)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file.</source>
+        <source>"%1" is no file.</source>
         <translation>«%1» non è un file.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <source>"%1" cannot be read: %2.</source>
         <translation>Impossibile leggere «%1»: %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
+        <source>"%1" is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
         <translation>«%1» è troppo grande: %2 × %3 pixel, che occupano più di %4 MB di memoria.</translation>
     </message>
 </context>
@@ -3566,7 +3622,7 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>Move the mouse over a picture.</source>
-        <translation>Spostare il mouse sopra un&apos;immagine.</translation>
+        <translation>Spostare il mouse sopra un'immagine.</translation>
     </message>
     <message>
         <source>x %1, y %2</source>
@@ -3584,7 +3640,7 @@ Schermo: %4</translation>
         <translation>Queste impostazioni sono salvate.</translation>
     </message>
     <message>
-        <source>The page&apos;s defaults; nothing is saved yet.</source>
+        <source>The page's defaults; nothing is saved yet.</source>
         <translation>I valori predefiniti della pagina; nulla è ancora salvato.</translation>
     </message>
     <message>
@@ -3592,7 +3648,7 @@ Schermo: %4</translation>
         <translation>Pagine di configurazione da plug-in</translation>
     </message>
     <message>
-        <source>No plug-in was found. Plug-ins are looked for in the folder &quot;%1&quot;; put one there and start the gallery again.</source>
+        <source>No plug-in was found. Plug-ins are looked for in the folder "%1"; put one there and start the gallery again.</source>
         <translation>Nessun plug-in trovato. I plug-in vengono cercati nella cartella «%1»: metterne uno lì e riavviare la galleria.</translation>
     </message>
     <message>
@@ -3668,7 +3724,7 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>Total i&amp;nk limit:</source>
-        <translation>Li&amp;mite totale d&apos;inchiostro:</translation>
+        <translation>Li&amp;mite totale d'inchiostro:</translation>
     </message>
     <message>
         <source>Delta &amp;E tolerance:</source>
@@ -3734,7 +3790,7 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>
-        <translation>&amp;Com&apos;è arrivato:</translation>
+        <translation>&amp;Com'è arrivato:</translation>
     </message>
     <message>
         <source>Clea&amp;r</source>
@@ -3859,7 +3915,7 @@ Schermo: %4</translation>
         <translation>A&amp;pri PDF</translation>
     </message>
     <message numerus="yes">
-        <source>%n page(s) in &quot;%1&quot;</source>
+        <source>%n page(s) in "%1"</source>
         <translation>
             <numerusform>%n pagina in «%1»</numerusform>
             <numerusform>%n pagine in «%1»</numerusform>
@@ -3890,7 +3946,7 @@ Schermo: %4</translation>
     <name>ReportPage</name>
     <message>
         <source>A colour comparison as pages of paper: drawn on the report canvas, with tables cut into pages, and taken to a PDF file or a printer.</source>
-        <translation>Un confronto di colori come pagine di carta: disegnato sull&apos;area del rapporto, con tabelle suddivise in pagine, e portato in un file PDF o su una stampante.</translation>
+        <translation>Un confronto di colori come pagine di carta: disegnato sull'area del rapporto, con tabelle suddivise in pagine, e portato in un file PDF o su una stampante.</translation>
     </message>
     <message>
         <source>Pages of the report</source>
@@ -4014,7 +4070,7 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>The server has another port now: drives added before do not lead to it.</source>
-        <translation>Il server ha ora un&apos;altra porta: le unità aggiunte prima non conducono ad esso.</translation>
+        <translation>Il server ha ora un'altra porta: le unità aggiunte prima non conducono ad esso.</translation>
     </message>
 </context>
 <context>
@@ -4106,11 +4162,11 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>Sho&amp;w the label:</source>
-        <translation>Mostra l&apos;&amp;etichetta:</translation>
+        <translation>Mostra l'&amp;etichetta:</translation>
     </message>
     <message>
         <source>Text of the label</source>
-        <translation>Testo dell&apos;etichetta</translation>
+        <translation>Testo dell'etichetta</translation>
     </message>
 </context>
 <context>
@@ -4232,11 +4288,11 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>First wavelength</source>
-        <translation>Prima lunghezza d&apos;onda</translation>
+        <translation>Prima lunghezza d'onda</translation>
     </message>
     <message>
         <source>Last wavelength</source>
-        <translation>Ultima lunghezza d&apos;onda</translation>
+        <translation>Ultima lunghezza d'onda</translation>
     </message>
     <message>
         <source> nm</source>
@@ -4244,7 +4300,7 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>How strongly the eye sees light of each wavelength: the function y of the CIE 1931 standard observer. The spectrum lies behind it.</source>
-        <translation>Con quale intensità l&apos;occhio vede la luce di ogni lunghezza d&apos;onda: la funzione y dell&apos;osservatore standard CIE 1931. Dietro si trova lo spettro.</translation>
+        <translation>Con quale intensità l'occhio vede la luce di ogni lunghezza d'onda: la funzione y dell'osservatore standard CIE 1931. Dietro si trova lo spettro.</translation>
     </message>
     <message>
         <source>Luminous efficiency from %1 to %2 nm</source>
@@ -4385,18 +4441,18 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>clicked: %1, last by %2 pixels: %3</source>
-        <translation>clic: %1, l&apos;ultimo su quello da %2 pixel: %3</translation>
+        <translation>clic: %1, l'ultimo su quello da %2 pixel: %3</translation>
     </message>
 </context>
 <context>
     <name>TriggerPanel</name>
     <message>
         <source>The event never comes.</source>
-        <translation>L&apos;evento non si verifica mai.</translation>
+        <translation>L'evento non si verifica mai.</translation>
     </message>
     <message>
         <source>By the settings that are kept, the event comes next on:</source>
-        <translation>Secondo le impostazioni salvate, l&apos;evento si verificherà il:</translation>
+        <translation>Secondo le impostazioni salvate, l'evento si verificherà il:</translation>
     </message>
     <message>
         <source>Trigger event</source>
@@ -4423,7 +4479,7 @@ Schermo: %4</translation>
     <name>UnlockScreen</name>
     <message>
         <source>The work area is locked</source>
-        <translation>L&apos;area di lavoro è bloccata</translation>
+        <translation>L'area di lavoro è bloccata</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
@@ -4457,15 +4513,15 @@ Schermo: %4</translation>
         <translation>Versione</translation>
     </message>
     <message>
-        <source>&quot;Download and Install&quot; writes the file to &quot;%1&quot;, which a check makes where it is missing, &quot;Download&quot; to the folder that you choose. The file is a harmless text. &quot;Install&quot; opens it with the desktop&apos;s program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: &quot;Show in Folder&quot; shows the file.</source>
-        <translation>«Scarica e installa» scrive il file in «%1», che una ricerca crea dove manca, «Scarica» nella cartella che si sceglie. Il file è un testo innocuo. «Installa» lo apre con il programma di testo del sistema e chiude tutte le finestre della galleria. Dove non c&apos;è un programma simile non accade nulla: «Mostra nella cartella» mostra il file.</translation>
+        <source>"Download and Install" writes the file to "%1", which a check makes where it is missing, "Download" to the folder that you choose. The file is a harmless text. "Install" opens it with the desktop's program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: "Show in Folder" shows the file.</source>
+        <translation>«Scarica e installa» scrive il file in «%1», che una ricerca crea dove manca, «Scarica» nella cartella che si sceglie. Il file è un testo innocuo. «Installa» lo apre con il programma di testo del sistema e chiude tutte le finestre della galleria. Dove non c'è un programma simile non accade nulla: «Mostra nella cartella» mostra il file.</translation>
     </message>
     <message>
-        <source>There is no folder &quot;%1&quot;.</source>
+        <source>There is no folder "%1".</source>
         <translation>La cartella «%1» non esiste.</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>Nessun programma mostra la cartella «%1».</translation>
     </message>
     <message>
@@ -4476,8 +4532,8 @@ Schermo: %4</translation>
 <context>
     <name>UpdateOffer</name>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;Novità di questa versione&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Database: un milione di righe, pagina per pagina&lt;/li&gt;&lt;li&gt;Aggiornamenti: ciò che si sta guardando&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Altro su &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;Novità di questa versione&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Database: un milione di righe, pagina per pagina&lt;/li&gt;&lt;li&gt;Aggiornamenti: ciò che si sta guardando&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Altro su &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>And one more thing. </source>
@@ -4752,11 +4808,11 @@ Schermo: %4</translation>
         <translation>File JSON (*.json);;Tutti i file (*)</translation>
     </message>
     <message>
-        <source>File &quot;%1&quot;</source>
+        <source>File "%1"</source>
         <translation>File «%1»</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is not shown.</source>
+        <source>The file "%1" is not shown.</source>
         <translation>Il file «%1» non viene mostrato.</translation>
     </message>
     <message>
@@ -4783,11 +4839,11 @@ Schermo: %4</translation>
     <name>WebInterfacePage</name>
     <message>
         <source>The panel for the web interface of a program, beside a real web server that serves a page of the gallery. Only this computer reaches it, at the link with 127.0.0.1; the other links work once other computers may connect.</source>
-        <translation>Il pannello per l&apos;interfaccia web di un programma, accanto a un vero server web che fornisce una pagina della galleria. Solo questo computer lo raggiunge, tramite il collegamento con 127.0.0.1; gli altri collegamenti funzionano quando altri computer possono connettersi.</translation>
+        <translation>Il pannello per l'interfaccia web di un programma, accanto a un vero server web che fornisce una pagina della galleria. Solo questo computer lo raggiunge, tramite il collegamento con 127.0.0.1; gli altri collegamenti funzionano quando altri computer possono connettersi.</translation>
     </message>
     <message>
         <source>Web interface panel</source>
-        <translation>Pannello dell&apos;interfaccia web</translation>
+        <translation>Pannello dell'interfaccia web</translation>
     </message>
 </context>
 <context>
@@ -4809,7 +4865,7 @@ Schermo: %4</translation>
         <translation>Visita la pa&amp;gina</translation>
     </message>
     <message>
-        <source>the box &quot;Enabled&quot; of the panel is not checked</source>
+        <source>the box "Enabled" of the panel is not checked</source>
         <translation>la casella «Abilitata» del pannello non è selezionata</translation>
     </message>
     <message>
@@ -4860,7 +4916,7 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>Settings of the web interface</source>
-        <translation>Impostazioni dell&apos;interfaccia web</translation>
+        <translation>Impostazioni dell'interfaccia web</translation>
     </message>
     <message>
         <source>Saved in the settings of the gallery.</source>
@@ -4875,8 +4931,8 @@ Schermo: %4</translation>
         <translation>Nulla è ancora stato salvato.</translation>
     </message>
     <message>
-        <source>The example is for the user &quot;%1&quot; with the password &quot;%2&quot;.</source>
-        <translation>L&apos;esempio è per l&apos;utente «%1» con la password «%2».</translation>
+        <source>The example is for the user "%1" with the password "%2".</source>
+        <translation>L'esempio è per l'utente «%1» con la password «%2».</translation>
     </message>
     <message>
         <source>A certificate for localhost and 127.0.0.1 is in %1. A browser warns of it.</source>
@@ -4972,8 +5028,8 @@ Schermo: %4</translation>
         <translation>Stato dei widget</translation>
     </message>
     <message>
-        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program&apos;s settings. Another gives them back.</source>
-        <translation>Una chiamata conserva posizione e dimensione di una finestra, i suoi divisori e le colonne delle sue viste, in un solo dizionario annidato per le impostazioni del programma. Un&apos;altra li ripristina.</translation>
+        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program's settings. Another gives them back.</source>
+        <translation>Una chiamata conserva posizione e dimensione di una finestra, i suoi divisori e le colonne delle sue viste, in un solo dizionario annidato per le impostazioni del programma. Un'altra li ripristina.</translation>
     </message>
     <message>
         <source>&amp;Open Window</source>

@@ -27,11 +27,11 @@
         <translation>法的通知を開く(&amp;N)</translation>
     </message>
     <message>
-        <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
+        <source>The notices are opened from a copy in the folder "%1".</source>
         <translation>法的通知は、フォルダー「%1」のコピーから開かれます。</translation>
     </message>
     <message>
-        <source>There are no notices at &quot;%1&quot;.</source>
+        <source>There are no notices at "%1".</source>
         <translation>「%1」に法的通知はありません。</translation>
     </message>
 </context>
@@ -452,7 +452,7 @@
         <translation>バージョン%1は未知のものです。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no rendering intent.</source>
+        <source>"%1" is no rendering intent.</source>
         <translation>「%1」はレンダリングインテントではありません。</translation>
     </message>
     <message>
@@ -503,7 +503,7 @@
         <translation>カラープリセット</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be saved.</source>
+        <source>"%1" cannot be saved.</source>
         <translation>「%1」を保存できません。</translation>
     </message>
     <message>
@@ -527,7 +527,7 @@
         <translation>読み込めるプリセットがありません。</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be read.</source>
+        <source>The folder "%1" cannot be read.</source>
         <translation>フォルダー「%1」を読み取れません。</translation>
     </message>
     <message>
@@ -535,11 +535,11 @@
         <translation>複製できるものがありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be imported.</source>
+        <source>"%1" cannot be imported.</source>
         <translation>「%1」をインポートできません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
+        <source>"%1" cannot be written.</source>
         <translation>「%1」に書き込めません。</translation>
     </message>
     <message>
@@ -551,7 +551,7 @@
         <translation>ファイルではありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be deleted.</source>
+        <source>"%1" cannot be deleted.</source>
         <translation>「%1」を削除できません。</translation>
     </message>
     <message>
@@ -563,11 +563,11 @@
         <translation>その間に別のプログラムが変更しました。その変更が失われてもよければ、もう一度実行してください。</translation>
     </message>
     <message>
-        <source>Another preset is called &quot;%1&quot;.</source>
+        <source>Another preset is called "%1".</source>
         <translation>「%1」という名前の別のプリセットがあります。</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>フォルダー「%1」を作成できません。</translation>
     </message>
 </context>
@@ -637,7 +637,7 @@
         <translation>プリセットの削除</translation>
     </message>
     <message>
-        <source>Delete the preset &quot;%1&quot; for good?</source>
+        <source>Delete the preset "%1" for good?</source>
         <translation>プリセット「%1」を完全に削除しますか？</translation>
     </message>
     <message>
@@ -653,7 +653,7 @@
         <translation>設定は、プリセットを編集状態にすると変更できます。</translation>
     </message>
     <message>
-        <source>Files in &quot;%1&quot; that are no presets, and are left as they are: %2</source>
+        <source>Files in "%1" that are no presets, and are left as they are: %2</source>
         <translation>「%1」にあるプリセットではないファイル(そのまま残ります): %2</translation>
     </message>
     <message>
@@ -661,7 +661,7 @@
         <translation>プリセットの保存</translation>
     </message>
     <message>
-        <source>The preset &quot;%1&quot; has been edited. Save it?</source>
+        <source>The preset "%1" has been edited. Save it?</source>
         <translation>プリセット「%1」は編集されています。保存しますか？</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>ヘッダーでは%1バイト、実際は%2バイトです。</translation>
     </message>
     <message>
-        <source>The signature is &quot;%1&quot; instead of &quot;acsp&quot;.</source>
+        <source>The signature is "%1" instead of "acsp".</source>
         <translation>シグネチャが「acsp」ではなく「%1」です。</translation>
     </message>
     <message>
@@ -692,7 +692,7 @@
         <translation>バージョン%1には対応していません。</translation>
     </message>
     <message>
-        <source>The device class &quot;%1&quot; is unknown.</source>
+        <source>The device class "%1" is unknown.</source>
         <translation>デバイスクラス「%1」は未知のものです。</translation>
     </message>
     <message>
@@ -704,7 +704,7 @@
         <translation>ファイルがヘッダーの途中、%1バイトで終わっています。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be used as a colour profile.</source>
+        <source>"%1" cannot be used as a colour profile.</source>
         <translation>「%1」はカラープロファイルとして使用できません。</translation>
     </message>
 </context>
@@ -812,7 +812,7 @@
         <translation>記憶の選択肢を表示(&amp;E)</translation>
     </message>
     <message>
-        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether &quot;Remember&quot; is checked.</source>
+        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether "Remember" is checked.</source>
         <translation>この選択肢があると、両方の欄が入力されてOKが押されるたびにダイアログがコールバックを呼び出します。「記憶する」がチェックされているかどうかは、ホスト側のプログラムが自分で調べます。</translation>
     </message>
     <message>
@@ -840,18 +840,18 @@
         <translation>コールバックは呼び出されませんでした。</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is checked.</source>
+        <source>"Remember" is checked.</source>
         <translation>「記憶する」がチェックされています。</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is not checked.</source>
+        <source>"Remember" is not checked.</source>
         <translation>「記憶する」はチェックされていません。</translation>
     </message>
 </context>
 <context>
     <name>DatabasePage</name>
     <message>
-        <source>The panel for the place of a program&apos;s data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
+        <source>The panel for the place of a program's data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
         <translation>プログラムのデータの保存場所、つまり内部データベースまたはサーバーを設定するパネルです。このコンピューターで本物のMariaDBサーバーをオンにし、起こす障害を選び、どちらかのデータベースにある100万件の測定値のページをめくってみてください。</translation>
     </message>
     <message>
@@ -1090,7 +1090,7 @@
         <translation>フォルダーを表示(&amp;O)</translation>
     </message>
     <message>
-        <source>Check &quot;Enabled&quot;, and all active drives in the list are connected, your own too. A connected drive is a link in &quot;%1&quot;. The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
+        <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
         <translation>「有効」をチェックすると、リスト内のアクティブなドライブがすべて接続されます。ご自身のドライブも含まれます。接続されたドライブは「%1」内のリンクになります。エディターはポートを扱わないため、入力または編集したドライブは、上のサーバーではなく標準ポート445につながります。追加したドライブはギャラリーの終了時に削除されますが、編集したドライブはご自身のものとして残ります。</translation>
     </message>
     <message>
@@ -1098,11 +1098,11 @@
         <translation>追加しました: %1。</translation>
     </message>
     <message>
-        <source>Added: %1. Check &quot;Enabled&quot; to have it connected.</source>
+        <source>Added: %1. Check "Enabled" to have it connected.</source>
         <translation>追加しました: %1。接続するには「有効」をチェックしてください。</translation>
     </message>
     <message>
-        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with &quot;-&quot;.</source>
+        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with "-".</source>
         <translation>%1はご自身のものになり、ポート%2につながります。エディターはポートを扱いません。「-」で削除してください。</translation>
     </message>
     <message>
@@ -1110,11 +1110,11 @@
         <translation>すべてのドライブ文字が使用されています。</translation>
     </message>
     <message>
-        <source>No drive has been connected yet: there is no folder &quot;%1&quot;.</source>
+        <source>No drive has been connected yet: there is no folder "%1".</source>
         <translation>まだ接続されたドライブはありません: フォルダー「%1」がありません。</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>フォルダー「%1」を表示するプログラムがありません。</translation>
     </message>
 </context>
@@ -1173,7 +1173,7 @@
 <context>
     <name>EncodedTextFile</name>
     <message>
-        <source>There is no codec &quot;%1&quot;.</source>
+        <source>There is no codec "%1".</source>
         <translation>コーデック「%1」はありません。</translation>
     </message>
     <message>
@@ -1697,7 +1697,7 @@ It tells success only if part of the answer still comes in while it reads. An an
 <context>
     <name>FolderJobBar</name>
     <message>
-        <source>Relative paths start at the program&apos;s folder; several paths are separated by &quot;%1&quot;.</source>
+        <source>Relative paths start at the program's folder; several paths are separated by "%1".</source>
         <translation>相対パスの起点はプログラムのフォルダーです。複数のパスは「%1」で区切ります。</translation>
     </message>
 </context>
@@ -1929,11 +1929,11 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>状態を表示(&amp;U)</translation>
     </message>
     <message>
-        <source>Show &amp;box &quot;Active&quot;</source>
+        <source>Show &amp;box "Active"</source>
         <translation>「アクティブ」ボックスを表示(&amp;B)</translation>
     </message>
     <message>
-        <source>Show box &quot;&amp;Erase&quot;</source>
+        <source>Show box "&amp;Erase"</source>
         <translation>「消去」ボックスを表示(&amp;E)</translation>
     </message>
     <message>
@@ -2083,38 +2083,38 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>--%1には値が必要です。</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
+        <source>Unexpected argument "%1".</source>
         <translation>予期しない引数「%1」です。</translation>
     </message>
     <message>
-        <source>There is no page &quot;%1&quot;. The pages are: %2.</source>
+        <source>There is no page "%1". The pages are: %2.</source>
         <translation>ページ「%1」はありません。使用できるページ: %2。</translation>
     </message>
     <message>
-        <source>There is no style &quot;%1&quot;. The styles are: %2.</source>
+        <source>There is no style "%1". The styles are: %2.</source>
         <translation>スタイル「%1」はありません。使用できるスタイル: %2。</translation>
     </message>
     <message>
-        <source>There is no palette &quot;%1&quot;. The palettes are: light, dark.</source>
-        <translation>パレット「%1」はありません。使用できるパレット: light、dark。</translation>
+        <source>There is no language "%1". The languages are: %2.</source>
+        <translation>言語「%1」はありません。使用できる言語: %2。</translation>
     </message>
     <message>
-        <source>There is no language &quot;%1&quot;. The languages are: %2.</source>
-        <translation>言語「%1」はありません。使用できる言語: %2。</translation>
+        <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
+        <translation>パレット「%1」はありません。使えるパレット: light, dark, contrast</translation>
     </message>
 </context>
 <context>
     <name>GalleryGrabber</name>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>フォルダー「%1」を作成できません。</translation>
     </message>
     <message>
-        <source>The page &quot;%1&quot; was not ready after %2 seconds.</source>
+        <source>The page "%1" was not ready after %2 seconds.</source>
         <translation>ページ「%1」は%2秒たっても準備できませんでした。</translation>
     </message>
     <message>
-        <source>The picture &quot;%1&quot; cannot be written: %2.</source>
+        <source>The picture "%1" cannot be written: %2.</source>
         <translation>画像「%1」に書き込めません: %2。</translation>
     </message>
 </context>
@@ -2172,6 +2172,10 @@ It tells success only if part of the answer still comes in while it reads. An an
     <message>
         <source>Language</source>
         <translation>言語</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>ハイコントラスト</translation>
     </message>
 </context>
 <context>
@@ -2310,7 +2314,7 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>等分(&amp;H)</translation>
     </message>
     <message>
-        <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
+        <source>Each zone's share of the width: a half with two pictures, also when the window changes</source>
         <translation>各領域に割り当てられた幅に合わせます。画像が2つなら半分ずつで、ウィンドウのサイズが変わっても保たれます</translation>
     </message>
     <message>
@@ -2419,31 +2423,31 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>JSONオブジェクトが含まれていません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not known.</source>
+        <source>"%1" is not known.</source>
         <translation>「%1」は未知の項目です。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no text.</source>
+        <source>"%1" is no text.</source>
         <translation>「%1」はテキストではありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither true nor false.</source>
+        <source>"%1" is neither true nor false.</source>
         <translation>「%1」はtrueでもfalseでもありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <source>"%1" is no number from %2 to %3.</source>
         <translation>「%1」は%2から%3までの数値ではありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number.</source>
+        <source>"%1" is no whole number.</source>
         <translation>「%1」は整数ではありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no object.</source>
+        <source>"%1" is no object.</source>
         <translation>「%1」はオブジェクトではありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is missing.</source>
+        <source>"%1" is missing.</source>
         <translation>「%1」がありません。</translation>
     </message>
 </context>
@@ -2615,6 +2619,40 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
 </context>
 <context>
+    <name>LocalMariaDbServer</name>
+    <message>
+        <source>the user has no name</source>
+        <translation>ユーザーの名前がありません</translation>
+    </message>
+    <message>
+        <source>the database "%1" is the closed one</source>
+        <translation>データベース「%1」は閉じているものです</translation>
+    </message>
+</context>
+<context>
+    <name>LocalServer</name>
+    <message>
+        <source>no folder for the server: %1</source>
+        <translation>サーバー用のフォルダーがありません: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not start: %2</source>
+        <translation>%1を開始できません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not ready in time</source>
+        <translation>%1の準備が時間内に終わりません</translation>
+    </message>
+    <message>
+        <source>%1 ended before it was ready</source>
+        <translation>%1は準備ができる前に終了しました</translation>
+    </message>
+    <message>
+        <source>%1 told no port but "%2"</source>
+        <translation>%1はポートではなく「%2」を返しました</translation>
+    </message>
+</context>
+<context>
     <name>LocalServerPanel</name>
     <message>
         <source>Ser&amp;ver:</source>
@@ -2637,7 +2675,7 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>サーバーが起動しませんでした: %1</translation>
     </message>
     <message>
-        <source>&quot;./dev setup&quot; installs what is needed.</source>
+        <source>"./dev setup" installs what is needed.</source>
         <translation>「./dev setup」で必要なものをインストールできます。</translation>
     </message>
     <message>
@@ -2647,6 +2685,24 @@ It tells success only if part of the answer still comes in while it reads. An an
     <message>
         <source>The server has stopped by itself: %1</source>
         <translation>サーバーが自ら停止しました: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalUpdateService</name>
+    <message>
+        <source>no folder for the replies: %1</source>
+        <translation>応答用のフォルダーがありません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalWebServer</name>
+    <message>
+        <source>there is no file %1</source>
+        <translation>ファイル%1がありません</translation>
+    </message>
+    <message>
+        <source>%1 is no file with a certificate</source>
+        <translation>%1は証明書のファイルではありません</translation>
     </message>
 </context>
 <context>
@@ -2750,7 +2806,7 @@ It tells success only if part of the answer still comes in while it reads. An an
 <context>
     <name>LogPage</name>
     <message>
-        <source>The log of this very program, live: Qt&apos;s own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
+        <source>The log of this very program, live: Qt's own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
         <translation>このプログラム自身のログをライブで表示します: Qtのメッセージ、プログラムが出力する行、そして複数のスレッドからサブエントリ付きのエントリを書き込むジョブです。</translation>
     </message>
     <message>
@@ -2841,11 +2897,11 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>ロゴのインストール</translation>
     </message>
     <message>
-        <source>Remove the installed logo &quot;%1&quot;?</source>
+        <source>Remove the installed logo "%1"?</source>
         <translation>インストール済みのロゴ「%1」を削除しますか？</translation>
     </message>
     <message>
-        <source>Remove the copy &quot;%1&quot;?</source>
+        <source>Remove the copy "%1"?</source>
         <translation>コピー「%1」を削除しますか？</translation>
     </message>
     <message>
@@ -2877,7 +2933,7 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>インストール済みのロゴがないため、コピーです。</translation>
     </message>
     <message>
-        <source>The gallery&apos;s own picture.</source>
+        <source>The gallery's own picture.</source>
         <translation>ギャラリー自身の画像です。</translation>
     </message>
 </context>
@@ -2982,7 +3038,7 @@ Press room</source>
         <translation>存在しないマニュアルを開く(&amp;G)</translation>
     </message>
     <message>
-        <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
+        <source>The manual of this gallery, in the system's viewer of PDF files.</source>
         <translation>このギャラリーのマニュアルを、システムのPDFビューアーで開きます。</translation>
     </message>
 </context>
@@ -3021,7 +3077,7 @@ Press room</source>
         <translation>進捗</translation>
     </message>
     <message>
-        <source>On a server the table &quot;%1&quot; is dropped, made anew and left there.</source>
+        <source>On a server the table "%1" is dropped, made anew and left there.</source>
         <translation>サーバーでは、テーブル「%1」が削除されて新しく作成され、そのまま残ります。</translation>
     </message>
     <message>
@@ -3130,19 +3186,19 @@ Press room</source>
 <context>
     <name>OemLogo</name>
     <message>
-        <source>The logo &quot;%1&quot; cannot be written: %2.</source>
+        <source>The logo "%1" cannot be written: %2.</source>
         <translation>ロゴ「%1」に書き込めません: %2。</translation>
     </message>
     <message>
-        <source>No copy is kept: the folder &quot;%1&quot; cannot be written.</source>
+        <source>No copy is kept: the folder "%1" cannot be written.</source>
         <translation>コピーは保管されません: フォルダー「%1」に書き込めません。</translation>
     </message>
     <message>
-        <source>No copy is kept: there is no folder &quot;%1&quot;.</source>
+        <source>No copy is kept: there is no folder "%1".</source>
         <translation>コピーは保管されません: フォルダー「%1」がありません。</translation>
     </message>
     <message>
-        <source>The logo &quot;%1&quot; cannot be removed: %2.</source>
+        <source>The logo "%1" cannot be removed: %2.</source>
         <translation>ロゴ「%1」を削除できません: %2。</translation>
     </message>
 </context>
@@ -3523,15 +3579,15 @@ b* %3
         <translation>すべてのファイル (*)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file.</source>
+        <source>"%1" is no file.</source>
         <translation>「%1」はファイルではありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <source>"%1" cannot be read: %2.</source>
         <translation>「%1」を読み取れません: %2。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
+        <source>"%1" is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
         <translation>「%1」は大きすぎます: %2 × %3ピクセルで、%4 MBを超えるメモリが必要です。</translation>
     </message>
 </context>
@@ -3584,7 +3640,7 @@ b* %3
         <translation>これらの設定は保存されています。</translation>
     </message>
     <message>
-        <source>The page&apos;s defaults; nothing is saved yet.</source>
+        <source>The page's defaults; nothing is saved yet.</source>
         <translation>ページの既定値です。まだ何も保存されていません。</translation>
     </message>
     <message>
@@ -3592,7 +3648,7 @@ b* %3
         <translation>プラグインの設定ページ</translation>
     </message>
     <message>
-        <source>No plug-in was found. Plug-ins are looked for in the folder &quot;%1&quot;; put one there and start the gallery again.</source>
+        <source>No plug-in was found. Plug-ins are looked for in the folder "%1"; put one there and start the gallery again.</source>
         <translation>プラグインが見つかりませんでした。プラグインはフォルダー「%1」で検索されます。そこにプラグインを置いて、ギャラリーを再起動してください。</translation>
     </message>
     <message>
@@ -3859,7 +3915,7 @@ b* %3
         <translation>PDFを開く(&amp;O)</translation>
     </message>
     <message numerus="yes">
-        <source>%n page(s) in &quot;%1&quot;</source>
+        <source>%n page(s) in "%1"</source>
         <translation>
             <numerusform>「%1」に%nページ</numerusform>
         </translation>
@@ -4456,15 +4512,15 @@ b* %3
         <translation>リリース</translation>
     </message>
     <message>
-        <source>&quot;Download and Install&quot; writes the file to &quot;%1&quot;, which a check makes where it is missing, &quot;Download&quot; to the folder that you choose. The file is a harmless text. &quot;Install&quot; opens it with the desktop&apos;s program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: &quot;Show in Folder&quot; shows the file.</source>
+        <source>"Download and Install" writes the file to "%1", which a check makes where it is missing, "Download" to the folder that you choose. The file is a harmless text. "Install" opens it with the desktop's program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: "Show in Folder" shows the file.</source>
         <translation>「ダウンロードしてインストール」はファイルを「%1」に書き込みます。このフォルダーがない場合は、確認の際に作成されます。「ダウンロード」は選択したフォルダーに書き込みます。ファイルは無害なテキストです。「インストール」はデスクトップのテキスト用プログラムでファイルを開き、ギャラリーのすべてのウィンドウを閉じます。そのようなプログラムがない場合は何も起こりません。「フォルダーに表示」でファイルを表示できます。</translation>
     </message>
     <message>
-        <source>There is no folder &quot;%1&quot;.</source>
+        <source>There is no folder "%1".</source>
         <translation>フォルダー「%1」がありません。</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>フォルダー「%1」を表示するプログラムがありません。</translation>
     </message>
     <message>
@@ -4475,8 +4531,8 @@ b* %3
 <context>
     <name>UpdateOffer</name>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;このリリースの新機能&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;データベース: 100万行をページごとに表示&lt;/li&gt;&lt;li&gt;アップデート: 今ご覧になっているもの&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;詳しくは&lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;をご覧ください。&lt;/p&gt;</translation>
+        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;このリリースの新機能&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;データベース: 100万行をページごとに表示&lt;/li&gt;&lt;li&gt;アップデート: 今ご覧になっているもの&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;詳しくは&lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;をご覧ください。&lt;/p&gt;</translation>
     </message>
     <message>
         <source>And one more thing. </source>
@@ -4751,11 +4807,11 @@ b* %3
         <translation>JSONファイル (*.json);;すべてのファイル (*)</translation>
     </message>
     <message>
-        <source>File &quot;%1&quot;</source>
+        <source>File "%1"</source>
         <translation>ファイル「%1」</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is not shown.</source>
+        <source>The file "%1" is not shown.</source>
         <translation>ファイル「%1」は表示されません。</translation>
     </message>
     <message>
@@ -4808,7 +4864,7 @@ b* %3
         <translation>ページにアクセス(&amp;T)</translation>
     </message>
     <message>
-        <source>the box &quot;Enabled&quot; of the panel is not checked</source>
+        <source>the box "Enabled" of the panel is not checked</source>
         <translation>パネルの「有効」ボックスがチェックされていません</translation>
     </message>
     <message>
@@ -4874,7 +4930,7 @@ b* %3
         <translation>まだ何も保存されていません。</translation>
     </message>
     <message>
-        <source>The example is for the user &quot;%1&quot; with the password &quot;%2&quot;.</source>
+        <source>The example is for the user "%1" with the password "%2".</source>
         <translation>この例のユーザーは「%1」、パスワードは「%2」です。</translation>
     </message>
     <message>
@@ -4971,7 +5027,7 @@ b* %3
         <translation>ウィジェットの状態</translation>
     </message>
     <message>
-        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program&apos;s settings. Another gives them back.</source>
+        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program's settings. Another gives them back.</source>
         <translation>1回の呼び出しで、ウィンドウの位置とサイズ、スプリッター、ビューの列を、プログラムの設定用の入れ子の辞書1つに保持します。もう1回の呼び出しでそれらを復元します。</translation>
     </message>
     <message>

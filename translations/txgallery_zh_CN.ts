@@ -27,11 +27,11 @@
         <translation>打开法律声明(&amp;N)</translation>
     </message>
     <message>
-        <source>The notices are opened from a copy in the folder &quot;%1&quot;.</source>
+        <source>The notices are opened from a copy in the folder "%1".</source>
         <translation>声明从文件夹“%1”中的副本打开。</translation>
     </message>
     <message>
-        <source>There are no notices at &quot;%1&quot;.</source>
+        <source>There are no notices at "%1".</source>
         <translation>“%1”处没有声明。</translation>
     </message>
 </context>
@@ -452,7 +452,7 @@
         <translation>其版本 %1 未知。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no rendering intent.</source>
+        <source>"%1" is no rendering intent.</source>
         <translation>“%1”不是渲染意图。</translation>
     </message>
     <message>
@@ -503,7 +503,7 @@
         <translation>颜色预设</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be saved.</source>
+        <source>"%1" cannot be saved.</source>
         <translation>无法保存“%1”。</translation>
     </message>
     <message>
@@ -527,7 +527,7 @@
         <translation>无法加载任何预设。</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be read.</source>
+        <source>The folder "%1" cannot be read.</source>
         <translation>无法读取文件夹“%1”。</translation>
     </message>
     <message>
@@ -535,11 +535,11 @@
         <translation>没有可创建副本的内容。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be imported.</source>
+        <source>"%1" cannot be imported.</source>
         <translation>无法导入“%1”。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written.</source>
+        <source>"%1" cannot be written.</source>
         <translation>无法写入“%1”。</translation>
     </message>
     <message>
@@ -551,7 +551,7 @@
         <translation>这不是文件。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be deleted.</source>
+        <source>"%1" cannot be deleted.</source>
         <translation>无法删除“%1”。</translation>
     </message>
     <message>
@@ -563,11 +563,11 @@
         <translation>其间另一个程序更改了它。如要舍弃该更改，请再试一次。</translation>
     </message>
     <message>
-        <source>Another preset is called &quot;%1&quot;.</source>
+        <source>Another preset is called "%1".</source>
         <translation>已有另一个预设名为“%1”。</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>无法创建文件夹“%1”。</translation>
     </message>
 </context>
@@ -637,7 +637,7 @@
         <translation>删除预设</translation>
     </message>
     <message>
-        <source>Delete the preset &quot;%1&quot; for good?</source>
+        <source>Delete the preset "%1" for good?</source>
         <translation>要永久删除预设“%1”吗？</translation>
     </message>
     <message>
@@ -653,7 +653,7 @@
         <translation>编辑预设后即可更改设置。</translation>
     </message>
     <message>
-        <source>Files in &quot;%1&quot; that are no presets, and are left as they are: %2</source>
+        <source>Files in "%1" that are no presets, and are left as they are: %2</source>
         <translation>“%1”中不是预设的文件（保持原样）：%2</translation>
     </message>
     <message>
@@ -661,7 +661,7 @@
         <translation>保存预设</translation>
     </message>
     <message>
-        <source>The preset &quot;%1&quot; has been edited. Save it?</source>
+        <source>The preset "%1" has been edited. Save it?</source>
         <translation>预设“%1”已编辑。要保存吗？</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>文件头注明 %1 字节，文件实为 %2 字节。</translation>
     </message>
     <message>
-        <source>The signature is &quot;%1&quot; instead of &quot;acsp&quot;.</source>
+        <source>The signature is "%1" instead of "acsp".</source>
         <translation>签名为“%1”，而非“acsp”。</translation>
     </message>
     <message>
@@ -692,7 +692,7 @@
         <translation>不支持版本 %1。</translation>
     </message>
     <message>
-        <source>The device class &quot;%1&quot; is unknown.</source>
+        <source>The device class "%1" is unknown.</source>
         <translation>设备类别“%1”未知。</translation>
     </message>
     <message>
@@ -704,7 +704,7 @@
         <translation>文件在文件头内结束，仅 %1 字节。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be used as a colour profile.</source>
+        <source>"%1" cannot be used as a colour profile.</source>
         <translation>“%1”不能用作颜色配置文件。</translation>
     </message>
 </context>
@@ -812,7 +812,7 @@
         <translation>提供“记住”选项(&amp;E)</translation>
     </message>
     <message>
-        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether &quot;Remember&quot; is checked.</source>
+        <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether "Remember" is checked.</source>
         <translation>提供该选项时，每次在两个字段均已填写的情况下单击“确定”，对话框都会回调；“记住”是否勾选由宿主程序自行查询。</translation>
     </message>
     <message>
@@ -840,18 +840,18 @@
         <translation>回调未被调用。</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is checked.</source>
+        <source>"Remember" is checked.</source>
         <translation>“记住”已勾选。</translation>
     </message>
     <message>
-        <source>&quot;Remember&quot; is not checked.</source>
+        <source>"Remember" is not checked.</source>
         <translation>“记住”未勾选。</translation>
     </message>
 </context>
 <context>
     <name>DatabasePage</name>
     <message>
-        <source>The panel for the place of a program&apos;s data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
+        <source>The panel for the place of a program's data: its internal database or a server. Switch on a real MariaDB server on this computer, choose what is to go wrong, and turn the pages of a million measurements in either database.</source>
         <translation>设置程序数据存放位置的面板：内部数据库或服务器。您可以在此计算机上打开一个真实的 MariaDB 服务器，选择要发生的故障，并在任一数据库中翻阅一百万条测量数据。</translation>
     </message>
     <message>
@@ -1090,7 +1090,7 @@
         <translation>显示文件夹(&amp;O)</translation>
     </message>
     <message>
-        <source>Check &quot;Enabled&quot;, and all active drives in the list are connected, your own too. A connected drive is a link in &quot;%1&quot;. The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
+        <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
         <translation>勾选“启用”后，列表中所有已激活的驱动器都会连接，包括您自己的驱动器。已连接的驱动器是“%1”中的一个链接。编辑器不涉及端口：您键入或编辑的驱动器会指向标准端口 445，而不是上面的服务器。展示程序结束时会移除已添加的驱动器；您编辑过的驱动器归您所有，会保留下来。</translation>
     </message>
     <message>
@@ -1098,11 +1098,11 @@
         <translation>已添加：%1。</translation>
     </message>
     <message>
-        <source>Added: %1. Check &quot;Enabled&quot; to have it connected.</source>
+        <source>Added: %1. Check "Enabled" to have it connected.</source>
         <translation>已添加：%1。勾选“启用”即可连接。</translation>
     </message>
     <message>
-        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with &quot;-&quot;.</source>
+        <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with "-".</source>
         <translation>%1 现在归您所有，并指向端口 %2：编辑器不涉及端口。可用“-”将其移除。</translation>
     </message>
     <message>
@@ -1110,11 +1110,11 @@
         <translation>所有驱动器号均已占用。</translation>
     </message>
     <message>
-        <source>No drive has been connected yet: there is no folder &quot;%1&quot;.</source>
+        <source>No drive has been connected yet: there is no folder "%1".</source>
         <translation>尚未连接任何驱动器：没有文件夹“%1”。</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>没有程序可以显示文件夹“%1”。</translation>
     </message>
 </context>
@@ -1173,7 +1173,7 @@
 <context>
     <name>EncodedTextFile</name>
     <message>
-        <source>There is no codec &quot;%1&quot;.</source>
+        <source>There is no codec "%1".</source>
         <translation>没有编解码器“%1”。</translation>
     </message>
     <message>
@@ -1697,7 +1697,7 @@ It tells success only if part of the answer still comes in while it reads. An an
 <context>
     <name>FolderJobBar</name>
     <message>
-        <source>Relative paths start at the program&apos;s folder; several paths are separated by &quot;%1&quot;.</source>
+        <source>Relative paths start at the program's folder; several paths are separated by "%1".</source>
         <translation>相对路径从程序的文件夹开始；多个路径以“%1”分隔。</translation>
     </message>
 </context>
@@ -1929,11 +1929,11 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>显示状态(&amp;U)</translation>
     </message>
     <message>
-        <source>Show &amp;box &quot;Active&quot;</source>
+        <source>Show &amp;box "Active"</source>
         <translation>显示复选框“激活”(&amp;B)</translation>
     </message>
     <message>
-        <source>Show box &quot;&amp;Erase&quot;</source>
+        <source>Show box "&amp;Erase"</source>
         <translation>显示复选框“删除”(&amp;E)</translation>
     </message>
     <message>
@@ -2083,38 +2083,38 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>--%1 需要一个值。</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
+        <source>Unexpected argument "%1".</source>
         <translation>意外的参数“%1”。</translation>
     </message>
     <message>
-        <source>There is no page &quot;%1&quot;. The pages are: %2.</source>
+        <source>There is no page "%1". The pages are: %2.</source>
         <translation>没有页面“%1”。可用页面：%2。</translation>
     </message>
     <message>
-        <source>There is no style &quot;%1&quot;. The styles are: %2.</source>
+        <source>There is no style "%1". The styles are: %2.</source>
         <translation>没有样式“%1”。可用样式：%2。</translation>
     </message>
     <message>
-        <source>There is no palette &quot;%1&quot;. The palettes are: light, dark.</source>
-        <translation>没有调色板“%1”。可用调色板：light、dark。</translation>
+        <source>There is no language "%1". The languages are: %2.</source>
+        <translation>没有语言“%1”。可用语言：%2。</translation>
     </message>
     <message>
-        <source>There is no language &quot;%1&quot;. The languages are: %2.</source>
-        <translation>没有语言“%1”。可用语言：%2。</translation>
+        <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
+        <translation>没有调色板“%1”。可用的调色板：light、dark、contrast。</translation>
     </message>
 </context>
 <context>
     <name>GalleryGrabber</name>
     <message>
-        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <source>The folder "%1" cannot be made.</source>
         <translation>无法创建文件夹“%1”。</translation>
     </message>
     <message>
-        <source>The page &quot;%1&quot; was not ready after %2 seconds.</source>
+        <source>The page "%1" was not ready after %2 seconds.</source>
         <translation>页面“%1”在 %2 秒后仍未就绪。</translation>
     </message>
     <message>
-        <source>The picture &quot;%1&quot; cannot be written: %2.</source>
+        <source>The picture "%1" cannot be written: %2.</source>
         <translation>无法写入图片“%1”：%2。</translation>
     </message>
 </context>
@@ -2172,6 +2172,10 @@ It tells success only if part of the answer still comes in while it reads. An an
     <message>
         <source>Language</source>
         <translation>语言</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>高对比度</translation>
     </message>
 </context>
 <context>
@@ -2310,7 +2314,7 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>均分(&amp;H)</translation>
     </message>
     <message>
-        <source>Each zone&apos;s share of the width: a half with two pictures, also when the window changes</source>
+        <source>Each zone's share of the width: a half with two pictures, also when the window changes</source>
         <translation>按每个区域所占的宽度显示：两张图片时各占一半，窗口变化时亦然</translation>
     </message>
     <message>
@@ -2419,31 +2423,31 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>其中没有 JSON 对象。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not known.</source>
+        <source>"%1" is not known.</source>
         <translation>“%1”未知。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no text.</source>
+        <source>"%1" is no text.</source>
         <translation>“%1”不是文本。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither true nor false.</source>
+        <source>"%1" is neither true nor false.</source>
         <translation>“%1”既不是 true 也不是 false。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <source>"%1" is no number from %2 to %3.</source>
         <translation>“%1”不是 %2 到 %3 之间的数字。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number.</source>
+        <source>"%1" is no whole number.</source>
         <translation>“%1”不是整数。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no object.</source>
+        <source>"%1" is no object.</source>
         <translation>“%1”不是对象。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is missing.</source>
+        <source>"%1" is missing.</source>
         <translation>缺少“%1”。</translation>
     </message>
 </context>
@@ -2615,6 +2619,40 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
 </context>
 <context>
+    <name>LocalMariaDbServer</name>
+    <message>
+        <source>the user has no name</source>
+        <translation>用户没有名称</translation>
+    </message>
+    <message>
+        <source>the database "%1" is the closed one</source>
+        <translation>数据库“%1”是不开放的那个</translation>
+    </message>
+</context>
+<context>
+    <name>LocalServer</name>
+    <message>
+        <source>no folder for the server: %1</source>
+        <translation>没有服务器的文件夹：%1</translation>
+    </message>
+    <message>
+        <source>%1 does not start: %2</source>
+        <translation>%1 无法启动：%2</translation>
+    </message>
+    <message>
+        <source>%1 is not ready in time</source>
+        <translation>%1 未能及时就绪</translation>
+    </message>
+    <message>
+        <source>%1 ended before it was ready</source>
+        <translation>%1 在就绪之前已结束</translation>
+    </message>
+    <message>
+        <source>%1 told no port but "%2"</source>
+        <translation>%1 没有给出端口，而是“%2”</translation>
+    </message>
+</context>
+<context>
     <name>LocalServerPanel</name>
     <message>
         <source>Ser&amp;ver:</source>
@@ -2637,7 +2675,7 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>服务器未启动：%1</translation>
     </message>
     <message>
-        <source>&quot;./dev setup&quot; installs what is needed.</source>
+        <source>"./dev setup" installs what is needed.</source>
         <translation>“./dev setup”会安装所需的内容。</translation>
     </message>
     <message>
@@ -2647,6 +2685,24 @@ It tells success only if part of the answer still comes in while it reads. An an
     <message>
         <source>The server has stopped by itself: %1</source>
         <translation>服务器已自行停止：%1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalUpdateService</name>
+    <message>
+        <source>no folder for the replies: %1</source>
+        <translation>没有应答的文件夹：%1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalWebServer</name>
+    <message>
+        <source>there is no file %1</source>
+        <translation>没有文件 %1</translation>
+    </message>
+    <message>
+        <source>%1 is no file with a certificate</source>
+        <translation>%1 不是含有证书的文件</translation>
     </message>
 </context>
 <context>
@@ -2750,7 +2806,7 @@ It tells success only if part of the answer still comes in while it reads. An an
 <context>
     <name>LogPage</name>
     <message>
-        <source>The log of this very program, live: Qt&apos;s own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
+        <source>The log of this very program, live: Qt's own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
         <translation>此程序的实时日志：Qt 自身的消息、程序输出的行，以及一个从多个线程写入带子条目的条目的作业。</translation>
     </message>
     <message>
@@ -2841,11 +2897,11 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>安装徽标</translation>
     </message>
     <message>
-        <source>Remove the installed logo &quot;%1&quot;?</source>
+        <source>Remove the installed logo "%1"?</source>
         <translation>要移除已安装的徽标“%1”吗？</translation>
     </message>
     <message>
-        <source>Remove the copy &quot;%1&quot;?</source>
+        <source>Remove the copy "%1"?</source>
         <translation>要移除副本“%1”吗？</translation>
     </message>
     <message>
@@ -2877,7 +2933,7 @@ It tells success only if part of the answer still comes in while it reads. An an
         <translation>副本，因为没有已安装的徽标。</translation>
     </message>
     <message>
-        <source>The gallery&apos;s own picture.</source>
+        <source>The gallery's own picture.</source>
         <translation>展示程序自带的图片。</translation>
     </message>
 </context>
@@ -2982,7 +3038,7 @@ Press room</source>
         <translation>打开缺失的手册(&amp;G)</translation>
     </message>
     <message>
-        <source>The manual of this gallery, in the system&apos;s viewer of PDF files.</source>
+        <source>The manual of this gallery, in the system's viewer of PDF files.</source>
         <translation>此展示程序的手册，在系统的 PDF 查看器中打开。</translation>
     </message>
 </context>
@@ -3021,7 +3077,7 @@ Press room</source>
         <translation>进度</translation>
     </message>
     <message>
-        <source>On a server the table &quot;%1&quot; is dropped, made anew and left there.</source>
+        <source>On a server the table "%1" is dropped, made anew and left there.</source>
         <translation>在服务器上，表“%1”会被删除、重新创建并保留在那里。</translation>
     </message>
     <message>
@@ -3130,19 +3186,19 @@ Press room</source>
 <context>
     <name>OemLogo</name>
     <message>
-        <source>The logo &quot;%1&quot; cannot be written: %2.</source>
+        <source>The logo "%1" cannot be written: %2.</source>
         <translation>无法写入徽标“%1”：%2。</translation>
     </message>
     <message>
-        <source>No copy is kept: the folder &quot;%1&quot; cannot be written.</source>
+        <source>No copy is kept: the folder "%1" cannot be written.</source>
         <translation>未保留副本：无法写入文件夹“%1”。</translation>
     </message>
     <message>
-        <source>No copy is kept: there is no folder &quot;%1&quot;.</source>
+        <source>No copy is kept: there is no folder "%1".</source>
         <translation>未保留副本：没有文件夹“%1”。</translation>
     </message>
     <message>
-        <source>The logo &quot;%1&quot; cannot be removed: %2.</source>
+        <source>The logo "%1" cannot be removed: %2.</source>
         <translation>无法移除徽标“%1”：%2。</translation>
     </message>
 </context>
@@ -3523,15 +3579,15 @@ b* %3
         <translation>所有文件 (*)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file.</source>
+        <source>"%1" is no file.</source>
         <translation>“%1”不是文件。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <source>"%1" cannot be read: %2.</source>
         <translation>无法读取“%1”：%2。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
+        <source>"%1" is too large: %2 × %3 pixels, which take more than %4 MB of memory.</source>
         <translation>“%1”过大：%2 × %3 像素，需要超过 %4 MB 的内存。</translation>
     </message>
 </context>
@@ -3584,7 +3640,7 @@ b* %3
         <translation>这些设置已保存。</translation>
     </message>
     <message>
-        <source>The page&apos;s defaults; nothing is saved yet.</source>
+        <source>The page's defaults; nothing is saved yet.</source>
         <translation>页面的默认值；尚未保存任何内容。</translation>
     </message>
     <message>
@@ -3592,7 +3648,7 @@ b* %3
         <translation>来自插件的配置页面</translation>
     </message>
     <message>
-        <source>No plug-in was found. Plug-ins are looked for in the folder &quot;%1&quot;; put one there and start the gallery again.</source>
+        <source>No plug-in was found. Plug-ins are looked for in the folder "%1"; put one there and start the gallery again.</source>
         <translation>未找到插件。插件在文件夹“%1”中查找；请将插件放入其中，然后重新启动展示程序。</translation>
     </message>
     <message>
@@ -3859,7 +3915,7 @@ b* %3
         <translation>打开 PDF(&amp;O)</translation>
     </message>
     <message numerus="yes">
-        <source>%n page(s) in &quot;%1&quot;</source>
+        <source>%n page(s) in "%1"</source>
         <translation>
             <numerusform>“%1”中有 %n 页</numerusform>
         </translation>
@@ -4456,15 +4512,15 @@ b* %3
         <translation>版本</translation>
     </message>
     <message>
-        <source>&quot;Download and Install&quot; writes the file to &quot;%1&quot;, which a check makes where it is missing, &quot;Download&quot; to the folder that you choose. The file is a harmless text. &quot;Install&quot; opens it with the desktop&apos;s program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: &quot;Show in Folder&quot; shows the file.</source>
+        <source>"Download and Install" writes the file to "%1", which a check makes where it is missing, "Download" to the folder that you choose. The file is a harmless text. "Install" opens it with the desktop's program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: "Show in Folder" shows the file.</source>
         <translation>“下载并安装”会将文件写入“%1”（不存在时由检查操作创建），“下载”则写入您选择的文件夹。该文件是无害的文本。“安装”会用桌面的文本程序打开它，并关闭展示程序的所有窗口。没有此类程序时不会有任何反应：“在文件夹中显示”会显示该文件。</translation>
     </message>
     <message>
-        <source>There is no folder &quot;%1&quot;.</source>
+        <source>There is no folder "%1".</source>
         <translation>没有文件夹“%1”。</translation>
     </message>
     <message>
-        <source>No program shows the folder &quot;%1&quot;.</source>
+        <source>No program shows the folder "%1".</source>
         <translation>没有程序可以显示文件夹“%1”。</translation>
     </message>
     <message>
@@ -4475,8 +4531,8 @@ b* %3
 <context>
     <name>UpdateOffer</name>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;此版本的新内容&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;数据库：一百万行，逐页浏览&lt;/li&gt;&lt;li&gt;更新：即您正在查看的内容&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;更多信息见 &lt;a href=&quot;https://www.tovra.example&quot;&gt;www.tovra.example&lt;/a&gt;。&lt;/p&gt;</translation>
+        <source>&lt;p&gt;&lt;b&gt;New in this release&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Databases: a million rows, page by page&lt;/li&gt;&lt;li&gt;Updates: what you are looking at&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;More at &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;此版本的新内容&lt;/b&gt;&lt;/p&gt;&lt;ul&gt;&lt;li&gt;数据库：一百万行，逐页浏览&lt;/li&gt;&lt;li&gt;更新：即您正在查看的内容&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;更多信息见 &lt;a href="https://www.tovra.example"&gt;www.tovra.example&lt;/a&gt;。&lt;/p&gt;</translation>
     </message>
     <message>
         <source>And one more thing. </source>
@@ -4751,11 +4807,11 @@ b* %3
         <translation>JSON 文件 (*.json);;所有文件 (*)</translation>
     </message>
     <message>
-        <source>File &quot;%1&quot;</source>
+        <source>File "%1"</source>
         <translation>文件“%1”</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is not shown.</source>
+        <source>The file "%1" is not shown.</source>
         <translation>未显示文件“%1”。</translation>
     </message>
     <message>
@@ -4808,7 +4864,7 @@ b* %3
         <translation>访问页面(&amp;T)</translation>
     </message>
     <message>
-        <source>the box &quot;Enabled&quot; of the panel is not checked</source>
+        <source>the box "Enabled" of the panel is not checked</source>
         <translation>面板的复选框“启用”未勾选</translation>
     </message>
     <message>
@@ -4874,7 +4930,7 @@ b* %3
         <translation>尚未保存任何内容。</translation>
     </message>
     <message>
-        <source>The example is for the user &quot;%1&quot; with the password &quot;%2&quot;.</source>
+        <source>The example is for the user "%1" with the password "%2".</source>
         <translation>示例的用户为“%1”，密码为“%2”。</translation>
     </message>
     <message>
@@ -4971,7 +5027,7 @@ b* %3
         <translation>控件状态</translation>
     </message>
     <message>
-        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program&apos;s settings. Another gives them back.</source>
+        <source>One call keeps the place and size of a window, its splitters and the columns of its views, in one nested dictionary for the program's settings. Another gives them back.</source>
         <translation>一次调用即可将窗口的位置和大小、其分隔条及视图的列保存到一个嵌套字典中，供程序的设置使用。另一次调用可将其恢复。</translation>
     </message>
     <message>

@@ -224,35 +224,35 @@ Please disconnect a network Network Drive and retry.</source>
         <translation>إرسال رسالة اختبار</translation>
     </message>
     <message>
-        <source>Field &apos;Sender&apos; is empty, please add sender address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Sender' is empty, please add sender address which contain '.' and '@'.</source>
         <translation>الحقل «المرسل» فارغ، يُرجى إدخال عنوان مرسل يحتوي على «.» و«@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'Sender', please add sender address which contain a '@'.</source>
         <translation>ينقص «@» في الحقل «المرسل»، يُرجى إدخال عنوان مرسل يحتوي على «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'Sender', please add sender address which contain a '.'.</source>
         <translation>تنقص «.» في الحقل «المرسل»، يُرجى إدخال عنوان مرسل يحتوي على «.».</translation>
     </message>
     <message>
-        <source>Field &apos;To&apos; is empty, please add receiver address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'To' is empty, please add receiver address which contain '.' and '@'.</source>
         <translation>الحقل «إلى» فارغ، يُرجى إدخال عنوان مستلم يحتوي على «.» و«@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'To', please add receiver address which contain a '@'.</source>
         <translation>ينقص «@» في الحقل «إلى»، يُرجى إدخال عنوان مستلم يحتوي على «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'To', please add receiver address which contain a '.'.</source>
         <translation>تنقص «.» في الحقل «إلى»، يُرجى إدخال عنوان مستلم يحتوي على «.».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'cC', please add receiver address which contain a '@'.</source>
         <translation>ينقص «@» في الحقل «نسخة»، يُرجى إدخال عنوان مستلم يحتوي على «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'cC', please add receiver address which contain a '.'.</source>
         <translation>تنقص «.» في الحقل «نسخة»، يُرجى إدخال عنوان مستلم يحتوي على «.».</translation>
     </message>
     <message>
@@ -296,23 +296,23 @@ Please disconnect a network Network Drive and retry.</source>
         <translation>‫عنوان المستلم:</translation>
     </message>
     <message>
-        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>هذه رسالة اختبار من برنامج Tovra ProofKeeper.<byte value="xd"/>
-<byte value="xd"/>
-حقوق النشر %1 Tovra Hue Works<byte value="xd"/>
+        <translation>هذه رسالة اختبار من برنامج Tovra ProofKeeper.<byte value="xd" />
+<byte value="xd" />
+حقوق النشر %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
-        <source>This is a test message sent by %1 software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <source>This is a test message sent by %1 software.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>هذه رسالة اختبار من برنامج %1.<byte value="xd"/>
-<byte value="xd"/>
-حقوق النشر %2 %3<byte value="xd"/>
+        <translation>هذه رسالة اختبار من برنامج %1.<byte value="xd" />
+<byte value="xd" />
+حقوق النشر %2 %3<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
@@ -322,6 +322,30 @@ https://www.tovra.example</translation>
     <message>
         <source>%1 test message.</source>
         <translation>رسالة اختبار من %1.</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>اسم الدخول</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>كلمة المرور</translation>
+    </message>
+    <message>
+        <source>SMTP Server</source>
+        <translation>خادم SMTP</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>من</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>إلى</translation>
+    </message>
+    <message>
+        <source>Cc</source>
+        <translation>نسخة</translation>
     </message>
 </context>
 <context>
@@ -554,7 +578,7 @@ https://www.tovra.example</translation>
         <translation>فشل اتصال SSH بالخادم.</translation>
     </message>
     <message>
-        <source>The server&apos;s last message: %1</source>
+        <source>The server's last message: %1</source>
         <translation>آخر رسالة من الخادم: ‎%1‎</translation>
     </message>
     <message>
@@ -566,7 +590,7 @@ https://www.tovra.example</translation>
         <translation>عنوان البريد هذا طويل جدًا: %1</translation>
     </message>
     <message>
-        <source>Letters such as those before the &apos;@&apos; of this address cannot be sent: %1</source>
+        <source>Letters such as those before the '@' of this address cannot be sent: %1</source>
         <translation>لا يمكن إرسال أحرف كالتي قبل «@» في هذا العنوان: %1</translation>
     </message>
     <message>
@@ -574,11 +598,11 @@ https://www.tovra.example</translation>
         <translation>هذا ليس عنوان بريد: %1</translation>
     </message>
     <message>
-        <source>The mail settings name no sender (field &apos;From&apos;).</source>
+        <source>The mail settings name no sender (field 'From').</source>
         <translation>لا تحدد إعدادات البريد أي مرسل (الحقل «من»).</translation>
     </message>
     <message>
-        <source>The mail settings name no receiver (field &apos;To&apos;).</source>
+        <source>The mail settings name no receiver (field 'To').</source>
         <translation>لا تحدد إعدادات البريد أي مستلم (الحقل «إلى»).</translation>
     </message>
     <message>
@@ -586,11 +610,11 @@ https://www.tovra.example</translation>
         <translation>يتطلب خادم البريد تسجيل الدخول أو التشفير.</translation>
     </message>
     <message>
-        <source>The mail server refused the sender&apos;s address.</source>
+        <source>The mail server refused the sender's address.</source>
         <translation>رفض خادم البريد عنوان المرسل.</translation>
     </message>
     <message>
-        <source>The mail server refused a receiver&apos;s address. The mail was sent to nobody.</source>
+        <source>The mail server refused a receiver's address. The mail was sent to nobody.</source>
         <translation>رفض خادم البريد عنوان أحد المستلمين. لم تُرسل الرسالة إلى أحد.</translation>
     </message>
     <message>
@@ -598,7 +622,7 @@ https://www.tovra.example</translation>
         <translation>رفض خادم البريد الرسالة.</translation>
     </message>
     <message>
-        <source>The mail settings name no server (field &apos;SMTP Server&apos;).</source>
+        <source>The mail settings name no server (field 'SMTP Server').</source>
         <translation>لا تحدد إعدادات البريد أي خادم (الحقل «خادم SMTP»).</translation>
     </message>
     <message>
@@ -606,11 +630,11 @@ https://www.tovra.example</translation>
         <translation>هذا ليس اسم خادم بريد: %1</translation>
     </message>
     <message>
-        <source>The mail server&apos;s port is above 65535: %1</source>
+        <source>The mail server's port is above 65535: %1</source>
         <translation>منفذ خادم البريد أكبر من 65535: %1</translation>
     </message>
     <message>
-        <source>The mail settings ask for an unknown encryption: &apos;%1&apos;</source>
+        <source>The mail settings ask for an unknown encryption: '%1'</source>
         <translation>تطلب إعدادات البريد تشفيرًا غير معروف: «%1»</translation>
     </message>
     <message>
@@ -802,6 +826,10 @@ The application will exit.</source>
     <message>
         <source>Page:</source>
         <translation>الصفحة:</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>الصفحة</translation>
     </message>
 </context>
 <context>
@@ -1044,31 +1072,31 @@ The application will exit.</source>
         <translation>إرسال</translation>
     </message>
     <message>
-        <source>Field &apos;Name&apos; hasn&apos;t been set, please set a &quot;Name&quot;.</source>
+        <source>Field 'Name' hasn't been set, please set a "Name".</source>
         <translation>الحقل «الاسم» فارغ، يُرجى إدخال اسم.</translation>
     </message>
     <message>
-        <source>Field &apos;Company&apos; hasn&apos;t been set, please set a &apos;Company&apos;.</source>
+        <source>Field 'Company' hasn't been set, please set a 'Company'.</source>
         <translation>الحقل «الشركة» فارغ، يُرجى إدخال شركة.</translation>
     </message>
     <message>
-        <source>Field &apos;Subject&apos; hasn&apos;t been set, please set a &apos;Subject&apos;.</source>
+        <source>Field 'Subject' hasn't been set, please set a 'Subject'.</source>
         <translation>الحقل «الموضوع» فارغ، يُرجى إدخال موضوع.</translation>
     </message>
     <message>
-        <source>Field &apos;Description&apos; hasn&apos;t been set, please set a &apos;Description&apos;.</source>
+        <source>Field 'Description' hasn't been set, please set a 'Description'.</source>
         <translation>الحقل «الوصف» فارغ، يُرجى إدخال وصف.</translation>
     </message>
     <message>
-        <source>Field &apos;Login&apos; is empty, please add an E-Mail Address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Login' is empty, please add an E-Mail Address which contain '.' and '@'.</source>
         <translation>الحقل «عنوان البريد الإلكتروني» فارغ، يُرجى إدخال عنوان بريد إلكتروني يحتوي على «.» و«@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'E-Mail Address', please add a login which contain a '@'.</source>
         <translation>ينقص «@» في الحقل «عنوان البريد الإلكتروني»، يُرجى إدخال عنوان يحتوي على «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'E-Mail Address', please add a login which contain a '.'.</source>
         <translation>تنقص «.» في الحقل «عنوان البريد الإلكتروني»، يُرجى إدخال عنوان يحتوي على «.».</translation>
     </message>
     <message>
@@ -1088,12 +1116,28 @@ The application will exit.</source>
         <translation>تعذّر إرسال الملاحظات</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
+        <source>Feedback hasn't been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
         <translation>لم تُرسل الملاحظات إلى فريقنا، ربما خدمة الملاحظات غير متاحة حاليًا. يُرجى إعادة المحاولة لاحقًا.</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, because the following error occured:%1.</source>
+        <source>Feedback hasn't been send to our team, because the following error occured:%1.</source>
         <translation>لم تُرسل الملاحظات إلى فريقنا بسبب الخطأ التالي: %1.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>الشركة</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>الموضوع</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>الوصف</translation>
     </message>
 </context>
 <context>
@@ -1196,6 +1240,13 @@ The application will exit.</source>
     </message>
 </context>
 <context>
+    <name>TXReportAccessible</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>الصفحة %1 من %2</translation>
+    </message>
+</context>
+<context>
     <name>TXReportDocument</name>
     <message>
         <source>This is not a file name.</source>
@@ -1206,23 +1257,23 @@ The application will exit.</source>
         <translation>هذا ليس ملفًا عاديًا.</translation>
     </message>
     <message>
-        <source>The report could not be written to &quot;%2&quot;: %1</source>
+        <source>The report could not be written to "%2": %1</source>
         <translation>تعذّرت كتابة التقرير في «‎%2»: %1</translation>
     </message>
     <message>
-        <source>The document&apos;s data could not be added to the PDF.</source>
+        <source>The document's data could not be added to the PDF.</source>
         <translation>تعذّرت إضافة بيانات المستند إلى ملف PDF.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not take the page size of the report.</source>
+        <source>The printer "%1" does not take the page size of the report.</source>
         <translation>لا تقبل الطابعة «%1» مقاس صفحات التقرير.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; can&apos;t be started.</source>
+        <source>The printer "%1" can't be started.</source>
         <translation>يتعذر تشغيل الطابعة «%1».</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; has stopped in the middle.</source>
+        <source>The printer "%1" has stopped in the middle.</source>
         <translation>توقفت الطابعة «%1» في منتصف العمل.</translation>
     </message>
     <message>
@@ -1531,6 +1582,10 @@ The application will exit.</source>
     <message>
         <source>&amp;nbsp;&amp;nbsp;&amp;nbsp;(to be used only from this computer)</source>
         <translation>&amp;nbsp;&amp;nbsp;&amp;nbsp;(للاستخدام من هذا الكمبيوتر فقط)</translation>
+    </message>
+    <message>
+        <source>Active Addresses</source>
+        <translation>العناوين النشطة</translation>
     </message>
 </context>
 <context>

@@ -224,35 +224,35 @@ Bitte trennen Sie ein Netzlaufwerk und versuchen Sie es noch einmal.</translatio
         <translation>Testmail senden</translation>
     </message>
     <message>
-        <source>Field &apos;Sender&apos; is empty, please add sender address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Sender' is empty, please add sender address which contain '.' and '@'.</source>
         <translation>Das Feld „Absender“ ist leer. Bitte geben Sie eine Absenderadresse ein, die „.“ und „@“ enthält.</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'Sender', please add sender address which contain a '@'.</source>
         <translation>Im Feld „Absender“ fehlt ein „@“. Bitte geben Sie eine Absenderadresse ein, die ein „@“ enthält.</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'Sender', please add sender address which contain a '.'.</source>
         <translation>Im Feld „Absender“ fehlt ein „.“. Bitte geben Sie eine Absenderadresse ein, die einen „.“ enthält.</translation>
     </message>
     <message>
-        <source>Field &apos;To&apos; is empty, please add receiver address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'To' is empty, please add receiver address which contain '.' and '@'.</source>
         <translation>Das Feld „An“ ist leer. Bitte geben Sie eine Empfängeradresse ein, die „.“ und „@“ enthält.</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'To', please add receiver address which contain a '@'.</source>
         <translation>Im Feld „An“ fehlt ein „@“. Bitte geben Sie eine Empfängeradresse ein, die ein „@“ enthält.</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'To', please add receiver address which contain a '.'.</source>
         <translation>Im Feld „An“ fehlt ein „.“. Bitte geben Sie eine Empfängeradresse ein, die einen „.“ enthält.</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'cC', please add receiver address which contain a '@'.</source>
         <translation>Im Feld „Cc“ fehlt ein „@“. Bitte geben Sie eine Empfängeradresse ein, die ein „@“ enthält.</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'cC', please add receiver address which contain a '.'.</source>
         <translation>Im Feld „Cc“ fehlt ein „.“. Bitte geben Sie eine Empfängeradresse ein, die einen „.“ enthält.</translation>
     </message>
     <message>
@@ -296,23 +296,23 @@ Bitte trennen Sie ein Netzlaufwerk und versuchen Sie es noch einmal.</translatio
         <translation>Empfänger:</translation>
     </message>
     <message>
-        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>Dies ist eine Testnachricht der Software Tovra ProofKeeper.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <translation>Dies ist eine Testnachricht der Software Tovra ProofKeeper.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
-        <source>This is a test message sent by %1 software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <source>This is a test message sent by %1 software.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>Dies ist eine Testnachricht der Software %1.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <translation>Dies ist eine Testnachricht der Software %1.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
@@ -322,6 +322,30 @@ https://www.tovra.example</translation>
     <message>
         <source>%1 test message.</source>
         <translation>Testnachricht von %1.</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Anmeldename</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>SMTP Server</source>
+        <translation>SMTP-Server</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>An</translation>
+    </message>
+    <message>
+        <source>Cc</source>
+        <translation>Cc</translation>
     </message>
 </context>
 <context>
@@ -554,7 +578,7 @@ https://www.tovra.example</translation>
         <translation>Die SSH-Verbindung zum Server ist fehlgeschlagen.</translation>
     </message>
     <message>
-        <source>The server&apos;s last message: %1</source>
+        <source>The server's last message: %1</source>
         <translation>Letzte Meldung des Servers: %1</translation>
     </message>
     <message>
@@ -566,7 +590,7 @@ https://www.tovra.example</translation>
         <translation>Diese Mailadresse ist zu lang: %1</translation>
     </message>
     <message>
-        <source>Letters such as those before the &apos;@&apos; of this address cannot be sent: %1</source>
+        <source>Letters such as those before the '@' of this address cannot be sent: %1</source>
         <translation>Buchstaben wie die vor dem „@“ dieser Adresse können nicht gesendet werden: %1</translation>
     </message>
     <message>
@@ -574,11 +598,11 @@ https://www.tovra.example</translation>
         <translation>Das ist keine Mailadresse: %1</translation>
     </message>
     <message>
-        <source>The mail settings name no sender (field &apos;From&apos;).</source>
+        <source>The mail settings name no sender (field 'From').</source>
         <translation>Die Maileinstellungen nennen keinen Absender (Feld „Von“).</translation>
     </message>
     <message>
-        <source>The mail settings name no receiver (field &apos;To&apos;).</source>
+        <source>The mail settings name no receiver (field 'To').</source>
         <translation>Die Maileinstellungen nennen keinen Empfänger (Feld „An“).</translation>
     </message>
     <message>
@@ -586,11 +610,11 @@ https://www.tovra.example</translation>
         <translation>Der Mailserver verlangt eine Anmeldung oder Verschlüsselung.</translation>
     </message>
     <message>
-        <source>The mail server refused the sender&apos;s address.</source>
+        <source>The mail server refused the sender's address.</source>
         <translation>Der Mailserver hat die Adresse des Absenders abgelehnt.</translation>
     </message>
     <message>
-        <source>The mail server refused a receiver&apos;s address. The mail was sent to nobody.</source>
+        <source>The mail server refused a receiver's address. The mail was sent to nobody.</source>
         <translation>Der Mailserver hat die Adresse eines Empfängers abgelehnt. Die Mail wurde an niemanden gesendet.</translation>
     </message>
     <message>
@@ -598,7 +622,7 @@ https://www.tovra.example</translation>
         <translation>Der Mailserver hat die Mail abgelehnt.</translation>
     </message>
     <message>
-        <source>The mail settings name no server (field &apos;SMTP Server&apos;).</source>
+        <source>The mail settings name no server (field 'SMTP Server').</source>
         <translation>Die Maileinstellungen nennen keinen Server (Feld „SMTP-Server“).</translation>
     </message>
     <message>
@@ -606,11 +630,11 @@ https://www.tovra.example</translation>
         <translation>Das ist kein Name eines Mailservers: %1</translation>
     </message>
     <message>
-        <source>The mail server&apos;s port is above 65535: %1</source>
+        <source>The mail server's port is above 65535: %1</source>
         <translation>Der Port des Mailservers liegt über 65535: %1</translation>
     </message>
     <message>
-        <source>The mail settings ask for an unknown encryption: &apos;%1&apos;</source>
+        <source>The mail settings ask for an unknown encryption: '%1'</source>
         <translation>Die Maileinstellungen verlangen eine unbekannte Verschlüsselung: „%1“</translation>
     </message>
     <message>
@@ -798,6 +822,10 @@ Die Anwendung wird beendet.</translation>
     <message>
         <source>Page:</source>
         <translation>Seite:</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
     </message>
 </context>
 <context>
@@ -1020,31 +1048,31 @@ Die Anwendung wird beendet.</translation>
         <translation>Absenden</translation>
     </message>
     <message>
-        <source>Field &apos;Name&apos; hasn&apos;t been set, please set a &quot;Name&quot;.</source>
+        <source>Field 'Name' hasn't been set, please set a "Name".</source>
         <translation>Das Feld „Name“ ist leer. Bitte geben Sie einen Namen ein.</translation>
     </message>
     <message>
-        <source>Field &apos;Company&apos; hasn&apos;t been set, please set a &apos;Company&apos;.</source>
+        <source>Field 'Company' hasn't been set, please set a 'Company'.</source>
         <translation>Das Feld „Firma“ ist leer. Bitte geben Sie eine Firma ein.</translation>
     </message>
     <message>
-        <source>Field &apos;Subject&apos; hasn&apos;t been set, please set a &apos;Subject&apos;.</source>
+        <source>Field 'Subject' hasn't been set, please set a 'Subject'.</source>
         <translation>Das Feld „Betreff“ ist leer. Bitte geben Sie einen Betreff ein.</translation>
     </message>
     <message>
-        <source>Field &apos;Description&apos; hasn&apos;t been set, please set a &apos;Description&apos;.</source>
+        <source>Field 'Description' hasn't been set, please set a 'Description'.</source>
         <translation>Das Feld „Beschreibung“ ist leer. Bitte geben Sie eine Beschreibung ein.</translation>
     </message>
     <message>
-        <source>Field &apos;Login&apos; is empty, please add an E-Mail Address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Login' is empty, please add an E-Mail Address which contain '.' and '@'.</source>
         <translation>Das Feld „E-Mail-Adresse“ ist leer. Bitte geben Sie eine E-Mail-Adresse ein, die „.“ und „@“ enthält.</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'E-Mail Address', please add a login which contain a '@'.</source>
         <translation>Im Feld „E-Mail-Adresse“ fehlt ein „@“. Bitte geben Sie eine Adresse ein, die ein „@“ enthält.</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'E-Mail Address', please add a login which contain a '.'.</source>
         <translation>Im Feld „E-Mail-Adresse“ fehlt ein „.“. Bitte geben Sie eine Adresse ein, die einen „.“ enthält.</translation>
     </message>
     <message>
@@ -1064,12 +1092,28 @@ Die Anwendung wird beendet.</translation>
         <translation>Das Feedback konnte nicht gesendet werden</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
+        <source>Feedback hasn't been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
         <translation>Ihr Feedback wurde nicht an unser Team gesendet, vielleicht ist der Feedback-Dienst zurzeit nicht erreichbar. Bitte versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, because the following error occured:%1.</source>
+        <source>Feedback hasn't been send to our team, because the following error occured:%1.</source>
         <translation>Ihr Feedback wurde nicht an unser Team gesendet, weil dieser Fehler aufgetreten ist: %1.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>Betreff</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
     </message>
 </context>
 <context>
@@ -1172,6 +1216,13 @@ Die Anwendung wird beendet.</translation>
     </message>
 </context>
 <context>
+    <name>TXReportAccessible</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
     <name>TXReportDocument</name>
     <message>
         <source>This is not a file name.</source>
@@ -1182,23 +1233,23 @@ Die Anwendung wird beendet.</translation>
         <translation>Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
-        <source>The report could not be written to &quot;%2&quot;: %1</source>
+        <source>The report could not be written to "%2": %1</source>
         <translation>Der Bericht konnte nicht in „%2“ geschrieben werden: %1</translation>
     </message>
     <message>
-        <source>The document&apos;s data could not be added to the PDF.</source>
+        <source>The document's data could not be added to the PDF.</source>
         <translation>Die Daten des Dokuments konnten nicht in die PDF-Datei aufgenommen werden.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not take the page size of the report.</source>
+        <source>The printer "%1" does not take the page size of the report.</source>
         <translation>Der Drucker „%1“ nimmt das Seitenformat des Berichts nicht an.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; can&apos;t be started.</source>
+        <source>The printer "%1" can't be started.</source>
         <translation>Der Drucker „%1“ kann nicht gestartet werden.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; has stopped in the middle.</source>
+        <source>The printer "%1" has stopped in the middle.</source>
         <translation>Der Drucker „%1“ hat mittendrin angehalten.</translation>
     </message>
     <message>
@@ -1499,6 +1550,10 @@ Die Anwendung wird beendet.</translation>
     <message>
         <source>&amp;nbsp;&amp;nbsp;&amp;nbsp;(to be used only from this computer)</source>
         <translation>&amp;nbsp;&amp;nbsp;&amp;nbsp;(nur von diesem Rechner aus zu benutzen)</translation>
+    </message>
+    <message>
+        <source>Active Addresses</source>
+        <translation>Aktive Adressen</translation>
     </message>
 </context>
 <context>

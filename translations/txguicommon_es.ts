@@ -224,35 +224,35 @@ Desconecte una unidad de red y vuelva a intentarlo.</translation>
         <translation>Enviar correo de prueba</translation>
     </message>
     <message>
-        <source>Field &apos;Sender&apos; is empty, please add sender address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Sender' is empty, please add sender address which contain '.' and '@'.</source>
         <translation>El campo «Remitente» está vacío. Introduzca una dirección de remitente que contenga «.» y «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'Sender', please add sender address which contain a '@'.</source>
         <translation>Falta una «@» en el campo «Remitente». Introduzca una dirección de remitente que contenga una «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'Sender', please add sender address which contain a '.'.</source>
         <translation>Falta un «.» en el campo «Remitente». Introduzca una dirección de remitente que contenga un «.».</translation>
     </message>
     <message>
-        <source>Field &apos;To&apos; is empty, please add receiver address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'To' is empty, please add receiver address which contain '.' and '@'.</source>
         <translation>El campo «Para» está vacío. Introduzca una dirección de destinatario que contenga «.» y «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'To', please add receiver address which contain a '@'.</source>
         <translation>Falta una «@» en el campo «Para». Introduzca una dirección de destinatario que contenga una «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'To', please add receiver address which contain a '.'.</source>
         <translation>Falta un «.» en el campo «Para». Introduzca una dirección de destinatario que contenga un «.».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'cC', please add receiver address which contain a '@'.</source>
         <translation>Falta una «@» en el campo «Cc». Introduzca una dirección de destinatario que contenga una «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'cC', please add receiver address which contain a '.'.</source>
         <translation>Falta un «.» en el campo «Cc». Introduzca una dirección de destinatario que contenga un «.».</translation>
     </message>
     <message>
@@ -296,23 +296,23 @@ Desconecte una unidad de red y vuelva a intentarlo.</translation>
         <translation>Destinatario:</translation>
     </message>
     <message>
-        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>Este es un mensaje de prueba enviado por el software Tovra ProofKeeper.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <translation>Este es un mensaje de prueba enviado por el software Tovra ProofKeeper.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
-        <source>This is a test message sent by %1 software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <source>This is a test message sent by %1 software.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>Este es un mensaje de prueba enviado por el software %1.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <translation>Este es un mensaje de prueba enviado por el software %1.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
@@ -322,6 +322,30 @@ https://www.tovra.example</translation>
     <message>
         <source>%1 test message.</source>
         <translation>Mensaje de prueba de %1.</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>SMTP Server</source>
+        <translation>Servidor SMTP</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Para</translation>
+    </message>
+    <message>
+        <source>Cc</source>
+        <translation>Cc</translation>
     </message>
 </context>
 <context>
@@ -554,7 +578,7 @@ https://www.tovra.example</translation>
         <translation>La conexión SSH con el servidor ha fallado.</translation>
     </message>
     <message>
-        <source>The server&apos;s last message: %1</source>
+        <source>The server's last message: %1</source>
         <translation>Último mensaje del servidor: %1</translation>
     </message>
     <message>
@@ -566,7 +590,7 @@ https://www.tovra.example</translation>
         <translation>Esta dirección de correo es demasiado larga: %1</translation>
     </message>
     <message>
-        <source>Letters such as those before the &apos;@&apos; of this address cannot be sent: %1</source>
+        <source>Letters such as those before the '@' of this address cannot be sent: %1</source>
         <translation>No se pueden enviar letras como las que preceden a la «@» de esta dirección: %1</translation>
     </message>
     <message>
@@ -574,11 +598,11 @@ https://www.tovra.example</translation>
         <translation>Esto no es una dirección de correo: %1</translation>
     </message>
     <message>
-        <source>The mail settings name no sender (field &apos;From&apos;).</source>
+        <source>The mail settings name no sender (field 'From').</source>
         <translation>Los ajustes de correo no indican ningún remitente (campo «De»).</translation>
     </message>
     <message>
-        <source>The mail settings name no receiver (field &apos;To&apos;).</source>
+        <source>The mail settings name no receiver (field 'To').</source>
         <translation>Los ajustes de correo no indican ningún destinatario (campo «Para»).</translation>
     </message>
     <message>
@@ -586,11 +610,11 @@ https://www.tovra.example</translation>
         <translation>El servidor de correo exige inicio de sesión o cifrado.</translation>
     </message>
     <message>
-        <source>The mail server refused the sender&apos;s address.</source>
+        <source>The mail server refused the sender's address.</source>
         <translation>El servidor de correo ha rechazado la dirección del remitente.</translation>
     </message>
     <message>
-        <source>The mail server refused a receiver&apos;s address. The mail was sent to nobody.</source>
+        <source>The mail server refused a receiver's address. The mail was sent to nobody.</source>
         <translation>El servidor de correo ha rechazado la dirección de un destinatario. El correo no se ha enviado a nadie.</translation>
     </message>
     <message>
@@ -598,7 +622,7 @@ https://www.tovra.example</translation>
         <translation>El servidor de correo ha rechazado el correo.</translation>
     </message>
     <message>
-        <source>The mail settings name no server (field &apos;SMTP Server&apos;).</source>
+        <source>The mail settings name no server (field 'SMTP Server').</source>
         <translation>Los ajustes de correo no indican ningún servidor (campo «Servidor SMTP»).</translation>
     </message>
     <message>
@@ -606,11 +630,11 @@ https://www.tovra.example</translation>
         <translation>Esto no es el nombre de un servidor de correo: %1</translation>
     </message>
     <message>
-        <source>The mail server&apos;s port is above 65535: %1</source>
+        <source>The mail server's port is above 65535: %1</source>
         <translation>El puerto del servidor de correo es mayor que 65535: %1</translation>
     </message>
     <message>
-        <source>The mail settings ask for an unknown encryption: &apos;%1&apos;</source>
+        <source>The mail settings ask for an unknown encryption: '%1'</source>
         <translation>Los ajustes de correo piden un cifrado desconocido: «%1»</translation>
     </message>
     <message>
@@ -798,6 +822,10 @@ La aplicación se cerrará.</translation>
     <message>
         <source>Page:</source>
         <translation>Página:</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
     </message>
 </context>
 <context>
@@ -1020,31 +1048,31 @@ La aplicación se cerrará.</translation>
         <translation>Enviar</translation>
     </message>
     <message>
-        <source>Field &apos;Name&apos; hasn&apos;t been set, please set a &quot;Name&quot;.</source>
+        <source>Field 'Name' hasn't been set, please set a "Name".</source>
         <translation>El campo «Nombre» está vacío. Introduzca un nombre.</translation>
     </message>
     <message>
-        <source>Field &apos;Company&apos; hasn&apos;t been set, please set a &apos;Company&apos;.</source>
+        <source>Field 'Company' hasn't been set, please set a 'Company'.</source>
         <translation>El campo «Empresa» está vacío. Introduzca una empresa.</translation>
     </message>
     <message>
-        <source>Field &apos;Subject&apos; hasn&apos;t been set, please set a &apos;Subject&apos;.</source>
+        <source>Field 'Subject' hasn't been set, please set a 'Subject'.</source>
         <translation>El campo «Asunto» está vacío. Introduzca un asunto.</translation>
     </message>
     <message>
-        <source>Field &apos;Description&apos; hasn&apos;t been set, please set a &apos;Description&apos;.</source>
+        <source>Field 'Description' hasn't been set, please set a 'Description'.</source>
         <translation>El campo «Descripción» está vacío. Introduzca una descripción.</translation>
     </message>
     <message>
-        <source>Field &apos;Login&apos; is empty, please add an E-Mail Address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Login' is empty, please add an E-Mail Address which contain '.' and '@'.</source>
         <translation>El campo «Dirección de correo» está vacío. Introduzca una dirección de correo que contenga «.» y «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'E-Mail Address', please add a login which contain a '@'.</source>
         <translation>Falta una «@» en el campo «Dirección de correo». Introduzca una dirección que contenga una «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'E-Mail Address', please add a login which contain a '.'.</source>
         <translation>Falta un «.» en el campo «Dirección de correo». Introduzca una dirección que contenga un «.».</translation>
     </message>
     <message>
@@ -1064,12 +1092,28 @@ La aplicación se cerrará.</translation>
         <translation>No se han podido enviar los comentarios</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
+        <source>Feedback hasn't been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
         <translation>Sus comentarios no se han enviado a nuestro equipo; quizá el servicio de comentarios no esté disponible en este momento. Vuelva a intentarlo más tarde.</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, because the following error occured:%1.</source>
+        <source>Feedback hasn't been send to our team, because the following error occured:%1.</source>
         <translation>Sus comentarios no se han enviado a nuestro equipo porque se ha producido este error: %1.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>Empresa</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>Asunto</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
     </message>
 </context>
 <context>
@@ -1172,6 +1216,13 @@ La aplicación se cerrará.</translation>
     </message>
 </context>
 <context>
+    <name>TXReportAccessible</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+</context>
+<context>
     <name>TXReportDocument</name>
     <message>
         <source>This is not a file name.</source>
@@ -1182,23 +1233,23 @@ La aplicación se cerrará.</translation>
         <translation>Esto no es un archivo normal.</translation>
     </message>
     <message>
-        <source>The report could not be written to &quot;%2&quot;: %1</source>
+        <source>The report could not be written to "%2": %1</source>
         <translation>No se ha podido escribir el informe en «%2»: %1</translation>
     </message>
     <message>
-        <source>The document&apos;s data could not be added to the PDF.</source>
+        <source>The document's data could not be added to the PDF.</source>
         <translation>No se han podido añadir los datos del documento al PDF.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not take the page size of the report.</source>
+        <source>The printer "%1" does not take the page size of the report.</source>
         <translation>La impresora «%1» no admite el tamaño de página del informe.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; can&apos;t be started.</source>
+        <source>The printer "%1" can't be started.</source>
         <translation>No se puede iniciar la impresora «%1».</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; has stopped in the middle.</source>
+        <source>The printer "%1" has stopped in the middle.</source>
         <translation>La impresora «%1» se ha detenido a medias.</translation>
     </message>
     <message>
@@ -1499,6 +1550,10 @@ La aplicación se cerrará.</translation>
     <message>
         <source>&amp;nbsp;&amp;nbsp;&amp;nbsp;(to be used only from this computer)</source>
         <translation>&amp;nbsp;&amp;nbsp;&amp;nbsp;(para usar solo desde este equipo)</translation>
+    </message>
+    <message>
+        <source>Active Addresses</source>
+        <translation>Direcciones activas</translation>
     </message>
 </context>
 <context>

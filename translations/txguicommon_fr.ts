@@ -62,11 +62,11 @@ Veuillez déconnecter un lecteur réseau et réessayer.</translation>
     </message>
     <message>
         <source>Warning: Network Drive Delete?</source>
-        <translation>Avertissement&#xa0;: supprimer le lecteur réseau&#xa0;?</translation>
+        <translation>Avertissement : supprimer le lecteur réseau ?</translation>
     </message>
     <message>
         <source>Do you want to remove selected Network Drive?</source>
-        <translation>Voulez-vous supprimer le lecteur réseau sélectionné&#xa0;?</translation>
+        <translation>Voulez-vous supprimer le lecteur réseau sélectionné ?</translation>
     </message>
 </context>
 <context>
@@ -181,7 +181,7 @@ Veuillez déconnecter un lecteur réseau et réessayer.</translation>
     <name>EMailSenderWidget</name>
     <message>
         <source>Login:</source>
-        <translation>Identifiant&#xa0;:</translation>
+        <translation>Identifiant :</translation>
     </message>
     <message>
         <source>(Optional)</source>
@@ -189,7 +189,7 @@ Veuillez déconnecter un lecteur réseau et réessayer.</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Mot de passe&#xa0;:</translation>
+        <translation>Mot de passe :</translation>
     </message>
     <message>
         <source>Port</source>
@@ -197,7 +197,7 @@ Veuillez déconnecter un lecteur réseau et réessayer.</translation>
     </message>
     <message>
         <source>SMTP Server:</source>
-        <translation>Serveur SMTP&#xa0;:</translation>
+        <translation>Serveur SMTP :</translation>
     </message>
     <message>
         <source>(Required)</source>
@@ -209,51 +209,51 @@ Veuillez déconnecter un lecteur réseau et réessayer.</translation>
     </message>
     <message>
         <source>From:</source>
-        <translation>De&#xa0;:</translation>
+        <translation>De :</translation>
     </message>
     <message>
         <source>To:</source>
-        <translation>À&#xa0;:</translation>
+        <translation>À :</translation>
     </message>
     <message>
         <source>Cc:</source>
-        <translation>Cc&#xa0;:</translation>
+        <translation>Cc :</translation>
     </message>
     <message>
         <source>Send Test Mail</source>
         <translation>Envoyer un test</translation>
     </message>
     <message>
-        <source>Field &apos;Sender&apos; is empty, please add sender address which contain &apos;.&apos; and &apos;@&apos;.</source>
-        <translation>Le champ «&#xa0;Expéditeur&#xa0;» est vide, veuillez saisir une adresse d’expéditeur contenant «&#xa0;.&#xa0;» et «&#xa0;@&#xa0;».</translation>
+        <source>Field 'Sender' is empty, please add sender address which contain '.' and '@'.</source>
+        <translation>Le champ « Expéditeur » est vide, veuillez saisir une adresse d’expéditeur contenant « . » et « @ ».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;@&apos;.</source>
-        <translation>Il manque un «&#xa0;@&#xa0;» dans le champ «&#xa0;Expéditeur&#xa0;», veuillez saisir une adresse d’expéditeur contenant un «&#xa0;@&#xa0;».</translation>
+        <source>Missing a '@' in the field 'Sender', please add sender address which contain a '@'.</source>
+        <translation>Il manque un « @ » dans le champ « Expéditeur », veuillez saisir une adresse d’expéditeur contenant un « @ ».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;.&apos;.</source>
-        <translation>Il manque un «&#xa0;.&#xa0;» dans le champ «&#xa0;Expéditeur&#xa0;», veuillez saisir une adresse d’expéditeur contenant un «&#xa0;.&#xa0;».</translation>
+        <source>Missing a '.' in the field 'Sender', please add sender address which contain a '.'.</source>
+        <translation>Il manque un « . » dans le champ « Expéditeur », veuillez saisir une adresse d’expéditeur contenant un « . ».</translation>
     </message>
     <message>
-        <source>Field &apos;To&apos; is empty, please add receiver address which contain &apos;.&apos; and &apos;@&apos;.</source>
-        <translation>Le champ «&#xa0;À&#xa0;» est vide, veuillez saisir une adresse de destinataire contenant «&#xa0;.&#xa0;» et «&#xa0;@&#xa0;».</translation>
+        <source>Field 'To' is empty, please add receiver address which contain '.' and '@'.</source>
+        <translation>Le champ « À » est vide, veuillez saisir une adresse de destinataire contenant « . » et « @ ».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;@&apos;.</source>
-        <translation>Il manque un «&#xa0;@&#xa0;» dans le champ «&#xa0;À&#xa0;», veuillez saisir une adresse de destinataire contenant un «&#xa0;@&#xa0;».</translation>
+        <source>Missing a '@' in the field 'To', please add receiver address which contain a '@'.</source>
+        <translation>Il manque un « @ » dans le champ « À », veuillez saisir une adresse de destinataire contenant un « @ ».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;.&apos;.</source>
-        <translation>Il manque un «&#xa0;.&#xa0;» dans le champ «&#xa0;À&#xa0;», veuillez saisir une adresse de destinataire contenant un «&#xa0;.&#xa0;».</translation>
+        <source>Missing a '.' in the field 'To', please add receiver address which contain a '.'.</source>
+        <translation>Il manque un « . » dans le champ « À », veuillez saisir une adresse de destinataire contenant un « . ».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;@&apos;.</source>
-        <translation>Il manque un «&#xa0;@&#xa0;» dans le champ «&#xa0;Cc&#xa0;», veuillez saisir une adresse de destinataire contenant un «&#xa0;@&#xa0;».</translation>
+        <source>Missing a '@' in the field 'cC', please add receiver address which contain a '@'.</source>
+        <translation>Il manque un « @ » dans le champ « Cc », veuillez saisir une adresse de destinataire contenant un « @ ».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;.&apos;.</source>
-        <translation>Il manque un «&#xa0;.&#xa0;» dans le champ «&#xa0;Cc&#xa0;», veuillez saisir une adresse de destinataire contenant un «&#xa0;.&#xa0;».</translation>
+        <source>Missing a '.' in the field 'cC', please add receiver address which contain a '.'.</source>
+        <translation>Il manque un « . » dans le champ « Cc », veuillez saisir une adresse de destinataire contenant un « . ».</translation>
     </message>
     <message>
         <source>Uncompleted Mail Configuration</source>
@@ -281,11 +281,11 @@ Veuillez déconnecter un lecteur réseau et réessayer.</translation>
     </message>
     <message>
         <source>SMTP Mail Server:</source>
-        <translation>Serveur de messagerie SMTP&#xa0;:</translation>
+        <translation>Serveur de messagerie SMTP :</translation>
     </message>
     <message>
         <source>Sender Address:</source>
-        <translation>Expéditeur&#xa0;:</translation>
+        <translation>Expéditeur :</translation>
     </message>
     <message>
         <source>name@domain</source>
@@ -293,26 +293,26 @@ Veuillez déconnecter un lecteur réseau et réessayer.</translation>
     </message>
     <message>
         <source>Destination:</source>
-        <translation>Destinataire&#xa0;:</translation>
+        <translation>Destinataire :</translation>
     </message>
     <message>
-        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>Ceci est un message de test envoyé par le logiciel Tovra ProofKeeper.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <translation>Ceci est un message de test envoyé par le logiciel Tovra ProofKeeper.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
-        <source>This is a test message sent by %1 software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <source>This is a test message sent by %1 software.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>Ceci est un message de test envoyé par le logiciel %1.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <translation>Ceci est un message de test envoyé par le logiciel %1.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
@@ -322,6 +322,30 @@ https://www.tovra.example</translation>
     <message>
         <source>%1 test message.</source>
         <translation>Message de test de %1.</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Identifiant</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>SMTP Server</source>
+        <translation>Serveur SMTP</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>À</translation>
+    </message>
+    <message>
+        <source>Cc</source>
+        <translation>Cc</translation>
     </message>
 </context>
 <context>
@@ -531,7 +555,7 @@ https://www.tovra.example</translation>
     </message>
     <message>
         <source>The identity of the server could not be verified: its certificate or key is not trusted or belongs to another server.</source>
-        <translation>L’identité du serveur n’a pas pu être vérifiée&#xa0;: son certificat ou sa clé n’est pas digne de confiance ou appartient à un autre serveur.</translation>
+        <translation>L’identité du serveur n’a pas pu être vérifiée : son certificat ou sa clé n’est pas digne de confiance ou appartient à un autre serveur.</translation>
     </message>
     <message>
         <source>The server does not offer an encrypted connection.</source>
@@ -554,43 +578,43 @@ https://www.tovra.example</translation>
         <translation>La connexion SSH au serveur a échoué.</translation>
     </message>
     <message>
-        <source>The server&apos;s last message: %1</source>
-        <translation>Dernier message du serveur&#xa0;: %1</translation>
+        <source>The server's last message: %1</source>
+        <translation>Dernier message du serveur : %1</translation>
     </message>
     <message>
         <source>This mail address holds a line break or a control character: %1</source>
-        <translation>Cette adresse de courriel contient un saut de ligne ou un caractère de contrôle&#xa0;: %1</translation>
+        <translation>Cette adresse de courriel contient un saut de ligne ou un caractère de contrôle : %1</translation>
     </message>
     <message>
         <source>This mail address is too long: %1</source>
-        <translation>Cette adresse de courriel est trop longue&#xa0;: %1</translation>
+        <translation>Cette adresse de courriel est trop longue : %1</translation>
     </message>
     <message>
-        <source>Letters such as those before the &apos;@&apos; of this address cannot be sent: %1</source>
-        <translation>Des lettres comme celles qui précèdent le «&#xa0;@&#xa0;» de cette adresse ne peuvent pas être envoyées&#xa0;: %1</translation>
+        <source>Letters such as those before the '@' of this address cannot be sent: %1</source>
+        <translation>Des lettres comme celles qui précèdent le « @ » de cette adresse ne peuvent pas être envoyées : %1</translation>
     </message>
     <message>
         <source>This is not a mail address: %1</source>
-        <translation>Ce n’est pas une adresse de courriel&#xa0;: %1</translation>
+        <translation>Ce n’est pas une adresse de courriel : %1</translation>
     </message>
     <message>
-        <source>The mail settings name no sender (field &apos;From&apos;).</source>
-        <translation>Les paramètres du courriel n’indiquent pas d’expéditeur (champ «&#xa0;De&#xa0;»).</translation>
+        <source>The mail settings name no sender (field 'From').</source>
+        <translation>Les paramètres du courriel n’indiquent pas d’expéditeur (champ « De »).</translation>
     </message>
     <message>
-        <source>The mail settings name no receiver (field &apos;To&apos;).</source>
-        <translation>Les paramètres du courriel n’indiquent pas de destinataire (champ «&#xa0;À&#xa0;»).</translation>
+        <source>The mail settings name no receiver (field 'To').</source>
+        <translation>Les paramètres du courriel n’indiquent pas de destinataire (champ « À »).</translation>
     </message>
     <message>
         <source>The mail server demands a login or encryption.</source>
         <translation>Le serveur de messagerie exige une identification ou un chiffrement.</translation>
     </message>
     <message>
-        <source>The mail server refused the sender&apos;s address.</source>
+        <source>The mail server refused the sender's address.</source>
         <translation>Le serveur de messagerie a refusé l’adresse de l’expéditeur.</translation>
     </message>
     <message>
-        <source>The mail server refused a receiver&apos;s address. The mail was sent to nobody.</source>
+        <source>The mail server refused a receiver's address. The mail was sent to nobody.</source>
         <translation>Le serveur de messagerie a refusé l’adresse d’un destinataire. Le courriel n’a été envoyé à personne.</translation>
     </message>
     <message>
@@ -598,20 +622,20 @@ https://www.tovra.example</translation>
         <translation>Le serveur de messagerie a refusé le courriel.</translation>
     </message>
     <message>
-        <source>The mail settings name no server (field &apos;SMTP Server&apos;).</source>
-        <translation>Les paramètres du courriel n’indiquent pas de serveur (champ «&#xa0;Serveur SMTP&#xa0;»).</translation>
+        <source>The mail settings name no server (field 'SMTP Server').</source>
+        <translation>Les paramètres du courriel n’indiquent pas de serveur (champ « Serveur SMTP »).</translation>
     </message>
     <message>
         <source>This is not the name of a mail server: %1</source>
-        <translation>Ce n’est pas le nom d’un serveur de messagerie&#xa0;: %1</translation>
+        <translation>Ce n’est pas le nom d’un serveur de messagerie : %1</translation>
     </message>
     <message>
-        <source>The mail server&apos;s port is above 65535: %1</source>
-        <translation>Le port du serveur de messagerie dépasse 65535&#xa0;: %1</translation>
+        <source>The mail server's port is above 65535: %1</source>
+        <translation>Le port du serveur de messagerie dépasse 65535 : %1</translation>
     </message>
     <message>
-        <source>The mail settings ask for an unknown encryption: &apos;%1&apos;</source>
-        <translation>Les paramètres du courriel demandent un chiffrement inconnu&#xa0;: «&#xa0;%1&#xa0;»</translation>
+        <source>The mail settings ask for an unknown encryption: '%1'</source>
+        <translation>Les paramètres du courriel demandent un chiffrement inconnu : « %1 »</translation>
     </message>
     <message>
         <source>The stored password for the mail server cannot be read, please enter it again. %1</source>
@@ -630,21 +654,21 @@ https://www.tovra.example</translation>
     </message>
     <message>
         <source>Warning: Cannot open PDF File</source>
-        <translation>Avertissement&#xa0;: impossible d’ouvrir le fichier PDF</translation>
+        <translation>Avertissement : impossible d’ouvrir le fichier PDF</translation>
     </message>
     <message>
         <source>Impossible to open the following PDF : %1
 
 Please check if the file exist at the following path : %2</source>
-        <translation>Impossible d’ouvrir le PDF suivant&#xa0;: %1
+        <translation>Impossible d’ouvrir le PDF suivant : %1
 
-Veuillez vérifier que le fichier existe à cet emplacement&#xa0;: %2</translation>
+Veuillez vérifier que le fichier existe à cet emplacement : %2</translation>
     </message>
     <message>
         <source>Impossible to open the following PDF : %1
 
 Please check if a pdf reader has been installed on your computer</source>
-        <translation>Impossible d’ouvrir le PDF suivant&#xa0;: %1
+        <translation>Impossible d’ouvrir le PDF suivant : %1
 
 Veuillez vérifier qu’un lecteur de PDF est installé sur votre ordinateur</translation>
     </message>
@@ -750,7 +774,7 @@ Assurez-vous de disposer des droits d’administrateur avant de mettre le logici
     <message>
         <source>Do you want to install this update?
 The application will exit.</source>
-        <translation>Voulez-vous installer cette mise à jour&#xa0;?
+        <translation>Voulez-vous installer cette mise à jour ?
 L’application va se fermer.</translation>
     </message>
     <message>
@@ -797,7 +821,11 @@ L’application va se fermer.</translation>
     </message>
     <message>
         <source>Page:</source>
-        <translation>Page&#xa0;:</translation>
+        <translation>Page :</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
     </message>
 </context>
 <context>
@@ -813,8 +841,8 @@ L’application va se fermer.</translation>
     <message numerus="yes">
         <source>The key file %2 cannot be made: %1</source>
         <translation>
-            <numerusform>Impossible de créer le fichier de clé %2&#xa0;: %1</numerusform>
-            <numerusform>Impossible de créer le fichier de clé %2&#xa0;: %1</numerusform>
+            <numerusform>Impossible de créer le fichier de clé %2 : %1</numerusform>
+            <numerusform>Impossible de créer le fichier de clé %2 : %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -834,8 +862,8 @@ L’application va se fermer.</translation>
     <message numerus="yes">
         <source>The key file %3 is damaged: it has %1 bytes instead of %2</source>
         <translation>
-            <numerusform>Le fichier de clé %3 est endommagé&#xa0;: il compte %1 octets au lieu de %2</numerusform>
-            <numerusform>Le fichier de clé %3 est endommagé&#xa0;: il compte %1 octets au lieu de %2</numerusform>
+            <numerusform>Le fichier de clé %3 est endommagé : il compte %1 octets au lieu de %2</numerusform>
+            <numerusform>Le fichier de clé %3 est endommagé : il compte %1 octets au lieu de %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -913,7 +941,7 @@ L’application va se fermer.</translation>
     </message>
     <message>
         <source>Average %1, limit %2 with %3 % of the pixels below, maximum %4</source>
-        <translation>Moyenne %1, limite %2 avec %3&#xa0;% des pixels en dessous, maximum %4</translation>
+        <translation>Moyenne %1, limite %2 avec %3 % des pixels en dessous, maximum %4</translation>
     </message>
     <message>
         <source>∆EMin</source>
@@ -921,7 +949,7 @@ L’application va se fermer.</translation>
     </message>
     <message>
         <source>∆Eavg: %1    %2 % of pixels &lt; ∆E Limit</source>
-        <translation>∆Emoy&#xa0;: %1    %2&#xa0;% des pixels &lt; limite ∆E</translation>
+        <translation>∆Emoy : %1    %2 % des pixels &lt; limite ∆E</translation>
     </message>
     <message>
         <source>∆EMax</source>
@@ -936,11 +964,11 @@ L’application va se fermer.</translation>
     <name>TXError</name>
     <message>
         <source>Domain: %1</source>
-        <translation>Domaine&#xa0;: %1</translation>
+        <translation>Domaine : %1</translation>
     </message>
     <message>
         <source>Code: %1</source>
-        <translation>Code&#xa0;: %1</translation>
+        <translation>Code : %1</translation>
     </message>
 </context>
 <context>
@@ -981,11 +1009,11 @@ L’application va se fermer.</translation>
     <name>TXFeedbackWidget</name>
     <message>
         <source>Sender Information:</source>
-        <translation>Informations sur l’expéditeur&#xa0;:</translation>
+        <translation>Informations sur l’expéditeur :</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation>Nom&#xa0;:</translation>
+        <translation>Nom :</translation>
     </message>
     <message>
         <source>(Required)</source>
@@ -997,19 +1025,19 @@ L’application va se fermer.</translation>
     </message>
     <message>
         <source>Company:</source>
-        <translation>Entreprise&#xa0;:</translation>
+        <translation>Entreprise :</translation>
     </message>
     <message>
         <source>Feedback Description:</source>
-        <translation>Vos commentaires&#xa0;:</translation>
+        <translation>Vos commentaires :</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <translation>Objet&#xa0;:</translation>
+        <translation>Objet :</translation>
     </message>
     <message>
         <source>Description:</source>
-        <translation>Description&#xa0;:</translation>
+        <translation>Description :</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1020,32 +1048,32 @@ L’application va se fermer.</translation>
         <translation>Envoyer</translation>
     </message>
     <message>
-        <source>Field &apos;Name&apos; hasn&apos;t been set, please set a &quot;Name&quot;.</source>
-        <translation>Le champ «&#xa0;Nom&#xa0;» est vide, veuillez indiquer un nom.</translation>
+        <source>Field 'Name' hasn't been set, please set a "Name".</source>
+        <translation>Le champ « Nom » est vide, veuillez indiquer un nom.</translation>
     </message>
     <message>
-        <source>Field &apos;Company&apos; hasn&apos;t been set, please set a &apos;Company&apos;.</source>
-        <translation>Le champ «&#xa0;Entreprise&#xa0;» est vide, veuillez indiquer une entreprise.</translation>
+        <source>Field 'Company' hasn't been set, please set a 'Company'.</source>
+        <translation>Le champ « Entreprise » est vide, veuillez indiquer une entreprise.</translation>
     </message>
     <message>
-        <source>Field &apos;Subject&apos; hasn&apos;t been set, please set a &apos;Subject&apos;.</source>
-        <translation>Le champ «&#xa0;Objet&#xa0;» est vide, veuillez indiquer un objet.</translation>
+        <source>Field 'Subject' hasn't been set, please set a 'Subject'.</source>
+        <translation>Le champ « Objet » est vide, veuillez indiquer un objet.</translation>
     </message>
     <message>
-        <source>Field &apos;Description&apos; hasn&apos;t been set, please set a &apos;Description&apos;.</source>
-        <translation>Le champ «&#xa0;Description&#xa0;» est vide, veuillez saisir une description.</translation>
+        <source>Field 'Description' hasn't been set, please set a 'Description'.</source>
+        <translation>Le champ « Description » est vide, veuillez saisir une description.</translation>
     </message>
     <message>
-        <source>Field &apos;Login&apos; is empty, please add an E-Mail Address which contain &apos;.&apos; and &apos;@&apos;.</source>
-        <translation>Le champ «&#xa0;Adresse de courriel&#xa0;» est vide, veuillez saisir une adresse de courriel contenant «&#xa0;.&#xa0;» et «&#xa0;@&#xa0;».</translation>
+        <source>Field 'Login' is empty, please add an E-Mail Address which contain '.' and '@'.</source>
+        <translation>Le champ « Adresse de courriel » est vide, veuillez saisir une adresse de courriel contenant « . » et « @ ».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;@&apos;.</source>
-        <translation>Il manque un «&#xa0;@&#xa0;» dans le champ «&#xa0;Adresse de courriel&#xa0;», veuillez saisir une adresse contenant un «&#xa0;@&#xa0;».</translation>
+        <source>Missing a '@' in the field 'E-Mail Address', please add a login which contain a '@'.</source>
+        <translation>Il manque un « @ » dans le champ « Adresse de courriel », veuillez saisir une adresse contenant un « @ ».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;.&apos;.</source>
-        <translation>Il manque un «&#xa0;.&#xa0;» dans le champ «&#xa0;Adresse de courriel&#xa0;», veuillez saisir une adresse contenant un «&#xa0;.&#xa0;».</translation>
+        <source>Missing a '.' in the field 'E-Mail Address', please add a login which contain a '.'.</source>
+        <translation>Il manque un « . » dans le champ « Adresse de courriel », veuillez saisir une adresse contenant un « . ».</translation>
     </message>
     <message>
         <source>Missing Information</source>
@@ -1057,19 +1085,35 @@ L’application va se fermer.</translation>
     </message>
     <message>
         <source>Are you really sure you want to send this feedback?</source>
-        <translation>Voulez-vous vraiment envoyer ces commentaires&#xa0;?</translation>
+        <translation>Voulez-vous vraiment envoyer ces commentaires ?</translation>
     </message>
     <message>
         <source>Failed to send feedback</source>
         <translation>Échec de l’envoi des commentaires</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
+        <source>Feedback hasn't been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
         <translation>Vos commentaires n’ont pas été envoyés à notre équipe, le service de commentaires est peut-être indisponible pour le moment. Veuillez réessayer plus tard.</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, because the following error occured:%1.</source>
-        <translation>Vos commentaires n’ont pas été envoyés à notre équipe, car l’erreur suivante s’est produite&#xa0;: %1.</translation>
+        <source>Feedback hasn't been send to our team, because the following error occured:%1.</source>
+        <translation>Vos commentaires n’ont pas été envoyés à notre équipe, car l’erreur suivante s’est produite : %1.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>Entreprise</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>Objet</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
     </message>
 </context>
 <context>
@@ -1100,11 +1144,11 @@ L’application va se fermer.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1, pixel %2, %3: %4</source>
-        <translation>%1, pixel %2, %3&#xa0;: %4</translation>
+        <translation>%1, pixel %2, %3 : %4</translation>
     </message>
 </context>
 <context>
@@ -1122,7 +1166,7 @@ L’application va se fermer.</translation>
     <name>TXLogWindow</name>
     <message>
         <source>Log Details:</source>
-        <translation>Détails du journal&#xa0;:</translation>
+        <translation>Détails du journal :</translation>
     </message>
     <message>
         <source>Log entries</source>
@@ -1172,6 +1216,13 @@ L’application va se fermer.</translation>
     </message>
 </context>
 <context>
+    <name>TXReportAccessible</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+</context>
+<context>
     <name>TXReportDocument</name>
     <message>
         <source>This is not a file name.</source>
@@ -1182,24 +1233,24 @@ L’application va se fermer.</translation>
         <translation>Ce n’est pas un fichier ordinaire.</translation>
     </message>
     <message>
-        <source>The report could not be written to &quot;%2&quot;: %1</source>
-        <translation>Le rapport n’a pas pu être écrit dans «&#xa0;%2&#xa0;»&#xa0;: %1</translation>
+        <source>The report could not be written to "%2": %1</source>
+        <translation>Le rapport n’a pas pu être écrit dans « %2 » : %1</translation>
     </message>
     <message>
-        <source>The document&apos;s data could not be added to the PDF.</source>
+        <source>The document's data could not be added to the PDF.</source>
         <translation>Les données du document n’ont pas pu être ajoutées au PDF.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not take the page size of the report.</source>
-        <translation>L’imprimante «&#xa0;%1&#xa0;» n’accepte pas le format de page du rapport.</translation>
+        <source>The printer "%1" does not take the page size of the report.</source>
+        <translation>L’imprimante « %1 » n’accepte pas le format de page du rapport.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; can&apos;t be started.</source>
-        <translation>L’imprimante «&#xa0;%1&#xa0;» ne peut pas être démarrée.</translation>
+        <source>The printer "%1" can't be started.</source>
+        <translation>L’imprimante « %1 » ne peut pas être démarrée.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; has stopped in the middle.</source>
-        <translation>L’imprimante «&#xa0;%1&#xa0;» s’est arrêtée en cours d’impression.</translation>
+        <source>The printer "%1" has stopped in the middle.</source>
+        <translation>L’imprimante « %1 » s’est arrêtée en cours d’impression.</translation>
     </message>
     <message>
         <source>There is no printer.</source>
@@ -1356,7 +1407,7 @@ L’application va se fermer.</translation>
     <message>
         <source>%1: %2</source>
         <comment>kind and value</comment>
-        <translation>%1&#xa0;: %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -1486,7 +1537,7 @@ L’application va se fermer.</translation>
     </message>
     <message>
         <source>Active Addresses:</source>
-        <translation>Adresses actives&#xa0;:</translation>
+        <translation>Adresses actives :</translation>
     </message>
     <message>
         <source>Choose Certificate File</source>
@@ -1499,6 +1550,10 @@ L’application va se fermer.</translation>
     <message>
         <source>&amp;nbsp;&amp;nbsp;&amp;nbsp;(to be used only from this computer)</source>
         <translation>&amp;nbsp;&amp;nbsp;&amp;nbsp;(utilisable depuis cet ordinateur seulement)</translation>
+    </message>
+    <message>
+        <source>Active Addresses</source>
+        <translation>Adresses actives</translation>
     </message>
 </context>
 <context>

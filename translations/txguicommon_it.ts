@@ -54,19 +54,19 @@
         <source>There is no Network Drive letter available.
 Please disconnect a network Network Drive and retry.</source>
         <translation>Non è disponibile alcuna lettera di unità.
-Disconnettere un&apos;unità di rete e riprovare.</translation>
+Disconnettere un'unità di rete e riprovare.</translation>
     </message>
     <message>
         <source>Edit Network Drive Parameters</source>
-        <translation>Modifica i parametri dell&apos;unità di rete</translation>
+        <translation>Modifica i parametri dell'unità di rete</translation>
     </message>
     <message>
         <source>Warning: Network Drive Delete?</source>
-        <translation>Avviso: rimuovere l&apos;unità di rete?</translation>
+        <translation>Avviso: rimuovere l'unità di rete?</translation>
     </message>
     <message>
         <source>Do you want to remove selected Network Drive?</source>
-        <translation>Rimuovere l&apos;unità di rete selezionata?</translation>
+        <translation>Rimuovere l'unità di rete selezionata?</translation>
     </message>
 </context>
 <context>
@@ -144,11 +144,11 @@ Disconnettere un&apos;unità di rete e riprovare.</translation>
     </message>
     <message>
         <source>Impossible to reconnect the Network Drive, please check the address, the password and the user name</source>
-        <translation>Impossibile riconnettere l&apos;unità di rete: controllare l&apos;indirizzo, la password e il nome utente</translation>
+        <translation>Impossibile riconnettere l'unità di rete: controllare l'indirizzo, la password e il nome utente</translation>
     </message>
     <message>
         <source>This Network Drive letter is already used, please choose another letter to connect the Network Drive</source>
-        <translation>Questa lettera di unità è già usata: scegliere un&apos;altra lettera per connettere l&apos;unità di rete</translation>
+        <translation>Questa lettera di unità è già usata: scegliere un'altra lettera per connettere l'unità di rete</translation>
     </message>
 </context>
 <context>
@@ -224,35 +224,35 @@ Disconnettere un&apos;unità di rete e riprovare.</translation>
         <translation>Invia messaggio di prova</translation>
     </message>
     <message>
-        <source>Field &apos;Sender&apos; is empty, please add sender address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Sender' is empty, please add sender address which contain '.' and '@'.</source>
         <translation>Il campo «Mittente» è vuoto: immettere un indirizzo di mittente che contenga «.» e «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'Sender', please add sender address which contain a '@'.</source>
         <translation>Nel campo «Mittente» manca una «@»: immettere un indirizzo di mittente che contenga una «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'Sender', please add sender address which contain a '.'.</source>
         <translation>Nel campo «Mittente» manca un «.»: immettere un indirizzo di mittente che contenga un «.».</translation>
     </message>
     <message>
-        <source>Field &apos;To&apos; is empty, please add receiver address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'To' is empty, please add receiver address which contain '.' and '@'.</source>
         <translation>Il campo «A» è vuoto: immettere un indirizzo di destinatario che contenga «.» e «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'To', please add receiver address which contain a '@'.</source>
         <translation>Nel campo «A» manca una «@»: immettere un indirizzo di destinatario che contenga una «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'To', please add receiver address which contain a '.'.</source>
         <translation>Nel campo «A» manca un «.»: immettere un indirizzo di destinatario che contenga un «.».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'cC', please add receiver address which contain a '@'.</source>
         <translation>Nel campo «Cc» manca una «@»: immettere un indirizzo di destinatario che contenga una «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'cC', please add receiver address which contain a '.'.</source>
         <translation>Nel campo «Cc» manca un «.»: immettere un indirizzo di destinatario che contenga un «.».</translation>
     </message>
     <message>
@@ -273,7 +273,7 @@ Disconnettere un&apos;unità di rete e riprovare.</translation>
     </message>
     <message>
         <source>Mail Sending Result</source>
-        <translation>Esito dell&apos;invio</translation>
+        <translation>Esito dell'invio</translation>
     </message>
     <message>
         <source>Mail has been sent successfully.</source>
@@ -296,23 +296,23 @@ Disconnettere un&apos;unità di rete e riprovare.</translation>
         <translation>Destinatario:</translation>
     </message>
     <message>
-        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>Questo è un messaggio di prova inviato dal software Tovra ProofKeeper.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <translation>Questo è un messaggio di prova inviato dal software Tovra ProofKeeper.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
-        <source>This is a test message sent by %1 software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <source>This is a test message sent by %1 software.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>Questo è un messaggio di prova inviato dal software %1.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <translation>Questo è un messaggio di prova inviato dal software %1.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
@@ -322,6 +322,30 @@ https://www.tovra.example</translation>
     <message>
         <source>%1 test message.</source>
         <translation>Messaggio di prova di %1.</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Nome di accesso</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>SMTP Server</source>
+        <translation>Server SMTP</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Da</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Cc</source>
+        <translation>Cc</translation>
     </message>
 </context>
 <context>
@@ -487,7 +511,7 @@ https://www.tovra.example</translation>
     </message>
     <message>
         <source>The address is not valid.</source>
-        <translation>L&apos;indirizzo non è valido.</translation>
+        <translation>L'indirizzo non è valido.</translation>
     </message>
     <message>
         <source>No server of that name was found.</source>
@@ -503,7 +527,7 @@ https://www.tovra.example</translation>
     </message>
     <message>
         <source>The server denied access.</source>
-        <translation>Il server ha negato l&apos;accesso.</translation>
+        <translation>Il server ha negato l'accesso.</translation>
     </message>
     <message>
         <source>The server did not answer in time.</source>
@@ -531,7 +555,7 @@ https://www.tovra.example</translation>
     </message>
     <message>
         <source>The identity of the server could not be verified: its certificate or key is not trusted or belongs to another server.</source>
-        <translation>Impossibile verificare l&apos;identità del server: il suo certificato o la sua chiave non sono attendibili o appartengono a un altro server.</translation>
+        <translation>Impossibile verificare l'identità del server: il suo certificato o la sua chiave non sono attendibili o appartengono a un altro server.</translation>
     </message>
     <message>
         <source>The server does not offer an encrypted connection.</source>
@@ -539,7 +563,7 @@ https://www.tovra.example</translation>
     </message>
     <message>
         <source>The server refused the login. Check user name and password.</source>
-        <translation>Il server ha rifiutato l&apos;accesso. Controllare nome utente e password.</translation>
+        <translation>Il server ha rifiutato l'accesso. Controllare nome utente e password.</translation>
     </message>
     <message>
         <source>The file of trusted certificate authorities cannot be read.</source>
@@ -554,19 +578,19 @@ https://www.tovra.example</translation>
         <translation>La connessione SSH al server non è riuscita.</translation>
     </message>
     <message>
-        <source>The server&apos;s last message: %1</source>
+        <source>The server's last message: %1</source>
         <translation>Ultimo messaggio del server: %1</translation>
     </message>
     <message>
         <source>This mail address holds a line break or a control character: %1</source>
-        <translation>Questo indirizzo di posta contiene un&apos;interruzione di riga o un carattere di controllo: %1</translation>
+        <translation>Questo indirizzo di posta contiene un'interruzione di riga o un carattere di controllo: %1</translation>
     </message>
     <message>
         <source>This mail address is too long: %1</source>
         <translation>Questo indirizzo di posta è troppo lungo: %1</translation>
     </message>
     <message>
-        <source>Letters such as those before the &apos;@&apos; of this address cannot be sent: %1</source>
+        <source>Letters such as those before the '@' of this address cannot be sent: %1</source>
         <translation>Impossibile inviare lettere come quelle prima della «@» di questo indirizzo: %1</translation>
     </message>
     <message>
@@ -574,11 +598,11 @@ https://www.tovra.example</translation>
         <translation>Questo non è un indirizzo di posta: %1</translation>
     </message>
     <message>
-        <source>The mail settings name no sender (field &apos;From&apos;).</source>
+        <source>The mail settings name no sender (field 'From').</source>
         <translation>Nelle impostazioni della posta manca il mittente (campo «Da»).</translation>
     </message>
     <message>
-        <source>The mail settings name no receiver (field &apos;To&apos;).</source>
+        <source>The mail settings name no receiver (field 'To').</source>
         <translation>Nelle impostazioni della posta manca il destinatario (campo «A»).</translation>
     </message>
     <message>
@@ -586,19 +610,19 @@ https://www.tovra.example</translation>
         <translation>Il server di posta richiede un accesso o la cifratura.</translation>
     </message>
     <message>
-        <source>The mail server refused the sender&apos;s address.</source>
-        <translation>Il server di posta ha rifiutato l&apos;indirizzo del mittente.</translation>
+        <source>The mail server refused the sender's address.</source>
+        <translation>Il server di posta ha rifiutato l'indirizzo del mittente.</translation>
     </message>
     <message>
-        <source>The mail server refused a receiver&apos;s address. The mail was sent to nobody.</source>
-        <translation>Il server di posta ha rifiutato l&apos;indirizzo di un destinatario. Il messaggio non è stato inviato a nessuno.</translation>
+        <source>The mail server refused a receiver's address. The mail was sent to nobody.</source>
+        <translation>Il server di posta ha rifiutato l'indirizzo di un destinatario. Il messaggio non è stato inviato a nessuno.</translation>
     </message>
     <message>
         <source>The mail server refused the mail.</source>
         <translation>Il server di posta ha rifiutato il messaggio.</translation>
     </message>
     <message>
-        <source>The mail settings name no server (field &apos;SMTP Server&apos;).</source>
+        <source>The mail settings name no server (field 'SMTP Server').</source>
         <translation>Nelle impostazioni della posta manca il server (campo «Server SMTP»).</translation>
     </message>
     <message>
@@ -606,11 +630,11 @@ https://www.tovra.example</translation>
         <translation>Questo non è il nome di un server di posta: %1</translation>
     </message>
     <message>
-        <source>The mail server&apos;s port is above 65535: %1</source>
+        <source>The mail server's port is above 65535: %1</source>
         <translation>La porta del server di posta è superiore a 65535: %1</translation>
     </message>
     <message>
-        <source>The mail settings ask for an unknown encryption: &apos;%1&apos;</source>
+        <source>The mail settings ask for an unknown encryption: '%1'</source>
         <translation>Le impostazioni della posta richiedono una cifratura sconosciuta: «%1»</translation>
     </message>
     <message>
@@ -653,7 +677,7 @@ Controllare se sul computer è installato un lettore di PDF</translation>
     <name>ShareBrowser</name>
     <message>
         <source>Choose Network Drive folder</source>
-        <translation>Scegli la cartella dell&apos;unità di rete</translation>
+        <translation>Scegli la cartella dell'unità di rete</translation>
     </message>
     <message>
         <source>Hosts and shared folders</source>
@@ -676,7 +700,7 @@ Controllare se sul computer è installato un lettore di PDF</translation>
     </message>
     <message>
         <source>Check for Updates at Startup</source>
-        <translation>Cerca aggiornamenti all&apos;avvio</translation>
+        <translation>Cerca aggiornamenti all'avvio</translation>
     </message>
     <message>
         <source>Check Now</source>
@@ -745,13 +769,13 @@ Assicurarsi di disporre dei diritti di amministratore prima di aggiornare il sof
     </message>
     <message>
         <source>Installing Update</source>
-        <translation>Installazione dell&apos;aggiornamento</translation>
+        <translation>Installazione dell'aggiornamento</translation>
     </message>
     <message>
         <source>Do you want to install this update?
 The application will exit.</source>
         <translation>Installare questo aggiornamento?
-L&apos;applicazione verrà chiusa.</translation>
+L'applicazione verrà chiusa.</translation>
     </message>
     <message>
         <source>%1 is up to date.</source>
@@ -799,6 +823,10 @@ L&apos;applicazione verrà chiusa.</translation>
         <source>Page:</source>
         <translation>Pagina:</translation>
     </message>
+    <message>
+        <source>Page</source>
+        <translation>Pagina</translation>
+    </message>
 </context>
 <context>
     <name>TXDataCrypt</name>
@@ -808,7 +836,7 @@ L&apos;applicazione verrà chiusa.</translation>
     </message>
     <message>
         <source>The data is damaged or was enciphered with another key</source>
-        <translation>I dati sono danneggiati o sono stati cifrati con un&apos;altra chiave</translation>
+        <translation>I dati sono danneggiati o sono stati cifrati con un'altra chiave</translation>
     </message>
     <message numerus="yes">
         <source>The key file %2 cannot be made: %1</source>
@@ -955,15 +983,15 @@ L&apos;applicazione verrà chiusa.</translation>
     </message>
     <message>
         <source>The address is not valid.</source>
-        <translation>L&apos;indirizzo non è valido.</translation>
+        <translation>L'indirizzo non è valido.</translation>
     </message>
     <message>
         <source>The address has to begin with ftp, ftps or sftp.</source>
-        <translation>L&apos;indirizzo deve iniziare con ftp, ftps o sftp.</translation>
+        <translation>L'indirizzo deve iniziare con ftp, ftps o sftp.</translation>
     </message>
     <message>
         <source>The address names no server.</source>
-        <translation>L&apos;indirizzo non indica alcun server.</translation>
+        <translation>L'indirizzo non indica alcun server.</translation>
     </message>
     <message>
         <source>The port number has to be between 1 and 65535.</source>
@@ -1020,31 +1048,31 @@ L&apos;applicazione verrà chiusa.</translation>
         <translation>Invia</translation>
     </message>
     <message>
-        <source>Field &apos;Name&apos; hasn&apos;t been set, please set a &quot;Name&quot;.</source>
+        <source>Field 'Name' hasn't been set, please set a "Name".</source>
         <translation>Il campo «Nome» è vuoto: immettere un nome.</translation>
     </message>
     <message>
-        <source>Field &apos;Company&apos; hasn&apos;t been set, please set a &apos;Company&apos;.</source>
-        <translation>Il campo «Azienda» è vuoto: immettere un&apos;azienda.</translation>
+        <source>Field 'Company' hasn't been set, please set a 'Company'.</source>
+        <translation>Il campo «Azienda» è vuoto: immettere un'azienda.</translation>
     </message>
     <message>
-        <source>Field &apos;Subject&apos; hasn&apos;t been set, please set a &apos;Subject&apos;.</source>
+        <source>Field 'Subject' hasn't been set, please set a 'Subject'.</source>
         <translation>Il campo «Oggetto» è vuoto: immettere un oggetto.</translation>
     </message>
     <message>
-        <source>Field &apos;Description&apos; hasn&apos;t been set, please set a &apos;Description&apos;.</source>
+        <source>Field 'Description' hasn't been set, please set a 'Description'.</source>
         <translation>Il campo «Descrizione» è vuoto: immettere una descrizione.</translation>
     </message>
     <message>
-        <source>Field &apos;Login&apos; is empty, please add an E-Mail Address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Login' is empty, please add an E-Mail Address which contain '.' and '@'.</source>
         <translation>Il campo «Indirizzo e-mail» è vuoto: immettere un indirizzo e-mail che contenga «.» e «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'E-Mail Address', please add a login which contain a '@'.</source>
         <translation>Nel campo «Indirizzo e-mail» manca una «@»: immettere un indirizzo che contenga una «@».</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'E-Mail Address', please add a login which contain a '.'.</source>
         <translation>Nel campo «Indirizzo e-mail» manca un «.»: immettere un indirizzo che contenga un «.».</translation>
     </message>
     <message>
@@ -1064,12 +1092,28 @@ L&apos;applicazione verrà chiusa.</translation>
         <translation>Invio del feedback non riuscito</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
+        <source>Feedback hasn't been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
         <translation>Il feedback non è stato inviato al nostro team: forse il servizio di feedback non è al momento disponibile. Riprovare più tardi.</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, because the following error occured:%1.</source>
+        <source>Feedback hasn't been send to our team, because the following error occured:%1.</source>
         <translation>Il feedback non è stato inviato al nostro team a causa del seguente errore: %1.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>Azienda</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>Oggetto</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descrizione</translation>
     </message>
 </context>
 <context>
@@ -1172,6 +1216,13 @@ L&apos;applicazione verrà chiusa.</translation>
     </message>
 </context>
 <context>
+    <name>TXReportAccessible</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Pagina %1 di %2</translation>
+    </message>
+</context>
+<context>
     <name>TXReportDocument</name>
     <message>
         <source>This is not a file name.</source>
@@ -1182,28 +1233,28 @@ L&apos;applicazione verrà chiusa.</translation>
         <translation>Questo non è un file regolare.</translation>
     </message>
     <message>
-        <source>The report could not be written to &quot;%2&quot;: %1</source>
+        <source>The report could not be written to "%2": %1</source>
         <translation>Impossibile scrivere il rapporto in «%2»: %1</translation>
     </message>
     <message>
-        <source>The document&apos;s data could not be added to the PDF.</source>
+        <source>The document's data could not be added to the PDF.</source>
         <translation>Impossibile aggiungere i dati del documento al PDF.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not take the page size of the report.</source>
+        <source>The printer "%1" does not take the page size of the report.</source>
         <translation>La stampante «%1» non accetta il formato di pagina del rapporto.</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; can&apos;t be started.</source>
+        <source>The printer "%1" can't be started.</source>
         <translation>Impossibile avviare la stampante «%1».</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; has stopped in the middle.</source>
+        <source>The printer "%1" has stopped in the middle.</source>
         <translation>La stampante «%1» si è fermata a metà.</translation>
     </message>
     <message>
         <source>There is no printer.</source>
-        <translation>Non c&apos;è alcuna stampante.</translation>
+        <translation>Non c'è alcuna stampante.</translation>
     </message>
     <message>
         <source>The report has none of the pages that are to be printed.</source>
@@ -1223,7 +1274,7 @@ L&apos;applicazione verrà chiusa.</translation>
     </message>
     <message>
         <source>The margins, the header and the footer leave no room on the paper.</source>
-        <translation>I margini, l&apos;intestazione e il piè di pagina non lasciano spazio sul foglio.</translation>
+        <translation>I margini, l'intestazione e il piè di pagina non lasciano spazio sul foglio.</translation>
     </message>
     <message>
         <source>page {page} of {pages}</source>
@@ -1499,6 +1550,10 @@ L&apos;applicazione verrà chiusa.</translation>
     <message>
         <source>&amp;nbsp;&amp;nbsp;&amp;nbsp;(to be used only from this computer)</source>
         <translation>&amp;nbsp;&amp;nbsp;&amp;nbsp;(da usare solo da questo computer)</translation>
+    </message>
+    <message>
+        <source>Active Addresses</source>
+        <translation>Indirizzi attivi</translation>
     </message>
 </context>
 <context>

@@ -224,35 +224,35 @@ Please disconnect a network Network Drive and retry.</source>
         <translation>テストメールを送信</translation>
     </message>
     <message>
-        <source>Field &apos;Sender&apos; is empty, please add sender address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Sender' is empty, please add sender address which contain '.' and '@'.</source>
         <translation>「差出人」欄が空です。「.」と「@」を含む差出人アドレスを入力してください。</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'Sender', please add sender address which contain a '@'.</source>
         <translation>「差出人」欄に「@」がありません。「@」を含む差出人アドレスを入力してください。</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;Sender&apos;, please add sender address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'Sender', please add sender address which contain a '.'.</source>
         <translation>「差出人」欄に「.」がありません。「.」を含む差出人アドレスを入力してください。</translation>
     </message>
     <message>
-        <source>Field &apos;To&apos; is empty, please add receiver address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'To' is empty, please add receiver address which contain '.' and '@'.</source>
         <translation>「宛先」欄が空です。「.」と「@」を含む宛先アドレスを入力してください。</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'To', please add receiver address which contain a '@'.</source>
         <translation>「宛先」欄に「@」がありません。「@」を含む宛先アドレスを入力してください。</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;To&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'To', please add receiver address which contain a '.'.</source>
         <translation>「宛先」欄に「.」がありません。「.」を含む宛先アドレスを入力してください。</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'cC', please add receiver address which contain a '@'.</source>
         <translation>「Cc」欄に「@」がありません。「@」を含む宛先アドレスを入力してください。</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;cC&apos;, please add receiver address which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'cC', please add receiver address which contain a '.'.</source>
         <translation>「Cc」欄に「.」がありません。「.」を含む宛先アドレスを入力してください。</translation>
     </message>
     <message>
@@ -296,23 +296,23 @@ Please disconnect a network Network Drive and retry.</source>
         <translation>宛先アドレス:</translation>
     </message>
     <message>
-        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <source>This is a test message sent by Tovra ProofKeeper software.<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>これはソフトウェアTovra ProofKeeperが送信したテストメッセージです。<byte value="xd"/>
-<byte value="xd"/>
-Copyright %1 Tovra Hue Works<byte value="xd"/>
+        <translation>これはソフトウェアTovra ProofKeeperが送信したテストメッセージです。<byte value="xd" />
+<byte value="xd" />
+Copyright %1 Tovra Hue Works<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
-        <source>This is a test message sent by %1 software.<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <source>This is a test message sent by %1 software.<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</source>
-        <translation>これはソフトウェア%1が送信したテストメッセージです。<byte value="xd"/>
-<byte value="xd"/>
-Copyright %2 %3<byte value="xd"/>
+        <translation>これはソフトウェア%1が送信したテストメッセージです。<byte value="xd" />
+<byte value="xd" />
+Copyright %2 %3<byte value="xd" />
 https://www.tovra.example</translation>
     </message>
     <message>
@@ -322,6 +322,30 @@ https://www.tovra.example</translation>
     <message>
         <source>%1 test message.</source>
         <translation>%1のテストメッセージです。</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>ログイン名</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>SMTP Server</source>
+        <translation>SMTPサーバー</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>差出人</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>宛先</translation>
+    </message>
+    <message>
+        <source>Cc</source>
+        <translation>Cc</translation>
     </message>
 </context>
 <context>
@@ -554,7 +578,7 @@ https://www.tovra.example</translation>
         <translation>サーバーへのSSH接続に失敗しました。</translation>
     </message>
     <message>
-        <source>The server&apos;s last message: %1</source>
+        <source>The server's last message: %1</source>
         <translation>サーバーの最後のメッセージ: %1</translation>
     </message>
     <message>
@@ -566,7 +590,7 @@ https://www.tovra.example</translation>
         <translation>このメールアドレスは長すぎます: %1</translation>
     </message>
     <message>
-        <source>Letters such as those before the &apos;@&apos; of this address cannot be sent: %1</source>
+        <source>Letters such as those before the '@' of this address cannot be sent: %1</source>
         <translation>このアドレスの「@」より前にあるような文字は送信できません: %1</translation>
     </message>
     <message>
@@ -574,11 +598,11 @@ https://www.tovra.example</translation>
         <translation>これはメールアドレスではありません: %1</translation>
     </message>
     <message>
-        <source>The mail settings name no sender (field &apos;From&apos;).</source>
+        <source>The mail settings name no sender (field 'From').</source>
         <translation>メール設定に差出人がありません(「差出人」欄)。</translation>
     </message>
     <message>
-        <source>The mail settings name no receiver (field &apos;To&apos;).</source>
+        <source>The mail settings name no receiver (field 'To').</source>
         <translation>メール設定に宛先がありません(「宛先」欄)。</translation>
     </message>
     <message>
@@ -586,11 +610,11 @@ https://www.tovra.example</translation>
         <translation>メールサーバーはログインまたは暗号化を要求しています。</translation>
     </message>
     <message>
-        <source>The mail server refused the sender&apos;s address.</source>
+        <source>The mail server refused the sender's address.</source>
         <translation>メールサーバーが差出人のアドレスを拒否しました。</translation>
     </message>
     <message>
-        <source>The mail server refused a receiver&apos;s address. The mail was sent to nobody.</source>
+        <source>The mail server refused a receiver's address. The mail was sent to nobody.</source>
         <translation>メールサーバーが宛先のアドレスを拒否しました。メールは誰にも送信されていません。</translation>
     </message>
     <message>
@@ -598,7 +622,7 @@ https://www.tovra.example</translation>
         <translation>メールサーバーがメールを拒否しました。</translation>
     </message>
     <message>
-        <source>The mail settings name no server (field &apos;SMTP Server&apos;).</source>
+        <source>The mail settings name no server (field 'SMTP Server').</source>
         <translation>メール設定にサーバーがありません(「SMTPサーバー」欄)。</translation>
     </message>
     <message>
@@ -606,11 +630,11 @@ https://www.tovra.example</translation>
         <translation>これはメールサーバーの名前ではありません: %1</translation>
     </message>
     <message>
-        <source>The mail server&apos;s port is above 65535: %1</source>
+        <source>The mail server's port is above 65535: %1</source>
         <translation>メールサーバーのポートが65535を超えています: %1</translation>
     </message>
     <message>
-        <source>The mail settings ask for an unknown encryption: &apos;%1&apos;</source>
+        <source>The mail settings ask for an unknown encryption: '%1'</source>
         <translation>メール設定で未知の暗号化が指定されています: 「%1」</translation>
     </message>
     <message>
@@ -797,6 +821,10 @@ The application will exit.</source>
     <message>
         <source>Page:</source>
         <translation>ページ:</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
     </message>
 </context>
 <context>
@@ -1014,31 +1042,31 @@ The application will exit.</source>
         <translation>送信</translation>
     </message>
     <message>
-        <source>Field &apos;Name&apos; hasn&apos;t been set, please set a &quot;Name&quot;.</source>
+        <source>Field 'Name' hasn't been set, please set a "Name".</source>
         <translation>「名前」欄が空です。名前を入力してください。</translation>
     </message>
     <message>
-        <source>Field &apos;Company&apos; hasn&apos;t been set, please set a &apos;Company&apos;.</source>
+        <source>Field 'Company' hasn't been set, please set a 'Company'.</source>
         <translation>「会社名」欄が空です。会社名を入力してください。</translation>
     </message>
     <message>
-        <source>Field &apos;Subject&apos; hasn&apos;t been set, please set a &apos;Subject&apos;.</source>
+        <source>Field 'Subject' hasn't been set, please set a 'Subject'.</source>
         <translation>「件名」欄が空です。件名を入力してください。</translation>
     </message>
     <message>
-        <source>Field &apos;Description&apos; hasn&apos;t been set, please set a &apos;Description&apos;.</source>
+        <source>Field 'Description' hasn't been set, please set a 'Description'.</source>
         <translation>「説明」欄が空です。説明を入力してください。</translation>
     </message>
     <message>
-        <source>Field &apos;Login&apos; is empty, please add an E-Mail Address which contain &apos;.&apos; and &apos;@&apos;.</source>
+        <source>Field 'Login' is empty, please add an E-Mail Address which contain '.' and '@'.</source>
         <translation>「メールアドレス」欄が空です。「.」と「@」を含むメールアドレスを入力してください。</translation>
     </message>
     <message>
-        <source>Missing a &apos;@&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;@&apos;.</source>
+        <source>Missing a '@' in the field 'E-Mail Address', please add a login which contain a '@'.</source>
         <translation>「メールアドレス」欄に「@」がありません。「@」を含むアドレスを入力してください。</translation>
     </message>
     <message>
-        <source>Missing a &apos;.&apos; in the field &apos;E-Mail Address&apos;, please add a login which contain a &apos;.&apos;.</source>
+        <source>Missing a '.' in the field 'E-Mail Address', please add a login which contain a '.'.</source>
         <translation>「メールアドレス」欄に「.」がありません。「.」を含むアドレスを入力してください。</translation>
     </message>
     <message>
@@ -1058,12 +1086,28 @@ The application will exit.</source>
         <translation>フィードバックを送信できませんでした</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
+        <source>Feedback hasn't been send to our team, maybe the feedback service is unavailable for the moment. Please re-try later.</source>
         <translation>フィードバックは送信されませんでした。フィードバックサービスが一時的に利用できない可能性があります。しばらくしてからもう一度試してください。</translation>
     </message>
     <message>
-        <source>Feedback hasn&apos;t been send to our team, because the following error occured:%1.</source>
+        <source>Feedback hasn't been send to our team, because the following error occured:%1.</source>
         <translation>次のエラーが発生したため、フィードバックは送信されませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>会社名</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>件名</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1210,13 @@ The application will exit.</source>
     </message>
 </context>
 <context>
+    <name>TXReportAccessible</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%2ページ中%1ページ目</translation>
+    </message>
+</context>
+<context>
     <name>TXReportDocument</name>
     <message>
         <source>This is not a file name.</source>
@@ -1176,23 +1227,23 @@ The application will exit.</source>
         <translation>これは通常のファイルではありません。</translation>
     </message>
     <message>
-        <source>The report could not be written to &quot;%2&quot;: %1</source>
+        <source>The report could not be written to "%2": %1</source>
         <translation>レポートを「%2」に書き込めませんでした: %1</translation>
     </message>
     <message>
-        <source>The document&apos;s data could not be added to the PDF.</source>
+        <source>The document's data could not be added to the PDF.</source>
         <translation>文書のデータをPDFに追加できませんでした。</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not take the page size of the report.</source>
+        <source>The printer "%1" does not take the page size of the report.</source>
         <translation>プリンター「%1」はレポートの用紙サイズに対応していません。</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; can&apos;t be started.</source>
+        <source>The printer "%1" can't be started.</source>
         <translation>プリンター「%1」を開始できません。</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; has stopped in the middle.</source>
+        <source>The printer "%1" has stopped in the middle.</source>
         <translation>プリンター「%1」が途中で停止しました。</translation>
     </message>
     <message>
@@ -1491,6 +1542,10 @@ The application will exit.</source>
     <message>
         <source>&amp;nbsp;&amp;nbsp;&amp;nbsp;(to be used only from this computer)</source>
         <translation>&amp;nbsp;&amp;nbsp;&amp;nbsp;(このコンピューターからのみ使用可能)</translation>
+    </message>
+    <message>
+        <source>Active Addresses</source>
+        <translation>アクティブなアドレス</translation>
     </message>
 </context>
 <context>
