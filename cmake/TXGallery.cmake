@@ -52,6 +52,7 @@ function(tx_add_gallery_plugin plugin)
     LIBRARY_OUTPUT_DIRECTORY ${gallery_bin}/ConfWidgets)
   target_link_libraries(${plugin} PRIVATE TXGUICommon::TXGUICommon)
   add_dependencies(TXGallery ${plugin})
+  set_property(GLOBAL APPEND PROPERTY TX_GALLERY_PLUGINS ${plugin})
 endfunction()
 
 # tx_add_gallery_manual(<target> <from> <to>)

@@ -3,12 +3,15 @@ include(TXCompilerOptions)
 
 # tx_add_library(<name>)
 #
-# A shared library of ours without sources yet, with its alias TXGUICommon::<name> and its export
-# header <name>Export.h, which defines <NAME>_EXPORT for what hosts use and <NAME>_PRIVATE_EXPORT
-# for classes that only our own tests reach.
+# A shared library of ours without sources yet, with its export header <name>Export.h, which defines
+# <NAME>_EXPORT for what hosts use and <NAME>_PRIVATE_EXPORT for classes that only our own tests
+# reach. Its aliases are TXGUICommon::<name> and, as for those who find the installed package, the
+# name of the component: TXGUICommon::<name without TX>.
 function(tx_add_library name)
   add_library(${name} SHARED)
+  string(REGEX REPLACE "^TX" "" component ${name})
   add_library(TXGUICommon::${name} ALIAS ${name})
+  add_library(TXGUICommon::${component} ALIAS ${name})
   tx_set_compiler_options(${name})
   set_target_properties(${name} PROPERTIES
     VERSION ${PROJECT_VERSION}

@@ -1,5 +1,6 @@
 #include "LocalServer.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QJsonDocument>
@@ -18,11 +19,17 @@ const QString kPython = QStringLiteral("/usr/bin/python3");
 const QStringList kPythonOptions = {QStringLiteral("-E"), QStringLiteral("-s"),
                                     QStringLiteral("-B"), QStringLiteral("-Wignore")};
 
+/// Holds wherever the program and its folder are installed, and in the folder of a build.
+QDir scriptsFolder()
+{
+    return {QCoreApplication::applicationDirPath() + QStringLiteral("/../localservers")};
+}
+
 } // namespace
 
 LocalServer::LocalServer(const QString &script, QObject *parent)
     : QObject(parent)
-    , scriptPath(QDir(QStringLiteral(TX_LOCAL_SERVERS_FOLDER)).absoluteFilePath(script))
+    , scriptPath(QDir::cleanPath(scriptsFolder().absoluteFilePath(script)))
 {
     connect(&process, SIGNAL(readyReadStandardOutput()), this, SLOT(readLines()));
     connect(&process, SIGNAL(finished(int, QProcess::ExitStatus)), this, SLOT(processEnded()));

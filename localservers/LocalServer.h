@@ -23,7 +23,8 @@ class LocalServer : public QObject
     Q_OBJECT
 
 public:
-    /// The script's file name in this folder, or its absolute path.
+    /// The script's file name in the folder "localservers" that lies beside the folder of the
+    /// program, or its absolute path. There must be a QCoreApplication.
     explicit LocalServer(const QString &script, QObject *parent = nullptr);
 
     /// Stops the server.

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+
+/// How a program that a test ran to its end has fared.
+struct CommandResult
+{
+    /// Whether it has ended by itself with 0.
+    bool succeeded = false;
+    /// What it has printed, errors too; or why it could not run.
+    QString output;
+};
+
+/// The tree that is installed and moved before the tests.
+[[nodiscard]] QString installedTree();
+
+/// The folder of the libraries in a tree such as installedTree(), or an empty string.
+[[nodiscard]] QString librariesIn(const QString &prefix);
+
+/// Where this build lies, and its sources.
+[[nodiscard]] QString buildFolder();
+[[nodiscard]] QString sourceFolder();
+
+/// Runs a program and waits for its end, for three minutes at most.
+[[nodiscard]] CommandResult
+runCommand(const QString &program, const QStringList &arguments,
+           const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
+
+/// Runs another program of the CMake that has made this build, such as "cpack".
+[[nodiscard]] CommandResult runCMakeTool(const QString &name, const QStringList &arguments);
+
+/// Configures a host's project, which finds its packages below the prefix.
+[[nodiscard]] CommandResult configureHost(const QString &sources, const QString &folder,
+                                          const QString &prefix);
+
+/// The same, and builds it.
+[[nodiscard]] CommandResult buildHost(const QString &sources, const QString &folder,
+                                      const QString &prefix);
+
+/// Compiles a program from one source without CMake, with what pkg-config tells of a module below
+/// the prefix.
+[[nodiscard]] CommandResult buildWithPkgConfig(const QString &source, const QString &program,
+                                               const QString &module, const QString &prefix);

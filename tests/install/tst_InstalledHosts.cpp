@@ -1,0 +1,153 @@
+#include "HelloWindow.h"
+#include "HostBuild.h"
+#include "TestBase.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+/// Programs that are built with the installed libraries.
+class TestInstalledHosts : public TestBase
+{
+    Q_OBJECT
+
+private slots:
+    void exampleFindsThePackage();
+    void exampleIsBuiltWithPkgConfig();
+    void hostOfTheCoreDoesWithoutTheWidgets();
+    void packageIsFound_data();
+    void packageIsFound();
+    void packageIsRefusedInWords_data();
+    void packageIsRefusedInWords();
+
+private:
+    /// Configures a project of this one line, besides what each has.
+    CommandResult configure(const QString &line);
+};
+
+CommandResult TestInstalledHosts::configure(const QString &line)
+{
+    const QTemporaryDir folder;
+    QFile project(folder.filePath("CMakeLists.txt"));
+    if (!project.open(QFile::WriteOnly)) {
+        return {false, project.errorString()};
+    }
+    project.write("cmake_minimum_required(VERSION 3.25)\nproject(host LANGUAGES CXX)\n"
+                  + line.toUtf8() + '\n');
+    project.close();
+    CommandResult result = configureHost(folder.path(), folder.filePath("build"), installedTree());
+    // CMake breaks lines where it likes.
+    result.output = result.output.simplified();
+    return result;
+}
+
+void TestInstalledHosts::exampleFindsThePackage()
+{
+    const QTemporaryDir folder;
+
+    const CommandResult built =
+        buildHost(sourceFolder() + "/examples/hello", folder.path(), installedTree());
+
+    QVERIFY2(built.succeeded, qPrintable(built.output));
+    const QString program = folder.filePath("hello");
+    const CommandResult linked = runCommand("ldd", {program});
+    QVERIFY2(linked.output.contains(librariesIn(installedTree()) + "/libTXGUICommon.so.1"),
+             qPrintable(linked.output));
+    QCOMPARE(showAndCloseHello(program), QString());
+}
+
+void TestInstalledHosts::exampleIsBuiltWithPkgConfig()
+{
+    const QTemporaryDir folder;
+    const QString program = folder.filePath("hello");
+
+    const CommandResult built = buildWithPkgConfig(sourceFolder() + "/examples/hello/main.cpp",
+                                                   program, "TXGUICommon", installedTree());
+
+    QVERIFY2(built.succeeded, qPrintable(built.output));
+    QCOMPARE(showAndCloseHello(program), QString());
+}
+
+void TestInstalledHosts::hostOfTheCoreDoesWithoutTheWidgets()
+{
+    const QTemporaryDir folder;
+
+    const CommandResult built =
+        buildHost(sourceFolder() + "/tests/install/corehost", folder.path(), installedTree());
+
+    QVERIFY2(built.succeeded, qPrintable(built.output));
+    const CommandResult linked = runCommand("ldd", {folder.filePath("corehost")});
+    QVERIFY(linked.output.contains("libTXCoreCommon.so.1"));
+    QVERIFY2(!linked.output.contains("libTXGUICommon"), qPrintable(linked.output));
+    QVERIFY2(!linked.output.contains("libQt6Sql"), qPrintable(linked.output));
+    const CommandResult ran = runCommand(folder.filePath("corehost"), {});
+    QVERIFY(ran.succeeded);
+    QCOMPARE(ran.output, QString("No paper in the printer\n"));
+}
+
+void TestInstalledHosts::packageIsFound_data()
+{
+    QTest::addColumn<QString>("line");
+
+    const auto row = [](const char *name, const QString &wanted, const QString &target) {
+        QTest::newRow(name) << QString("find_package(TXGUICommon %1)\nget_target_property(type "
+                                       "TXGUICommon::%2 TYPE)\nmessage(${type})")
+                                   .arg(wanted, target);
+    };
+    row("without components", "REQUIRED", "GUICommon");
+    row("older minor version", "1.0 REQUIRED", "TXGUICommon");
+    row("core", "REQUIRED COMPONENTS CoreCommon", "CoreCommon");
+    row("resources", "REQUIRED COMPONENTS Resources", "Resources");
+    row("widgets bring the core", "REQUIRED COMPONENTS GUICommon", "CoreCommon");
+    row("widgets bring the resources", "REQUIRED COMPONENTS GUICommon", "TXResources");
+    row("unknown component that may be missing",
+        "REQUIRED COMPONENTS CoreCommon OPTIONAL_COMPONENTS Widgets", "TXCoreCommon");
+    row("twice", "REQUIRED COMPONENTS CoreCommon)\nfind_package(TXGUICommon REQUIRED", "GUICommon");
+}
+
+void TestInstalledHosts::packageIsFound()
+{
+    QFETCH(const QString, line);
+
+    const CommandResult result = configure(line);
+
+    QVERIFY2(result.succeeded, qPrintable(result.output));
+    QVERIFY2(result.output.contains("SHARED_LIBRARY"), qPrintable(result.output));
+}
+
+void TestInstalledHosts::packageIsRefusedInWords_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("unknown component")
+        << "find_package(TXGUICommon REQUIRED COMPONENTS CoreCommon Widgets)"
+        << "TXGUICommon has no component Widgets, but CoreCommon, Resources, GUICommon.";
+    QTest::newRow("library in place of its component")
+        << "find_package(TXGUICommon REQUIRED COMPONENTS TXGUICommon)"
+        << "TXGUICommon has no component TXGUICommon, but CoreCommon, Resources, GUICommon.";
+    QTest::newRow("next major version")
+        << "find_package(TXGUICommon 2.0 REQUIRED)"
+        << "compatible with requested version \"2.0\". The following configuration files were "
+           "considered but not accepted:";
+    QTest::newRow("next minor version") << "find_package(TXGUICommon 1.99 REQUIRED)"
+                                        << "compatible with requested version \"1.99\"";
+}
+
+void TestInstalledHosts::packageIsRefusedInWords()
+{
+    QFETCH(const QString, line);
+    QFETCH(const QString, reason);
+
+    const CommandResult result = configure(line);
+
+    QVERIFY(!result.succeeded);
+    QVERIFY2(result.output.contains(reason), qPrintable(result.output));
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<TestInstalledHosts>(argc, argv);
+}
+
+#include "tst_InstalledHosts.moc"
