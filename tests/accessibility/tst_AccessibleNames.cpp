@@ -1,5 +1,5 @@
 #include "FormControls.h"
-#include "LibraryForms.h"
+#include "LibraryWidgets.h"
 #include "TestBase.h"
 
 #include <QAbstractButton>
@@ -103,22 +103,22 @@ private:
 void TestAccessibleNames::addForms()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < libraryForms().size(); ++row) {
-        QTest::newRow(libraryForms()[row].name) << row;
+    for (int row = 0; row < libraryWidgets().size(); ++row) {
+        QTest::newRow(libraryWidgets()[row].name) << row;
     }
 }
 
 std::unique_ptr<QWidget> TestAccessibleNames::form()
 {
     QFETCH(int, row);
-    return libraryForms()[row].make();
+    return libraryWidgets()[row].make();
 }
 
 /// A form that is made later on has to come into the list.
 void TestAccessibleNames::everyFormOfTheSourcesIsWalked()
 {
     QStringList names;
-    for (const LibraryForm &form : libraryForms()) {
+    for (const LibraryWidget &form : libraryWidgets()) {
         names.append(QString::fromLatin1(form.name));
     }
     QDirIterator forms(QStringLiteral(TX_FORMS), {QStringLiteral("*.ui")});
