@@ -37,7 +37,10 @@ class TXWidgetListWidget;
 /// Ignored is null, an item that is in the list already, a layout that has a parent, and anything
 /// that this list is inside of. What is ignored stays the caller's.
 ///
-/// The tab order is that in which the widgets came, as in every layout.
+/// The tab order is that in which the widgets came, as in every layout. The scrolled area, the
+/// child "scrollArea", takes the focus to be scrolled by keyboard; screen readers call it "Items",
+/// in the language of the moment when the list was made, until the host gives it a better
+/// accessible name.
 ///
 /// Cost: one pass over all items for a change, which asks each widget for its hint. When changes
 /// have laid out a million items in a row, as some 1,400 appended widgets do, the next ones wait
