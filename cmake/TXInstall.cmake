@@ -143,6 +143,8 @@ if(TARGET TXGallery)
     DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT gallery)
   install(FILES ${PROJECT_SOURCE_DIR}/gallery/TXGallery.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT gallery)
+  install(FILES ${PROJECT_SOURCE_DIR}/gallery/TXGallery.1
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT gallery)
 endif()
 
 if(TARGET TXGUICommonDesigner)

@@ -65,17 +65,20 @@ tx_debian_package(development libtxguicommon-dev
   SECTION libdevel
   SUMMARY "Qt widgets library for colour-management applications - development"
   TEXT "Headers, CMake package and pkg-config files to build programs that use\nTXGUICommon."
-  DEPENDS "${tx_same_runtime}" qt6-base-dev)
+  DEPENDS "${tx_same_runtime}" qt6-base-dev
+  RECOMMENDS cmake g++ pkg-config)
 
-tx_debian_package(gallery txguicommon-gallery
-  SECTION devel
-  SUMMARY "Qt widgets library for colour-management applications - gallery"
-  TEXT "A program that shows every widget of TXGUICommon with real content."
-  DEPENDS "${tx_same_runtime}"
-  RECOMMENDS libqt6sql6-mysql libqt6sql6-sqlite qt6-translations-l10n
-    python3 python3-aiosmtpd python3-pyftpdlib python3-asyncssh openssl
-    mariadb-client-core mariadb-server-core samba libnss-wrapper libuid-wrapper
-    ${tx_network_drives})
+if(TARGET TXGallery)
+  tx_debian_package(gallery txguicommon-gallery
+    SECTION devel
+    SUMMARY "Qt widgets library for colour-management applications - gallery"
+    TEXT "A program that shows every widget of TXGUICommon with real content."
+    DEPENDS "${tx_same_runtime}"
+    RECOMMENDS libqt6sql6-mysql libqt6sql6-sqlite qt6-translations-l10n
+      python3 python3-aiosmtpd python3-pyftpdlib python3-asyncssh openssl
+      mariadb-client-core mariadb-server-core samba libnss-wrapper libuid-wrapper
+      ${tx_network_drives})
+endif()
 
 if(TARGET TXGUICommonDesigner)
   tx_debian_package(designer txguicommon-designer

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QEvent>
 #include <QPainter>
-#include <QScrollArea>
 
 namespace {
 
@@ -65,6 +64,5 @@ void FocusOutline::follow(QWidget * /*before*/, QWidget *now)
 bool FocusOutline::isWantedAround(const QWidget *widget) const
 {
     return qobject_cast<const QAbstractScrollArea *>(widget) != nullptr
-        && widget->metaObject() != &QScrollArea::staticMetaObject && widget->window() == window
-        && window->testAttribute(Qt::WA_KeyboardFocusChange);
+        && widget->window() == window && window->testAttribute(Qt::WA_KeyboardFocusChange);
 }

@@ -5,11 +5,10 @@
 
 class QWidget;
 
-/// Frames the list, text or picture of a window that has the focus, as many styles draw nothing
-/// around these and an empty or read-only one would not show it.
+/// Frames the list, text, picture or scrolled area of a window that has the focus, as many styles
+/// draw nothing around these and an empty or read-only one would not show it.
 ///
-/// Like the focus frames of buttons it is seen once the keyboard has moved the focus. Plain scroll
-/// areas around controls are left alone.
+/// Like the focus frames of buttons it is seen once the keyboard has moved the focus.
 class FocusOutline : public QObject
 {
     Q_OBJECT

@@ -185,6 +185,7 @@ void ImagesPage::hover(const QPointF &localPos, Qt::MouseButton /*button*/,
                        Qt::MouseButtons /*buttons*/, Qt::KeyboardModifiers /*modifiers*/,
                        bool /*isInside*/, int zoneIndex, QPoint pixmapCoord)
 {
+    isMiddleLookedAt = false;
     const QList<int> shown = picturesPanel->shown();
     const bool isPicture = zoneIndex >= 0 && zoneIndex < shown.size();
     if (isPicture && isBehindCorner(localPos, zoneIndex)
@@ -195,9 +196,19 @@ void ImagesPage::hover(const QPointF &localPos, Qt::MouseButton /*button*/,
     }
 }
 
-/// For those who have no mouse: the pixel in the middle of the first picture's zone.
+/// For those who have no mouse: the pixel in the middle of the first picture's zone, from now on
+/// until the mouse comes.
+void ImagesPage::startAtMiddle()
+{
+    isMiddleLookedAt = true;
+    lookAtMiddle();
+}
+
 void ImagesPage::lookAtMiddle()
 {
+    if (!isMiddleLookedAt) {
+        return;
+    }
     const QList<QPixmap> pictures = viewer->pixmaps();
     if (pictures.isEmpty()) {
         return;
@@ -210,6 +221,15 @@ void ImagesPage::lookAtMiddle()
     } else {
         lookAway();
     }
+}
+
+/// Whatever moves the pictures paints them; the readout waits until they are painted.
+bool ImagesPage::eventFilter(QObject *object, QEvent *event)
+{
+    if (isMiddleLookedAt && object == viewer && event->type() == QEvent::Paint) {
+        QMetaObject::invokeMethod(this, "lookAtMiddle", Qt::QueuedConnection);
+    }
+    return GalleryPage::eventFilter(object, event);
 }
 
 /// Whether a place in the viewer is not above or to the left of the zone's picture: there, too, the
@@ -230,7 +250,8 @@ void ImagesPage::setUpViewer()
     new MouseRepeater(viewer);
     auto *space = new QShortcut(QKeySequence(Qt::Key_Space), viewer);
     space->setContext(Qt::WidgetShortcut);
-    connect(space, SIGNAL(activated()), this, SLOT(lookAtMiddle()));
+    connect(space, SIGNAL(activated()), this, SLOT(startAtMiddle()));
+    viewer->installEventFilter(this);
     viewer->setMinimumHeight(kViewerHeight);
     viewer->setBackgroundRole(QPalette::Mid);
     viewer->setAutoFillBackground(true);

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] QString description() const override;
     void fillForPicture() override;
     [[nodiscard]] bool isReady() const override;
+    /// Sees that the pictures may have moved.
+    bool eventFilter(QObject *object, QEvent *event) override;
 
 protected:
     void retranslate() override;
@@ -37,6 +39,7 @@ private slots:
     void setOverlayShown(bool isShown);
     void setMarkerShown(bool isShown);
     void dropTroubles();
+    void startAtMiddle();
     void lookAtMiddle();
     void hover(const QPointF &localPos, Qt::MouseButton button, Qt::MouseButtons buttons,
                Qt::KeyboardModifiers modifiers, bool isInside, int zoneIndex, QPoint pixmapCoord);
@@ -70,6 +73,8 @@ private:
     /// The picture that is looked at, or -1, and where.
     int lookedAt = -1;
     QPoint lookedPlace;
+    /// Whether that is to stay the middle of the first picture's zone.
+    bool isMiddleLookedAt = false;
     /// How many files were chosen the last time that reading them succeeded.
     qsizetype chosenFiles = 0;
     qsizetype wantedFiles = 0;

@@ -1,5 +1,6 @@
 #include "LanguagePanel.h"
 
+#include "CopyableText.h"
 #include "GalleryLanguages.h"
 #include "GallerySettings.h"
 #include "LeftToRight.h"
@@ -51,6 +52,7 @@ LanguagePanel::LanguagePanel(QWidget *parent)
     WheelGuard::protect(box);
     files->setForegroundRole(QPalette::PlaceholderText);
     failurePicture->setPixmap(TXDisplayLittleErrorBulletStaticImage());
+    CopyableText::allow(failureText);
     setUpLayout();
     retranslate();
     connect(box, SIGNAL(activated(int)), this, SLOT(languageActivated(int)));

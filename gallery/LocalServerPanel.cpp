@@ -1,5 +1,6 @@
 #include "LocalServerPanel.h"
 
+#include "CopyableText.h"
 #include "LocalServer.h"
 #include "WaitCursor.h"
 #include "WheelGuard.h"
@@ -41,11 +42,11 @@ LocalServerPanel::LocalServerPanel(QWidget *parent)
 {
     slider->setFixedSize(kSwitchSize);
     sliderLabel->setBuddy(slider);
-    state->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    CopyableText::allow(state);
     errorPicture->setPixmap(TXDisplayLittleErrorBulletStaticImage());
     errorText->setTextFormat(Qt::PlainText);
     errorText->setWordWrap(true);
-    errorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    CopyableText::allow(errorText);
     setUpLayout();
     errorPicture->hide();
     errorText->hide();
@@ -176,6 +177,8 @@ void LocalServerPanel::showState()
 {
     const QString place = QStringLiteral("127.0.0.1:%1").arg(port());
     state->setText(isRunning() ? tr("on, at %1").arg(place) : tr("off"));
+    // Only an address is worth a stop of Tab.
+    state->setFocusPolicy(isRunning() ? Qt::StrongFocus : Qt::ClickFocus);
     state->setForegroundRole(isRunning() ? QPalette::WindowText : QPalette::PlaceholderText);
     slider->setAccessibleDescription(state->text());
     fillInButton->setEnabled(isRunning());

@@ -1,5 +1,7 @@
 #include "LogoView.h"
 
+#include "CopyableText.h"
+
 #include <QDir>
 #include <QLabel>
 #include <QPixmap>
@@ -48,7 +50,8 @@ LogoView::LogoView(QWidget *parent)
         label->setMinimumHeight(kLines * fontMetrics().lineSpacing());
     }
     path->setForegroundRole(QPalette::PlaceholderText);
-    path->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    CopyableText::allow(path);
+    setPath({});
     setUpLayout();
 }
 
@@ -61,6 +64,7 @@ void LogoView::setTitle(const QString &text)
 void LogoView::setPath(const QString &text)
 {
     path->setText(QDir::toNativeSeparators(QDir::cleanPath(text)));
+    path->setFocusPolicy(text.isEmpty() ? Qt::ClickFocus : Qt::StrongFocus);
 }
 
 void LogoView::showLogo(const QPixmap &picture, const QString &text)

@@ -1,5 +1,6 @@
 #include "ShareSearchPanel.h"
 
+#include "CopyableText.h"
 #include "SambaServerPanel.h"
 
 #include "ShareBrowser.h"
@@ -34,7 +35,7 @@ ShareSearchPanel::ShareSearchPanel(const SambaServerPanel *server, QWidget *pare
     // The network may tell any text.
     outcomeLabel->setTextFormat(Qt::PlainText);
     outcomeLabel->setWordWrap(true);
-    outcomeLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    CopyableText::allow(outcomeLabel);
     outcomeLabel->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     // The page keeps its place when a short text follows a long one.
     outcomeLabel->setMinimumHeight(kOutcomeLines * outcomeLabel->fontMetrics().lineSpacing());

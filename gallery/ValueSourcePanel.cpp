@@ -1,5 +1,7 @@
 #include "ValueSourcePanel.h"
 
+#include "CopyableText.h"
+
 #include "TXResources.h"
 
 #include <QHBoxLayout>
@@ -24,7 +26,7 @@ ValueSourcePanel::ValueSourcePanel(QWidget *parent)
     errorPicture->setPixmap(TXDisplayLittleErrorBulletStaticImage());
     messageLabel->setTextFormat(Qt::PlainText);
     messageLabel->setWordWrap(true);
-    messageLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    CopyableText::allow(messageLabel);
     // A path without a blank must not make the page wide.
     QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);

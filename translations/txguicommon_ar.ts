@@ -1594,6 +1594,10 @@ The application will exit.</source>
         <source>Form</source>
         <translation>نموذج</translation>
     </message>
+    <message>
+        <source>Items</source>
+        <translation>العناصر</translation>
+    </message>
 </context>
 <context>
     <name>VariantMoreButton</name>

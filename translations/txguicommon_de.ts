@@ -1562,6 +1562,10 @@ Die Anwendung wird beendet.</translation>
         <source>Form</source>
         <translation>Formular</translation>
     </message>
+    <message>
+        <source>Items</source>
+        <translation>Elemente</translation>
+    </message>
 </context>
 <context>
     <name>VariantMoreButton</name>

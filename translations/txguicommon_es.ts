@@ -1562,6 +1562,10 @@ La aplicación se cerrará.</translation>
         <source>Form</source>
         <translation>Formulario</translation>
     </message>
+    <message>
+        <source>Items</source>
+        <translation>Elementos</translation>
+    </message>
 </context>
 <context>
     <name>VariantMoreButton</name>

@@ -1562,6 +1562,10 @@ L’application va se fermer.</translation>
         <source>Form</source>
         <translation>Formulaire</translation>
     </message>
+    <message>
+        <source>Items</source>
+        <translation>Éléments</translation>
+    </message>
 </context>
 <context>
     <name>VariantMoreButton</name>

@@ -1562,6 +1562,10 @@ L'applicazione verrà chiusa.</translation>
         <source>Form</source>
         <translation>Modulo</translation>
     </message>
+    <message>
+        <source>Items</source>
+        <translation>Elementi</translation>
+    </message>
 </context>
 <context>
     <name>VariantMoreButton</name>

@@ -1554,6 +1554,10 @@ The application will exit.</source>
         <source>Form</source>
         <translation>フォーム</translation>
     </message>
+    <message>
+        <source>Items</source>
+        <translation>項目</translation>
+    </message>
 </context>
 <context>
     <name>VariantMoreButton</name>

@@ -49,13 +49,3 @@ void TXPasswordLineEdit::clear()
     encrypted.clear();
     QLineEdit::clear();
 }
-
-QString TXPasswordLineEdit::shownText() const
-{
-    return QLineEdit::text();
-}
-
-void TXPasswordLineEdit::setShownText(const QString &text)
-{
-    QLineEdit::setText(text);
-}

@@ -19,10 +19,6 @@
 class TXGUICOMMON_EXPORT TXPasswordLineEdit : public QLineEdit
 {
     Q_OBJECT
-    /// What QLineEdit has under this name, the mask for a value set by the program; never in a
-    /// form.
-    Q_PROPERTY(
-        QString text READ shownText WRITE setShownText DESIGNABLE false STORED false USER true)
 
 public:
     /// An empty field in password echo mode.
@@ -44,8 +40,5 @@ public slots:
     void clear();
 
 private:
-    [[nodiscard]] QString shownText() const;
-    void setShownText(const QString &text);
-
     QString encrypted;
 };

@@ -66,14 +66,21 @@ public:
     [[nodiscard]] QModelIndex mapToSource(const QModelIndex &proxyIndex) const override;
     /// Invalid for an index that is not on the top level of the source.
     [[nodiscard]] QModelIndex mapFromSource(const QModelIndex &sourceIndex) const override;
+    /// Invalid for a place that is not there.
     [[nodiscard]] QModelIndex index(int row, int column,
                                     const QModelIndex &parent = {}) const override;
     /// Always invalid: the rows are flat.
     [[nodiscard]] QModelIndex parent(const QModelIndex &index) const override;
     using QObject::parent;
+    /// The rows of the source and the extra ones; 0 below a row.
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    /// Those of the source, but at least 1; 0 below a row.
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    /// Whether there are rows.
     [[nodiscard]] bool hasChildren(const QModelIndex &parent = {}) const override;
+    /// What the source tells of its rows. Of an extra one its text under Qt::DisplayRole and
+    /// Qt::EditRole and its value under Qt::UserRole, of the separator "separator" under
+    /// Qt::AccessibleDescriptionRole.
     [[nodiscard]] QVariant data(const QModelIndex &index,
                                 int role = Qt::DisplayRole) const override;
     /// Of the source for its rows; false for an extra row.
@@ -81,9 +88,14 @@ public:
     /// The source's header across; plain row numbers downwards.
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role = Qt::DisplayRole) const override;
+    /// Those of the source for its rows. An extra one is enabled and can be selected; the separator
+    /// neither.
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+    /// That of the source for its rows; an extra one is its own.
     [[nodiscard]] QModelIndex buddy(const QModelIndex &index) const override;
+    /// Whether the source has more on its top level.
     [[nodiscard]] bool canFetchMore(const QModelIndex &parent) const override;
+    /// Lets the source fetch what canFetchMore() tells of.
     void fetchMore(const QModelIndex &parent) override;
 
 private slots:

@@ -78,8 +78,10 @@ public:
     /// Column 0 of the folder at `row`; an invalid index when there is none.
     [[nodiscard]] QModelIndex index(int row, int column,
                                     const QModelIndex &parent = {}) const override;
+    /// The folder that holds this one; invalid for one on the top level.
     [[nodiscard]] QModelIndex parent(const QModelIndex &index) const override;
     using QObject::parent;
+    /// How many folders are directly in this one, or on the top level.
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     /// Always 1.
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;

@@ -22,10 +22,13 @@ class TXCORECOMMON_EXPORT TXError
 public:
     /// An error with nothing to report; isValid() is false.
     TXError();
+    /// A copy, which shares the contents.
     TXError(const TXError &other);
+    /// Takes the contents over.
     TXError(TXError &&other) noexcept;
     /// Assigning one of its own nested errors to an error is allowed.
     TXError &operator=(const TXError &other);
+    /// Takes the contents over.
     TXError &operator=(TXError &&other) noexcept;
     ~TXError();
 

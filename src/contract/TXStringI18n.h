@@ -41,9 +41,13 @@ public:
     /// The strings are copied.
     TXStringI18n(const char *context, const char *source, const char *disambiguation, int n);
 
+    /// A copy, which shares the text.
     TXStringI18n(const TXStringI18n &other);
+    /// Takes the text over.
     TXStringI18n(TXStringI18n &&other) noexcept;
+    /// Becomes a copy, which shares the text.
     TXStringI18n &operator=(const TXStringI18n &other);
+    /// Takes the text over.
     TXStringI18n &operator=(TXStringI18n &&other) noexcept;
     ~TXStringI18n();
 

@@ -29,11 +29,13 @@ int toSteps(double value, double scale)
     return WholeNumber::truncated(value * scale);
 }
 
-/// A label may end with a colon, a name does not.
+/// A label may end with a colon, that of Chinese and Japanese too; a name does not.
 QString withoutColon(const QString &label)
 {
+    constexpr QChar kFullwidthColon(0xFF1A);
     const QString name = label.trimmed();
-    return name.endsWith(QLatin1Char(':')) ? name.chopped(1).trimmed() : name;
+    const bool hasColon = name.endsWith(QLatin1Char(':')) || name.endsWith(kFullwidthColon);
+    return hasColon ? name.chopped(1).trimmed() : name;
 }
 
 } // namespace

@@ -29,9 +29,6 @@
 class TXGUICOMMON_EXPORT TXUnfolderWidget : public QGroupBox
 {
     Q_OBJECT
-    /// That of QGroupBox, but not for forms: a form sets it before the children are there and the
-    /// box can be seen, when folding hides nothing.
-    Q_PROPERTY(bool checked READ isChecked WRITE setChecked DESIGNABLE false USER true)
 
 public:
     /// A flat box without a title, unfolded. It has a style sheet for its triangle: one that a host

@@ -5,6 +5,7 @@
 #include "ui_TXWidgetListWidget.h"
 
 #include <QChildEvent>
+#include <QEvent>
 #include <QScopedValueRollback>
 #include <QSet>
 #include <QSignalBlocker>
@@ -38,6 +39,7 @@ TXWidgetListWidget::TXWidgetListWidget(QWidget *parent)
     , allowance(kItemsPerTurn)
 {
     ui->setupUi(this);
+    nameArea();
     ui->horizontalLayout->removeItem(ui->horizontalSpacer);
     ui->horizontalLayout->removeItem(ui->verticalSpacer);
     flow = std::make_unique<RowFlow>(ui->gridLayout, ui->horizontalSpacer, ui->verticalSpacer);
@@ -228,6 +230,22 @@ bool TXWidgetListWidget::eventFilter(QObject *object, QEvent *event)
         dropItemsOf(static_cast<QChildEvent *>(event)->child());
     }
     return QWidget::eventFilter(object, event);
+}
+
+void TXWidgetListWidget::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        nameArea();
+    }
+}
+
+void TXWidgetListWidget::nameArea()
+{
+    if (ui->scrollArea->accessibleName() == areaName) {
+        areaName = tr("Items");
+        ui->scrollArea->setAccessibleName(areaName);
+    }
 }
 
 void TXWidgetListWidget::resizeEvent(QResizeEvent *event)

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QMultiHash>
 #include <QSize>
+#include <QString>
 #include <QWidget>
 
 #include <memory>
@@ -37,7 +38,9 @@ class TXWidgetListWidget;
 /// Ignored is null, an item that is in the list already, a layout that has a parent, and anything
 /// that this list is inside of. What is ignored stays the caller's.
 ///
-/// The tab order is that in which the widgets came, as in every layout.
+/// The tab order is that in which the widgets came, as in every layout. The scrolled area, the
+/// child "scrollArea", takes the focus to be scrolled by keyboard; screen readers call it "Items",
+/// until the host gives it a better accessible name.
 ///
 /// Cost: one pass over all items for a change, which asks each widget for its hint. When changes
 /// have laid out a million items in a row, as some 1,400 appended widgets do, the next ones wait
@@ -115,6 +118,8 @@ public:
 protected:
     /// Lays all items out for the new width.
     void resizeEvent(QResizeEvent *event) override;
+    /// Follows a change of the language.
+    void changeEvent(QEvent *event) override;
 
 private slots:
     /// Drops the items of a widget or layout that is gone or somewhere else.
@@ -123,6 +128,7 @@ private slots:
     void settle();
 
 private:
+    void nameArea();
     [[nodiscard]] bool isTakeable(QLayoutItem *item) const;
     void watch(QLayoutItem *item);
     void unwatch(QLayoutItem *item);
@@ -143,6 +149,8 @@ private:
     QMultiHash<QObject *, QLayoutItem *> itemsOf;
     /// So many items may still be laid out before control goes back to the event loop.
     qsizetype allowance = 0;
+    /// The name that this widget has given to the scrolled area; another one is the host's.
+    QString areaName;
     bool isInPass = false;
     bool isPassDue = false;
     bool isSettlingPosted = false;

@@ -30,6 +30,8 @@ signals:
     void editionFinished();
 
 protected:
+    /// That of QWidget; for pages to override.
     void showEvent(QShowEvent *event) override;
+    /// That of QWidget; for pages to override.
     void hideEvent(QHideEvent *event) override;
 };

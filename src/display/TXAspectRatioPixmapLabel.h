@@ -43,6 +43,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
+    /// Calls updateMargins().
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -54,37 +54,22 @@ void TXColorSquareWidget::setSizeHint(const QSize &size)
     }
 }
 
-QBrush TXColorSquareWidget::brush() const
-{
-    return brushValue;
-}
-
 void TXColorSquareWidget::setBrush(const QBrush &newBrush)
 {
-    if (newBrush == brushValue) {
+    if (newBrush == brush) {
         return;
     }
-    brushValue = newBrush;
+    brush = newBrush;
     update();
     AccessibleDescription::tellOfChange(*this);
 }
 
-QPen TXColorSquareWidget::pen() const
-{
-    return penValue;
-}
-
 void TXColorSquareWidget::setPen(const QPen &newPen)
 {
-    if (newPen != penValue) {
-        penValue = newPen;
+    if (newPen != pen) {
+        pen = newPen;
         update();
     }
-}
-
-double TXColorSquareWidget::radius() const
-{
-    return xRadius;
 }
 
 void TXColorSquareWidget::setRadius(double radius)
@@ -96,15 +81,10 @@ void TXColorSquareWidget::setRadius(double radius)
     }
 }
 
-Qt::Alignment TXColorSquareWidget::alignment() const
-{
-    return alignmentValue;
-}
-
 void TXColorSquareWidget::setAlignment(Qt::Alignment newAlignment)
 {
-    if (newAlignment != alignmentValue) {
-        alignmentValue = newAlignment;
+    if (newAlignment != alignment) {
+        alignment = newAlignment;
         update();
     }
 }
@@ -122,7 +102,7 @@ QSize TXColorSquareWidget::minimumSizeHint() const
 void TXColorSquareWidget::paintEvent(QPaintEvent *)
 {
     const QSize square = sizeHint();
-    const int penWidth = penValue.width();
+    const int penWidth = pen.width();
     const int corner = int(penWidth * 0.5);
     const QRectF rect(corner, corner, inner(width(), square.width(), penWidth),
                       inner(height(), square.height(), penWidth));
@@ -130,8 +110,8 @@ void TXColorSquareWidget::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.save();
-    painter.setBrush(brushValue);
-    painter.setPen(penValue);
+    painter.setBrush(brush);
+    painter.setPen(pen);
     painter.translate(offset(square));
     painter.drawRoundedRect(rect, drawable(xRadius), drawable(yRadius), Qt::AbsoluteSize);
     painter.restore();
@@ -145,11 +125,11 @@ void TXColorSquareWidget::applySizeHint(const QSize &size)
 
 QString TXColorSquareWidget::brushInWords() const
 {
-    switch (brushValue.style()) {
+    switch (brush.style()) {
     case Qt::NoBrush:
         return tr("No colour");
     case Qt::SolidPattern:
-        return ColourName::of(brushValue.color());
+        return ColourName::of(brush.color());
     case Qt::LinearGradientPattern:
     case Qt::RadialGradientPattern:
     case Qt::ConicalGradientPattern:
@@ -157,14 +137,14 @@ QString TXColorSquareWidget::brushInWords() const
     case Qt::TexturePattern:
         return tr("Picture");
     default:
-        return tr("Pattern in %1").arg(ColourName::of(brushValue.color()));
+        return tr("Pattern in %1").arg(ColourName::of(brush.color()));
     }
 }
 
 QPointF TXColorSquareWidget::offset(const QSize &square) const
 {
     const auto has = [this](Qt::AlignmentFlag flag) {
-        return alignmentValue.testFlag(flag);
+        return alignment.testFlag(flag);
     };
     const float x = placed(has(Qt::AlignLeft), has(Qt::AlignRight), has(Qt::AlignHCenter), width(),
                            square.width());

@@ -24,14 +24,14 @@ class TXGUICOMMON_EXPORT TXColorSquareWidget : public QWidget
     Q_OBJECT
     /// See sizeHint(). Writing it is setSizeHint() with updateGeometry() behind it.
     Q_PROPERTY(QSize sizeHint READ sizeHint WRITE applySizeHint)
-    /// See brush() and setBrush().
-    Q_PROPERTY(QBrush brush READ brush WRITE setBrush)
-    /// See pen() and setPen(). Qt Designer has no editor for pens.
-    Q_PROPERTY(QPen pen READ pen WRITE setPen DESIGNABLE false)
-    /// See radius() and setRadius().
-    Q_PROPERTY(double radius READ radius WRITE setRadius)
-    /// See alignment() and setAlignment().
-    Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
+    /// See setBrush().
+    Q_PROPERTY(QBrush brush MEMBER brush WRITE setBrush)
+    /// See setPen(). Qt Designer has no editor for pens.
+    Q_PROPERTY(QPen pen MEMBER pen WRITE setPen DESIGNABLE false)
+    /// See setRadius().
+    Q_PROPERTY(double radius MEMBER xRadius WRITE setRadius)
+    /// See setAlignment().
+    Q_PROPERTY(Qt::Alignment alignment MEMBER alignment WRITE setAlignment)
 
 public:
     /// A square of 24 by 24 pixels at the top left, without a filling, with sharp corners.
@@ -41,21 +41,13 @@ public:
     /// layout to see the new size call updateGeometry() as well. Nothing sensible is painted for a
     /// negative size.
     void setSizeHint(const QSize &size);
-    /// The filling.
-    [[nodiscard]] QBrush brush() const;
     /// The filling; none at first.
     void setBrush(const QBrush &brush);
-    /// The frame.
-    [[nodiscard]] QPen pen() const;
     /// The frame, inside the square's size; black and one pixel wide at first. Widths count in
     /// whole pixels.
     void setPen(const QPen &pen);
-    /// The radius of the corners in pixels.
-    [[nodiscard]] double radius() const;
     /// The radius of the corners in pixels; 0 at first. What is not above 0 leaves them sharp.
     void setRadius(double radius);
-    /// Where the square stands in a widget that is larger.
-    [[nodiscard]] Qt::Alignment alignment() const;
     /// Where the square stands in a widget that is larger; top left at first. Without an alignment
     /// in one direction, left or top. Left and right are what they say in every layout direction.
     void setAlignment(Qt::Alignment alignment);
@@ -66,6 +58,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
+    /// Paints the square.
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -76,9 +69,9 @@ private:
     [[nodiscard]] QPointF offset(const QSize &square) const;
 
     QSize sizeHintValue = QSize(24, 24);
-    QBrush brushValue;
-    QPen penValue;
+    QBrush brush;
+    QPen pen;
     double xRadius = 0.0;
     double yRadius = 0.0;
-    Qt::Alignment alignmentValue = Qt::AlignLeft | Qt::AlignTop;
+    Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop;
 };

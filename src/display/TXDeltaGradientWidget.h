@@ -55,6 +55,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
+    /// Paints captions, values, marks and bar.
     void paintEvent(QPaintEvent *event) override;
 
 private:

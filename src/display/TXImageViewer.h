@@ -149,15 +149,25 @@ signals:
     void scaleChanged(float scale);
 
 protected:
+    /// Zooms, if the scale is free to the user.
     void wheelEvent(QWheelEvent *event) override;
+    /// Emits hover() for a mouse that has left.
     void leaveEvent(QEvent *event) override;
+    /// Begins to drag the pictures; emits hover().
     void mousePressEvent(QMouseEvent *event) override;
+    /// Drags the pictures; emits hover().
     void mouseMoveEvent(QMouseEvent *event) override;
+    /// Ends the drag; emits hover().
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /// Fits the pictures in again where the scale is one that follows the size.
     void resizeEvent(QResizeEvent *event) override;
+    /// Paints the pictures, zone by zone, and a frame for the focus by keyboard.
     void paintEvent(QPaintEvent *event) override;
+    /// Ends a drag, and gives back what was kept for painting.
     void hideEvent(QHideEvent *event) override;
+    /// Ends a drag when the viewer is disabled.
     void changeEvent(QEvent *event) override;
+    /// Moves the pictures and zooms, by the keys named above.
     void keyPressEvent(QKeyEvent *event) override;
 
     /// What a viewer knows; of no use outside of the library.

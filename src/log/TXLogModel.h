@@ -40,15 +40,20 @@ public:
 
     /// Constant time, in every column of the parent alike.
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
+    /// The entry that this one stands below; invalid on the top level.
     QModelIndex parent(const QModelIndex &index) const override;
+    /// How many entries stand directly below, the same for every column of the parent.
     int rowCount(const QModelIndex &parent = {}) const override;
+    /// Always ColumnCount.
     int columnCount(const QModelIndex &parent = {}) const override;
 
     /// Display, edit and decoration role; every other role is invalid. The display text of a
     /// message is translated anew each time, also when the message holds a stored flat form.
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    /// The titles of the first two columns, translated each time, and plain row numbers.
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
+    /// An entry is enabled and can be selected.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
     /// The index of an item that is shown at any depth below `parent`, invalid when there is none.

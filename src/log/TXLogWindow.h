@@ -39,9 +39,11 @@ public:
     /// The number of top-level events that the window holds, whatever the filter shows of them.
     int nbEventLogged();
 
+    /// Keeps the wheel from changing the filter.
     bool eventFilter(QObject *object, QEvent *event) override;
 
 protected:
+    /// Sets the icon of the window.
     void showEvent(QShowEvent *event) override;
     /// Follows a change of the language; messages that keep their source do so as well.
     void changeEvent(QEvent *event) override;

@@ -1,13 +1,19 @@
 #include "FormControls.h"
-#include "LibraryForms.h"
+#include "LibraryWidgets.h"
 #include "TestBase.h"
 
+#include "FTPConfigurationWidget.h"
+#include "TXWidgetListWidget.h"
+
 #include <QAbstractButton>
+#include <QAccessible>
+#include <QComboBox>
 #include <QDirIterator>
 #include <QGroupBox>
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QTranslator>
 #include <QVBoxLayout>
 
@@ -92,6 +98,8 @@ private slots:
     void namesFollowTheLanguageWithTheTexts_data() { addForms(); }
     void namesFollowTheLanguageWithTheTexts();
 
+    void boxWithoutALabelIsDescribed();
+    void nameOfTheHostStaysInEveryLanguage();
     void groupTitleAndExampleAreNoNames();
     void labelsAndTextsAreNames();
 
@@ -103,22 +111,22 @@ private:
 void TestAccessibleNames::addForms()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < libraryForms().size(); ++row) {
-        QTest::newRow(libraryForms()[row].name) << row;
+    for (int row = 0; row < libraryWidgets().size(); ++row) {
+        QTest::newRow(libraryWidgets()[row].name) << row;
     }
 }
 
 std::unique_ptr<QWidget> TestAccessibleNames::form()
 {
     QFETCH(int, row);
-    return libraryForms()[row].make();
+    return libraryWidgets()[row].make();
 }
 
 /// A form that is made later on has to come into the list.
 void TestAccessibleNames::everyFormOfTheSourcesIsWalked()
 {
     QStringList names;
-    for (const LibraryForm &form : libraryForms()) {
+    for (const LibraryWidget &form : libraryWidgets()) {
         names.append(QString::fromLatin1(form.name));
     }
     QDirIterator forms(QStringLiteral(TX_FORMS), {QStringLiteral("*.ui")});
@@ -182,6 +190,35 @@ void TestAccessibleNames::namesFollowTheLanguageWithTheTexts()
     });
     const QStringList found = untranslated(controls);
     QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+}
+
+/// Where the name of a combo box is what it shows, and no label stands before it, the description
+/// tells what it is for.
+void TestAccessibleNames::boxWithoutALabelIsDescribed()
+{
+    CapitalTranslator translator;
+    FTPConfigurationWidget form(nullptr);
+    auto *box = form.findChild<QComboBox *>(QStringLiteral("schemeComboBox"));
+    const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(box);
+    QCOMPARE(told->text(QAccessible::Description), QStringLiteral("Protocol"));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QCoreApplication::processEvents();
+    QCOMPARE(told->text(QAccessible::Description), QStringLiteral("PROTOCOL"));
+}
+
+void TestAccessibleNames::nameOfTheHostStaysInEveryLanguage()
+{
+    CapitalTranslator translator;
+    const TXWidgetListWidget list;
+    const TXWidgetListWidget named;
+    const auto *area = list.findChild<QScrollArea *>(QStringLiteral("scrollArea"));
+    auto *namedArea = named.findChild<QScrollArea *>(QStringLiteral("scrollArea"));
+    QCOMPARE(area->accessibleName(), QStringLiteral("Items"));
+    namedArea->setAccessibleName(QStringLiteral("Swatches"));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QCoreApplication::processEvents();
+    QCOMPARE(area->accessibleName(), QStringLiteral("ITEMS"));
+    QCOMPARE(namedArea->accessibleName(), QStringLiteral("Swatches"));
 }
 
 void TestAccessibleNames::groupTitleAndExampleAreNoNames()

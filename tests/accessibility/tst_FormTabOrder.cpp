@@ -1,5 +1,5 @@
 #include "FormControls.h"
-#include "LibraryForms.h"
+#include "LibraryWidgets.h"
 #include "TestBase.h"
 
 #include <algorithm>
@@ -26,15 +26,15 @@ private:
 void TestFormTabOrder::addForms()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < libraryForms().size(); ++row) {
-        QTest::newRow(libraryForms()[row].name) << row;
+    for (int row = 0; row < libraryWidgets().size(); ++row) {
+        QTest::newRow(libraryWidgets()[row].name) << row;
     }
 }
 
 std::unique_ptr<QWidget> TestFormTabOrder::shownForm()
 {
     QFETCH(int, row);
-    std::unique_ptr<QWidget> form = libraryForms()[row].make();
+    std::unique_ptr<QWidget> form = libraryWidgets()[row].make();
     form->show();
     return QTest::qWaitForWindowActive(form.get()) ? std::move(form) : nullptr;
 }
@@ -78,7 +78,7 @@ void TestFormTabOrder::backtabGoesTheSameWayBack()
 void TestFormTabOrder::tabFollowsTheOrderOfReading()
 {
     QFETCH(int, row);
-    if (qstrcmp(libraryForms()[row].name, "EMailSenderWidget") == 0) {
+    if (qstrcmp(libraryWidgets()[row].name, "EMailSenderWidget") == 0) {
         // Its order leads from the buttons back to the fields; tst_EMailSenderWidget has it.
         return;
     }

@@ -1,10 +1,11 @@
 #include "FormControls.h"
-#include "LibraryForms.h"
+#include "LibraryWidgets.h"
 #include "TestBase.h"
 
 #include <QApplication>
 #include <QImage>
 #include <QPushButton>
+#include <QScrollArea>
 
 namespace {
 
@@ -18,12 +19,17 @@ QImage seen(const QWidget &control)
     return window->grab(place.adjusted(-kAround, -kAround, kAround, kAround)).toImage();
 }
 
+bool isPlainScrollArea(const QWidget &widget)
+{
+    return widget.metaObject() == &QScrollArea::staticMetaObject;
+}
+
 /// A style shows the default button of a dialog like one with the focus; then the mark that the
 /// control before has lost tells. A plain scroll area only takes the focus to be scrolled.
 bool isLeftToTheStyle(const QWidget &control)
 {
     const auto *button = qobject_cast<const QPushButton *>(&control);
-    return (button != nullptr && button->isDefault()) || FormControls::isPart(control);
+    return (button != nullptr && button->isDefault()) || isPlainScrollArea(control);
 }
 
 /// Whether the focus can be told from the picture.
@@ -53,8 +59,8 @@ protected:
 void TestVisibleFocus::everyControlShowsItsFocus_data()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < libraryForms().size(); ++row) {
-        QTest::newRow(libraryForms()[row].name) << row;
+    for (int row = 0; row < libraryWidgets().size(); ++row) {
+        QTest::newRow(libraryWidgets()[row].name) << row;
     }
 }
 
@@ -64,7 +70,7 @@ void TestVisibleFocus::everyControlShowsItsFocus()
     QWidget window;
     QWidget elsewhere(&window);
     elsewhere.setFocusPolicy(Qt::StrongFocus);
-    std::unique_ptr<QWidget> form = libraryForms()[row].make();
+    std::unique_ptr<QWidget> form = libraryWidgets()[row].make();
     form->setParent(&window, Qt::Widget);
     const QSize size = form->sizeHint().expandedTo(form->minimumSize()).expandedTo({60, 40});
     form->setGeometry(QRect(QPoint(20, 20), size));

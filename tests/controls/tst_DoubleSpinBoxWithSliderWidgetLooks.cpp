@@ -25,6 +25,8 @@ private slots:
 
     void labelShowsTheName();
     void ampersandInTheNameIsShown();
+    void colonOfTheLabelIsNotSpoken_data();
+    void colonOfTheLabelIsNotSpoken();
     void nameIsTheAccessibleNameOfAllThree();
     void secondRowNeedsOneName_data();
     void secondRowNeedsOneName();
@@ -165,6 +167,31 @@ void TestDoubleSpinBoxWithSliderWidgetLooks::ampersandInTheNameIsShown()
     const QLabel asItStands(QStringLiteral("Hue && Tone"));
     QCOMPARE(label->sizeHint(), asItStands.sizeHint());
     QVERIFY(!label->buddy());
+}
+
+void TestDoubleSpinBoxWithSliderWidgetLooks::colonOfTheLabelIsNotSpoken_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("spoken");
+
+    QTest::newRow("colon") << "Gain:"
+                           << "Gain";
+    QTest::newRow("colon behind a blank") << QString("Gain\u00A0:") << "Gain";
+    QTest::newRow("wide colon") << QString("\u589E\u76CA\uFF1A") << QString("\u589E\u76CA");
+    QTest::newRow("colon within") << "Ratio 1:2"
+                                  << "Ratio 1:2";
+    QTest::newRow("colon alone") << ":" << QString();
+}
+
+void TestDoubleSpinBoxWithSliderWidgetLooks::colonOfTheLabelIsNotSpoken()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, spoken);
+    widget->setDataName(name);
+    QCOMPARE(widget->dataName(), name);
+    QCOMPARE(right()->accessibleName(), spoken);
+    QCOMPARE(left()->accessibleName(), spoken);
+    QCOMPARE(slider()->accessibleName(), spoken);
 }
 
 void TestDoubleSpinBoxWithSliderWidgetLooks::nameIsTheAccessibleNameOfAllThree()

@@ -2,11 +2,14 @@
 #include "RotationLabel.h"
 #include "TXColorSquareWidget.h"
 #include "TXPasswordLineEdit.h"
+#include "TXSwitchSlider.h"
+#include "TXUnfolderWidget.h"
 #include "TestBase.h"
 
 #include <QBuffer>
 #include <QMetaProperty>
 #include <QPixmap>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QUiLoader>
 #include <QVBoxLayout>
@@ -120,6 +123,8 @@ private slots:
     void readOnlyPropertiesAreThoseOfTheViewer();
     void passwordIsNoProperty();
     void textOfAPasswordFieldIsStillThatOfALineEdit();
+    void propertiesOfTheBaseNotifyAsThere();
+    void changeOfTheSwitchIsNotifiedWhateverSetsIt();
     void writtenRotationIsSeenAtOnce();
     void writtenSizeOfASquareIsSeenAtOnce();
 
@@ -218,8 +223,6 @@ void TestFormProperties::isNotOffered_data()
     QTest::addColumn<QString>("className");
     QTest::addColumn<QByteArray>("name");
 
-    QTest::newRow("a password") << "TXPasswordLineEdit" << QByteArray("text");
-    QTest::newRow("folding before it is seen") << "TXUnfolderWidget" << QByteArray("checked");
     QTest::newRow("a step of an animation") << "WaitWidget" << QByteArray("currentElement");
     QTest::newRow("a pen") << "TXColorSquareWidget" << QByteArray("pen");
 }
@@ -271,6 +274,38 @@ void TestFormProperties::textOfAPasswordFieldIsStillThatOfALineEdit()
     QVERIFY(edit.setProperty("text", QStringLiteral("typed")));
     QCOMPARE(edit.QLineEdit::text(), QStringLiteral("typed"));
     QCOMPARE(QByteArray(edit.metaObject()->userProperty().name()), QByteArray("text"));
+}
+
+void TestFormProperties::propertiesOfTheBaseNotifyAsThere()
+{
+    TXPasswordLineEdit edit;
+    const QMetaProperty text = propertyOf(edit, "text");
+    QCOMPARE(text.notifySignal(), QMetaMethod::fromSignal(&QLineEdit::textChanged));
+    QSignalSpy edited(&edit, text.notifySignal());
+    edit.setText(QStringLiteral("correct horse"));
+    QCOMPARE(edited.size(), 1);
+
+    TXUnfolderWidget box;
+    const QMetaProperty checked = propertyOf(box, "checked");
+    QCOMPARE(checked.notifySignal(), QMetaMethod::fromSignal(&QGroupBox::toggled));
+    QSignalSpy toggled(&box, checked.notifySignal());
+    box.setChecked(false);
+    QCOMPARE(toggled.size(), 1);
+    QCOMPARE(QByteArray(box.metaObject()->userProperty().name()), QByteArray("checked"));
+}
+
+void TestFormProperties::changeOfTheSwitchIsNotifiedWhateverSetsIt()
+{
+    TXSwitchSlider toggle;
+    const QMetaProperty checked = propertyOf(toggle, "checked");
+    QSignalSpy notified(&toggle, checked.notifySignal());
+    toggle.setValue(1);
+    QVERIFY(checked.read(&toggle).toBool());
+    QCOMPARE(notified.size(), 1);
+    QVERIFY(checked.write(&toggle, false));
+    QCOMPARE(notified.size(), 2);
+    toggle.setValue(0);
+    QCOMPARE(notified.size(), 2);
 }
 
 void TestFormProperties::writtenRotationIsSeenAtOnce()

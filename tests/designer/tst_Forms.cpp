@@ -180,9 +180,9 @@ void TestForms::looksArrive()
     QCOMPARE(form->findChild<RotationLabel *>()->rotation(), RotationLabel::RotateCounterClockwise);
     const auto *square = form->findChild<TXColorSquareWidget *>();
     QCOMPARE(square->sizeHint(), QSize(40, 40));
-    QCOMPARE(square->brush(), QBrush(QColor(200, 30, 60)));
-    QCOMPARE(square->radius(), 6.5);
-    QCOMPARE(square->alignment(), Qt::AlignCenter);
+    QCOMPARE(square->property("brush").value<QBrush>(), QBrush(QColor(200, 30, 60)));
+    QCOMPARE(square->property("radius").toDouble(), 6.5);
+    QCOMPARE(square->property("alignment").value<Qt::Alignment>(), Qt::AlignCenter);
     const auto *tolerance = form->findChild<DoubleSpinBoxWithSliderWidget *>();
     QCOMPARE(tolerance->spinBoxSuffix(), QStringLiteral(" mm"));
     QCOMPARE(tolerance->spinBoxButtonSymbol(), QAbstractSpinBox::PlusMinus);

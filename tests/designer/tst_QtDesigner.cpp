@@ -173,10 +173,8 @@ void TestQtDesigner::propertiesCanBeEdited_data()
                              << "brush" << true;
     QTest::newRow("message") << "workBar"
                              << "message" << true;
-    QTest::newRow("folding") << "moreBox"
-                             << "checked" << false;
-    QTest::newRow("password") << "passwordEdit"
-                              << "text" << false;
+    QTest::newRow("pen") << "inkSquare"
+                         << "pen" << false;
 }
 
 void TestQtDesigner::propertiesCanBeEdited()

@@ -14,6 +14,7 @@ const QSet<QString> kNoWidgets = {
     "QAbstractItemModel",
     "QAbstractProxyModel",
     "QAbstractTableModel",
+    "QAccessibleWidget",
     "QGraphicsItem",
     "QGraphicsPathItem",
     "QGraphicsPixmapItem",

@@ -213,26 +213,10 @@ QSet<QString> wordsIn(const QStringList &paths)
     return words;
 }
 
-/// The headers that hosts include, from the lists of units in the build.
+/// The headers that hosts include, from a list that the build writes.
 QStringList publicHeaders()
 {
-    static const QRegularExpression units(
-        QStringLiteral("PUBLIC([^)]*?)(?:PRIVATE|PRECOMPILE|\\))"));
-    QStringList headers;
-    const QStringList lists = filesBelow(QStringLiteral("src"), {QStringLiteral("CMakeLists.txt")});
-    for (const QString &list : lists) {
-        auto matches = units.globalMatch(readFile(list));
-        while (matches.hasNext()) {
-            const QStringList names = matches.next().captured(1).simplified().split(u' ');
-            for (const QString &name : names) {
-                const QString header = QFileInfo(list).path() + u'/' + name + QStringLiteral(".h");
-                if (QFileInfo::exists(header)) {
-                    headers.append(header);
-                }
-            }
-        }
-    }
-    return headers;
+    return readFile(QStringLiteral(TX_PUBLIC_HEADERS)).split(u'\n', Qt::SkipEmptyParts);
 }
 
 /// The names that stand between backticks and look like a class or one of its members. Qt's own are

@@ -30,12 +30,11 @@ QImage seen(const QWidget &control)
     return window->grab(place.adjusted(-kAround, -kAround, kAround, kAround)).toImage();
 }
 
-/// A style shows the default button of a dialog like one with the focus. An empty list has no row
-/// to mark.
+/// A style shows the default button of a dialog like one with the focus.
 bool isLeftToTheStyle(const QWidget &control)
 {
     const auto *button = qobject_cast<const QPushButton *>(&control);
-    return (button != nullptr && button->isDefault()) || FormControls::isPart(control);
+    return button != nullptr && button->isDefault();
 }
 
 bool showsFocus(QWidget &control, QWidget &elsewhere)

@@ -25,6 +25,7 @@ private slots:
     void readoutFollowsAPictureThatWasDraggedTooFar();
     void spaceReadsThePixelInTheMiddle();
     void spaceBesideThePictureReadsNothing();
+    void middleIsReadOnUntilTheMouseComes();
     void picturesThatMoveTellNothingWithoutAMouse();
     void lastRowAndColumnAreRead();
     void scaleOfTheUserStays_data();
@@ -133,6 +134,29 @@ void TestImagesPageView::spaceBesideThePictureReadsNothing()
     press(Qt::Key_Space);
 
     QVERIFY(!isPixelRead(before));
+}
+
+void TestImagesPageView::middleIsReadOnUntilTheMouseComes()
+{
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    viewer->setFocus();
+    viewer->scale(2, TXImageViewer::Absolute);
+    viewer->repaint();
+    press(Qt::Key_Space);
+    const QPointF middle(viewer->width() / 6.0, viewer->height() / 2.0);
+    const QPoint before = pixelAt(0, middle);
+    QVERIFY2(isPixelRead(before), qPrintable(allTexts(*page)));
+
+    press(Qt::Key_Right);
+    viewer->repaint();
+    QVERIFY(pixelAt(0, middle) != before);
+    QTRY_VERIFY2(isPixelRead(pixelAt(0, middle)), qPrintable(allTexts(*page)));
+
+    const QPointF place(100, 130);
+    moveMouse(place);
+    press(Qt::Key_Left);
+    viewer->repaint();
+    QTRY_VERIFY2(isPixelRead(pixelAt(0, place)), qPrintable(allTexts(*page)));
 }
 
 void TestImagesPageView::picturesThatMoveTellNothingWithoutAMouse()

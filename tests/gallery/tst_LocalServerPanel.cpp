@@ -7,6 +7,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QWheelEvent>
@@ -74,6 +75,7 @@ protected:
 private slots:
     void mouseAndKeyboardTurnTheSwitch();
     void stateIsToldInWords();
+    void addressIsAStopOfTheTabKey();
     void failureIsToldAndTurnsTheSwitchBack();
     void failureFollowsTheLanguage();
     void serverThatStopsByItselfTurnsTheSwitchBack();
@@ -136,6 +138,25 @@ void TestLocalServerPanel::stateIsToldInWords()
 
     QCOMPARE(slider().accessibleDescription(),
              QStringLiteral("on, at 127.0.0.1:%1").arg(panel->port()));
+}
+
+void TestLocalServerPanel::addressIsAStopOfTheTabKey()
+{
+    const auto stops = [this] {
+        QStringList texts;
+        const auto labels = panel->findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (label->isVisible() && (label->focusPolicy() & Qt::TabFocus) != 0) {
+                texts.append(label->text());
+            }
+        }
+        return texts;
+    };
+    QCOMPARE(stops(), QStringList());
+    panel->setRunning(true);
+    QCOMPARE(stops(), QStringList(QStringLiteral("on, at 127.0.0.1:%1").arg(panel->port())));
+    panel->setRunning(false);
+    QCOMPARE(stops(), QStringList());
 }
 
 void TestLocalServerPanel::failureIsToldAndTurnsTheSwitchBack()

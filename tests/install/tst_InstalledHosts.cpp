@@ -14,6 +14,7 @@ class TestInstalledHosts : public TestBase
 private slots:
     void exampleFindsThePackage();
     void exampleIsBuiltWithPkgConfig();
+    void programOfTheGuideGetsWhatItShips();
     void hostOfTheCoreDoesWithoutTheWidgets();
     void packageIsFound_data();
     void packageIsFound();
@@ -66,6 +67,24 @@ void TestInstalledHosts::exampleIsBuiltWithPkgConfig()
 
     QVERIFY2(built.succeeded, qPrintable(built.output));
     QCOMPARE(showAndCloseHello(program), QString());
+}
+
+void TestInstalledHosts::programOfTheGuideGetsWhatItShips()
+{
+    const QTemporaryDir folder;
+
+    const CommandResult configured =
+        configureHost(sourceFolder() + "/docs/hosts/samples", folder.path(), installedTree());
+    QVERIFY2(configured.succeeded, qPrintable(configured.output));
+    const CommandResult built = runCMakeTool(
+        "cmake", {"--build", folder.path(), "--target", "PatchReader", "PatchReaderResources"});
+
+    QVERIFY2(built.succeeded, qPrintable(built.output));
+    for (const char *name :
+         {"bin/PatchReader", "Resources/Images/remote_folder.png",
+          "Resources/Templates/TovraStyle.css", "Resources/translations/txguicommon_de.qm"}) {
+        QVERIFY2(QFile::exists(folder.filePath(QString("stage/") + name)), name);
+    }
 }
 
 void TestInstalledHosts::hostOfTheCoreDoesWithoutTheWidgets()

@@ -1,11 +1,15 @@
+#include "ChildProcess.h"
 #include "HostBuild.h"
+#include "LocalDisplay.h"
 #include "TestBase.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QLibraryInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 namespace {
@@ -55,8 +59,10 @@ private slots:
     void libraryHasItsVersionAndFindsTheOthers();
     void nothingThatIsLinkedIsMissing();
     void desktopEntryIsValid();
+    void manualPageTellsOfEachOption();
     void galleryShowsItself();
     void galleryFindsItsServers();
+    void designerLoadsThePlugin();
 
 private:
     const QString tree = installedTree();
@@ -83,14 +89,15 @@ void TestInstalledTree::fileIsThere_data()
           "share/TXGUICommon/Resources/Templates/TovraStyle.css", "share/doc/TXGUICommon/LICENSE",
           "share/doc/TXGUICommon/NOTICE.md", "share/doc/TXGUICommon/README.md",
           "share/doc/TXGUICommon/CHANGELOG.md", "bin/TXGallery",
-          "share/icons/hicolor/scalable/apps/TXGallery.svg"}) {
+          "share/icons/hicolor/scalable/apps/TXGallery.svg", "share/man/man1/TXGallery.1"}) {
         QTest::newRow(name) << tree + '/' + name;
     }
     for (const char *name :
          {"cmake/TXGUICommon/TXGUICommonConfig.cmake",
           "cmake/TXGUICommon/TXGUICommonConfigVersion.cmake", "pkgconfig/TXCoreCommon.pc",
           "pkgconfig/TXResources.pc", "pkgconfig/TXGUICommon.pc", "libTXCoreCommon.so",
-          "libTXResources.so", "libTXGUICommon.so"}) {
+          "libTXResources.so", "libTXGUICommon.so",
+          "qt6/plugins/designer/libTXGUICommonDesigner.so"}) {
         QTest::newRow(name) << libraries + '/' + name;
     }
     for (const char *name :
@@ -204,6 +211,24 @@ void TestInstalledTree::desktopEntryIsValid()
     QCOMPARE(result.output, QString());
 }
 
+void TestInstalledTree::manualPageTellsOfEachOption()
+{
+    const QString page =
+        QString::fromUtf8(contentsOf(tree + "/share/man/man1/TXGallery.1")).remove('\\');
+    const CommandResult help = runCommand(tree + "/bin/TXGallery", {"--help"});
+    QVERIFY2(help.succeeded, qPrintable(help.output));
+
+    const QRegularExpression option("--[a-z]+");
+    QStringList options;
+    for (auto found = option.globalMatch(help.output); found.hasNext();) {
+        options.append(found.next().captured());
+    }
+    QVERIFY(options.size() >= 7);
+    for (const QString &name : std::as_const(options)) {
+        QVERIFY2(page.contains(name), qPrintable(name));
+    }
+}
+
 void TestInstalledTree::galleryShowsItself()
 {
     const QTemporaryDir folder;
@@ -233,6 +258,28 @@ void TestInstalledTree::galleryFindsItsServers()
 
     QVERIFY2(answered, owner.readAllStandardError().constData());
     QVERIFY2(script.contains(gallery + "/localservers/ftpserver.py"), qPrintable(script));
+}
+
+/// With the library beside it, not that of the build.
+void TestInstalledTree::designerLoadsThePlugin()
+{
+    LocalDisplay display;
+    QVERIFY2(display.start(), "needs the programs Xvfb, openbox and xdotool");
+    QProcessEnvironment environment = display.environment();
+    environment.insert("QT_PLUGIN_PATH", libraries + "/qt6/plugins");
+    QProcess designer;
+    endWithThisThread(designer);
+    designer.setProcessEnvironment(environment);
+    designer.start(QLibraryInfo::path(QLibraryInfo::BinariesPath) + "/designer", QStringList());
+    QVERIFY2(designer.waitForStarted(), "needs Qt Designer");
+
+    const QString maps = QString("/proc/%1/maps").arg(designer.processId());
+    const QByteArray plugin = (libraries + "/qt6/plugins/designer/lib").toUtf8();
+    QTRY_VERIFY_WITH_TIMEOUT(contentsOf(maps).contains(plugin + "TXGUICommonDesigner.so"),
+                             kPatienceMilliseconds);
+    QVERIFY(contentsOf(maps).contains(libraries.toUtf8() + "/libTXGUICommon.so.1"));
+    designer.kill();
+    QVERIFY(designer.waitForFinished(kPatienceMilliseconds));
 }
 
 int main(int argc, char **argv)

@@ -52,11 +52,6 @@ bool isViewport(const QWidget &widget)
     return area != nullptr && area->viewport() == &widget;
 }
 
-bool isPlainScrollArea(const QWidget &widget)
-{
-    return widget.metaObject() == &QScrollArea::staticMetaObject;
-}
-
 bool isEmptyLabel(const QWidget &widget)
 {
     const auto *label = qobject_cast<const QLabel *>(&widget);
@@ -140,7 +135,7 @@ bool FormControls::isPart(const QWidget &widget)
     return isMadeByQt(widget) || isInside(widget, "QComboBoxPrivateContainer")
         || widget.inherits("QComboBoxPrivateContainer")
         || qobject_cast<const QHeaderView *>(&widget) != nullptr || isField(widget)
-        || isViewport(widget) || isPlainScrollArea(widget);
+        || isViewport(widget);
 }
 
 QList<QWidget *> FormControls::of(QWidget &form)

@@ -12,8 +12,7 @@ namespace FormControls {
 
 /// Whether the widget is a part of a control, or the room around some, and has no name of its own:
 /// what Qt makes inside of its composites (named "qt_…"), the list of a combo box, headers and
-/// viewports of views, the field of a spin box or a combo box, whose name is that of the whole, and
-/// plain scroll areas, which take the focus to be scrolled only.
+/// viewports of views, and the field of a spin box or a combo box, whose name is that of the whole.
 [[nodiscard]] bool isPart(const QWidget &widget);
 
 /// All widgets of the form, itself included, that can take the focus, hidden ones too. Parts are

@@ -1,11 +1,8 @@
 #pragma once
 
-// What nearly every test includes, compiled once.
+// What many tests include, compiled once.
 
-#include <QtCore/QtCore>
+#include "../../src/precompiled.h"
 
-#include <QtGui/QtGui>
-
-#include <QtWidgets/QtWidgets>
-
-#include <QtTest/QtTest>
+#include <QSignalSpy>
+#include <QTest>

@@ -39,6 +39,7 @@ private slots:
     void sceneIsAPageOfTheView();
     void textsAreReadFromTheTopAndFromTheLeft();
     void tableIsReadRowByRow();
+    void cellOfSeveralLinesIsReadInItsRow();
     void hiddenAndBlankTextsAreNotRead();
     void richTextIsReadAsPlain();
     void textsStandWhereTheyAreSeen();
@@ -54,6 +55,10 @@ private slots:
     void nothingIsMadeBeforeItIsAskedFor();
     void destroyedViewTakesItsInterfacesAlong();
     void textsFarOutOrNowhereDoNoHarm();
+    void emptySceneIsAnEmptyPage();
+    void changeTakesHeldInterfacesAway();
+    void destroyedViewHearsNoPendingChange();
+    void sceneOfTheViewsOwnGoesWithIt();
 
 protected:
     void prepare() override;
@@ -128,6 +133,16 @@ void TestTXReportAccessible::tableIsReadRowByRow()
     scene->drawTable(table, {0, 0}, reportTestFont());
     QCOMPARE(textsOf(*page()),
              QStringList({"Patch", "Density", "Cyan", "1.42", "Magenta", "1.51"}));
+}
+
+void TestTXReportAccessible::cellOfSeveralLinesIsReadInItsRow()
+{
+    TXTable table(2, false);
+    for (const char *text : {"Cyan", "1.42\n1.44\n1.47", "Magenta\nmatte", "1.51"}) {
+        table.addCell({{"CellElement", QString(text)}, {"CellSize", QSizeF(60, 50)}});
+    }
+    scene->drawTable(table, {0, 0}, reportTestFont());
+    QCOMPARE(textsOf(*page()), QStringList({"Cyan", "1.42\n1.44\n1.47", "Magenta\nmatte", "1.51"}));
 }
 
 void TestTXReportAccessible::hiddenAndBlankTextsAreNotRead()
@@ -260,7 +275,7 @@ void TestTXReportAccessible::childrenBehindThePageAreThoseOfTheView()
 /// Interfaces are numbered in the order in which they are made.
 void TestTXReportAccessible::nothingIsMadeBeforeItIsAskedFor()
 {
-    constexpr int kTexts = 30'000;
+    constexpr int kTexts = 100'000;
     for (int number = 0; number < kTexts; ++number) {
         draw(QString::number(number), {10, 20.0 * number});
     }
@@ -295,6 +310,50 @@ void TestTXReportAccessible::textsFarOutOrNowhereDoNoHarm()
     QVERIFY(page()->child(1)->rect().isEmpty());
     QVERIFY(page()->child(1)->state().offscreen);
     scene->clear();
+}
+
+void TestTXReportAccessible::emptySceneIsAnEmptyPage()
+{
+    QVERIFY(page()->isValid());
+    QCOMPARE(page()->childCount(), 0);
+    QCOMPARE(page()->child(0), nullptr);
+    const QPoint middle = page()->rect().center();
+    QCOMPARE(page()->childAt(middle.x(), middle.y()), nullptr);
+}
+
+/// Assistive programs hold the numbers of interfaces, and ask by them at any time.
+void TestTXReportAccessible::changeTakesHeldInterfacesAway()
+{
+    draw("one", {10, 10});
+    const QAccessible::Id pageId = QAccessible::uniqueId(page());
+    const QAccessible::Id textId = QAccessible::uniqueId(page()->child(0));
+    scene->clear();
+    QTRY_COMPARE(QAccessible::accessibleInterface(textId), nullptr);
+    QCOMPARE(QAccessible::accessibleInterface(pageId), nullptr);
+    QCOMPARE(page()->childCount(), 0);
+}
+
+void TestTXReportAccessible::destroyedViewHearsNoPendingChange()
+{
+    draw("one", {10, 10});
+    QCOMPARE(page()->childCount(), 1);
+    draw("two", {10, 60});
+    view.reset();
+    QCoreApplication::processEvents();
+    QGraphicsView other(scene.get());
+    QCOMPARE(textsOf(*accessibleOf(&other)->child(0)), QStringList({"one", "two"}));
+}
+
+void TestTXReportAccessible::sceneOfTheViewsOwnGoesWithIt()
+{
+    auto *own = new TXGraphicsScene(view.get());
+    own->drawText("own", {10, 10}, reportTestFont(), Qt::black);
+    view->setScene(own);
+    const QAccessible::Id textId = QAccessible::uniqueId(page()->child(0));
+    own->drawText("more", {10, 60}, reportTestFont(), Qt::black);
+    view.reset();
+    QCoreApplication::processEvents();
+    QCOMPARE(QAccessible::accessibleInterface(textId), nullptr);
 }
 
 int main(int argc, char **argv)

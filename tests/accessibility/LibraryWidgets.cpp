@@ -1,4 +1,4 @@
-#include "LibraryForms.h"
+#include "LibraryWidgets.h"
 
 #include "AboutAppWindow.h"
 #include "AutoMountManagerMainWindow.h"
@@ -219,9 +219,9 @@ Made rotatedLabel()
 
 } // namespace
 
-const QList<LibraryForm> &libraryForms()
+const QList<LibraryWidget> &libraryWidgets()
 {
-    static const QList<LibraryForm> forms = {
+    static const QList<LibraryWidget> forms = {
         {"AboutAppWindow", plain<HostsAboutWindow>},
         {"AutoMountManagerMainWindow", plain<AutoMountManagerMainWindow>},
         {"AutoMountNetworkDriveEditor", driveEditor},

@@ -8,7 +8,7 @@
 class QWidget;
 
 /// A form, dialog or control of the library, as a host makes it, with something to show in it.
-struct LibraryForm
+struct LibraryWidget
 {
     /// The name of the class.
     const char *name;
@@ -17,4 +17,4 @@ struct LibraryForm
 };
 
 /// Every widget of the library that a host can make.
-[[nodiscard]] const QList<LibraryForm> &libraryForms();
+[[nodiscard]] const QList<LibraryWidget> &libraryWidgets();
