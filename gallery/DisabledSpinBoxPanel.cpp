@@ -88,7 +88,7 @@ DisabledSpinBoxPanel::Row DisabledSpinBoxPanel::makeDoubleRow()
 void DisabledSpinBoxPanel::setUpLayout()
 {
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(kGap);
+    grid->setHorizontalSpacing(kGap / 2);
     grid->addWidget(leftHeading, 0, 1);
     grid->addWidget(rightHeading, 0, 2);
     for (QLabel *heading : {leftHeading, rightHeading}) {

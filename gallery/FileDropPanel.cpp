@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int kListWidth = 230;
+constexpr int kListWidth = 220;
 constexpr int kListHeight = 130;
 
 QString resourcesFolder()

@@ -6,8 +6,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -66,7 +66,7 @@ void FoldingPanel::showConversion()
     if (paperBox->isChecked()) {
         parts.append(tr("paper simulated"));
     }
-    conversion->setText(parts.join(QStringLiteral(", ")));
+    conversion->setText(locale().createSeparatedList(parts));
 }
 
 /// What is hidden here stays hidden through folding and unfolding. Once it may be seen again it
@@ -96,13 +96,13 @@ void FoldingPanel::setUpSettings()
 
 void FoldingPanel::setUpLayout()
 {
-    auto *settings = new QGridLayout(unfolder);
-    settings->addWidget(intentLabel, 0, 0);
-    settings->addWidget(intentBox, 0, 1);
-    settings->addWidget(blackPointBox, 1, 0, 1, 2);
-    settings->addWidget(paperBox, 2, 0, 1, 2);
-    settings->addWidget(note, 3, 0, 1, 2);
-    settings->setColumnStretch(1, 1);
+    // Label above box: side by side they are too wide for a half of the page in some languages.
+    auto *settings = new QVBoxLayout(unfolder);
+    settings->addWidget(intentLabel);
+    settings->addWidget(intentBox);
+    settings->addWidget(blackPointBox);
+    settings->addWidget(paperBox);
+    settings->addWidget(note);
 
     auto *rows = new QVBoxLayout(this);
     setGaps(rows);

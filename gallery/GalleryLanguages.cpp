@@ -86,6 +86,10 @@ QString GalleryLanguages::displayName(const QString &code)
     if (name.isEmpty()) {
         return code;
     }
+    // Where the code is of no country, its name says none: not "español de España".
+    if (!code.contains(u'_') && name.contains(locale.nativeTerritoryName())) {
+        name = name.section(u' ', 0, 0);
+    }
     name[0] = name[0].toUpper();
     return name;
 }

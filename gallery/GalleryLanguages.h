@@ -49,7 +49,8 @@ public:
     /// The codes to choose from: "en" first, the others sorted.
     [[nodiscard]] QStringList codes() const;
 
-    /// The language's own name for itself, with its first letter in upper case.
+    /// The language's own name for itself, with its first letter in upper case and no country that
+    /// the code does not say; the code where the language is not known.
     [[nodiscard]] static QString displayName(const QString &code);
 
     /// The code that fits the user's system best, "en" when none does.

@@ -12,11 +12,15 @@
 #include <QDir>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QSysInfo>
+#include <QTreeView>
+
+#include <algorithm>
 
 namespace {
 
@@ -97,7 +101,7 @@ void LogPage::fillForPicture()
 
 QList<GalleryFurtherWindow> LogPage::furtherWindows()
 {
-    logWindow->show();
+    showLogWindow();
     return {{QStringLiteral("window"), logWindow}};
 }
 
@@ -113,9 +117,19 @@ void LogPage::retranslate()
     preview->setAccessibleName(tr("Live view of the log"));
 }
 
-void LogPage::openLogWindow()
+/// The date is longer in some languages than in others.
+void LogPage::showLogWindow()
 {
     logWindow->show();
+    auto *tree = logWindow->findChild<QTreeView *>(QStringLiteral("logTreeView"));
+    const QAbstractItemView *entries = tree;
+    QHeaderView *columns = tree->header();
+    columns->resizeSection(0, std::max(columns->sectionSize(0), entries->sizeHintForColumn(0)));
+}
+
+void LogPage::openLogWindow()
+{
+    showLogWindow();
     logWindow->raise();
     logWindow->activateWindow();
 }

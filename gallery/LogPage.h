@@ -45,6 +45,7 @@ private:
     void setUpLayout();
     void scanShown();
     void writeAllLines();
+    void showLogWindow();
 
     QSharedPointer<TXLogManager> log;
     MessageLog messageLog;

@@ -24,6 +24,8 @@ bool isDark(const QPalette &palette)
 PaperArea::PaperArea(QWidget *parent)
     : QScrollArea(parent)
 {
+    // As the viewer is: otherwise a long line would be shown from its end.
+    setLayoutDirection(Qt::LeftToRight);
     auto *paper = new QWidget(this);
     shownViewer = new TXVariantViewer(paper);
     auto *rows = new QVBoxLayout(paper);

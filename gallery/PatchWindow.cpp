@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QLocale>
 #include <QSplitter>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -63,6 +64,16 @@ double deltaE(const Lab &aim, const Lab &measured)
     return std::hypot(measured.lightness - aim.lightness, measured.a - aim.a, measured.b - aim.b);
 }
 
+void showPatch(const Patch &patch, QTreeWidgetItem &item)
+{
+    item.setText(0, PatchWindow::tr(patch.name));
+    const std::array numbers = {patch.measured.lightness, patch.measured.a, patch.measured.b,
+                                deltaE(patch.aim, patch.measured)};
+    for (size_t i = 0; i < numbers.size(); ++i) {
+        item.setText(int(i) + 1, QLocale().toString(numbers[i], 'f', 1));
+    }
+}
+
 } // namespace
 
 PatchWindow::PatchWindow(QWidget *parent)
@@ -111,11 +122,7 @@ void PatchWindow::fillPatches()
     }
     for (const Patch &patch : kPatches) {
         auto *item = new QTreeWidgetItem(patches->topLevelItem(patch.group));
-        const std::array numbers = {patch.measured.lightness, patch.measured.a, patch.measured.b,
-                                    deltaE(patch.aim, patch.measured)};
-        for (size_t i = 0; i < numbers.size(); ++i) {
-            const int column = int(i) + 1;
-            item->setText(column, QString::number(numbers[i], 'f', 1));
+        for (int column = 1; column < kPatchColumns; ++column) {
             item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
         }
     }
@@ -136,8 +143,7 @@ void PatchWindow::fillInks()
     inks->setTabKeyNavigation(false);
     for (int row = 0; row < inks->rowCount(); ++row) {
         inks->setItem(row, 0, new QTableWidgetItem);
-        const double density = kInks[size_t(row)].density;
-        inks->setItem(row, 1, new QTableWidgetItem(QString::number(density, 'f', 2)));
+        inks->setItem(row, 1, new QTableWidgetItem);
     }
 }
 
@@ -151,11 +157,13 @@ void PatchWindow::retranslate()
     for (const Patch &patch : kPatches) {
         QTreeWidgetItem *group = patches->topLevelItem(patch.group);
         group->setText(0, groups[patch.group]);
-        group->child(rowsOfGroup[size_t(patch.group)]++)->setText(0, tr(patch.name));
+        showPatch(patch, *group->child(rowsOfGroup[size_t(patch.group)]++));
     }
     inks->setAccessibleName(tr("Inks"));
     inks->setHorizontalHeaderLabels({tr("Ink"), tr("Density")});
     for (int row = 0; row < inks->rowCount(); ++row) {
-        inks->item(row, 0)->setText(tr(kInks[size_t(row)].name));
+        const Ink &ink = kInks[size_t(row)];
+        inks->item(row, 0)->setText(tr(ink.name));
+        inks->item(row, 1)->setText(QLocale().toString(ink.density, 'f', 2));
     }
 }

@@ -11,7 +11,7 @@ namespace {
 
 /// A handle is nearly as wide as the switch is high: so it has two clear places.
 constexpr int kWidthPerHeight = 2;
-constexpr int kPartGap = 10;
+constexpr int kPartGap = 7;
 /// A higher one would be drawn with square corners: the radii of its style sheet grow faster than
 /// what it draws, and a radius above half the height counts for nothing.
 constexpr int kLargestHeight = 38;

@@ -2529,7 +2529,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>&amp;Vertical axis:</source>
-        <translation>المحور الرأسي (&amp;V):</translation>
+        <translation>المحور (&amp;V):</translation>
     </message>
     <message>
         <source>Upright</source>

@@ -4892,7 +4892,7 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>Offer &amp;HTTPS</source>
-        <translation>&amp;HTTPS anbieten</translation>
+        <translation>Mit &amp;HTTPS</translation>
     </message>
     <message>
         <source>Make &amp;Certificate</source>

@@ -4751,7 +4751,7 @@ En pantalla: %4</translation>
     </message>
     <message>
         <source>Total ink coverage, disabled</source>
-        <translation>Cobertura total de tinta, deshabilitada</translation>
+        <translation>Cobertura de tinta, deshabilitada</translation>
     </message>
     <message>
         <source>&amp;valueChanged: %1</source>

@@ -1,6 +1,7 @@
 #include "LockerFirstPasswordDialog.h"
 
 #include "LockerDialogs.h"
+#include "OwnTitle.h"
 #include "ui_LockerFirstPasswordDialog.h"
 
 #include <QEvent>
@@ -12,6 +13,7 @@ LockerFirstPasswordDialog::LockerFirstPasswordDialog(bool useHash, QWidget *pare
 {
     LockerDialogs::setUpWindow(*this);
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     passwordChanged();
     LockerDialogs::fixSize(*this);
 }
@@ -22,7 +24,7 @@ void LockerFirstPasswordDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        ui->retranslateUi(this);
+        OwnTitle::retranslate(*ui, *this);
         LockerDialogs::fixSize(*this);
     }
 }

@@ -1,6 +1,7 @@
 #include "LockerPasswordDialog.h"
 
 #include "LockerDialogs.h"
+#include "OwnTitle.h"
 #include "ui_LockerPasswordDialog.h"
 
 #include <QEvent>
@@ -12,6 +13,7 @@ LockerPasswordDialog::LockerPasswordDialog(bool useHash, QWidget *parent)
 {
     LockerDialogs::setUpWindow(*this);
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     on_currentPassword_lineEdit_textChanged(QString());
     passwordChanged();
     LockerDialogs::fixSize(*this);
@@ -23,7 +25,7 @@ void LockerPasswordDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        ui->retranslateUi(this);
+        OwnTitle::retranslate(*ui, *this);
         LockerDialogs::fixSize(*this);
     }
 }

@@ -3,6 +3,7 @@
 #include "LockerDialogs.h"
 #include "LockerFirstPasswordDialog.h"
 #include "LockerPasswordDialog.h"
+#include "OwnTitle.h"
 #include "ui_LockerUIDialog.h"
 
 #include <QEvent>
@@ -21,6 +22,7 @@ LockerUIDialog::LockerUIDialog(bool useHash, QWidget *parent)
 {
     LockerDialogs::setUpWindow(*this);
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     ui->changePasswordPushButton->setEnabled(false);
     LockerDialogs::fixSize(*this);
 }
@@ -31,7 +33,7 @@ void LockerUIDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        ui->retranslateUi(this);
+        OwnTitle::retranslate(*ui, *this);
         LockerDialogs::fixSize(*this);
     }
 }

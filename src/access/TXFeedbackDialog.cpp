@@ -1,5 +1,6 @@
 #include "TXFeedbackDialog.h"
 
+#include "OwnTitle.h"
 #include "ui_TXFeedbackDialog.h"
 
 #include <QEvent>
@@ -9,6 +10,7 @@ TXFeedbackDialog::TXFeedbackDialog(const QVariantHash &extraFields, QWidget *par
     , ui(std::make_unique<Ui::TXFeedbackDialog>())
 {
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     ui->feedbackWidget->setExtraFields(extraFields);
     connect(ui->feedbackWidget, SIGNAL(accept()), SLOT(accept()));
     connect(ui->feedbackWidget, SIGNAL(reject()), SLOT(reject()));
@@ -20,6 +22,6 @@ void TXFeedbackDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        ui->retranslateUi(this);
+        OwnTitle::retranslate(*ui, *this);
     }
 }

@@ -1,5 +1,6 @@
 #include "TXSelectionItemWidget.h"
 
+#include "OwnTitle.h"
 #include "ui_TXSelectionItemWidget.h"
 
 #include "ComboBoxSearch.h"
@@ -65,6 +66,7 @@ TXSelectionItemWidget::TXSelectionItemWidget(QWidget *parent)
     , loadName(importName)
 {
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     ui->importButton->setVisible(!importViaComboBox);
     ui->itemComboBox->installEventFilter(this);
     installDefaultMenu();

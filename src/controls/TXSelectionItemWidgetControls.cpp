@@ -1,6 +1,7 @@
 // The controls of the bar one by one, and the menu of the button that adds items.
 
 #include "ExtraItemProxyComboModel.h"
+#include "OwnTitle.h"
 #include "TXSelectionItemWidget.h"
 
 #include "ui_TXSelectionItemWidget.h"
@@ -299,7 +300,7 @@ void TXSelectionItemWidget::retranslate()
     // A host's own tooltip says something else than the button's name.
     const QString tip = ui->exportItemButton->toolTip();
     const bool isHostsTip = tip != ui->exportItemButton->accessibleName();
-    ui->retranslateUi(this);
+    OwnTitle::retranslate(*ui, *this);
     if (isHostsTip) {
         ui->exportItemButton->setToolTip(tip);
     }

@@ -1,5 +1,6 @@
 #include "TXDBNavWidget.h"
 
+#include "OwnTitle.h"
 #include "SingleStatement.h"
 #include "TXSqlTableModel.h"
 #include "ui_TXDBNavWidget.h"
@@ -55,6 +56,7 @@ TXDBNavWidget::TXDBNavWidget(QWidget *parent)
     , ui(std::make_unique<Ui::TXDBNavWidget>())
 {
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     connect(ui->gotoSpinBox, SIGNAL(valueChanged(int)), this, SLOT(update()));
 }
 
@@ -64,7 +66,7 @@ void TXDBNavWidget::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        ui->retranslateUi(this);
+        OwnTitle::retranslate(*ui, *this);
     }
 }
 

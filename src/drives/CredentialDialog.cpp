@@ -1,5 +1,6 @@
 #include "CredentialDialog.h"
 
+#include "OwnTitle.h"
 #include "ui_CredentialDialog.h"
 
 #include <QEvent>
@@ -13,6 +14,7 @@ CredentialDialog::CredentialDialog(QWidget *parent)
 {
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     designedSize = size();
     setRemember(nullptr);
     connect(
@@ -55,7 +57,7 @@ void CredentialDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        ui->retranslateUi(this);
+        OwnTitle::retranslate(*ui, *this);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "ShareBrowser.h"
 
+#include "OwnTitle.h"
 #include "ShareRowDelegate.h"
 #include "ui_ShareBrowser.h"
 
@@ -11,6 +12,7 @@ ShareBrowser::ShareBrowser(QUrl url, QWidget *parent)
     , ui(std::make_unique<Ui::ShareBrowser>())
 {
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     ui->listWidget->setItemDelegate(new ShareRowDelegate(ui->listWidget));
     ui->progressDiscovery->hide();
     connect(&thread, SIGNAL(newShare(QUrl)), this, SLOT(newShare(QUrl)));
@@ -53,6 +55,6 @@ void ShareBrowser::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        ui->retranslateUi(this);
+        OwnTitle::retranslate(*ui, *this);
     }
 }

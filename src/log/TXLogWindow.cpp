@@ -1,6 +1,7 @@
 #include "TXLogWindow.h"
 
 #include "ChoiceRoom.h"
+#include "OwnTitle.h"
 #include "TXLogFilterProxyModel.h"
 #include "TXLogItem.h"
 #include "TXLogModel.h"
@@ -50,7 +51,7 @@ TXLogWindow::TXLogWindow(QSharedPointer<TXLogManager> manager, QWidget *parent)
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowMaximizeButtonHint
                    | Qt::WindowCloseButtonHint);
     ui->setupUi(this);
-    setWindowTitle(tr("Log Manager"));
+    OwnTitle::show(*this, tr("Log Manager"));
     setUpTree();
     setUpFilter();
     connect(ui->clearButton, SIGNAL(clicked()), logModel, SLOT(clear()));
@@ -84,7 +85,7 @@ void TXLogWindow::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
-        setWindowTitle(tr("Log Manager"));
+        OwnTitle::show(*this, tr("Log Manager"));
         nameFilters();
         // Titles and messages are translated when they are painted.
         ui->logTreeView->header()->viewport()->update();

@@ -1,5 +1,6 @@
 #include "FTPConfigurationDialog.h"
 
+#include "OwnTitle.h"
 #include "ui_FTPConfigurationDialog.h"
 
 #include <QEvent>
@@ -35,5 +36,5 @@ QHash<QString, QVariant> FTPConfigurationDialog::dictionary()
 
 void FTPConfigurationDialog::showWindowTitle()
 {
-    setWindowTitle(isImport ? tr("FTP Import Dialog") : tr("FTP Export Dialog"));
+    OwnTitle::show(*this, isImport ? tr("FTP Import Dialog") : tr("FTP Export Dialog"));
 }

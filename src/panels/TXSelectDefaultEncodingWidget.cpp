@@ -1,5 +1,6 @@
 #include "TXSelectDefaultEncodingWidget.h"
 
+#include "OwnTitle.h"
 #include "ui_TXSelectDefaultEncodingWidget.h"
 
 #include <QEvent>
@@ -46,6 +47,7 @@ TXSelectDefaultEncodingWidget::TXSelectDefaultEncodingWidget(QWidget *parent)
     , ui(std::make_unique<Ui::TXSelectDefaultEncodingWidget>())
 {
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     setUpEncodings();
 }
 
@@ -55,7 +57,7 @@ void TXSelectDefaultEncodingWidget::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        ui->retranslateUi(this);
+        OwnTitle::retranslate(*ui, *this);
     }
 }
 

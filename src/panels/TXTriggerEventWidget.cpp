@@ -1,6 +1,7 @@
 #include "TXTriggerEventWidget.h"
 
 #include "ChoiceRoom.h"
+#include "OwnTitle.h"
 #include "ui_TXTriggerEventWidget.h"
 
 #include <QEvent>
@@ -48,8 +49,10 @@ QString periodName(int period)
         return TXTriggerEventWidget::tr("Each Day");
     case EachHour:
         return TXTriggerEventWidget::tr("Each Hour");
-    default:
+    case EachMinute:
         return TXTriggerEventWidget::tr("Each Minute");
+    default:
+        return {};
     }
 }
 
@@ -173,6 +176,7 @@ void TXTriggerEventWidget::currentTriggerPeriodChanged(int index)
 void TXTriggerEventWidget::setUpControls()
 {
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     triggerBox = ui->triggerBox;
     periodComboBox = ui->triggerPeriodComboBox;
     periodLabel = ui->periodLabel;
@@ -253,7 +257,10 @@ void TXTriggerEventWidget::retranslate()
 {
     retranslateForm();
     for (int row = 0; periodComboBox && row < periodComboBox->count(); ++row) {
-        periodComboBox->setItemText(row, periodName(periodComboBox->itemData(row).toInt()));
+        const QVariant period = periodComboBox->itemData(row);
+        const QString name = period.isValid() ? periodName(period.toInt()) : QString();
+        // A host may have added entries of its own.
+        periodComboBox->setItemText(row, name.isEmpty() ? periodComboBox->itemText(row) : name);
     }
     const bool isWeek = periodComboBox && periodComboBox->currentData().toInt() == EachWeek;
     for (int row = 0; isWeek && dayComboBox && row < dayComboBox->count(); ++row) {
@@ -274,7 +281,7 @@ void TXTriggerEventWidget::retranslateForm()
     if (!isWhole) {
         return;
     }
-    ui->retranslateUi(this);
+    OwnTitle::retranslate(*ui, *this);
     if (!hostTitle.isNull()) {
         triggerBox->setTitle(hostTitle);
     }

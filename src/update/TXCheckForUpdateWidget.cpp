@@ -1,6 +1,7 @@
 #include "TXCheckForUpdateWidget.h"
 
 #include "InstallerFile.h"
+#include "OwnTitle.h"
 #include "PlainMessageBox.h"
 #include "ReleaseRecord.h"
 #include "ServiceText.h"
@@ -302,6 +303,7 @@ void TXCheckForUpdateWidget::setUpNetwork()
 void TXCheckForUpdateWidget::setUpForm()
 {
     ui->setupUi(this);
+    OwnTitle::remember(*this);
     ServiceText::prepareForNotes(*ui->descriptionLabel);
 }
 
@@ -457,7 +459,7 @@ void TXCheckForUpdateWidget::giveMessageRoom()
 
 void TXCheckForUpdateWidget::retranslate()
 {
-    ui->retranslateUi(this);
+    OwnTitle::retranslate(*ui, *this);
     showStateTexts();
 }
 

@@ -38,6 +38,13 @@ bool staysWhole(const QString &form)
     return form == u"TXDatabaseConfigurationWidget" || form == u"TXWebInterfaceConfigurationWidget";
 }
 
+/// With a new language these three show their own title, whatever the host has set.
+bool takesItsTitleBack(const QString &form)
+{
+    return form == u"AboutAppWindow" || form == u"AutoMountManagerMainWindow"
+        || form == u"AutoMountNetworkDriveEditor";
+}
+
 QStringList textsOf(const QWidget &form)
 {
     QStringList texts = ShownTexts::of(form);
@@ -71,9 +78,12 @@ class TestFormLanguage : public TestBase
 private slots:
     void textsFollowTheLanguage_data();
     void textsFollowTheLanguage();
+    void titleOfTheHostStays_data();
+    void titleOfTheHostStays();
     void verdictOnAConnectionIsToldAgain();
     void checkOfAConnectionIsToldAgain();
     void triggerKeepsTheTitleOfTheHost();
+    void triggerKeepsPeriodsOfTheHost();
     void triggerWithoutAPartTakesTheRest();
     void barKeepsTheTextsOfTheHost();
     void logKeepsItsFilter();
@@ -120,6 +130,29 @@ void TestFormLanguage::textsFollowTheLanguage()
     QCoreApplication::removeTranslator(&translator);
     QCoreApplication::processEvents();
     QCOMPARE(textsOf(*form).join(u'\n'), english.join(u'\n'));
+}
+
+void TestFormLanguage::titleOfTheHostStays_data()
+{
+    textsFollowTheLanguage_data();
+}
+
+void TestFormLanguage::titleOfTheHostStays()
+{
+    QFETCH(int, row);
+    const LibraryForm &kind = libraryForms()[row];
+    const QSharedPointer<QWidget> form = kind.create();
+    form->setWindowTitle("Proofs of the Week");
+    const QSignalSpy changes(form.get(), SIGNAL(windowTitleChanged(QString)));
+
+    speakLong();
+
+    if (!takesItsTitleBack(kind.name)) {
+        QCOMPARE(form->windowTitle(), "Proofs of the Week");
+        QCOMPARE(changes.count(), 0);
+    } else {
+        QVERIFY(LongTranslator::isSpoken(form->windowTitle()));
+    }
 }
 
 void TestFormLanguage::verdictOnAConnectionIsToldAgain()
@@ -176,6 +209,22 @@ void TestFormLanguage::triggerKeepsTheTitleOfTheHost()
     QCOMPARE(period->currentText(), LongTranslator::lengthened("Each Week"));
     QCOMPARE(friday, "vendredi");
     QCOMPARE(panel.findChild<QLabel *>("hourLabel")->text(), LongTranslator::lengthened("Hour"));
+}
+
+void TestFormLanguage::triggerKeepsPeriodsOfTheHost()
+{
+    TXTriggerEventWidget panel;
+    auto *period = panel.findChild<QComboBox *>("triggerPeriodComboBox");
+    period->addItem("Each Year", 12);
+    period->addItem("Never");
+    const QSignalSpy choices(period, SIGNAL(currentIndexChanged(int)));
+
+    speakLong();
+
+    QCOMPARE(period->itemText(3), "Each Year");
+    QCOMPARE(period->itemText(4), "Never");
+    QCOMPARE(period->itemText(0), LongTranslator::lengthened("Each Month"));
+    QCOMPARE(choices.count(), 0);
 }
 
 void TestFormLanguage::triggerWithoutAPartTakesTheRest()

@@ -120,6 +120,12 @@ void TestGalleryLanguages::languageIsNamedByItself_data()
     QTest::newRow("French") << "fr" << QString::fromUtf8("Français");
     QTest::newRow("German") << "de"
                             << "Deutsch";
+    QTest::newRow("Spanish") << "es" << QString::fromUtf8("Español");
+    QTest::newRow("Mexican Spanish") << "es_MX" << QString::fromUtf8("Español de México");
+    QTest::newRow("Chinese") << "zh_CN" << QString::fromUtf8("简体中文");
+    QTest::newRow("Arabic") << "ar" << QString::fromUtf8("العربية");
+    QTest::newRow("none that is known") << "xx"
+                                        << "xx";
 }
 
 void TestGalleryLanguages::languageIsNamedByItself()

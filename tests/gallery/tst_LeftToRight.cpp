@@ -1,5 +1,9 @@
 #include "LeftToRight.h"
+#include "PaperArea.h"
+#include "TXVariantViewer.h"
 #include "TestBase.h"
+
+#include <QScrollBar>
 
 /// What reads from left to right in a gallery that is laid out from right to left.
 class TestLeftToRight : public TestBase
@@ -9,6 +13,7 @@ class TestLeftToRight : public TestBase
 private slots:
     void pathStaysAsItIsFromLeftToRight();
     void pathIsKeptTogetherFromRightToLeft();
+    void valueIsShownFromItsBeginning();
 
 protected:
     void finish() override { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); }
@@ -27,6 +32,18 @@ void TestLeftToRight::pathIsKeptTogetherFromRightToLeft()
     const QString path = QDir::toNativeSeparators("/srv/proofs");
     QCOMPARE(pathInText("/srv/proofs"), QChar(0x2066) + path + QChar(0x2069));
     QCOMPARE(leftToRight(QString()), QString());
+}
+
+void TestLeftToRight::valueIsShownFromItsBeginning()
+{
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    PaperArea area;
+    area.viewer()->setValue(QString(2000, u'x'));
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    QTRY_VERIFY(area.horizontalScrollBar()->maximum() > 0);
+
+    QVERIFY(area.viewer()->mapTo(area.viewport(), QPoint()).x() >= 0);
 }
 
 int main(int argc, char **argv)

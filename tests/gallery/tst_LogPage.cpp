@@ -7,6 +7,7 @@
 #include "TXLogPrint.h"
 #include "TXLogWindow.h"
 
+#include <QLocale>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -22,6 +23,7 @@ private slots:
     void qtWarningsAreLogged();
     void printedLinesAreShownLive();
     void logWindowFollowsFromTheStart();
+    void logWindowShowsTheWholeDate();
     void pageStartsWithAScanThatMoves();
     void pageIsReadyWhenItHasBeenFilled();
 
@@ -124,6 +126,21 @@ void TestLogPage::logWindowFollowsFromTheStart()
     QVERIFY(window->isVisible());
     QVERIFY(window->nbEventLogged() >= firstLines + 1);
     QCOMPARE(window->nbEventLogged(), preview->model()->rowCount());
+}
+
+void TestLogPage::logWindowShowsTheWholeDate()
+{
+    TXLogPrint(QStringLiteral("now"), 1);
+    QTRY_COMPARE(preview->model()->rowCount(), firstLines + 1);
+
+    DialogDriver::click(button(QStringLiteral("Open Log Window")));
+
+    const auto *tree = page->findChild<TXLogWindow *>()->findChild<QTreeView *>("logTreeView");
+    const int row = tree->model()->rowCount() - 1;
+    const QModelIndex date = tree->model()->index(row, 0);
+    const int needed = tree->fontMetrics().horizontalAdvance(
+        QLocale().toString(date.data().toDateTime(), QLocale::ShortFormat));
+    QVERIFY(tree->visualRect(date).width() > needed);
 }
 
 void TestLogPage::pageStartsWithAScanThatMoves()

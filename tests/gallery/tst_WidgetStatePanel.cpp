@@ -6,8 +6,10 @@
 #include "WidgetStateTree.h"
 
 #include <QHeaderView>
+#include <QLocale>
 #include <QPushButton>
 #include <QSplitter>
+#include <QTableWidget>
 #include <QTreeWidget>
 
 #include <memory>
@@ -25,6 +27,7 @@ private slots:
     void secondStateTakesThePlaceOfTheFirst();
     void differenceIsReckonedFromTheAim();
     void everyTextFollowsTheLanguage();
+    void numbersFollowTheLanguage();
 
 protected:
     void prepare() override;
@@ -215,6 +218,19 @@ void TestWidgetStatePanel::everyTextFollowsTheLanguage()
     QCOMPARE(panel->findChild<WidgetStateTree *>()->headerItem()->text(1), "BYTES");
     QCoreApplication::removeTranslator(&translator);
     QCoreApplication::sendPostedEvents();
+}
+
+void TestWidgetStatePanel::numbersFollowTheLanguage()
+{
+    PatchWindow numbers;
+    QLocale::setDefault(QLocale("de"));
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&numbers, &change);
+    QLocale::setDefault(QLocale::system());
+
+    const auto *group = numbers.findChild<QTreeWidget *>("patchTree")->topLevelItem(0);
+    QCOMPARE(group->child(0)->text(1), "55,8");
+    QCOMPARE(numbers.findChild<QTableWidget *>("inkTable")->item(0, 1)->text(), "1,42");
 }
 
 int main(int argc, char **argv)
