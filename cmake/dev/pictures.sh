@@ -8,7 +8,7 @@ stage_gallery() {
     mkdir "$stage" || die "$stage is in the way"
     trap 'rm -rf "$stage"' EXIT
     mkdir -m 700 "$stage/home" "$stage/run"
-    cp -r "build/$preset/gallery/bin" "build/$preset/gallery/Resources" "$stage"
+    cp -r "build/$preset/gallery"/{bin,Resources,localservers} "$stage"
 }
 
 # paint SCALE PALETTE FOLDER [ARGUMENT...]: every page, and the further windows of some
