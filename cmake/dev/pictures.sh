@@ -15,8 +15,9 @@ stage_gallery() {
 paint() {
     HOME=$stage/home XDG_RUNTIME_DIR=$stage/run LC_ALL=C.UTF-8 TZ=UTC QT_QPA_PLATFORM=offscreen \
         QT_SCALE_FACTOR=$1 QT_SCALE_FACTOR_ROUNDING_POLICY=PassThrough \
-        "$stage/bin/TXGallery" --palette "$2" --grab "$3" "${@:4}" >"$stage/painted" \
-        || die "the gallery could not paint"
+        "$stage/bin/TXGallery" --palette "$2" --grab "$3" "${@:4}" \
+        >"$stage/painted" 2>"$stage/messages" \
+        || die "the gallery could not paint: $(<"$stage/messages")"
     say "$(wc -l <"$stage/painted") pictures are in $3"
 }
 
