@@ -9,6 +9,8 @@
 namespace {
 
 constexpr qreal kLineWidth = 1;
+/// The colour alone would be missed: grey and yellow are equally bright.
+constexpr qreal kFocusLineWidth = 2;
 constexpr int kGroupBoxMargin = 3;
 
 bool hasFrame(const QStyleOption *option)
@@ -58,20 +60,22 @@ QPen linePen(const QStyleOption *option)
 {
     const bool hasKeyboard = option->state.testFlag(QStyle::State_HasFocus)
         && option->state.testFlag(QStyle::State_Enabled);
-    return {option->palette.color(hasKeyboard ? QPalette::Highlight : QPalette::Mid), kLineWidth};
+    return {option->palette.color(hasKeyboard ? QPalette::Highlight : QPalette::Mid),
+            hasKeyboard ? kFocusLineWidth : kLineWidth};
 }
 
-QRectF middleOfLine(const QRect &rect)
+QRectF middleOfLine(const QRect &rect, qreal width)
 {
-    return QRectF(rect).adjusted(kLineWidth / 2, kLineWidth / 2, -kLineWidth / 2, -kLineWidth / 2);
+    return QRectF(rect).adjusted(width / 2, width / 2, -width / 2, -width / 2);
 }
 
 void drawFrame(QPainter *painter, const QStyleOption *option, const QRect &rect)
 {
     painter->save();
-    painter->setPen(linePen(option));
+    const QPen pen = linePen(option);
+    painter->setPen(pen);
     painter->setBrush(Qt::NoBrush);
-    painter->drawRect(middleOfLine(rect));
+    painter->drawRect(middleOfLine(rect, pen.widthF()));
     painter->restore();
 }
 
@@ -91,9 +95,23 @@ void drawRing(QPainter *painter, const QStyleOption *option)
 {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(linePen(option));
+    const QPen pen = linePen(option);
+    painter->setPen(pen);
     painter->setBrush(Qt::NoBrush);
-    painter->drawEllipse(middleOfLine(option->rect));
+    painter->drawEllipse(middleOfLine(option->rect, pen.widthF()));
+    painter->restore();
+}
+
+/// The other styles' frame is a shade of the Highlight that is lost on black.
+void drawFocus(QPainter *painter, const QStyleOption *option)
+{
+    const bool isOnSelection = option->state.testFlag(QStyle::State_Selected);
+    painter->save();
+    painter->setPen(
+        QPen(option->palette.color(isOnSelection ? QPalette::HighlightedText : QPalette::Highlight),
+             kLineWidth));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(middleOfLine(option->rect, kLineWidth));
     painter->restore();
 }
 
@@ -123,6 +141,10 @@ void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_IndicatorRadioButton) {
         drawRing(painter, option);
+    } else if (element == PE_FrameFocusRect) {
+        if (option->state.testFlag(State_KeyboardFocusChange)) {
+            drawFocus(painter, option);
+        }
     } else if (element == PE_FrameGroupBox && baseStyle()->name() == QStringLiteral("fusion")) {
         const int top = roomForTitle(*this, option, widget);
         drawFrame(painter, option, option->rect.adjusted(0, top, 0, 0));

@@ -6,7 +6,8 @@
 ///
 /// Styles take the outline of a control from the colour of the window and make it darker. On a
 /// black window nothing of that is left: buttons, fields and boxes have no edge. Here each gets a
-/// line in the palette's Mid, or its Highlight where the keyboard is. Sizes stay the other style's.
+/// line in the palette's Mid, or a wider one in its Highlight where the keyboard is. The frames
+/// that show the focus of texts and rows are lines too. Sizes stay the other style's.
 class ContrastStyle final : public QProxyStyle
 {
     Q_OBJECT

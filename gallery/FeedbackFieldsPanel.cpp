@@ -18,7 +18,6 @@ constexpr int kNameColumn = 0;
 constexpr int kValueColumn = 1;
 constexpr int kColumns = 2;
 constexpr int kTableHeight = 90;
-constexpr int kMiddleLightness = 128;
 
 struct ProgramField
 {
@@ -29,11 +28,10 @@ struct ProgramField
 /// What the makers of a program would like to know of the one that runs.
 QList<ProgramField> programFields(const QPalette &palette)
 {
-    const bool isDark = palette.color(QPalette::Window).lightness() < kMiddleLightness;
     return {{QStringLiteral("Application"), QCoreApplication::applicationName()},
             {QStringLiteral("Version"), QCoreApplication::applicationVersion()},
             {QStringLiteral("Page"), QStringLiteral("feedback")},
-            {QStringLiteral("Palette"), isDark ? QStringLiteral("dark") : QStringLiteral("light")},
+            {QStringLiteral("Palette"), galleryColoursName(shownGalleryColours(palette))},
             {QStringLiteral("Style"), galleryStyleName()},
             {QStringLiteral("Qt"), QString::fromLatin1(qVersion())}};
 }

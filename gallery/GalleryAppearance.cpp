@@ -137,6 +137,8 @@ void setOutlines(const QPalette &palette, const Tones &tones)
                                   "QAbstractSpinBox", "QTextEdit", "QPlainTextEdit"}) {
         QApplication::setPalette(outlined, className);
     }
+    // The header of a tree would take the tree's, and is filled with it beside the last column.
+    QApplication::setPalette(palette, "QHeaderView");
 }
 
 void setPalette(GalleryColours colours)
@@ -229,6 +231,17 @@ QString galleryStyleKey(const QString &name)
         }
     }
     return {};
+}
+
+GalleryColours shownGalleryColours(const QPalette &palette)
+{
+    constexpr int kMiddleLightness = 128;
+    const Tones &contrast = contrastTones();
+    const QColor window = palette.color(QPalette::Window);
+    if (window == contrast.window && palette.color(QPalette::Highlight) == contrast.accent) {
+        return GalleryColours::Contrast;
+    }
+    return window.lightness() < kMiddleLightness ? GalleryColours::Dark : GalleryColours::Light;
 }
 
 QString galleryColoursName(GalleryColours colours)

@@ -3,6 +3,8 @@
 #include <QMetaType>
 #include <QString>
 
+class QPalette;
+
 /// @file
 /// How the gallery looks: palette and widget style, for all windows of the application at once.
 
@@ -27,6 +29,9 @@ bool applyGalleryStyle(const QString &name);
 /// The name of the widget style, as QStyle::name() has it, also where ContrastStyle draws over it.
 /// Tells nothing of use while a style sheet is set.
 [[nodiscard]] QString galleryStyleName();
+
+/// Light, Dark or Contrast: what a palette looks like, whoever has set it.
+[[nodiscard]] GalleryColours shownGalleryColours(const QPalette &palette);
 
 /// "system", "light", "dark" or "contrast": the name in the settings and on the command line.
 [[nodiscard]] QString galleryColoursName(GalleryColours colours);

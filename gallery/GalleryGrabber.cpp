@@ -115,6 +115,8 @@ bool GalleryGrabber::save(QWidget &widget, QSaveFile &file)
 {
     // What layouts and views have put off is done before the picture is taken.
     QApplication::processEvents();
+    // And what has been put off meanwhile, as the new sizes of texts in another language.
+    QApplication::sendPostedEvents();
     if (!widget.grab().save(&file, "PNG") || !file.commit()) {
         return failToWrite(file);
     }

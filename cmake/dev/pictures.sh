@@ -8,15 +8,16 @@ stage_gallery() {
     mkdir "$stage" || die "$stage is in the way"
     trap 'rm -rf "$stage"' EXIT
     mkdir -m 700 "$stage/home" "$stage/run"
-    cp -r "build/$preset/gallery/bin" "build/$preset/gallery/Resources" "$stage"
+    cp -r "build/$preset/gallery"/{bin,Resources,localservers} "$stage"
 }
 
 # paint SCALE PALETTE FOLDER [ARGUMENT...]: every page, and the further windows of some
 paint() {
     HOME=$stage/home XDG_RUNTIME_DIR=$stage/run LC_ALL=C.UTF-8 TZ=UTC QT_QPA_PLATFORM=offscreen \
         QT_SCALE_FACTOR=$1 QT_SCALE_FACTOR_ROUNDING_POLICY=PassThrough \
-        "$stage/bin/TXGallery" --palette "$2" --grab "$3" "${@:4}" >"$stage/painted" \
-        || die "the gallery could not paint"
+        "$stage/bin/TXGallery" --palette "$2" --grab "$3" "${@:4}" \
+        >"$stage/painted" 2>"$stage/messages" \
+        || die "the gallery could not paint: $(<"$stage/messages")"
     say "$(wc -l <"$stage/painted") pictures are in $3"
 }
 

@@ -1,14 +1,15 @@
 #include "FocusFrame.h"
 
 #include <QPainter>
-#include <QRegion>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
+#include <QPalette>
+#include <QPen>
+#include <QRectF>
 #include <QWidget>
 
 namespace {
 
-constexpr int kFramePixels = 2;
+constexpr qreal kLineWidth = 1;
+constexpr qreal kLineMiddle = kLineWidth / 2;
 
 } // namespace
 
@@ -22,14 +23,15 @@ void FocusFrame::paint(QPainter &painter, const QWidget &widget, const QRect &ar
     if (!isWanted(widget)) {
         return;
     }
-    QStyleOptionFocusRect frame;
-    frame.initFrom(&widget);
-    frame.rect = area;
-    frame.backgroundColor = widget.palette().color(widget.backgroundRole());
+    // Not the style's: many styles' frames are a tint that nobody sees on a dark ground.
+    const QRectF outer =
+        QRectF(area).adjusted(kLineMiddle, kLineMiddle, -kLineMiddle, -kLineMiddle);
     painter.save();
-    // Styles tint what the frame is around, and colours that somebody judges have to stay.
-    const QMargins frameWidths(kFramePixels, kFramePixels, kFramePixels, kFramePixels);
-    painter.setClipRegion(QRegion(area) - (area - frameWidths), Qt::IntersectClip);
-    widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, &widget);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(widget.palette().color(QPalette::Highlight), kLineWidth));
+    painter.drawRect(outer);
+    painter.setPen(QPen(widget.palette().color(QPalette::Window), kLineWidth));
+    painter.drawRect(outer.adjusted(kLineWidth, kLineWidth, -kLineWidth, -kLineWidth));
     painter.restore();
 }

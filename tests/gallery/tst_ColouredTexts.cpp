@@ -1,4 +1,3 @@
-#include "ChartReportCover.h"
 #include "DifferenceLegend.h"
 #include "GalleryAboutWindow.h"
 #include "GalleryAppearance.h"
@@ -12,7 +11,6 @@
 #include "ServiceText.h"
 #include "SpectrumPlot.h"
 #include "TXDeltaGradientWidget.h"
-#include "TXGraphicsScene.h"
 #include "TXResources.h"
 #include "TXSelectionItemWidget.h"
 #include "TXVariantViewer.h"
@@ -23,7 +21,6 @@
 #include "TestBase.h"
 
 #include <QAbstractItemDelegate>
-#include <QGraphicsSimpleTextItem>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -35,8 +32,8 @@
 /// A picture of a text in a colour that we have chosen, or of a glyph that means something, on the
 /// ground on which it stands, and of nothing else. Colours that are laid down are not here: the
 /// black of the spinner and the splitter, the blue of the About window's link, the yellow of the
-/// difference bar, the white of a selected date, the report's tables; where the gallery gives them
-/// a ground of its own, that is.
+/// difference bar, the white of a selected date; where the gallery gives them a ground of its own,
+/// that is. What stands on paper is in tst_PaperTexts.
 using Picture = QImage (*)();
 Q_DECLARE_METATYPE(Picture)
 
@@ -394,7 +391,6 @@ private slots:
     void standOutFromTheirGround();
     void stockPicturesStandOut_data();
     void stockPicturesStandOut();
-    void textsOfTheReportStandOut();
 
 protected:
     void finish() override { applyGalleryColours(GalleryColours::System); }
@@ -451,33 +447,6 @@ void TestColouredTexts::stockPicturesStandOut()
             QVERIFY2(found >= Contrast::kGlyph, qPrintable(name + QString::number(found)));
         }
     }
-}
-
-/// On paper, so in the same colours in each palette. Each text is taken away to see its ground.
-void TestColouredTexts::textsOfTheReportStandOut()
-{
-    TXGraphicsScene scene;
-    scene.setSceneRect(0, 0, 595, 842);
-    ChartReportCover(&scene, QSizeF(595, 842), ChartReportOptions()).draw("Title");
-    int texts = 0;
-    const QList<QGraphicsItem *> items = scene.items();
-    for (QGraphicsItem *item : items) {
-        const auto *text = qgraphicsitem_cast<QGraphicsSimpleTextItem *>(item);
-        if (!text || text->text().isEmpty()) {
-            continue;
-        }
-        item->hide();
-        QImage ground(40, 20, QImage::Format_RGB32);
-        ground.fill(Qt::white);
-        QPainter painter(&ground);
-        scene.render(&painter, ground.rect(), item->sceneBoundingRect(), Qt::IgnoreAspectRatio);
-        painter.end();
-        item->show();
-        const qreal found = Contrast::between(text->brush().color(), Contrast::groundOf(ground));
-        QVERIFY2(found >= Contrast::kText, qPrintable(text->text() + ' ' + QString::number(found)));
-        ++texts;
-    }
-    QVERIFY(texts > 60);
 }
 
 int main(int argc, char **argv)

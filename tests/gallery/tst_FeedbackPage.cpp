@@ -1,4 +1,5 @@
 #include "FeedbackPage.h"
+#include "GalleryAppearance.h"
 
 #include "DialogDriver.h"
 #include "FeedbackFieldsPanel.h"
@@ -368,6 +369,9 @@ void TestFeedbackPage::unchangedFieldsFollowTheProgram()
 
     QApplication::setPalette(QPalette(Qt::black));
     QTRY_COMPARE(valueOf("Palette").text(), "dark");
+    applyGalleryColours(GalleryColours::Contrast);
+    QTRY_COMPARE(valueOf("Palette").text(), "contrast");
+    applyGalleryColours(GalleryColours::System);
     valueOf("Palette").setText("mine");
     QApplication::setPalette(before);
     QCoreApplication::processEvents();

@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QDateEdit>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QStyle>
@@ -39,6 +40,9 @@ private slots:
     void uncheckedBoxesStandOutFromADarkGround();
     void fieldsStandOutFromADarkGround_data();
     void fieldsStandOutFromADarkGround();
+    void headOfATreeHasOneGroundInTheDark();
+    void outlinesOfTheDarkEndWithIt();
+    void paletteIsToldByItsLook();
     void openWindowsFollowAtOnce();
     void systemColoursComeBack();
     void styleIsFoundWithoutCase();
@@ -184,6 +188,47 @@ void TestGalleryAppearance::fieldsStandOutFromADarkGround()
     const qreal found = Contrast::bestOn(edge, QApplication::palette().color(QPalette::Window));
 
     QVERIFY2(found >= Contrast::kGlyph, qPrintable(QString::number(found)));
+}
+
+/// Beside the last column too, where a header is filled with the colour of the window.
+void TestGalleryAppearance::headOfATreeHasOneGroundInTheDark()
+{
+    applyGalleryColours(GalleryColours::Dark);
+    QTreeWidget tree;
+    tree.setHeaderLabels({QStringLiteral("Patch")});
+    tree.header()->setStretchLastSection(false);
+    tree.resize(300, 80);
+    tree.ensurePolished();
+
+    const QImage head = tree.header()->grab().toImage();
+
+    const QColor beside = head.pixelColor(head.width() - 5, head.height() / 2);
+    QVERIFY(Contrast::between(beside, QApplication::palette().color(QPalette::Window)) < 1.5);
+}
+
+void TestGalleryAppearance::outlinesOfTheDarkEndWithIt()
+{
+    applyGalleryColours(GalleryColours::Dark);
+    for (const auto colours :
+         {GalleryColours::Light, GalleryColours::Contrast, GalleryColours::System}) {
+        applyGalleryColours(colours);
+
+        const QColor window = QApplication::palette().color(QPalette::Window);
+        QCOMPARE(QLineEdit().palette().color(QPalette::Window), window);
+        QCOMPARE(QTreeWidget().header()->palette().color(QPalette::Window), window);
+    }
+}
+
+void TestGalleryAppearance::paletteIsToldByItsLook()
+{
+    for (const auto colours :
+         {GalleryColours::Light, GalleryColours::Dark, GalleryColours::Contrast}) {
+        applyGalleryColours(colours);
+
+        QCOMPARE(shownGalleryColours(QApplication::palette()), colours);
+    }
+    QCOMPARE(shownGalleryColours(QPalette(Qt::black)), GalleryColours::Dark);
+    QCOMPARE(shownGalleryColours(QPalette(Qt::white)), GalleryColours::Light);
 }
 
 void TestGalleryAppearance::openWindowsFollowAtOnce()

@@ -1,11 +1,15 @@
 #include "GalleryGrabber.h"
+#include "GalleryHeader.h"
 #include "GalleryLanguages.h"
 #include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
+#include "LongTranslator.h"
 #include "TestBase.h"
 
+#include <QComboBox>
 #include <QImage>
+#include <QPushButton>
 #include <QTemporaryDir>
 
 class TestGalleryGrabber : public TestBase
@@ -15,6 +19,7 @@ class TestGalleryGrabber : public TestBase
 private slots:
     void pageThatIsNotReadyInTimeIsAnError();
     void pictureShowsTheWholePage();
+    void headerIsLaidOutForTheLanguage();
 
 protected:
     void finish() override { QLocale::setDefault(QLocale::system()); }
@@ -50,6 +55,27 @@ void TestGalleryGrabber::pictureShowsTheWholePage()
     QCOMPARE(image.width(), 900);
     QVERIFY(image.height() > 400);
     QVERIFY(grabber.error().isEmpty());
+}
+
+/// The language changes right before the picture, as it does for one in another language.
+void TestGalleryGrabber::headerIsLaidOutForTheLanguage()
+{
+    const QTemporaryDir folder;
+    GalleryLanguages languages(folder.path());
+    GalleryWindow window(languages, GallerySettings());
+    GalleryGrabber grabber(window, folder.path());
+    LongTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+
+    QVERIFY2(grabber.grab(QStringLiteral("lists")), qPrintable(grabber.error()));
+
+    const auto *header = window.findChild<GalleryHeader *>();
+    const auto *colours = header->findChild<QComboBox *>();
+    QVERIFY(LongTranslator::isSpoken(colours->itemText(0)));
+    QVERIFY(colours->width() >= colours->sizeHint().width());
+    const auto *about = header->findChild<QPushButton *>();
+    QVERIFY(LongTranslator::isSpoken(about->text()));
+    QVERIFY(about->width() >= about->sizeHint().width());
 }
 
 int main(int argc, char **argv)
