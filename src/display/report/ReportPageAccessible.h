@@ -19,6 +19,8 @@ class ReportPageAccessible final : public QAccessibleInterface
 public:
     /// The page of this number, counted from 0, of a view, which deletes it.
     ReportPageAccessible(const TXReportAccessible &view, int number);
+    /// Called by Qt. Takes the interfaces of the texts along.
+    ~ReportPageAccessible() override;
 
     /// The number of the page, from 0.
     [[nodiscard]] int number() const { return pageNumber; }
@@ -51,9 +53,6 @@ public:
     [[nodiscard]] int indexOfChild(const QAccessibleInterface *child) const override;
     /// The uppermost of the texts there. Costs a step for each text of the page.
     [[nodiscard]] QAccessibleInterface *childAt(int x, int y) const override;
-
-protected:
-    ~ReportPageAccessible() override;
 
 private:
     [[nodiscard]] const QList<TXReportText> &texts() const;

@@ -45,6 +45,8 @@ class TXGUICOMMON_EXPORT TXReportAccessible : public QAccessibleWidget
 public:
     /// An interface for this view, which Qt deletes along with it.
     explicit TXReportAccessible(QAbstractScrollArea *view);
+    /// Called by Qt. Takes the pages along.
+    ~TXReportAccessible() override;
 
     /// Lets the interface of the view read all pages anew, and tells assistive programs so. Does
     /// nothing for null and for a view with another kind of interface. Interfaces of pages and
@@ -74,9 +76,6 @@ public:
     [[nodiscard]] int indexOfChild(const QAccessibleInterface *child) const override;
     /// The page at the place of the screen, or else what Qt finds there.
     [[nodiscard]] QAccessibleInterface *childAt(int x, int y) const override;
-
-protected:
-    ~TXReportAccessible() override;
 
 private:
     void forgetPages();
