@@ -22,6 +22,7 @@
 
 #include <QAbstractItemDelegate>
 #include <QLabel>
+#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QStandardItemModel>
