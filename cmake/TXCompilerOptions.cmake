@@ -9,7 +9,8 @@ endif()
 # tx_set_compiler_options(<target>)
 #
 # What every target of ours is compiled with: C++20, hidden symbols, Qt's code generators, our
-# warnings, and the sanitizers of the preset.
+# warnings, and the sanitizers of the preset. No folder of the machine that compiles gets into what
+# is compiled: a debug build of Qt keeps __FILE__ beside the name of each signal and slot.
 function(tx_set_compiler_options target)
   set_target_properties(${target} PROPERTIES
     CXX_STANDARD 20
@@ -28,6 +29,10 @@ function(tx_set_compiler_options target)
   target_compile_options(${target} PRIVATE
     $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wno-sign-conversion>
     $<$<CXX_COMPILER_ID:MSVC>:/W4>)
+  foreach(folder IN ITEMS ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
+    target_compile_options(${target} PRIVATE
+      $<$<CXX_COMPILER_ID:GNU,Clang>:-fmacro-prefix-map=${folder}/=>)
+  endforeach()
   if(TXGUICOMMON_WARNINGS_AS_ERRORS)
     target_compile_options(${target} PRIVATE
       $<$<CXX_COMPILER_ID:GNU,Clang>:-Werror>

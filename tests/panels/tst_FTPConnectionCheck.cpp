@@ -30,12 +30,17 @@ QString spinnerFile()
         + QStringLiteral("/../Resources/Images/ajax-loader.gif");
 }
 
+/// The picture as it is in the sources: the build puts a copy beside the tests.
+QString goodSpinnerFile()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/pictures/ajax-loader.gif");
+}
+
 bool installSpinner()
 {
-    const QString source = QFINDTESTDATA("../../resources/Images/ajax-loader.gif");
     QFile::remove(spinnerFile());
     return QDir().mkpath(QFileInfo(QDir::cleanPath(spinnerFile())).path())
-        && QFile::copy(source, spinnerFile());
+        && QFile::copy(goodSpinnerFile(), spinnerFile());
 }
 
 /// A URL of the user whom the local servers let in.
@@ -159,7 +164,7 @@ void TestFTPConnectionCheck::missingSpinnerIsSilent()
 void TestFTPConnectionCheck::damagedSpinnerIsSilent_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QFile good(QFINDTESTDATA("../../resources/Images/ajax-loader.gif"));
+    QFile good(goodSpinnerFile());
     QVERIFY(good.open(QFile::ReadOnly));
     const QByteArray content = good.readAll();
     QTest::newRow("empty") << QByteArray();
