@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>&amp;Update Weights</source>
-        <translation>Schrift&amp;gewichte auffrischen</translation>
+        <translation>Schrift&amp;gewichte aktualisieren</translation>
     </message>
     <message>
         <source>Not passed</source>
@@ -89,7 +89,7 @@
     <name>BusyPage</name>
     <message>
         <source>A spinner over a list that is being filled, and a progress bar that many threads report to while they work.</source>
-        <translation>Ein Spinner über einer Liste, die gefüllt wird, und ein Fortschrittsbalken, an den viele Threads während der Arbeit melden.</translation>
+        <translation>Ein Spinner über einer Liste, die gefüllt wird, und ein Fortschrittsbalken, dem viele Threads während der Arbeit ihren Stand melden.</translation>
     </message>
 </context>
 <context>
@@ -200,7 +200,7 @@
     </message>
     <message>
         <source>Primaries</source>
-        <translation>Grundfarben</translation>
+        <translation>Primärfarben</translation>
     </message>
     <message>
         <source>Greys</source>
@@ -583,7 +583,7 @@
     </message>
     <message>
         <source>In&amp;k limit:</source>
-        <translation>Höchster &amp;Farbauftrag:</translation>
+        <translation>Maximaler &amp;Farbauftrag:</translation>
     </message>
     <message>
         <source>Paper white:</source>
@@ -1091,7 +1091,7 @@
     </message>
     <message>
         <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
-        <translation>Kreuzen Sie „Aktiviert“ an, und alle aktiven Laufwerke der Liste werden verbunden, auch Ihre eigenen. Ein verbundenes Laufwerk ist ein Verweis in „%1“. Der Editor kennt keinen Port: Ein Laufwerk, das Sie eingeben oder bearbeiten, führt zum Standardport 445, nicht zum Server oben. Hinzugefügte Laufwerke werden am Ende der Galerie entfernt; eines, das Sie bearbeitet haben, gehört Ihnen und bleibt.</translation>
+        <translation>Kreuzen Sie „Aktiviert“ an, und alle aktiven Laufwerke der Liste werden verbunden, auch Ihre eigenen. Ein verbundenes Laufwerk ist ein Verweis in „%1“. Der Editor kennt keinen Port: Ein Laufwerk, das Sie eingeben oder bearbeiten, führt zum Standardport 445, nicht zum Server oben. Hinzugefügte Laufwerke werden beim Beenden der Galerie entfernt; eines, das Sie bearbeitet haben, gehört Ihnen und bleibt.</translation>
     </message>
     <message>
         <source>Added: %1.</source>
@@ -1140,7 +1140,7 @@
     <name>EmbeddingPanel</name>
     <message>
         <source>OK was clicked, and the dialog stays in the page.</source>
-        <translation>OK wurde geklickt, und der Dialog bleibt in der Seite.</translation>
+        <translation>OK wurde angeklickt, und der Dialog bleibt auf der Seite.</translation>
     </message>
     <message>
         <source>OK closed the window; its colour was taken over.</source>
@@ -1156,7 +1156,7 @@
     </message>
     <message>
         <source>Part of the page, the dialog is not ended by its buttons. As a window it is, and hands its colour over.</source>
-        <translation>Als Teil der Seite endet der Dialog nicht durch seine Knöpfe. Als Fenster endet er und gibt seine Farbe weiter.</translation>
+        <translation>Als Teil der Seite endet der Dialog nicht durch seine Schaltflächen. Als Fenster endet er und gibt seine Farbe weiter.</translation>
     </message>
     <message>
         <source>Open as &amp;Window</source>
@@ -1178,7 +1178,7 @@
     </message>
     <message>
         <source>It is no file.</source>
-        <translation>Sie ist keine Datei.</translation>
+        <translation>Das ist keine Datei.</translation>
     </message>
     <message>
         <source>It cannot be read: %1.</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Choose &amp;File...</source>
-        <translation>Datei &amp;wählen...</translation>
+        <translation>Datei &amp;wählen …</translation>
     </message>
     <message>
         <source>Text of the file</source>
@@ -1260,11 +1260,11 @@
     </message>
     <message>
         <source>a line for each nested error</source>
-        <translation>eine Zeile für jeden enthaltenen Fehler</translation>
+        <translation>eine Zeile für jeden verschachtelten Fehler</translation>
     </message>
     <message>
         <source>nested errors folded away</source>
-        <translation>enthaltene Fehler eingeklappt</translation>
+        <translation>verschachtelte Fehler eingeklappt</translation>
     </message>
     <message>
         <source>&amp;Information</source>
@@ -1587,15 +1587,15 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>Onto folders and between them</source>
-        <translation>Auf Ordner und zwischen sie</translation>
+        <translation>Auf Ordnern und dazwischen</translation>
     </message>
     <message>
         <source>Onto folders only</source>
-        <translation>Nur auf Ordner</translation>
+        <translation>Nur auf Ordnern</translation>
     </message>
     <message>
         <source>Between folders only</source>
-        <translation>Nur zwischen Ordner</translation>
+        <translation>Nur zwischen Ordnern</translation>
     </message>
     <message>
         <source>Nothing</source>
@@ -1717,7 +1717,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>No right to read: %1</source>
-        <translation>Kein Recht zu lesen: %1</translation>
+        <translation>Kein Leserecht: %1</translation>
     </message>
     <message>
         <source>No right to list the folder.</source>
@@ -1784,7 +1784,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation>&amp;Durchsuchen...</translation>
+        <translation>&amp;Durchsuchen …</translation>
     </message>
     <message>
         <source>S&amp;tart Scan</source>
@@ -2162,7 +2162,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>About...</source>
-        <translation>Über...</translation>
+        <translation>Über …</translation>
     </message>
     <message>
         <source>Alt+Y</source>
@@ -2202,7 +2202,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>Lists and delegates</source>
-        <translation>Listen und Delegates</translation>
+        <translation>Listen und Delegaten</translation>
     </message>
     <message>
         <source>Selection bar</source>
@@ -2281,11 +2281,11 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     <name>GallerySplash</name>
     <message>
         <source>Loading the fonts...</source>
-        <translation>Schriften werden geladen...</translation>
+        <translation>Schriften werden geladen …</translation>
     </message>
     <message>
         <source>Loading the pages...</source>
-        <translation>Seiten werden geladen...</translation>
+        <translation>Seiten werden geladen …</translation>
     </message>
 </context>
 <context>
@@ -2307,7 +2307,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>The whole picture in each zone, also when the window changes</source>
-        <translation>Das ganze Bild in jedem Feld, auch wenn sich das Fenster ändert</translation>
+        <translation>Das ganze Bild in jedem Bereich, auch wenn sich das Fenster ändert</translation>
     </message>
     <message>
         <source>S&amp;hare</source>
@@ -2315,7 +2315,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>Each zone's share of the width: a half with two pictures, also when the window changes</source>
-        <translation>Der Anteil jedes Felds an der Breite: bei zwei Bildern die Hälfte, auch wenn sich das Fenster ändert</translation>
+        <translation>Der Anteil jedes Bereichs an der Breite: bei zwei Bildern die Hälfte, auch wenn sich das Fenster ändert</translation>
     </message>
     <message>
         <source>1&amp;00 %</source>
@@ -2413,7 +2413,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>It is no file.</source>
-        <translation>Es ist keine Datei.</translation>
+        <translation>Das ist keine Datei.</translation>
     </message>
 </context>
 <context>
@@ -2561,7 +2561,7 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>Colours of lightness %1, with the patches of the chart</source>
-        <translation>Farben der Helligkeit %1 mit den Feldern der Testtafel</translation>
+        <translation>Farben der Helligkeit %1 mit den Feldern der Farbtafel</translation>
     </message>
 </context>
 <context>
@@ -2878,15 +2878,15 @@ Erfolg meldet es nur, wenn beim Lesen noch ein Teil der Antwort eintrifft. Eine 
     </message>
     <message>
         <source>&amp;Put In a Logo...</source>
-        <translation>&amp;Logo einsetzen...</translation>
+        <translation>&amp;Logo einsetzen …</translation>
     </message>
     <message>
         <source>&amp;Remove Logo...</source>
-        <translation>Logo &amp;entfernen...</translation>
+        <translation>Logo &amp;entfernen …</translation>
     </message>
     <message>
         <source>Remove &amp;Copy...</source>
-        <translation>&amp;Kopie entfernen...</translation>
+        <translation>&amp;Kopie entfernen …</translation>
     </message>
     <message>
         <source>Show Splas&amp;h</source>
@@ -3217,7 +3217,7 @@ Drucksaal</translation>
     <name>PagesPage</name>
     <message>
         <source>Configuration pages that plug-ins bring, with the settings that they give back, and a dialog that stands in a page as well as in a window.</source>
-        <translation>Konfigurationsseiten aus Plug-ins, mit den Einstellungen, die sie zurückgeben, und ein Dialog, der in einer Seite wie in einem Fenster steht.</translation>
+        <translation>Konfigurationsseiten aus Plug-ins, mit den Einstellungen, die sie zurückgeben, und ein Dialog, der auf einer Seite wie in einem Fenster steht.</translation>
     </message>
 </context>
 <context>
@@ -3345,7 +3345,7 @@ Drucksaal</translation>
     </message>
     <message>
         <source>Panel</source>
-        <translation>Tafel</translation>
+        <translation>Panel</translation>
     </message>
     <message>
         <source>Of the style</source>
@@ -3479,7 +3479,7 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>On the left of each patch charts made before November 2014, on the right those made since. A patch whose difference reaches the limit is framed.</source>
-        <translation>Links in jedem Feld Tafeln von vor November 2014, rechts die seither. Ein Feld, dessen Abstand den Grenzwert erreicht, ist gerahmt.</translation>
+        <translation>Links in jedem Feld Tafeln von vor November 2014, rechts die seither hergestellten. Ein Feld, dessen Abstand den Grenzwert erreicht, ist gerahmt.</translation>
     </message>
 </context>
 <context>
@@ -4120,7 +4120,7 @@ Auf dem Bildschirm: %4</translation>
     <name>SchedulePage</name>
     <message>
         <source>The panels that set when an event comes back, and in which encoding text files are read. Save, and the gallery works out the next events, and reads a file anew.</source>
-        <translation>Die Felder, die festlegen, wann ein Ereignis wiederkehrt und in welcher Kodierung Textdateien gelesen werden. Nach dem Speichern errechnet die Galerie die nächsten Ereignisse und liest eine Datei neu.</translation>
+        <translation>Die Formulare, die festlegen, wann ein Ereignis wiederkehrt und in welcher Kodierung Textdateien gelesen werden. Nach dem Speichern errechnet die Galerie die nächsten Ereignisse und liest eine Datei neu.</translation>
     </message>
 </context>
 <context>
@@ -4346,7 +4346,7 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>drawn by the shipped sheet</source>
-        <translation>vom mitgelieferten Sheet gezeichnet</translation>
+        <translation>vom mitgelieferten Stylesheet gezeichnet</translation>
     </message>
     <message>
         <source>Copies made</source>
@@ -4370,11 +4370,11 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>S&amp;heet:</source>
-        <translation>S&amp;heet:</translation>
+        <translation>Styles&amp;heet:</translation>
     </message>
     <message>
         <source>Sheet</source>
-        <translation>Sheet</translation>
+        <translation>Stylesheet</translation>
     </message>
     <message>
         <source>None</source>
@@ -4514,7 +4514,7 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>"Download and Install" writes the file to "%1", which a check makes where it is missing, "Download" to the folder that you choose. The file is a harmless text. "Install" opens it with the desktop's program for texts, and closes all windows of the gallery. Where there is no such program, nothing happens: "Show in Folder" shows the file.</source>
-        <translation>„Herunterladen und installieren“ schreibt die Datei nach „%1“, das eine Prüfung anlegt, wo es fehlt, „Herunterladen“ in den Ordner, den Sie wählen. Die Datei ist ein harmloser Text. „Installieren“ öffnet sie mit dem Textprogramm des Systems und schließt alle Fenster der Galerie. Wo es kein solches Programm gibt, geschieht nichts: „Im Ordner zeigen“ zeigt die Datei.</translation>
+        <translation>„Herunterladen und installieren“ schreibt die Datei in den Ordner „%1“, den eine Suche anlegt, wo er fehlt, „Herunterladen“ in den Ordner, den Sie wählen. Die Datei ist ein harmloser Text. „Installieren“ öffnet sie mit dem Textprogramm des Systems und schließt alle Fenster der Galerie. Wo es kein solches Programm gibt, geschieht nichts: „Im Ordner zeigen“ zeigt die Datei.</translation>
     </message>
     <message>
         <source>There is no folder "%1".</source>
@@ -4621,7 +4621,7 @@ Auf dem Bildschirm: %4</translation>
     <name>UpdateSettingsPanel</name>
     <message>
         <source>Settings of updates</source>
-        <translation>Einstellungen der Aktualisierung</translation>
+        <translation>Einstellungen für Updates</translation>
     </message>
     <message>
         <source>Loa&amp;d Settings</source>
@@ -4637,11 +4637,11 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>The dialog above checks by itself every %1 days.</source>
-        <translation>Das Fenster darüber sucht von selbst alle %1 Tage.</translation>
+        <translation>Der Dialog oben sucht von selbst alle %1 Tage.</translation>
     </message>
     <message>
         <source>The dialog above does not check by itself.</source>
-        <translation>Das Fenster darüber sucht nicht von selbst.</translation>
+        <translation>Der Dialog oben sucht nicht von selbst.</translation>
     </message>
     <message>
         <source>Stored settings:</source>
@@ -4743,7 +4743,7 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>bare paper</source>
-        <translation>blankes Papier</translation>
+        <translation>unbedruckt</translation>
     </message>
     <message>
         <source>four full inks</source>
@@ -4755,7 +4755,7 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>A value typed into the box goes to the slider and comes back, so one edit tells of itself more than once. The wheel changes nothing: it scrolls the page.</source>
-        <translation>Ein ins Feld getippter Wert geht zum Schieberegler und kommt zurück, so meldet sich eine Eingabe mehr als einmal. Das Mausrad ändert nichts: Es rollt die Seite.</translation>
+        <translation>Ein ins Feld getippter Wert geht zum Schieberegler und kommt zurück, so meldet sich eine Eingabe mehr als einmal. Das Mausrad ändert nichts: Es scrollt die Seite.</translation>
     </message>
     <message>
         <source>&amp;valueChanged: %1</source>
@@ -4839,11 +4839,11 @@ Auf dem Bildschirm: %4</translation>
     <name>WebInterfacePage</name>
     <message>
         <source>The panel for the web interface of a program, beside a real web server that serves a page of the gallery. Only this computer reaches it, at the link with 127.0.0.1; the other links work once other computers may connect.</source>
-        <translation>Das Feld für die Weboberfläche eines Programms, neben einem echten Webserver, der eine Seite der Galerie ausliefert. Nur dieser Rechner erreicht ihn, über den Link mit 127.0.0.1; die anderen Links gelten, sobald andere Rechner zugelassen sind.</translation>
+        <translation>Das Formular für die Weboberfläche eines Programms, neben einem echten Webserver, der eine Seite der Galerie ausliefert. Nur dieser Rechner erreicht ihn, über den Link mit 127.0.0.1; die anderen Links gelten, sobald andere Rechner zugelassen sind.</translation>
     </message>
     <message>
         <source>Web interface panel</source>
-        <translation>Feld der Weboberfläche</translation>
+        <translation>Formular der Weboberfläche</translation>
     </message>
 </context>
 <context>
@@ -4858,7 +4858,7 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>Without it the server listens on 127.0.0.1 only, and no other link of the panel leads to it.</source>
-        <translation>Ohne dies lauscht der Server nur auf 127.0.0.1, und kein anderer Link des Felds führt zu ihm.</translation>
+        <translation>Ohne dies lauscht der Server nur auf 127.0.0.1, und kein anderer Link des Formulars führt zu ihm.</translation>
     </message>
     <message>
         <source>Visi&amp;t the Page</source>
@@ -4866,7 +4866,7 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>the box "Enabled" of the panel is not checked</source>
-        <translation>das Kästchen „Aktiviert“ des Felds ist nicht angekreuzt</translation>
+        <translation>das Kästchen „Aktiviert“ des Formulars ist nicht angekreuzt</translation>
     </message>
     <message>
         <source>HTTPS needs a certificate file</source>
@@ -5007,14 +5007,14 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>Patches of the chart, older and newer, with ΔE 2000</source>
-        <translation>Felder der Testtafel, ältere und neuere, mit ΔE 2000</translation>
+        <translation>Felder der Farbtafel, ältere und neuere, mit ΔE 2000</translation>
     </message>
 </context>
 <context>
     <name>WebVisit</name>
     <message>
         <source>%1: status %2, %3 bytes</source>
-        <translation>%1: Status %2, %3 Bytes</translation>
+        <translation>%1: Status %2, %3 Byte</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -5079,7 +5079,7 @@ Auf dem Bildschirm: %4</translation>
     </message>
     <message>
         <source>Bro&amp;wse...</source>
-        <translation>D&amp;urchsuchen...</translation>
+        <translation>D&amp;urchsuchen …</translation>
     </message>
     <message>
         <source>&amp;Read Files</source>

@@ -1091,7 +1091,7 @@
     </message>
     <message>
         <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
-        <translation>Marque «Habilitado» y se conectarán todas las unidades activas de la lista, también las suyas. Una unidad conectada es un enlace en «%1». El editor no conoce puertos: una unidad que usted introduzca o edite lleva al puerto estándar 445, no al servidor de arriba. Las unidades añadidas se quitan al terminar la galería; la que usted haya editado es suya y permanece.</translation>
+        <translation>Marque «Habilitado» y se conectarán todas las unidades activas de la lista, también las suyas. Una unidad conectada es un enlace en «%1». El editor no conoce puertos: una unidad que usted introduzca o edite lleva al puerto estándar 445, no al servidor de arriba. Las unidades añadidas se quitan al cerrar la galería; la que usted haya editado es suya y permanece.</translation>
     </message>
     <message>
         <source>Added: %1.</source>
@@ -2100,7 +2100,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
-        <translation>No hay ninguna paleta «%1». Las paletas son: light, dark, contrast.</translation>
+        <translation>No existe la paleta «%1». Las paletas son: light, dark, contrast.</translation>
     </message>
 </context>
 <context>
@@ -3553,7 +3553,7 @@ En pantalla: %4</translation>
     </message>
     <message>
         <source>Overprints</source>
-        <translation>Superpuestos</translation>
+        <translation>Sobreimpresiones</translation>
     </message>
     <message>
         <source>Inks</source>
@@ -4346,7 +4346,7 @@ En pantalla: %4</translation>
     </message>
     <message>
         <source>drawn by the shipped sheet</source>
-        <translation>dibujo de la hoja incluida</translation>
+        <translation>dibujado por la hoja incluida</translation>
     </message>
     <message>
         <source>Copies made</source>
@@ -5103,7 +5103,7 @@ En pantalla: %4</translation>
     </message>
     <message>
         <source>Reports of the workers</source>
-        <translation>Informes de los hilos</translation>
+        <translation>Avisos de los hilos</translation>
     </message>
     <message>
         <source>Paintings of the bar</source>

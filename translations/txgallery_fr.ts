@@ -1091,15 +1091,15 @@
     </message>
     <message>
         <source>Check "Enabled", and all active drives in the list are connected, your own too. A connected drive is a link in "%1". The editor knows no port: a drive that you type in or edit leads to the standard port 445, not to the server above. Added drives are removed when the gallery ends; one that you have edited is yours, and stays.</source>
-        <translation>Cochez « Activé » et tous les lecteurs actifs de la liste sont connectés, les vôtres aussi. Un lecteur connecté est un lien dans « %1 ». L’éditeur ne connaît pas de port : un lecteur que vous saisissez ou modifiez mène au port standard 445, et non au serveur ci-dessus. Les lecteurs ajoutés sont supprimés à la fin de la galerie ; celui que vous avez modifié est à vous, et reste.</translation>
+        <translation>Cochez « Activé » et tous les lecteurs actifs de la liste sont connectés, les vôtres aussi. Un lecteur connecté est un lien dans « %1 ». L’éditeur ne connaît pas de port : un lecteur que vous saisissez ou modifiez mène au port standard 445, et non au serveur ci-dessus. Les lecteurs ajoutés sont supprimés à la fermeture de la galerie ; celui que vous avez modifié est à vous, et reste.</translation>
     </message>
     <message>
         <source>Added: %1.</source>
-        <translation>Ajoutés : %1.</translation>
+        <translation>Ajouté : %1.</translation>
     </message>
     <message>
         <source>Added: %1. Check "Enabled" to have it connected.</source>
-        <translation>Ajoutés : %1. Cochez « Activé » pour établir la connexion.</translation>
+        <translation>Ajouté : %1. Cochez « Activé » pour établir la connexion.</translation>
     </message>
     <message>
         <source>%1 is yours now, and leads to port %2: the editor knows no port. Remove it with "-".</source>
@@ -2331,7 +2331,7 @@ Il n’annonce un succès que si une partie de la réponse arrive encore pendant
     </message>
     <message>
         <source> %</source>
-        <translation> %</translation>
+        <translation> %</translation>
     </message>
     <message>
         <source>O&amp;verlay</source>
@@ -4892,7 +4892,7 @@ b* %3
     </message>
     <message>
         <source>Offer &amp;HTTPS</source>
-        <translation>Offrir &amp;HTTPS</translation>
+        <translation>Proposer &amp;HTTPS</translation>
     </message>
     <message>
         <source>Make &amp;Certificate</source>

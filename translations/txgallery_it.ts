@@ -2100,7 +2100,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
-        <translation>Non esiste la tavolozza «%1». Le tavolozze sono: light, dark, contrast.</translation>
+        <translation>La tavolozza «%1» non esiste. Le tavolozze sono: light, dark, contrast.</translation>
     </message>
 </context>
 <context>
@@ -2626,7 +2626,7 @@ Segnala il successo solo se durante la lettura arriva ancora una parte della ris
     </message>
     <message>
         <source>the database "%1" is the closed one</source>
-        <translation>la base di dati «%1» è quella chiusa</translation>
+        <translation>il database «%1» è quello chiuso</translation>
     </message>
 </context>
 <context>

@@ -692,15 +692,15 @@ Bitte prüfen Sie, ob auf Ihrem Rechner ein PDF-Programm installiert ist</transl
     <name>TXCheckForUpdateConfigWidget</name>
     <message>
         <source>Check For Updates</source>
-        <translation>Suche nach Aktualisierungen</translation>
+        <translation>Suche nach Updates</translation>
     </message>
     <message>
         <source>Automatically Check for Updates</source>
-        <translation>Automatisch nach Aktualisierungen suchen</translation>
+        <translation>Automatisch nach Updates suchen</translation>
     </message>
     <message>
         <source>Check for Updates at Startup</source>
-        <translation>Beim Start nach Aktualisierungen suchen</translation>
+        <translation>Beim Start nach Updates suchen</translation>
     </message>
     <message>
         <source>Check Now</source>
@@ -1351,7 +1351,7 @@ Die Anwendung wird beendet.</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation>Zeitraum</translation>
+        <translation>Intervall</translation>
     </message>
     <message>
         <source>Day</source>
@@ -1525,7 +1525,7 @@ Die Anwendung wird beendet.</translation>
     </message>
     <message>
         <source>Certificate File...</source>
-        <translation>Zertifikatsdatei...</translation>
+        <translation>Zertifikatsdatei …</translation>
     </message>
     <message>
         <source>Choose certificate file</source>

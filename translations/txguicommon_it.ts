@@ -979,7 +979,7 @@ L'applicazione verrà chiusa.</translation>
     </message>
     <message>
         <source>The user name or the password is too long.</source>
-        <translation>Il nome utente o la password è troppo lungo.</translation>
+        <translation>Il nome utente o la password sono troppo lunghi.</translation>
     </message>
     <message>
         <source>The address is not valid.</source>
