@@ -856,7 +856,7 @@
     </message>
     <message>
         <source>Database panel</source>
-        <translation>إعدادات قاعدة البيانات</translation>
+        <translation>نموذج قاعدة البيانات</translation>
     </message>
 </context>
 <context>
@@ -1030,11 +1030,11 @@
     </message>
     <message>
         <source>%1, left</source>
-        <translation>%1، يسار</translation>
+        <translation>%1، يمين</translation>
     </message>
     <message>
         <source>%1, right</source>
-        <translation>%1، يمين</translation>
+        <translation>%1، يسار</translation>
     </message>
     <message>
         <source>S&amp;wap</source>
@@ -1140,7 +1140,7 @@
     <name>EmbeddingPanel</name>
     <message>
         <source>OK was clicked, and the dialog stays in the page.</source>
-        <translation>نُقر «حسنًا»، ويبقى الحوار في الصفحة.</translation>
+        <translation>نُقر على «حسنًا»، ويبقى الحوار في الصفحة.</translation>
     </message>
     <message>
         <source>OK closed the window; its colour was taken over.</source>
@@ -1922,7 +1922,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     <name>FtpConfigurationPanel</name>
     <message>
         <source>FTP panel</source>
-        <translation>إعدادات FTP</translation>
+        <translation>نموذج FTP</translation>
     </message>
     <message>
         <source>Show stat&amp;us</source>
@@ -2100,7 +2100,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
-        <translation>لا يوجد لوح ألوان «%1». الألواح هي: ‎light, dark, contrast.</translation>
+        <translation>لا يوجد لوح ألوان باسم «%1». الألواح هي: ‎light, dark, contrast.</translation>
     </message>
 </context>
 <context>
@@ -2529,7 +2529,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>&amp;Vertical axis:</source>
-        <translation>المحور (&amp;V):</translation>
+        <translation>المحور الرأسي (&amp;V):</translation>
     </message>
     <message>
         <source>Upright</source>
@@ -2626,7 +2626,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>the database "%1" is the closed one</source>
-        <translation>قاعدة البيانات «%1» هي المغلقة</translation>
+        <translation>الوصول إلى قاعدة البيانات «%1» ممنوع</translation>
     </message>
 </context>
 <context>
@@ -2945,7 +2945,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Mail panel</source>
-        <translation>إعدادات البريد</translation>
+        <translation>نموذج البريد</translation>
     </message>
     <message>
         <source>Settings of the panel</source>
@@ -3168,7 +3168,7 @@ Press room</source>
     </message>
     <message>
         <source>A click on No. or ΔE sorts: these columns have an index.</source>
-        <translation>النقر على «الرقم» أو ΔE يرتّب: لهذين العمودين فهرس.</translation>
+        <translation>النقر على «الرقم» أو «ΔE» يرتّب: لهذين العمودين فهرس.</translation>
     </message>
     <message>
         <source>The database refuses: %1</source>
@@ -3479,7 +3479,7 @@ b* %3
     </message>
     <message>
         <source>On the left of each patch charts made before November 2014, on the right those made since. A patch whose difference reaches the limit is framed.</source>
-        <translation>على يسار كل رقعة اللوحات المصنوعة قبل نوفمبر 2014، وعلى يمينها المصنوعة منذ ذلك الحين. والرقعة التي يبلغ فرقها الحد محاطة بإطار.</translation>
+        <translation>على يمين كل رقعة اللوحات المصنوعة قبل نوفمبر 2014، وعلى يسارها المصنوعة منذ ذلك الحين. والرقعة التي يبلغ فرقها الحد محاطة بإطار.</translation>
     </message>
 </context>
 <context>
@@ -3786,7 +3786,7 @@ b* %3
     </message>
     <message>
         <source>Login</source>
-        <translation>دخول</translation>
+        <translation>اسم الدخول</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>

@@ -89,7 +89,7 @@
     <name>BusyPage</name>
     <message>
         <source>A spinner over a list that is being filled, and a progress bar that many threads report to while they work.</source>
-        <translation>項目が追加されていくリストの上のスピナーと、多数のスレッドが作業中に進み具合を報告するプログレスバーです。</translation>
+        <translation>項目が追加されていくリストの上のスピナーと、多数のスレッドが作業中に進捗を報告するプログレスバーです。</translation>
     </message>
 </context>
 <context>
@@ -787,7 +787,7 @@
     <name>ContainersPage</name>
     <message>
         <source>What holds other widgets: a flow of equal cells, a square, splitters with a grip, group boxes that fold or have a bold title; and labels that are turned.</source>
-        <translation>ほかのウィジェットを収めるもの: 同じ大きさのセルの流れ、正方形、グリップ付きスプリッター、折りたためるグループボックスや太字タイトルのグループボックス。さらに、回転したラベルもあります。</translation>
+        <translation>ほかのウィジェットを収めるもの: 同じ大きさのセルのフロー、正方形、グリップ付きスプリッター、折りたためるグループボックスや太字タイトルのグループボックス。さらに、回転したラベルもあります。</translation>
     </message>
 </context>
 <context>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>With the offer the dialog calls back at each OK with both fields filled in; the host asks by itself whether "Remember" is checked.</source>
-        <translation>この選択肢があると、両方の欄が入力されてOKが押されるたびにダイアログがコールバックを呼び出します。「記憶する」がチェックされているかどうかは、ホスト側のプログラムが自分で調べます。</translation>
+        <translation>この選択肢があると、両方の欄が入力されて「OK」が押されるたびにダイアログがコールバックを呼び出します。「記憶する」がチェックされているかどうかは、ホスト側のプログラムが自分で調べます。</translation>
     </message>
     <message>
         <source>Not asked yet.</source>
@@ -1140,11 +1140,11 @@
     <name>EmbeddingPanel</name>
     <message>
         <source>OK was clicked, and the dialog stays in the page.</source>
-        <translation>OKがクリックされました。ダイアログはページに残ります。</translation>
+        <translation>「OK」がクリックされました。ダイアログはページに残ります。</translation>
     </message>
     <message>
         <source>OK closed the window; its colour was taken over.</source>
-        <translation>OKでウィンドウが閉じ、色が引き継がれました。</translation>
+        <translation>「OK」でウィンドウが閉じ、色が引き継がれました。</translation>
     </message>
     <message>
         <source>Cancel closed the window; the colour stays as it was.</source>
@@ -2100,7 +2100,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
-        <translation>パレット「%1」はありません。使えるパレット: light, dark, contrast</translation>
+        <translation>パレット「%1」はありません。使用できるパレット: light, dark, contrast。</translation>
     </message>
 </context>
 <context>
@@ -2214,7 +2214,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>Drag and drop</source>
-        <translation>ドラッグ アンド ドロップ</translation>
+        <translation>ドラッグアンドドロップ</translation>
     </message>
     <message>
         <source>Selection bar</source>
@@ -2398,7 +2398,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>, </source>
-        <translation>, </translation>
+        <translation>、</translation>
     </message>
     <message>
         <source>What was shown before stays.</source>
@@ -2626,7 +2626,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>the database "%1" is the closed one</source>
-        <translation>データベース「%1」は閉じているものです</translation>
+        <translation>データベース「%1」はアクセスが禁止されています</translation>
     </message>
 </context>
 <context>
@@ -2930,7 +2930,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>The copy, since there is no installed logo.</source>
-        <translation>インストール済みのロゴがないため、コピーです。</translation>
+        <translation>インストール済みのロゴがないため、コピーが表示されます。</translation>
     </message>
     <message>
         <source>The gallery's own picture.</source>
@@ -3309,7 +3309,7 @@ Press room</source>
     <name>PatchFlowPanel</name>
     <message>
         <source>Flow of equal cells</source>
-        <translation>同じ大きさのセルの流れ</translation>
+        <translation>同じ大きさのセルのフロー</translation>
     </message>
     <message>
         <source>Swatches in rows</source>
@@ -3786,7 +3786,7 @@ b* %3
     </message>
     <message>
         <source>Login</source>
-        <translation>認証</translation>
+        <translation>ログイン名</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>

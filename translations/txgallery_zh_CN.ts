@@ -2100,7 +2100,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>There is no palette "%1". The palettes are: light, dark, contrast.</source>
-        <translation>没有调色板“%1”。可用的调色板：light、dark、contrast。</translation>
+        <translation>没有调色板“%1”。可用调色板：light、dark、contrast。</translation>
     </message>
 </context>
 <context>
@@ -2398,7 +2398,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     </message>
     <message>
         <source>, </source>
-        <translation>, </translation>
+        <translation>、</translation>
     </message>
     <message>
         <source>What was shown before stays.</source>
@@ -2807,7 +2807,7 @@ It tells success only if part of the answer still comes in while it reads. An an
     <name>LogPage</name>
     <message>
         <source>The log of this very program, live: Qt's own messages, lines that the program prints, and a job that writes entries with sub-entries from several threads.</source>
-        <translation>此程序的实时日志：Qt 自身的消息、程序输出的行，以及一个从多个线程写入带子条目的条目的作业。</translation>
+        <translation>此程序的实时日志：Qt 自身的消息、程序输出的行，以及一个从多个线程写入条目及其子条目的作业。</translation>
     </message>
     <message>
         <source>Write a line</source>
@@ -3786,7 +3786,7 @@ b* %3
     </message>
     <message>
         <source>Login</source>
-        <translation>登录</translation>
+        <translation>登录名</translation>
     </message>
     <message>
         <source>As it cam&amp;e:</source>

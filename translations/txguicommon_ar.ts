@@ -225,15 +225,15 @@ Please disconnect a network Network Drive and retry.</source>
     </message>
     <message>
         <source>Field 'Sender' is empty, please add sender address which contain '.' and '@'.</source>
-        <translation>الحقل «المرسل» فارغ، يُرجى إدخال عنوان مرسل يحتوي على «.» و«@».</translation>
+        <translation>الحقل «من» فارغ، يُرجى إدخال عنوان مرسل يحتوي على «.» و«@».</translation>
     </message>
     <message>
         <source>Missing a '@' in the field 'Sender', please add sender address which contain a '@'.</source>
-        <translation>ينقص «@» في الحقل «المرسل»، يُرجى إدخال عنوان مرسل يحتوي على «@».</translation>
+        <translation>ينقص «@» في الحقل «من»، يُرجى إدخال عنوان مرسل يحتوي على «@».</translation>
     </message>
     <message>
         <source>Missing a '.' in the field 'Sender', please add sender address which contain a '.'.</source>
-        <translation>تنقص «.» في الحقل «المرسل»، يُرجى إدخال عنوان مرسل يحتوي على «.».</translation>
+        <translation>تنقص «.» في الحقل «من»، يُرجى إدخال عنوان مرسل يحتوي على «.».</translation>
     </message>
     <message>
         <source>Field 'To' is empty, please add receiver address which contain '.' and '@'.</source>
@@ -755,7 +755,7 @@ Please check if a pdf reader has been installed on your computer</source>
     </message>
     <message>
         <source>OK</source>
-        <translation>موافق</translation>
+        <translation>حسنًا</translation>
     </message>
     <message>
         <source>(rev %1)</source>
