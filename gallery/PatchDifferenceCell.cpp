@@ -8,6 +8,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QStyle>
 
 namespace {
 
@@ -16,13 +17,12 @@ constexpr double kCornerPixels = 7;
 constexpr int kSwatchGap = 3;
 constexpr int kDecimals = 2;
 
-TXColorSquareWidget *makeSwatch(const LabColour &colour, Qt::Alignment side, QWidget *parent)
+TXColorSquareWidget *makeSwatch(const LabColour &colour, QWidget *parent)
 {
     auto *swatch = new TXColorSquareWidget(parent);
     swatch->setSizeHint(kSwatchPixels);
     swatch->setBrush(colour.toScreen());
     swatch->setRadius(kCornerPixels);
-    swatch->setAlignment(side | Qt::AlignVCenter);
     return swatch;
 }
 
@@ -39,8 +39,8 @@ PatchDifferenceCell::PatchDifferenceCell(const PatchPair &pair, QWidget *parent)
     : QWidget(parent)
     , pair(pair)
     , name(new QLabel(this))
-    , older(makeSwatch(chartPatches().at(size_t(pair.older)).older, Qt::AlignRight, this))
-    , newer(makeSwatch(chartPatches().at(size_t(pair.newer)).newer, Qt::AlignLeft, this))
+    , older(makeSwatch(chartPatches().at(size_t(pair.older)).older, this))
+    , newer(makeSwatch(chartPatches().at(size_t(pair.newer)).newer, this))
     , difference(new QLabel(this))
 {
     name->setAlignment(Qt::AlignCenter);
@@ -52,6 +52,7 @@ PatchDifferenceCell::PatchDifferenceCell(const PatchPair &pair, QWidget *parent)
     grid->addWidget(older, 1, 0);
     grid->addWidget(newer, 1, 1);
     grid->addWidget(difference, 2, 0, 1, 2);
+    moveTogether();
 }
 
 void PatchDifferenceCell::showDifference(DifferenceFormula formula, double limit)
@@ -78,7 +79,18 @@ void PatchDifferenceCell::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
         setFrames();
+    } else if (event->type() == QEvent::LayoutDirectionChange) {
+        moveTogether();
     }
+}
+
+void PatchDifferenceCell::moveTogether()
+{
+    const auto towards = [this](Qt::Alignment side) {
+        return QStyle::visualAlignment(layoutDirection(), side) | Qt::AlignVCenter;
+    };
+    older->setAlignment(towards(Qt::AlignRight));
+    newer->setAlignment(towards(Qt::AlignLeft));
 }
 
 void PatchDifferenceCell::setFrames()

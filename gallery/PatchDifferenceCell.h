@@ -23,10 +23,13 @@ public:
     void retranslate();
 
 protected:
-    /// Frames the swatches anew in the colours of another palette.
+    /// Frames the swatches anew in the colours of another palette, and turns them to each other
+    /// after a change of the reading direction.
     void changeEvent(QEvent *event) override;
 
 private:
+    /// Each swatch stands at the edge where the other one is, in both reading directions.
+    void moveTogether();
     void setFrames();
 
     PatchPair pair;
