@@ -38,7 +38,7 @@ class TXGUICOMMON_EXPORT LockerUIDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// Without a password; changing it is possible from setPassword() on.
+    /// Without a password. It can be changed from the first setPassword() on that is not empty.
     explicit LockerUIDialog(bool useHash, QWidget *parent = nullptr);
     ~LockerUIDialog() override;
 

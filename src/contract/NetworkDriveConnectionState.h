@@ -11,7 +11,8 @@ enum NetworkDriveConnectionState : int {
     NetworkDriveConnected = 0,
     /// The drive is not connected.
     NetworkDriveDisconnected = 1,
-    /// The drive was lost and could not be connected again: address, password or user name.
+    /// The drive could not be connected, or was lost and could not be connected again;
+    /// TXAutoMountManager tells for which reasons.
     NetworkDriveReconnectionFailed = 2,
     /// The drive letter or mount point is used by something else.
     NetworkDriveLetterTaken = 3,

@@ -5,8 +5,8 @@
 #include <QString>
 
 /// @file
-/// What the library asks about the application that runs it. May be called from any thread once the
-/// host has set its names.
+/// What the library asks about the application that runs it. Thread: any, once the host has set its
+/// names.
 
 /// The name of the running application as the user reads it: QGuiApplication's display name, or the
 /// application name where none is set. Empty when neither is set; needs no application object.

@@ -15,8 +15,8 @@ class TXError;
 /// lost. This protects settings that are copied, mailed or backed up without the key; it does not
 /// protect against programs that run as the same user.
 ///
-/// Both functions may be called from any thread. The first call reads or makes the key file; a
-/// failure to do so is tried again by the next call.
+/// Thread: any, for both functions. The first call reads or makes the key file; a failure to do so
+/// is tried again by the next call.
 class TXCORECOMMON_EXPORT TXDataCrypt
 {
 public:

@@ -7,7 +7,7 @@
 /// @file
 /// The folders in which file dialogs open, remembered under a name of the caller's in the default
 /// QSettings, group "OpenDialogDirectories". The host sets the organisation and application names
-/// first. May be called from any thread.
+/// first. Thread: any.
 
 /// The folder in which a dialog can open: the remembered folder, that of a remembered file, or the
 /// nearest folder above it that still exists. Empty when nothing usable is remembered.

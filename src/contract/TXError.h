@@ -16,7 +16,9 @@
 /// TXDisplayCompletErrorMessageBox().
 ///
 /// Copies share their contents. Nesting may be as deep as memory allows: copies, texts and the
-/// destructor need no stack for it. Use an error on one thread at a time.
+/// destructor need no stack for it.
+///
+/// Thread: use an error on one thread at a time; copies are independent.
 class TXCORECOMMON_EXPORT TXError
 {
 public:

@@ -32,9 +32,8 @@ public:
     ///
     /// - An object becomes a QVariantHash, an array a QVariantList, at every depth. Of a key that
     ///   stands twice the last one counts.
-    /// - A number without a fraction becomes a `qlonglong`, past its range a `qulonglong`, past
-    /// that
-    ///   and otherwise a `double`. So does 1.0 become the integer 1.
+    /// - A number without a fraction becomes a `qlonglong`, past its range a `qulonglong`; all
+    ///   others become a `double`. 1.0 has no fraction: it becomes the integer 1.
     /// - null becomes QVariant::fromValue(nullptr), which is valid.
     ///
     /// Text that is not JSON (empty, cut off, not UTF-8, nested deeper than kDeepestNesting) gives

@@ -4,7 +4,8 @@
 
 #include <QString>
 
-/// Finds the translation files that lie beside the application.
+/// Finds the translation files that lie beside the application. Thread: that of the application
+/// object.
 class TXCORECOMMON_EXPORT TXLocalisationUtility
 {
 public:

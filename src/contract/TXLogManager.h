@@ -22,14 +22,16 @@ class QTimer;
 ///
 /// Make the manager on the thread of its views. A view on another thread may see a sub-item twice
 /// that is appended while its parent is still on the way to the view.
+///
+/// Thread: its own, but for what is said to be for any thread.
 class TXCORECOMMON_EXPORT TXLogManager : public QObject
 {
     Q_OBJECT
 
 public:
-    /// How deep an entry can stand, the top level being 1. An entry under a deeper parent is put
-    /// beside that parent, so that a program which hangs each line under its last builds no tower.
-    /// What a ready item brings with it is not counted.
+    /// How deep an entry can stand, the top level being 1. An entry under a parent that stands this
+    /// deep or deeper is put beside that parent, so that a program which hangs each line under its
+    /// last builds no tower. What a ready item brings with it is not counted.
     static constexpr int kMaximumDepth = 100;
 
     /// How long a batch may keep the event loop from turning, in milliseconds.

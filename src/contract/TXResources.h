@@ -6,8 +6,8 @@
 
 /// @file
 /// Stock pixmaps of the application family, painted when asked for (they need an application
-/// object). Bullets for test results are 32 by 32, the small ones of the log 16 by 16
-/// device-independent pixels; each carries the device pixel ratio of the application.
+/// object). Thread: the GUI thread. Bullets for test results are 32 by 32, the small ones of the
+/// log 16 by 16 device-independent pixels; each carries the device pixel ratio of the application.
 
 /// Success: a test that passed, a connected drive.
 TXRESOURCES_EXPORT QPixmap TXDisplayFixBulletStaticImage();

@@ -19,7 +19,7 @@ class TXStringI18nData;
 /// A text is either translatable (made from a source) or plain (made by fromString()). A plain text
 /// costs one QString and nothing else: making, copying and reading it copies no characters.
 ///
-/// Implicitly shared; the thread rules are those of QString.
+/// Implicitly shared. Thread: as for a QString.
 class TXCORECOMMON_EXPORT TXStringI18n
 {
 public:

@@ -7,9 +7,10 @@
 /// What all transfers of the process (mail, FTP, SFTP) have in common. A host that wants other
 /// values than the defaults sets them at start.
 ///
-/// A transfer reads them once, when it starts; a later change counts for the next one. Callable
-/// from any thread at any time, also before there is an application object. Nothing here is stored
-/// beyond the process.
+/// A transfer reads them once, when it starts; a later change counts for the next one. Nothing here
+/// is stored beyond the process.
+///
+/// Thread: any, at any time, also before there is an application object.
 class TXCORECOMMON_EXPORT TXTransferSettings
 {
 public:

@@ -8,6 +8,8 @@
 ///
 /// Frame, buttons and read-only state are the class's own: what is set from outside lasts until it
 /// is next enabled or disabled.
+///
+/// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT TXDoubleSpinBoxDisabled : public QDoubleSpinBox
 {
     Q_OBJECT

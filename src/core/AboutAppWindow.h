@@ -40,7 +40,8 @@ public:
     virtual QString applicationVersion() const = 0;
     /// The second part of the version line, behind a blank. Empty: the line ends with the version.
     virtual QString applicationVersionDetail() const = 0;
-    /// The first year of the copyright line, as "2019".
+    /// The first year of the copyright line, as "2019" for "© Copyright 2019-2024 Tovra Hue Works".
+    /// The rest of the line is the same for every application.
     virtual QString applicationCopyrightStartYear() const = 0;
     /// The address of the web site, shown and linked; any text, it is never read as markup. By
     /// default the maker's.

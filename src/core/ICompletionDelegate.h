@@ -11,10 +11,12 @@ class TXStringI18n;
 
 /// What a worker tells about its progress to whoever shows it.
 ///
-/// The worker does not own the delegate and calls it from whatever thread it works on: an
-/// implementation guards what it stores and touches no widget. `path` names the task within larger
-/// ones, outermost first, and may be empty. A worker ends its task by reporting a progress of 100,
-/// also when the task failed or was cancelled.
+/// The worker does not own the delegate. `path` names the task within larger ones, outermost first,
+/// and may be empty. A worker ends its task by reporting a progress of 100, also when the task
+/// failed or was cancelled.
+///
+/// Thread: any, that on which the worker works: an implementation guards what it stores and touches
+/// no widget.
 class TXGUICOMMON_EXPORT ICompletionDelegate
 {
 public:

@@ -18,6 +18,6 @@
 /// When `startWavelength` is not below `endWavelength`, or so low that more than 10000
 /// wavelengths would have a stop (some 100000 nm below 0), red is its only stop.
 ///
-/// Any thread.
+/// Thread: any.
 [[nodiscard]] TXGUICOMMON_EXPORT QLinearGradient TXDisplaySpecralGradient(int startWavelength,
                                                                           int endWavelength);

@@ -26,6 +26,9 @@ class AutoMountManagerMainWindow;
 ///
 /// Each action writes a line to the application's log.
 ///
+/// Files: "../Resources/Images/remote_folder.png", seen from the program, is the window's icon; it
+/// is read when the window is made, and a missing one leaves the window without an icon.
+///
 /// Thread: the GUI thread.
 class TXGUICOMMON_EXPORT AutoMountManagerMainWindow : public QMainWindow
 {

@@ -74,8 +74,9 @@ public:
     ///
     /// False, and nothing changed, for less than one, and below a drive.
     bool insertRows(int row, int count, const QModelIndex &parent = {}) override;
-    /// Removes so many drives from the row on. They are not disconnected. False, and nothing
-    /// changed, for less than one, when not all the rows are there, and below a drive.
+    /// Removes so many drives from the row on, by TXAutoMountManager::remove(), which disconnects
+    /// them in the background. False, and nothing changed, for less than one, when not all the rows
+    /// are there, and below a drive.
     bool removeRows(int row, int count, const QModelIndex &parent = {}) override;
     /// Does nothing and returns true: the columns are fixed.
     bool insertColumns(int column, int count, const QModelIndex &parent = {}) override;

@@ -13,7 +13,7 @@ class FindsUnderWay;
 /// AutoMountNetworkDrive::findHostsOrShareFolders(). Used by ShareBrowser.
 ///
 /// A search that finds faster than the owner's event loop takes is held back, so that the owner has
-/// turns for other work; see FindsUnderWay. An owner that runs no event loop gets all finds later.
+/// turns for other work. An owner that runs no event loop gets all finds later.
 ///
 /// Thread: start() and stop() by the thread that owns the object.
 class TXGUICOMMON_EXPORT ShareBrowserDiscoryThread : public QThread

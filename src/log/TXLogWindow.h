@@ -25,6 +25,9 @@ class TXLogWindow;
 /// The box of the levels takes no focus: Alt+Up and Alt+Down, wherever the focus is in the window,
 /// pick the entry before and the one behind.
 ///
+/// Files: "../Resources/Images/text_file_icon.png", seen from the program, is the window's icon; it
+/// is read each time the window is shown, and a missing one leaves the window without an icon.
+///
 /// Thread: the GUI thread, also while other threads write to the log.
 class TXGUICOMMON_EXPORT TXLogWindow : public QDialog
 {

@@ -28,9 +28,10 @@ class TXCheckForUpdateWidget;
 ///     auto *updates = new TXCheckForUpdateWidget("Patch Reader", 7, true, mainWindow);
 ///     connect(action, SIGNAL(triggered()), updates, SLOT(checkUpdate()));
 ///
-/// Each showing of the dialog starts a check. A check by itself stays out of sight until there is
-/// something newer. The service is that of TXUpdateService; its certificate is not looked at.
-/// A release is newer when its revision is greater than that of this build.
+/// Each showing of the dialog starts a check. The check every few days stays out of sight until
+/// there is something newer; the one at startup shows the dialog. The service is that of
+/// TXUpdateService; its certificate is not looked at. A release is newer when its revision is
+/// greater than that of this build.
 ///
 /// What the service sends names no places: an installer goes into the user's folder for downloads
 /// or into the one that he picks, under the last component of the name that came. A file whose

@@ -3,7 +3,7 @@
 #include <QRectF>
 #include <QString>
 
-/// A text as it stands on a page of a report.
+/// A text as it stands on a page of a report. Thread: a value, for one thread at a time.
 struct TXReportText
 {
     /// What is read, never blank. May have several lines.

@@ -17,6 +17,8 @@ class TXGraphicsScene;
 /// A value, built from a dictionary of settings and copied freely. Sizes are in points. Hosts fill
 /// tables through TXTable::addCell(), which builds the cells; the members are there to be read and
 /// adjusted afterwards.
+///
+/// Thread: one thread at a time for each cell; drawing is for the scene's thread.
 class TXGUICOMMON_EXPORT TXTableCell
 {
 public:
