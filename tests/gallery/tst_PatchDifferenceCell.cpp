@@ -20,8 +20,8 @@ namespace {
 
 constexpr QSize kWideCell(200, 80);
 
-/// The columns of the longest run of one ground between the first and the last coloured place in
-/// the row through the swatches.
+/// The widest run of plain ground between two painted places of the row through the swatches, in
+/// pixels.
 int gapBetweenSwatches(PatchDifferenceCell &cell)
 {
     cell.resize(kWideCell);
@@ -71,5 +71,9 @@ void TestPatchDifferenceCell::swatchesFollowATurnOfTheDirection()
     QVERIFY(gapBetweenSwatches(cell) < 8);
 }
 
-QTEST_MAIN(TestPatchDifferenceCell)
+int main(int argc, char *argv[])
+{
+    return runTest<TestPatchDifferenceCell>(argc, argv);
+}
+
 #include "tst_PatchDifferenceCell.moc"
