@@ -1,54 +1,17 @@
+#include "LogManagerHelpers.h"
 #include "TXLogManager.h"
 #include "TestBase.h"
 
 #include <QSignalSpy>
 
-#include <thread>
-#include <vector>
+#include <utility>
+
+using LogManagerTest::childTexts;
+using LogManagerTest::Item;
+using LogManagerTest::plain;
+using LogManagerTest::Protocol;
 
 namespace {
-
-using Item = QSharedPointer<TXLogItem>;
-
-TXStringI18n plain(const QString &text)
-{
-    return TXStringI18n::fromString(text);
-}
-
-QStringList childTexts(const TXLogItem &item)
-{
-    QStringList texts;
-    for (const Item &child : item.children) {
-        texts.append(child->message.toString(nullptr));
-    }
-    return texts;
-}
-
-/// Writes down what the root item tells, in order: "+text" and "-text".
-class Protocol : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Protocol(const TXLogManager &manager)
-    {
-        const TXLogItem *root = manager.rootItem().data();
-        connect(root, &TXLogItem::itemAppended, this,
-                [this](const Item &item) { write(u'+', item); });
-        connect(root, &TXLogItem::itemDeleted, this,
-                [this](const Item &item) { write(u'-', item); });
-    }
-
-    QStringList lines;
-    QList<QThread *> threads;
-
-private:
-    void write(QChar sign, const Item &item)
-    {
-        lines.append(sign + item->message.toString(nullptr));
-        threads.append(QThread::currentThread());
-    }
-};
 
 /// Counts the wake-ups that are posted to an object.
 class WakeUpCounter : public QObject
@@ -67,6 +30,7 @@ public:
 
 } // namespace
 
+/// How entries come into the log, and what its receivers may do meanwhile.
 class TestTXLogManager : public TestBase
 {
     Q_OBJECT
@@ -79,22 +43,12 @@ private slots:
     void nothingAndAnItemInATreeAreIgnored();
     void manyEntriesTakeOneWakeUp();
     void eachTurnOfTheEventLoopDelivers();
-    void limitDropsTheOldestFirst();
-    void limitSetLaterDropsTheSurplus();
-    void negativeLimitIsNone();
-    void limitDoesNotCountSubItems();
-    void entryUnderADroppedParentIsShownNowhere();
-    void entryUnderAParentDroppedByClearingIsShownNowhere();
-    void entryUnderASubItemOfAnEndedParentIsShownNowhere();
-    void towerOfEntriesStopsGrowing();
     void resetDropsAllIncludingWhatWaits();
     void loggingGoesOnAfterAReset();
     void receiverMayLogFromWithinASignal();
     void receiverMayRunAnEventLoop();
     void receiverMayDestroyTheManager_data();
     void receiverMayDestroyTheManager();
-    void manyThreadsLoseNothingAndKeepTheirOrder();
-    void threadsMayHangSubItemsUnderEachOthersEntries();
     void managerThatEndsWithWaitingEntriesFreesThem();
     void longBatchIsCutIntoSlices();
     void datesAreThePresent();
@@ -200,131 +154,6 @@ void TestTXLogManager::eachTurnOfTheEventLoopDelivers()
     }
 }
 
-void TestTXLogManager::limitDropsTheOldestFirst()
-{
-    TXLogManager manager;
-    Protocol protocol(manager);
-    manager.setMaximumCount(2);
-    QCOMPARE(manager.maximumCount(), 2);
-
-    for (const char *text : {"a", "b", "c", "d"}) {
-        manager.append(1, plain(QString::fromLatin1(text)));
-    }
-    manager.flush();
-
-    QCOMPARE(protocol.lines,
-             QStringList({QStringLiteral("+a"), QStringLiteral("+b"), QStringLiteral("+c"),
-                          QStringLiteral("-a"), QStringLiteral("+d"), QStringLiteral("-b")}));
-    QCOMPARE(childTexts(*manager.rootItem()),
-             QStringList({QStringLiteral("c"), QStringLiteral("d")}));
-}
-
-void TestTXLogManager::limitSetLaterDropsTheSurplus()
-{
-    TXLogManager manager;
-    for (int i = 0; i < 5; ++i) {
-        manager.append(1, plain(QString::number(i)));
-    }
-    manager.flush();
-    Protocol protocol(manager);
-
-    manager.setMaximumCount(3);
-
-    QCOMPARE(protocol.lines, QStringList({QStringLiteral("-0"), QStringLiteral("-1")}));
-}
-
-void TestTXLogManager::negativeLimitIsNone()
-{
-    TXLogManager manager;
-    manager.setMaximumCount(-5);
-    manager.append(1, plain(QStringLiteral("a")));
-    manager.flush();
-
-    QCOMPARE(manager.maximumCount(), 0);
-    QCOMPARE(manager.rootItem()->children.size(), 1);
-}
-
-void TestTXLogManager::limitDoesNotCountSubItems()
-{
-    TXLogManager manager;
-    manager.setMaximumCount(1);
-    const Item parent = manager.append(1, plain(QStringLiteral("parent")));
-    for (int i = 0; i < 3; ++i) {
-        manager.append(1, plain(QString::number(i)), parent);
-    }
-    manager.flush();
-
-    QCOMPARE(manager.rootItem()->children.size(), 1);
-    QCOMPARE(parent->children.size(), 3);
-}
-
-void TestTXLogManager::entryUnderADroppedParentIsShownNowhere()
-{
-    TXLogManager manager;
-    manager.setMaximumCount(1);
-    const Item dropped = manager.append(1, plain(QStringLiteral("old")));
-    const Item below = manager.append(1, plain(QStringLiteral("below")), dropped);
-    manager.append(1, plain(QStringLiteral("new")));
-    manager.flush();
-    Protocol protocol(manager);
-
-    const Item late = manager.append(1, plain(QStringLiteral("late")), dropped);
-    manager.append(1, plain(QStringLiteral("later")), below);
-    manager.flush();
-
-    QVERIFY(late);
-    QCOMPARE(protocol.lines, QStringList());
-    QCOMPARE(dropped->children.size(), 1);
-    QVERIFY(below->children.isEmpty());
-}
-
-void TestTXLogManager::entryUnderAParentDroppedByClearingIsShownNowhere()
-{
-    TXLogManager manager;
-    const Item parent = manager.append(1, plain(QStringLiteral("old")));
-    manager.flush();
-    manager.rootItem()->removeAllChildren();
-    Protocol protocol(manager);
-
-    manager.append(1, plain(QStringLiteral("late")), parent);
-    manager.flush();
-
-    QCOMPARE(protocol.lines, QStringList());
-    QVERIFY(parent->children.isEmpty());
-}
-
-void TestTXLogManager::entryUnderASubItemOfAnEndedParentIsShownNowhere()
-{
-    TXLogManager manager;
-    Item parent = manager.append(1, plain(QStringLiteral("parent")));
-    const Item child = manager.append(1, plain(QStringLiteral("child")), parent);
-    manager.flush();
-    manager.rootItem()->removeAllChildren();
-    parent.reset();
-    QVERIFY(!child->parent);
-    Protocol protocol(manager);
-
-    manager.append(1, plain(QStringLiteral("late")), child);
-    manager.flush();
-
-    QCOMPARE(protocol.lines, QStringList());
-    QVERIFY(child->children.isEmpty());
-}
-
-void TestTXLogManager::towerOfEntriesStopsGrowing()
-{
-    constexpr int kEntries = 100000;
-    TXLogManager manager;
-    Item last;
-    for (int i = 0; i < kEntries; ++i) {
-        last = manager.append(1, TXStringI18n(), last);
-    }
-    manager.flush();
-
-    QCOMPARE(last->depth(), int(TXLogManager::kMaximumDepth));
-    QCOMPARE(last->parent->children.size(), kEntries - TXLogManager::kMaximumDepth + 1);
-}
-
 void TestTXLogManager::resetDropsAllIncludingWhatWaits()
 {
     TXLogManager manager;
@@ -427,65 +256,6 @@ void TestTXLogManager::receiverMayDestroyTheManager()
 
     QTRY_VERIFY(!watched);
     QCOMPARE(root->children.size(), 1);
-}
-
-void TestTXLogManager::manyThreadsLoseNothingAndKeepTheirOrder()
-{
-    constexpr int kThreads = 8;
-    constexpr int kEntries = 2000;
-    TXLogManager manager;
-    Protocol protocol(manager);
-
-    std::vector<std::thread> writers;
-    writers.reserve(kThreads);
-    for (int thread = 0; thread < kThreads; ++thread) {
-        writers.emplace_back([&manager, thread] {
-            for (int i = 0; i < kEntries; ++i) {
-                manager.append(1, plain(QStringLiteral("%1:%2").arg(thread).arg(i)));
-            }
-        });
-    }
-    QTRY_COMPARE(protocol.lines.size(), qsizetype(kThreads) * kEntries);
-    for (std::thread &writer : writers) {
-        writer.join();
-    }
-
-    QList<int> next(kThreads, 0);
-    for (const QString &line : qAsConst(protocol.lines)) {
-        const int thread = line.mid(1).section(u':', 0, 0).toInt();
-        const int number = line.section(u':', 1).toInt();
-        QCOMPARE(number, next[thread]++);
-    }
-    for (const QThread *thread : qAsConst(protocol.threads)) {
-        QCOMPARE(thread, QThread::currentThread());
-    }
-}
-
-void TestTXLogManager::threadsMayHangSubItemsUnderEachOthersEntries()
-{
-    constexpr int kThreads = 4;
-    constexpr int kEntries = 500;
-    TXLogManager manager;
-    const Item shared = manager.append(1, plain(QStringLiteral("shared")));
-
-    std::vector<std::thread> writers;
-    writers.reserve(kThreads);
-    for (int thread = 0; thread < kThreads; ++thread) {
-        writers.emplace_back([&manager, &shared] {
-            for (int i = 0; i < kEntries; ++i) {
-                manager.append(2, plain(QString::number(i)), shared);
-            }
-        });
-    }
-    for (std::thread &writer : writers) {
-        writer.join();
-    }
-    manager.flush();
-
-    QCOMPARE(shared->children.size(), qsizetype(kThreads) * kEntries);
-    for (int i = 0; i < shared->children.size(); ++i) {
-        QCOMPARE(shared->children.at(i)->number(), qint64(i));
-    }
 }
 
 void TestTXLogManager::managerThatEndsWithWaitingEntriesFreesThem()

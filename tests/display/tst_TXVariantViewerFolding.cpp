@@ -1,48 +1,22 @@
 #include "TXVariantViewer.h"
 #include "TestBase.h"
+#include "VariantViewerFoldingHelpers.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QVBoxLayout>
-#include <QWindow>
 
 #include <functional>
+#include <utility>
+
+using FoldingTest::child;
+using FoldingTest::entries;
+using FoldingTest::key;
+using FoldingTest::line;
+using FoldingTest::text;
 
 namespace {
-
-QString text(const QWidget *widget)
-{
-    const auto *label = qobject_cast<const QLabel *>(widget);
-    return label != nullptr ? label->text() : widget->findChild<QLabel *>()->text();
-}
-
-QString key(const QString &name)
-{
-    return QStringLiteral("<span style=\"font-family: monospace\">") + name
-        + QStringLiteral(": </span>");
-}
-
-QString line(const QVariant &value, bool preview = true)
-{
-    return QStringLiteral("<span style=\"font-family: monospace; overflow: hidden\">")
-        + TXVariantViewer::variantToHtml(value, preview) + QStringLiteral("</span>");
-}
-
-QList<QWidget *> entries(const QWidget &viewer)
-{
-    QList<QWidget *> widgets;
-    for (int i = 0; i < viewer.layout()->count(); ++i) {
-        widgets.append(viewer.layout()->itemAt(i)->widget());
-    }
-    return widgets;
-}
-
-TXVariantViewer *child(const QWidget &viewer, int place)
-{
-    return qobject_cast<TXVariantViewer *>(entries(viewer).value(place));
-}
 
 void click(QWidget *widget, int x, Qt::MouseButton button = Qt::LeftButton)
 {
@@ -70,7 +44,7 @@ private:
 
 } // namespace
 
-// What a viewer looks like open, and how it gets there and back.
+/// What a viewer has in it when it is open, and how it gets there and back.
 class TestTXVariantViewerFolding : public TestBase
 {
     Q_OBJECT
@@ -87,18 +61,12 @@ private slots:
     void valueIsShownFolded();
     void deeperLevelsAreForgotten();
     void deeperLevelsTellThatTheSizeMayHaveChanged();
-    void layoutDoesNotGrowWithEachFold();
-    void listAfterAMapStandsInOneColumn();
-    void entriesOfAShownViewerAreShownAndLaidOut();
-    void foldedEntriesLeaveThePicture();
     void focusGoesToTheViewerThatFolds();
     void clickUnfoldsAnywhereAndFoldsOnTheMargin();
     void valueMayChangeWithinAClick_data();
     void valueMayChangeWithinAClick();
     void valueEndsFoldedWhateverASlotDoes();
     void slotMayDeleteTheViewerWhileItGetsAValue();
-    void notationRunsFromLeftToRightInAnyDirection();
-    void entriesAmongNativeWidgetsAreShown();
 };
 
 void TestTXVariantViewerFolding::listShowsAViewerForEachElement_data()
@@ -293,85 +261,6 @@ void TestTXVariantViewerFolding::deeperLevelsTellThatTheSizeMayHaveChanged()
     QCOMPARE(ofRoot.count(), 3);
 }
 
-void TestTXVariantViewerFolding::layoutDoesNotGrowWithEachFold()
-{
-    TXVariantViewer viewer(nullptr);
-    viewer.setValue(QVariantList{1, 2, 3});
-    auto *grid = qobject_cast<QGridLayout *>(viewer.layout());
-
-    for (int fold = 0; fold < 20; ++fold) {
-        viewer.expand();
-        viewer.collapse();
-    }
-
-    QCOMPARE(grid->rowCount(), 4);
-    QCOMPARE(grid->columnCount(), 1);
-}
-
-void TestTXVariantViewerFolding::listAfterAMapStandsInOneColumn()
-{
-    TXVariantViewer viewer(nullptr);
-    viewer.resize(300, 300);
-    viewer.setValue(QVariantMap{{QStringLiteral("a long key"), 1}, {QStringLiteral("b"), 1}});
-    viewer.show();
-    viewer.expand();
-    viewer.setValue(QVariantList{1, 2, 3});
-    viewer.expand();
-
-    for (int i = 0; i < 3; ++i) {
-        QCOMPARE(child(viewer, i)->x(), 21);
-        QCOMPARE(child(viewer, i)->width(), 279);
-    }
-    QVERIFY(child(viewer, 0)->geometry().bottom() < child(viewer, 1)->y());
-    viewer.collapse();
-    QTRY_COMPARE(viewer.findChild<QLabel *>()->geometry(), QRect(14, 0, 286, 300));
-}
-
-void TestTXVariantViewerFolding::entriesOfAShownViewerAreShownAndLaidOut()
-{
-    QWidget window;
-    auto *layout = new QVBoxLayout(&window);
-    auto *viewer = new TXVariantViewer(&window);
-    layout->addWidget(viewer);
-    viewer->setValue(QVariantMap{{QStringLiteral("a"), QVariantList{1}}, {QStringLiteral("b"), 1}});
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const int height = viewer->sizeHint().height();
-
-    viewer->expand();
-    child(*viewer, 1)->expand();
-
-    for (const QWidget *widget : entries(*viewer) + entries(*child(*viewer, 1))) {
-        QVERIFY(widget->isVisible());
-        QVERIFY(!widget->testAttribute(Qt::WA_DontShowOnScreen));
-    }
-    QVERIFY(!viewer->testAttribute(Qt::WA_TransparentForMouseEvents));
-    QTRY_COMPARE(viewer->sizeHint().height(), 2 * height);
-    const QList<QWidget *> widgets = entries(*viewer);
-    QCOMPARE(widgets.at(0)->x(), 21);
-    QCOMPARE(widgets.at(1)->geometry().right(), viewer->width() - 1);
-    QVERIFY(widgets.at(0)->geometry().bottom() < widgets.at(2)->y());
-    const QPoint inEntry = widgets.at(3)->geometry().center();
-    QCOMPARE(viewer->childAt(inEntry), widgets.at(3)->findChild<QLabel *>());
-}
-
-void TestTXVariantViewerFolding::foldedEntriesLeaveThePicture()
-{
-    TXVariantViewer viewer(nullptr);
-    viewer.resize(200, 100);
-    viewer.setValue(QVariantList{QStringLiteral("first"), QStringLiteral("second")});
-    viewer.show();
-    const QImage before = viewer.grab().toImage();
-
-    viewer.expand();
-    QVERIFY(viewer.grab().toImage() != before);
-    viewer.collapse();
-    viewer.layout()->activate();
-
-    QCOMPARE(viewer.grab().toImage(), before);
-    QCOMPARE(viewer.childAt(50, 50), viewer.findChild<QLabel *>());
-}
-
 void TestTXVariantViewerFolding::focusGoesToTheViewerThatFolds()
 {
     QWidget window;
@@ -481,48 +370,6 @@ void TestTXVariantViewerFolding::slotMayDeleteTheViewerWhileItGetsAValue()
     viewer->setValue(QVariantList{3});
 
     QVERIFY(viewer.isNull());
-}
-
-void TestTXVariantViewerFolding::notationRunsFromLeftToRightInAnyDirection()
-{
-    QWidget window;
-    window.setLayoutDirection(Qt::RightToLeft);
-    auto *layout = new QVBoxLayout(&window);
-    layout->setContentsMargins(0, 0, 0, 0);
-    auto *viewer = new TXVariantViewer(&window);
-    layout->addWidget(viewer);
-    viewer->setValue(QVariantMap{{QStringLiteral("a"), QVariantList{1}}});
-    window.resize(300, 100);
-    window.show();
-    QCOMPARE(viewer->findChild<QLabel *>()->geometry(), QRect(14, 0, 286, 100));
-
-    viewer->expand();
-
-    const QWidget *keyOfEntry = entries(*viewer).at(0);
-    TXVariantViewer *entry = child(*viewer, 1);
-    QCOMPARE(keyOfEntry->x(), 21);
-    QCOMPARE(entry->x(), 21 + keyOfEntry->width());
-    QCOMPARE(entry->findChild<QLabel *>()->x(), 14);
-}
-
-void TestTXVariantViewerFolding::entriesAmongNativeWidgetsAreShown()
-{
-    QWidget window;
-    auto *layout = new QVBoxLayout(&window);
-    auto *viewer = new TXVariantViewer(&window);
-    layout->addWidget(viewer);
-    viewer->setValue(QVariantList{1, 2});
-    window.show();
-    // What comes to stand beside a native widget becomes native, too.
-    QVERIFY(viewer->findChild<QLabel *>()->winId() != 0);
-
-    viewer->expand();
-
-    for (int i = 0; i < 2; ++i) {
-        QVERIFY(child(*viewer, i)->windowHandle() != nullptr);
-        QVERIFY(child(*viewer, i)->windowHandle()->isVisible());
-        QVERIFY(child(*viewer, i)->findChild<QLabel *>()->isVisible());
-    }
 }
 
 int main(int argc, char **argv)

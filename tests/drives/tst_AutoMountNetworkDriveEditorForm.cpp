@@ -1,9 +1,6 @@
-#include "AutoMountNetworkDriveEditor.h"
-
-#include "DriveEditorHelpers.h"
+#include "DriveEditorFormTest.h"
 #include "DriveFormHelpers.h"
 #include "PixelProbe.h"
-#include "TestBase.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -13,11 +10,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QMetaMethod>
-#include <QTranslator>
 
-#include <memory>
-
-using DriveEditorTest::completeDrive;
 using DriveEditorTest::field;
 using DriveEditorTest::kTabOrder;
 using DriveFormTest::darkPalette;
@@ -27,20 +20,6 @@ using DriveFormTest::inkIn;
 namespace {
 
 constexpr int kHeight = 292;
-
-/// Says everything of the editor's own with angle quotes around it.
-class QuotingTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return qstrcmp(context, "AutoMountNetworkDriveEditor") == 0
-            ? QStringLiteral("«%1»").arg(QString::fromUtf8(source))
-            : QString();
-    }
-};
 
 /// The row of the grid in which the widget stands, be it in a layout of its own.
 int rowOf(const QGridLayout &grid, QWidget *widget)
@@ -63,17 +42,10 @@ int rowOf(const QGridLayout &grid, QWidget *widget)
 
 } // namespace
 
-/// The form of the editor: what is where, in which language, direction, size and colours.
-class TestAutoMountNetworkDriveEditorForm : public TestBase
+/// The form of the editor: what is where, in which direction, size and colours.
+class TestAutoMountNetworkDriveEditorForm : public DriveEditorFormTest
 {
     Q_OBJECT
-
-protected:
-    void prepare() override
-    {
-        editor = std::make_unique<AutoMountNetworkDriveEditor>(completeDrive());
-    }
-    void finish() override { editor.reset(); }
 
 private slots:
     void windowIsAsDesigned();
@@ -85,10 +57,6 @@ private slots:
 
     void everyControlHasAName();
 
-    void languageChangeReachesTheForm();
-    void languageChangeKeepsWhatTheUserHasEntered();
-    void protocolsAreNotTranslated();
-    void otherChangesLeaveTheTextsAlone();
     void iconIsSetAtEachShow();
     void missingIconIsEmpty();
 
@@ -103,12 +71,6 @@ private slots:
     void formIsReadableOnLightAndDark();
 
 private:
-    template<class Child>
-    [[nodiscard]] Child *find(const QString &name) const
-    {
-        return editor->findChild<Child *>(name);
-    }
-
     /// The place of a control in the window.
     [[nodiscard]] QRect placeOf(const QString &name) const
     {
@@ -121,8 +83,6 @@ private:
         editor->show();
         QVERIFY(QTest::qWaitForWindowActive(editor.get()));
     }
-
-    std::unique_ptr<AutoMountNetworkDriveEditor> editor;
 };
 
 void TestAutoMountNetworkDriveEditorForm::windowIsAsDesigned()
@@ -251,58 +211,6 @@ void TestAutoMountNetworkDriveEditorForm::everyControlHasAName()
     // No one hears the length of a password that has been set.
     auto *password = QAccessible::queryAccessibleInterface(find<QWidget>("lineEditPassword"));
     QCOMPARE(password->text(QAccessible::Value).size(), 25);
-}
-
-void TestAutoMountNetworkDriveEditorForm::languageChangeReachesTheForm()
-{
-    editor->setWindowTitle(QStringLiteral("Add Network Drive"));
-    QuotingTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-
-    // The title of the form comes back as well.
-    QTRY_COMPARE(editor->windowTitle(), QStringLiteral("«Network Drive»"));
-    QCOMPARE(find<QLabel>("labelHost")->text(), QStringLiteral("«Host»"));
-    QCOMPARE(find<QLabel>("labelProtocol")->text(), QStringLiteral("«Protocol»"));
-    QCOMPARE(find<QLabel>("labelMountPoint")->text(), QStringLiteral("«Network Drive»"));
-    QCOMPARE(find<QPushButton>("chooseButton")->text(), QStringLiteral("«Browse...»"));
-    QCOMPARE(field(*editor, "lineEditHost")->placeholderText(), QStringLiteral("«(required)»"));
-    QCOMPARE(field(*editor, "lineEditPassword")->placeholderText(), QStringLiteral("«Password»"));
-    QCOMPARE(find<QComboBox>("comboBoxMountPoint")->accessibleName(),
-             QStringLiteral("«Network Drive»"));
-
-    QVERIFY(QCoreApplication::removeTranslator(&translator));
-    QTRY_COMPARE(editor->windowTitle(), "Network Drive");
-}
-
-void TestAutoMountNetworkDriveEditorForm::languageChangeKeepsWhatTheUserHasEntered()
-{
-    QuotingTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-
-    QTRY_COMPARE(editor->windowTitle(), QStringLiteral("«Network Drive»"));
-    QVERIFY(editor->networkDrive() == completeDrive());
-    QVERIFY(DriveEditorTest::okButton(*editor)->isEnabled());
-    QVERIFY(QCoreApplication::removeTranslator(&translator));
-}
-
-void TestAutoMountNetworkDriveEditorForm::protocolsAreNotTranslated()
-{
-    QuotingTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    QTRY_COMPARE(editor->windowTitle(), QStringLiteral("«Network Drive»"));
-    const AutoMountNetworkDriveEditor translated(completeDrive());
-    QVERIFY(QCoreApplication::removeTranslator(&translator));
-
-    QCOMPARE(editor->networkDrive().getUrl().scheme(), "smb");
-    QCOMPARE(translated.networkDrive().getUrl().scheme(), "smb");
-}
-
-void TestAutoMountNetworkDriveEditorForm::otherChangesLeaveTheTextsAlone()
-{
-    editor->setWindowTitle(QStringLiteral("Add Network Drive"));
-    QEvent event(QEvent::StyleChange);
-    QCoreApplication::sendEvent(editor.get(), &event);
-    QCOMPARE(editor->windowTitle(), "Add Network Drive");
 }
 
 void TestAutoMountNetworkDriveEditorForm::iconIsSetAtEachShow()

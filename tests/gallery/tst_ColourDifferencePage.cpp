@@ -1,41 +1,21 @@
-#include "ColourDifferencePage.h"
-
 #include "ChartPatches.h"
+#include "ColourDifferencePageTest.h"
 #include "DifferenceSpread.h"
-#include "GalleryAppearance.h"
-#include "GalleryLanguages.h"
-#include "GallerySettings.h"
-#include "GalleryWindow.h"
-#include "PageChecks.h"
 #include "PatchDifferenceCell.h"
 #include "PixelProbe.h"
-#include "SpectrumPlot.h"
-#include "TestBase.h"
 
-#include "DoubleSpinBoxWithSliderWidget.h"
 #include "TXColorSquareWidget.h"
-#include "TXDeltaGradientWidget.h"
 
-#include <QAccessible>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QFontMetricsF>
 #include <QLabel>
-#include <QLocale>
 #include <QSlider>
-#include <QSpinBox>
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <memory>
 
-class TestColourDifferencePage : public TestBase
+/// The differences of the chart, and the page as a whole.
+class TestColourDifferencePage : public ColourDifferencePageTest
 {
     Q_OBJECT
-
-protected:
-    void prepare() override;
-    void finish() override;
 
 private slots:
     void barShowsTheDifferencesOfTheChart_data();
@@ -51,12 +31,6 @@ private slots:
     void framesFollowThePalette_data();
     void framesFollowThePalette();
     void barStandsOnALightGroundInADarkPaletteToo();
-    void spectrumFollowsTheRange_data();
-    void spectrumFollowsTheRange();
-    void wavelengthsAreLabelledInEveryRange_data();
-    void wavelengthsAreLabelledInEveryRange();
-    void curveReachesItsPeak();
-    void rangeKeepsItsOrder();
     void wheelChangesNothing();
     void pageFitsTheWindow();
     void mnemonicsAreNotShared();
@@ -64,23 +38,6 @@ private slots:
     void textsFollowTheLanguage();
 
 private:
-    [[nodiscard]] GalleryPage &page() const { return *window->currentPage(); }
-    [[nodiscard]] QComboBox &formula() const { return *controlOf<QComboBox>(page(), "Formula"); }
-    [[nodiscard]] QComboBox &pairs() const { return *controlOf<QComboBox>(page(), "Pairs"); }
-    [[nodiscard]] QSpinBox &box(const QString &name) const
-    {
-        return *controlOf<QSpinBox>(page(), name);
-    }
-    [[nodiscard]] DoubleSpinBoxWithSliderWidget &limit() const
-    {
-        return *page().findChild<DoubleSpinBoxWithSliderWidget *>();
-    }
-    [[nodiscard]] SpectrumPlot &plot() const { return *page().findChild<SpectrumPlot *>(); }
-    [[nodiscard]] QString valueOfBar() const
-    {
-        auto *bar = page().findChild<TXDeltaGradientWidget *>();
-        return QAccessible::queryAccessibleInterface(bar)->text(QAccessible::Value);
-    }
     [[nodiscard]] QList<PatchDifferenceCell *> cells() const
     {
         return page().findChildren<PatchDifferenceCell *>();
@@ -97,29 +54,7 @@ private:
         const QColor colour = PixelProbe(*swatch).at({1, swatch->height() / 2});
         return colour == page().palette().color(QPalette::WindowText);
     }
-
-    std::unique_ptr<GalleryLanguages> languages;
-    std::unique_ptr<GalleryWindow> window;
 };
-
-void TestColourDifferencePage::prepare()
-{
-    GallerySettings settings;
-    settings.page = "difference";
-    languages = std::make_unique<GalleryLanguages>(QString());
-    window = std::make_unique<GalleryWindow>(*languages, settings);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
-    QVERIFY(qobject_cast<ColourDifferencePage *>(window->currentPage()));
-}
-
-void TestColourDifferencePage::finish()
-{
-    window.reset();
-    languages.reset();
-    applyGalleryColours(GalleryColours::System);
-    QLocale::setDefault(QLocale::system());
-}
 
 void TestColourDifferencePage::barShowsTheDifferencesOfTheChart_data()
 {
@@ -335,124 +270,6 @@ void TestColourDifferencePage::barStandsOnALightGroundInADarkPaletteToo()
 
     QCOMPARE(look(), light);
     QVERIFY(light.pixelColor(2, 2).lightness() > 220);
-}
-
-void TestColourDifferencePage::spectrumFollowsTheRange_data()
-{
-    QTest::addColumn<int>("first");
-    QTest::addColumn<int>("last");
-    QTest::addColumn<int>("leftHue");
-    QTest::addColumn<int>("middleHue");
-    QTest::addColumn<int>("rightHue");
-    QTest::newRow("all") << 380 << 780 << 300 << 60 << 0;
-    QTest::newRow("blue") << 440 << 490 << 240 << 208 << 180;
-    QTest::newRow("green") << 500 << 600 << 150 << 86 << 42;
-    QTest::newRow("one step") << 505 << 515 << 135 << 120 << 116;
-    QTest::newRow("red") << 660 << 700 << 0 << 0 << 0;
-    QTest::newRow("beyond the eye") << 300 << 830 << 300 << 76 << 0;
-}
-
-void TestColourDifferencePage::spectrumFollowsTheRange()
-{
-    QFETCH(int, first);
-    QFETCH(int, last);
-    applyGalleryColours(GalleryColours::Light);
-    box("First wavelength").setValue(first);
-    box("Last wavelength").setValue(last);
-    const auto distance = [&](double share, int hue) {
-        const double edge = QFontMetricsF(plot().font()).horizontalAdvance("1.0") + 6;
-        const double x = edge + 2 + share * (plot().width() - 2 * edge - 4);
-        const int shown = PixelProbe(plot()).at({int(x), 4}).hue();
-        return std::min(qAbs(shown - hue), 360 - qAbs(shown - hue));
-    };
-
-    QCOMPARE(plot().accessibleName(),
-             QString("Luminous efficiency from %1 to %2 nm").arg(first).arg(last));
-    QFETCH(int, leftHue);
-    QVERIFY2(distance(0, leftHue) < 10, qPrintable(QString::number(distance(0, leftHue))));
-    QFETCH(int, middleHue);
-    QVERIFY2(distance(0.5, middleHue) < 10, qPrintable(QString::number(distance(0.5, middleHue))));
-    QFETCH(int, rightHue);
-    QVERIFY2(distance(1, rightHue) < 10, qPrintable(QString::number(distance(1, rightHue))));
-}
-
-void TestColourDifferencePage::wavelengthsAreLabelledInEveryRange_data()
-{
-    QTest::addColumn<int>("first");
-    QTest::addColumn<int>("last");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("labels");
-    QTest::newRow("all") << 380 << 780 << 800 << 8;
-    QTest::newRow("one step") << 501 << 511 << 800 << 2;
-    QTest::newRow("20 nm") << 511 << 531 << 800 << 4;
-    QTest::newRow("30 nm, narrow") << 511 << 541 << 360 << 3;
-    QTest::newRow("100 nm") << 501 << 599 << 800 << 9;
-    QTest::newRow("widest, narrow") << 300 << 830 << 360 << 6;
-}
-
-void TestColourDifferencePage::wavelengthsAreLabelledInEveryRange()
-{
-    QFETCH(int, first);
-    QFETCH(int, last);
-    QFETCH(int, width);
-    QFETCH(int, labels);
-    SpectrumPlot plot;
-    plot.resize(width, 200);
-    plot.setRange(first, last);
-
-    const QImage image = PixelProbe(plot).image();
-    const QColor ground = image.pixelColor(0, 0);
-    const int top = plot.height() - QFontMetrics(plot.font()).height() + 2;
-    // Between words there is less room than between labels.
-    const int gap = QFontMetrics(plot.font()).height() / 2;
-    int runs = 0;
-    int lastInk = -1000;
-    for (int x = 0; x < image.width(); ++x) {
-        for (int y = top; y < image.height(); ++y) {
-            if (image.pixelColor(x, y) != ground) {
-                runs += x - lastInk > gap ? 1 : 0;
-                lastInk = x;
-                break;
-            }
-        }
-    }
-    QCOMPARE(runs, labels);
-}
-
-void TestColourDifferencePage::curveReachesItsPeak()
-{
-    SpectrumPlot plot;
-    plot.resize(700, 800);
-    plot.setRange(550, 560);
-    QPalette palette = plot.palette();
-    palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::Base, Qt::white);
-    plot.setPalette(palette);
-    const QImage image = PixelProbe(plot).image();
-
-    // The curve is what is black; it is highest in the middle, by some pixels.
-    const auto heightAt = [&](double share) {
-        const int x = int(share * image.width());
-        int y = 0;
-        while (y < image.height() && image.pixelColor(x, y).lightness() > 60) {
-            ++y;
-        }
-        return image.height() - y;
-    };
-    QVERIFY2(heightAt(0.5) >= heightAt(0.1) + 2, qPrintable(QString::number(heightAt(0.5))));
-    QVERIFY2(heightAt(0.5) >= heightAt(0.9) + 2, qPrintable(QString::number(heightAt(0.9))));
-}
-
-void TestColourDifferencePage::rangeKeepsItsOrder()
-{
-    box("First wavelength").setValue(900);
-    QCOMPARE(box("First wavelength").value(), 770);
-    box("Last wavelength").setValue(100);
-    QCOMPARE(box("Last wavelength").value(), 780);
-    box("Last wavelength").setValue(900);
-    QCOMPARE(box("Last wavelength").value(), 830);
-    box("First wavelength").setValue(0);
-    QCOMPARE(box("First wavelength").value(), 300);
 }
 
 void TestColourDifferencePage::wheelChangesNothing()

@@ -43,6 +43,7 @@
 #include "TXTreeComboBox.h"
 #include "TXTriggerEventWidget.h"
 #include "TXUnfolderWidget.h"
+#include "TXUpdateService.h"
 #include "TXVariantViewer.h"
 #include "TXWebInterfaceConfigurationWidget.h"
 #include "TXWidgetListWidget.h"
@@ -64,12 +65,23 @@ class HostsAboutWindow : public AboutAppWindow
 public:
     using AboutAppWindow::AboutAppWindow;
 
-    QPixmap applicationLogo() const override { return {}; }
-    QString applicationName() const override { return QStringLiteral("Colour Tool"); }
-    QString applicationVersion() const override { return QStringLiteral("2.1.0"); }
-    QString applicationVersionDetail() const override { return {}; }
-    QString applicationCopyrightStartYear() const override { return QStringLiteral("2019"); }
-    QString patentFileName() const override { return QStringLiteral("Notices.html"); }
+    [[nodiscard]] QPixmap applicationLogo() const override
+    {
+        QPixmap logo(64, 64);
+        logo.fill(Qt::darkCyan);
+        return logo;
+    }
+    [[nodiscard]] QString applicationName() const override { return QStringLiteral("Colour Tool"); }
+    [[nodiscard]] QString applicationVersion() const override { return QStringLiteral("2.1.0"); }
+    [[nodiscard]] QString applicationVersionDetail() const override
+    {
+        return QStringLiteral("(10452)");
+    }
+    [[nodiscard]] QString applicationCopyrightStartYear() const override
+    {
+        return QStringLiteral("2019");
+    }
+    [[nodiscard]] QString patentFileName() const override { return QStringLiteral("Notices.html"); }
 };
 
 template<class Widget>
@@ -180,10 +192,11 @@ Made stack()
     return stack;
 }
 
+template<bool isImport>
 Made ftpDialog()
 {
     return std::make_unique<FTPConfigurationDialog>(QHash<QString, QVariant>(),
-                                                    QStringLiteral("Transfer"), false);
+                                                    QStringLiteral("Transfer"), isImport);
 }
 
 Made driveEditor()
@@ -203,11 +216,21 @@ Made feedbackDialog()
     return std::make_unique<TXFeedbackDialog>(QVariantHash());
 }
 
+/// It lists what is logged while it exists.
 Made logWindow()
 {
     const auto manager = QSharedPointer<TXLogManager>::create();
+    auto window = std::make_unique<TXLogWindow>(manager, nullptr);
     manager->append(1, TXStringI18n("Started"));
-    return std::make_unique<TXLogWindow>(manager, nullptr);
+    manager->flush();
+    return window;
+}
+
+/// It asks for updates where nobody listens.
+Made updateDialog()
+{
+    TXUpdateService::setAuthority(QStringLiteral("127.0.0.1:1"));
+    return std::make_unique<TXCheckForUpdateWidget>(QStringLiteral("Colour Tool"), 1, false);
 }
 
 Made rotatedLabel()
@@ -221,52 +244,65 @@ Made rotatedLabel()
 
 const QList<LibraryWidget> &libraryWidgets()
 {
-    static const QList<LibraryWidget> forms = {
-        {"AboutAppWindow", plain<HostsAboutWindow>},
-        {"AutoMountManagerMainWindow", plain<AutoMountManagerMainWindow>},
-        {"AutoMountNetworkDriveEditor", driveEditor},
-        {"CredentialDialog", plain<CredentialDialog>},
-        {"DoubleSpinBoxWithSliderWidget", sliderWithBox},
-        {"EMailSenderWidget", plain<EMailSenderWidget>},
-        {"FTPConfigurationDialog", ftpDialog},
-        {"FTPConfigurationWidget", plain<FTPConfigurationWidget>},
-        {"LineEditDrapAndDrop", named<LineEditDrapAndDrop>},
-        {"LockerFirstPasswordDialog", locking<LockerFirstPasswordDialog>},
-        {"LockerPasswordDialog", locking<LockerPasswordDialog>},
-        {"LockerUIDialog", locking<LockerUIDialog>},
-        {"RotationLabel", rotatedLabel},
-        {"ShareBrowser", shareBrowser},
-        {"TXAspectRatioPixmapLabel", plain<TXAspectRatioPixmapLabel>},
-        {"TXCheckForUpdateConfigWidget", plain<TXCheckForUpdateConfigWidget>},
-        {"TXCheckForUpdateWidget", plain<TXCheckForUpdateWidget>},
-        {"TXColorSquareWidget", plain<TXColorSquareWidget>},
-        {"TXComboBox", named<TXComboBox>},
-        {"TXComboBoxEditable", named<TXComboBoxEditable>},
-        {"TXDBNavWidget", plain<TXDBNavWidget>},
-        {"TXDatabaseConfigurationWidget", plain<TXDatabaseConfigurationWidget>},
-        {"TXDeltaGradientWidget", plain<TXDeltaGradientWidget>},
-        {"TXDoubleSpinBoxDisabled", named<TXDoubleSpinBoxDisabled>},
-        {"TXFeedbackDialog", feedbackDialog},
-        {"TXFeedbackWidget", plain<TXFeedbackWidget>},
-        {"TXGroupBoxBolded", boldedBox},
-        {"TXImageViewer", imageViewer},
-        {"TXLogWindow", logWindow},
-        {"TXPasswordLineEdit", named<TXPasswordLineEdit>},
-        {"TXProgressBar", plain<TXProgressBar>},
-        {"TXSelectDefaultEncodingWidget", plain<TXSelectDefaultEncodingWidget>},
-        {"TXSelectionItemWidget", selectionBar},
-        {"TXSpinBoxDisabled", named<TXSpinBoxDisabled>},
-        {"TXSplitter", splitter},
-        {"TXStackedWidget", stack},
-        {"TXSwitchSlider", named<TXSwitchSlider>},
-        {"TXTreeComboBox", named<TXTreeComboBox>},
-        {"TXTriggerEventWidget", plain<TXTriggerEventWidget>},
-        {"TXUnfolderWidget", unfolder},
-        {"TXVariantViewer", values},
-        {"TXWebInterfaceConfigurationWidget", plain<TXWebInterfaceConfigurationWidget>},
-        {"TXWidgetListWidget", listOfWidgets},
-        {"TreeViewDragAndDrop", treeView},
-        {"WaitWidget", plain<WaitWidget>},
+    using Texts = LibraryWidget::Texts;
+    static const QList<LibraryWidget> widgets = {
+        {"AboutAppWindow", Texts::Own, plain<HostsAboutWindow>},
+        {"AutoMountManagerMainWindow", Texts::Own, plain<AutoMountManagerMainWindow>},
+        {"AutoMountNetworkDriveEditor", Texts::Own, driveEditor},
+        {"CredentialDialog", Texts::Own, plain<CredentialDialog>},
+        {"DoubleSpinBoxWithSliderWidget", Texts::Own, sliderWithBox},
+        {"EMailSenderWidget", Texts::Own, plain<EMailSenderWidget>},
+        {"FTPConfigurationDialog", Texts::Own, ftpDialog<false>},
+        {"FTPConfigurationDialog, import", Texts::Own, ftpDialog<true>},
+        {"FTPConfigurationWidget", Texts::Own, plain<FTPConfigurationWidget>},
+        {"LineEditDrapAndDrop", Texts::OfTheHost, named<LineEditDrapAndDrop>},
+        {"LockerFirstPasswordDialog", Texts::Own, locking<LockerFirstPasswordDialog>},
+        {"LockerPasswordDialog", Texts::Own, locking<LockerPasswordDialog>},
+        {"LockerUIDialog", Texts::Own, locking<LockerUIDialog>},
+        {"RotationLabel", Texts::OfTheHost, rotatedLabel},
+        {"ShareBrowser", Texts::Own, shareBrowser},
+        {"TXAspectRatioPixmapLabel", Texts::OfTheHost, plain<TXAspectRatioPixmapLabel>},
+        {"TXCheckForUpdateConfigWidget", Texts::Own, plain<TXCheckForUpdateConfigWidget>},
+        {"TXCheckForUpdateWidget", Texts::Own, updateDialog},
+        {"TXColorSquareWidget", Texts::OfTheHost, plain<TXColorSquareWidget>},
+        {"TXComboBox", Texts::OfTheHost, named<TXComboBox>},
+        {"TXComboBoxEditable", Texts::OfTheHost, named<TXComboBoxEditable>},
+        {"TXDBNavWidget", Texts::Own, plain<TXDBNavWidget>},
+        {"TXDatabaseConfigurationWidget", Texts::Own, plain<TXDatabaseConfigurationWidget>},
+        {"TXDeltaGradientWidget", Texts::Own, plain<TXDeltaGradientWidget>},
+        {"TXDoubleSpinBoxDisabled", Texts::OfTheHost, named<TXDoubleSpinBoxDisabled>},
+        {"TXFeedbackDialog", Texts::Own, feedbackDialog},
+        {"TXFeedbackWidget", Texts::Own, plain<TXFeedbackWidget>},
+        {"TXGroupBoxBolded", Texts::OfTheHost, boldedBox},
+        {"TXImageViewer", Texts::OfTheHost, imageViewer},
+        {"TXLogWindow", Texts::Own, logWindow},
+        {"TXPasswordLineEdit", Texts::OfTheHost, named<TXPasswordLineEdit>},
+        {"TXProgressBar", Texts::Own, plain<TXProgressBar>},
+        {"TXSelectDefaultEncodingWidget", Texts::Own, plain<TXSelectDefaultEncodingWidget>},
+        {"TXSelectionItemWidget", Texts::Own, selectionBar},
+        {"TXSpinBoxDisabled", Texts::OfTheHost, named<TXSpinBoxDisabled>},
+        {"TXSplitter", Texts::OfTheHost, splitter},
+        {"TXStackedWidget", Texts::OfTheHost, stack},
+        {"TXSwitchSlider", Texts::OfTheHost, named<TXSwitchSlider>},
+        {"TXTreeComboBox", Texts::OfTheHost, named<TXTreeComboBox>},
+        {"TXTriggerEventWidget", Texts::Own, plain<TXTriggerEventWidget>},
+        {"TXUnfolderWidget", Texts::OfTheHost, unfolder},
+        {"TXVariantViewer", Texts::OfTheHost, values},
+        {"TXWebInterfaceConfigurationWidget", Texts::Own, plain<TXWebInterfaceConfigurationWidget>},
+        {"TXWidgetListWidget", Texts::Own, listOfWidgets},
+        {"TreeViewDragAndDrop", Texts::OfTheHost, treeView},
+        {"WaitWidget", Texts::OfTheHost, plain<WaitWidget>},
     };
-    return forms;
+    return widgets;
+}
+
+const QList<LibraryWidget> &libraryWidgetsWithTexts()
+{
+    static const QList<LibraryWidget> widgets = [] {
+        QList<LibraryWidget> found = libraryWidgets();
+        found.removeIf(
+            [](const LibraryWidget &widget) { return widget.texts != LibraryWidget::Texts::Own; });
+        return found;
+    }();
+    return widgets;
 }
