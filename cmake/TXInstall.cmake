@@ -7,6 +7,20 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+# Places that were named from the root on are meant from the prefix on.
+foreach(tx_place IN ITEMS BINDIR DATADIR INCLUDEDIR LIBDIR MANDIR)
+  set(tx_folder "${CMAKE_INSTALL_${tx_place}}")
+  if(IS_ABSOLUTE "${tx_folder}")
+    cmake_path(IS_PREFIX CMAKE_INSTALL_PREFIX "${tx_folder}" NORMALIZE tx_is_below)
+    if(NOT tx_is_below)
+      message(FATAL_ERROR
+        "CMAKE_INSTALL_${tx_place}, ${tx_folder}, is not below the prefix ${CMAKE_INSTALL_PREFIX}.")
+    endif()
+    cmake_path(RELATIVE_PATH tx_folder BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}"
+      OUTPUT_VARIABLE CMAKE_INSTALL_${tx_place})
+  endif()
+endforeach()
+
 set(tx_headers_dir ${CMAKE_INSTALL_INCLUDEDIR}/TXGUICommon)
 set(tx_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TXGUICommon)
 set(tx_data_dir ${CMAKE_INSTALL_DATADIR}/TXGUICommon)
