@@ -1,11 +1,26 @@
 # What "cmake --install" puts where. The components: runtime, what a program needs that links the
-# libraries; development, what its build needs besides; gallery; designer.
+# libraries, and nothing that another major version has under the same name; development, what its
+# build needs besides; gallery; designer.
 #
 # All places are relative to the prefix and to one another, so that the tree works wherever it is
 # moved.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
+
+# Places that were named from the root on are meant from the prefix on.
+foreach(tx_place IN ITEMS BINDIR DATADIR INCLUDEDIR LIBDIR MANDIR)
+  set(tx_folder "${CMAKE_INSTALL_${tx_place}}")
+  if(IS_ABSOLUTE "${tx_folder}")
+    cmake_path(IS_PREFIX CMAKE_INSTALL_PREFIX "${tx_folder}" NORMALIZE tx_is_below)
+    if(NOT tx_is_below)
+      message(FATAL_ERROR
+        "CMAKE_INSTALL_${tx_place}, ${tx_folder}, is not below the prefix ${CMAKE_INSTALL_PREFIX}.")
+    endif()
+    cmake_path(RELATIVE_PATH tx_folder BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}"
+      OUTPUT_VARIABLE CMAKE_INSTALL_${tx_place})
+  endif()
+endforeach()
 
 set(tx_headers_dir ${CMAKE_INSTALL_INCLUDEDIR}/TXGUICommon)
 set(tx_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TXGUICommon)
@@ -90,21 +105,34 @@ install(
     ${CMAKE_CURRENT_BINARY_DIR}/install/TXGUICommonConfigVersion.cmake
   DESTINATION ${tx_package_dir} COMPONENT development)
 
-# What a host ships beside its program. The icon font is not ours to distribute.
+# What a host copies beside its program. The icon font is not ours to distribute.
 list(TRANSFORM TXGUICOMMON_LANGUAGES
   REPLACE "(.+)" "${PROJECT_BINARY_DIR}/translations/txguicommon_\\1.qm"
   OUTPUT_VARIABLE tx_library_texts)
-install(FILES ${tx_library_texts} DESTINATION ${tx_data_dir}/translations COMPONENT runtime)
+install(FILES ${tx_library_texts} DESTINATION ${tx_data_dir}/translations COMPONENT development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/resources/Images ${PROJECT_SOURCE_DIR}/resources/Templates
-  DESTINATION ${tx_data_dir}/Resources COMPONENT runtime)
+  DESTINATION ${tx_data_dir}/Resources COMPONENT development)
 
+# What people read, in the folders of the repository, so that links lead from page to page.
 install(
   FILES
     ${PROJECT_SOURCE_DIR}/LICENSE
     ${PROJECT_SOURCE_DIR}/NOTICE.md
     ${PROJECT_SOURCE_DIR}/README.md
     ${PROJECT_SOURCE_DIR}/CHANGELOG.md
-  DESTINATION ${tx_doc_dir} COMPONENT runtime)
+  DESTINATION ${tx_doc_dir} COMPONENT development)
+install(
+  DIRECTORY
+    ${PROJECT_SOURCE_DIR}/docs/developers
+    ${PROJECT_SOURCE_DIR}/docs/hosts
+    ${PROJECT_SOURCE_DIR}/docs/pictures
+  DESTINATION ${tx_doc_dir}/docs COMPONENT development
+  PATTERN build EXCLUDE)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples
+  DESTINATION ${tx_doc_dir} COMPONENT development
+  PATTERN build EXCLUDE)
+install(FILES ${PROJECT_SOURCE_DIR}/designer/README.md
+  DESTINATION ${tx_doc_dir}/designer COMPONENT development)
 
 # The gallery: a folder of its own as a host has it, with a link where programs are looked for.
 if(TARGET TXGallery)

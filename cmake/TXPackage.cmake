@@ -45,7 +45,7 @@ set(CPACK_COMPONENTS_ALL)
 tx_debian_package(runtime ${tx_runtime_package}
   SECTION libs
   SUMMARY "Qt widgets library for colour-management applications"
-  TEXT "Shared libraries, translations and pictures for programs that use TXGUICommon."
+  TEXT "Shared libraries for programs that use TXGUICommon."
   RECOMMENDS libqt6sql6-sqlite qt6-translations-l10n
   SUGGESTS libqt6sql6-mysql ${tx_network_drives})
 # Packages of other programs get this one as a dependency for what they link, and the loader hears of
@@ -64,7 +64,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS OFF)
 tx_debian_package(development libtxguicommon-dev
   SECTION libdevel
   SUMMARY "Qt widgets library for colour-management applications - development"
-  TEXT "Headers, CMake package and pkg-config files to build programs that use\nTXGUICommon."
+  TEXT "Headers, CMake package and pkg-config files to build programs that use\nTXGUICommon, pictures and translations to ship with them, guides and examples."
   DEPENDS "${tx_same_runtime}" qt6-base-dev
   RECOMMENDS cmake g++ pkg-config)
 

@@ -1,8 +1,13 @@
 // Makes a PDF manual of a Markdown file: TXManualMaker <file.md> <file.pdf>. Runs at build time.
+// The manual has the date of SOURCE_DATE_EPOCH, seconds since 1970, if that is set, else that of
+// now.
 
+#include <QBuffer>
+#include <QDateTime>
 #include <QFile>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QHash>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPdfWriter>
@@ -22,6 +27,7 @@ constexpr int kDotsPerInch = 96;
 constexpr double kParagraphGap = 7;
 constexpr double kTableGap = 10;
 constexpr double kCellPadding = 4;
+constexpr qsizetype kDateDigits = 14;
 /// In millimetres, on top of the 20 mm that QTextDocument keeps free itself.
 constexpr QMarginsF kPageMargins(4, 0, 4, 0);
 
@@ -142,22 +148,47 @@ void formatTables(QTextDocument &document)
     }
 }
 
-bool write(QTextDocument &document, const QString &path)
+QByteArray asPdf(QTextDocument &document)
 {
-    // A build that is stopped half-way leaves no half manual behind.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return false;
-    }
+    QByteArray pdf;
+    QBuffer buffer(&pdf);
+    buffer.open(QIODevice::WriteOnly);
     {
-        QPdfWriter writer(&file);
+        QPdfWriter writer(&buffer);
         writer.setTitle(document.begin().text());
         writer.setResolution(kDotsPerInch * 4);
         writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
                                          kPageMargins, QPageLayout::Millimeter));
         document.print(&writer);
     }
-    return file.commit();
+    return pdf;
+}
+
+/// QPdfWriter takes no date. It is put in the place of that of now, with as many digits, since the
+/// file tells where its parts begin.
+void setDate(QByteArray &pdf, qint64 secondsSinceEpoch)
+{
+    const QByteArray key = "/CreationDate (D:";
+    const QByteArray date = QDateTime::fromSecsSinceEpoch(secondsSinceEpoch, Qt::UTC)
+                                .toString(QStringLiteral("yyyyMMddHHmmss"))
+                                .toLatin1();
+    const qsizetype at = pdf.indexOf(key);
+    if (at >= 0 && date.size() == kDateDigits) {
+        pdf.replace(at + key.size(), kDateDigits, date);
+    }
+}
+
+bool write(QTextDocument &document, const QString &path)
+{
+    QByteArray pdf = asPdf(document);
+    bool hasDate = false;
+    const qint64 date = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&hasDate);
+    if (hasDate) {
+        setDate(pdf, date);
+    }
+    // A build that is stopped half-way leaves no half manual behind.
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit();
 }
 
 int fail(const QString &message)
@@ -190,6 +221,10 @@ int main(int argc, char **argv)
 {
     // A build has no screen.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The same text gives the same manual, in every time zone. Qt writes fonts in the order of a
+    // hash.
+    qputenv("TZ", "UTC");
+    QHashSeed::setDeterministicGlobalSeed();
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
     if (arguments.size() != 3) {

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QProcess>
 
 namespace {
@@ -54,6 +55,20 @@ CommandResult runCMakeTool(const QString &name, const QStringList &arguments)
     return runCommand(QFileInfo(QStringLiteral(TX_CMAKE)).dir().filePath(name), arguments);
 }
 
+CommandResult configureLibrary(const QString &folder, const QStringList &options)
+{
+    // CMake still knows the compiler then.
+    QFile::remove(folder + QStringLiteral("/CMakeCache.txt"));
+    return runCommand(QStringLiteral(TX_CMAKE),
+                      QStringList{QStringLiteral("-S"), sourceFolder(), QStringLiteral("-B"),
+                                  folder, QStringLiteral("-G" TX_GENERATOR),
+                                  QStringLiteral("-DCMAKE_CXX_COMPILER=" TX_COMPILER),
+                                  QStringLiteral("-DTXGUICOMMON_BUILD_TESTS=OFF"),
+                                  QStringLiteral("-DTXGUICOMMON_BUILD_GALLERY=OFF"),
+                                  QStringLiteral("-DTXGUICOMMON_BUILD_DESIGNER=OFF")}
+                          + options);
+}
+
 CommandResult configureHost(const QString &sources, const QString &folder, const QString &prefix)
 {
     return runCommand(QStringLiteral(TX_CMAKE),
@@ -72,21 +87,25 @@ CommandResult buildHost(const QString &sources, const QString &folder, const QSt
         : configured;
 }
 
-CommandResult buildWithPkgConfig(const QString &source, const QString &program,
-                                 const QString &module, const QString &prefix)
+QString pkgConfigCommand(const QString &module)
 {
-    const QString libraries = librariesIn(prefix);
+    return QStringLiteral("c++ main.cpp -o hello $(pkg-config --cflags --libs %1)").arg(module);
+}
+
+QString pkgConfigRunPath(const QString &module)
+{
+    return QStringLiteral("-Wl,-rpath,$(pkg-config --variable=libdir %1)").arg(module);
+}
+
+CommandResult buildWithPkgConfig(const QString &folder, const QString &module,
+                                 const QString &prefix)
+{
+    QString command = pkgConfigCommand(module) + u' ' + pkgConfigRunPath(module);
+    command.replace(0, command.indexOf(u' '), QStringLiteral(TX_COMPILER " " TX_HOST_FLAGS));
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("PKG_CONFIG_PATH"), libraries + QStringLiteral("/pkgconfig"));
-    const CommandResult told =
-        runCommand(QStringLiteral("pkg-config"),
-                   {QStringLiteral("--cflags"), QStringLiteral("--libs"), module}, environment);
-    if (!told.succeeded) {
-        return told;
-    }
-    return runCommand(QStringLiteral(TX_COMPILER),
-                      QProcess::splitCommand(QStringLiteral(TX_HOST_FLAGS))
-                          + QStringList{source, QStringLiteral("-o"), program}
-                          + QProcess::splitCommand(told.output)
-                          + QStringList(QStringLiteral("-Wl,-rpath,") + libraries));
+    environment.insert(QStringLiteral("PKG_CONFIG_PATH"),
+                       librariesIn(prefix) + QStringLiteral("/pkgconfig"));
+    return runCommand(QStringLiteral("sh"),
+                      {QStringLiteral("-c"), QStringLiteral("cd \"$0\" && ") + command, folder},
+                      environment);
 }

@@ -31,6 +31,10 @@ runCommand(const QString &program, const QStringList &arguments,
 /// Runs another program of the CMake that has made this build, such as "cpack".
 [[nodiscard]] CommandResult runCMakeTool(const QString &name, const QStringList &arguments);
 
+/// Configures this repository without tests, gallery and plug-in, with further options, in a folder
+/// that may be there already. What was said the last time is forgotten.
+[[nodiscard]] CommandResult configureLibrary(const QString &folder, const QStringList &options);
+
 /// Configures a host's project, which finds its packages below the prefix.
 [[nodiscard]] CommandResult configureHost(const QString &sources, const QString &folder,
                                           const QString &prefix);
@@ -39,7 +43,11 @@ runCommand(const QString &program, const QStringList &arguments,
 [[nodiscard]] CommandResult buildHost(const QString &sources, const QString &folder,
                                       const QString &prefix);
 
-/// Compiles a program from one source without CMake, with what pkg-config tells of a module below
-/// the prefix.
-[[nodiscard]] CommandResult buildWithPkgConfig(const QString &source, const QString &program,
-                                               const QString &module, const QString &prefix);
+/// The command of a shell, as the documents tell it, that makes the program "hello" of "main.cpp"
+/// with a module of pkg-config; and what stands at its end under a prefix of one's own.
+[[nodiscard]] QString pkgConfigCommand(const QString &module);
+[[nodiscard]] QString pkgConfigRunPath(const QString &module);
+
+/// Runs both of them in the folder, with our compiler in the place of the system's.
+[[nodiscard]] CommandResult buildWithPkgConfig(const QString &folder, const QString &module,
+                                               const QString &prefix);

@@ -14,6 +14,10 @@ class TestInstalledHosts : public TestBase
 private slots:
     void exampleFindsThePackage();
     void exampleIsBuiltWithPkgConfig();
+    void documentsTellOfPkgConfig_data();
+    void documentsTellOfPkgConfig();
+    void hostOfTheCoreIsBuiltWithPkgConfig();
+    void hostOfTheResourcesIsBuiltWithPkgConfig();
     void programOfTheGuideGetsWhatItShips();
     void hostOfTheCoreDoesWithoutTheWidgets();
     void packageIsFound_data();
@@ -60,13 +64,65 @@ void TestInstalledHosts::exampleFindsThePackage()
 void TestInstalledHosts::exampleIsBuiltWithPkgConfig()
 {
     const QTemporaryDir folder;
-    const QString program = folder.filePath("hello");
+    QVERIFY(QFile::copy(sourceFolder() + "/examples/hello/main.cpp", folder.filePath("main.cpp")));
 
-    const CommandResult built = buildWithPkgConfig(sourceFolder() + "/examples/hello/main.cpp",
-                                                   program, "TXGUICommon", installedTree());
+    const CommandResult built = buildWithPkgConfig(folder.path(), "TXGUICommon", installedTree());
 
     QVERIFY2(built.succeeded, qPrintable(built.output));
-    QCOMPARE(showAndCloseHello(program), QString());
+    QCOMPARE(showAndCloseHello(folder.filePath("hello")), QString());
+}
+
+void TestInstalledHosts::documentsTellOfPkgConfig_data()
+{
+    QTest::addColumn<QString>("fileName");
+
+    for (const char *name : {"README.md", "docs/hosts/guide.md", "examples/hello/README.md"}) {
+        QTest::newRow(name) << sourceFolder() + '/' + name;
+    }
+}
+
+void TestInstalledHosts::documentsTellOfPkgConfig()
+{
+    QFETCH(const QString, fileName);
+    QFile file(fileName);
+    QVERIFY(file.open(QFile::ReadOnly));
+    const QString document = QString::fromUtf8(file.readAll()).remove(" -std=c++17 -fPIC");
+
+    QVERIFY(document.contains(pkgConfigCommand("TXGUICommon")));
+    QVERIFY(document.contains('`' + pkgConfigRunPath("TXGUICommon") + '`'));
+    QVERIFY(document.contains("`PKG_CONFIG_PATH`"));
+}
+
+void TestInstalledHosts::hostOfTheCoreIsBuiltWithPkgConfig()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QFile::copy(sourceFolder() + "/tests/install/corehost/main.cpp",
+                        folder.filePath("main.cpp")));
+
+    const CommandResult built = buildWithPkgConfig(folder.path(), "TXCoreCommon", installedTree());
+
+    QVERIFY2(built.succeeded, qPrintable(built.output));
+    const CommandResult ran = runCommand(folder.filePath("hello"), {});
+    QVERIFY(ran.succeeded);
+    QCOMPARE(ran.output, QString("No paper in the printer\n"));
+}
+
+void TestInstalledHosts::hostOfTheResourcesIsBuiltWithPkgConfig()
+{
+    const QTemporaryDir folder;
+    QFile source(folder.filePath("main.cpp"));
+    QVERIFY(source.open(QFile::WriteOnly));
+    source.write("#include <TXResources.h>\n#include <QGuiApplication>\n"
+                 "int main(int argc, char **argv)\n{\n"
+                 "    const QGuiApplication application(argc, argv);\n"
+                 "    return TXDisplayFixBulletStaticImage().isNull() ? 1 : 0;\n}\n");
+    source.close();
+
+    const CommandResult built = buildWithPkgConfig(folder.path(), "TXResources", installedTree());
+
+    QVERIFY2(built.succeeded, qPrintable(built.output));
+    const CommandResult ran = runCommand(folder.filePath("hello"), {});
+    QVERIFY2(ran.succeeded, qPrintable(ran.output));
 }
 
 void TestInstalledHosts::programOfTheGuideGetsWhatItShips()

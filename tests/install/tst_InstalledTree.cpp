@@ -10,6 +10,7 @@
 #include <QLibraryInfo>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
 namespace {
@@ -52,12 +53,16 @@ private slots:
     void fileIsThere_data();
     void fileIsThere();
     void headersLieFlat();
+    void ownHostsIncludeOnlyWhatIsThere_data();
+    void ownHostsIncludeOnlyWhatIsThere();
     void everyLanguageOfTheSourcesIsThere();
     void iconFontIsNot();
     void noFileNamesTheFolderOfTheBuild();
     void libraryHasItsVersionAndFindsTheOthers_data();
     void libraryHasItsVersionAndFindsTheOthers();
     void nothingThatIsLinkedIsMissing();
+    void noticeTellsWhatIsLinked_data();
+    void noticeTellsWhatIsLinked();
     void desktopEntryIsValid();
     void manualPageTellsOfEachOption();
     void galleryShowsItself();
@@ -124,6 +129,45 @@ void TestInstalledTree::headersLieFlat()
     for (const QString &header : headers) {
         QVERIFY2(header.endsWith(".h") && !header.contains('/'), qPrintable(header));
     }
+}
+
+void TestInstalledTree::ownHostsIncludeOnlyWhatIsThere_data()
+{
+    QTest::addColumn<QString>("folder");
+
+    for (const char *folder : {"gallery", "designer"}) {
+        QTest::newRow(folder) << sourceFolder() + '/' + folder;
+    }
+}
+
+/// Gallery and plug-in are hosts like any other. Builds for the tests let them reach the library's
+/// own classes, a build for packages does not.
+void TestInstalledTree::ownHostsIncludeOnlyWhatIsThere()
+{
+    QFETCH(const QString, folder);
+    static const QRegularExpression include("^#include \"(\\w+\\.h)\"",
+                                            QRegularExpression::MultilineOption);
+    QSet<QString> ofTheLibrary;
+    const QStringList headers =
+        filesBelow(sourceFolder() + "/src").filter(QRegularExpression("\\.h$"));
+    for (const QString &header : headers) {
+        ofTheLibrary.insert(header.section('/', -1));
+    }
+
+    int included = 0;
+    const QStringList sources = filesBelow(folder).filter(QRegularExpression("\\.(h|cpp)$"));
+    for (const QString &source : sources) {
+        const QString text = QString::fromUtf8(contentsOf(folder + '/' + source));
+        for (auto found = include.globalMatch(text); found.hasNext();) {
+            const QString header = found.next().captured(1);
+            if (ofTheLibrary.contains(header)) {
+                ++included;
+                QVERIFY2(QFile::exists(tree + "/include/TXGUICommon/" + header),
+                         qPrintable(source + " includes " + header));
+            }
+        }
+    }
+    QVERIFY(included >= 20);
 }
 
 void TestInstalledTree::everyLanguageOfTheSourcesIsThere()
@@ -200,6 +244,42 @@ void TestInstalledTree::nothingThatIsLinkedIsMissing()
         QVERIFY(result.succeeded);
         QVERIFY2(!result.output.contains("not found"), qPrintable(program + '\n' + result.output));
     }
+}
+
+void TestInstalledTree::noticeTellsWhatIsLinked_data()
+{
+    libraryHasItsVersionAndFindsTheOthers_data();
+}
+
+/// Each library of others in a row of the table, with ours as one that uses it.
+void TestInstalledTree::noticeTellsWhatIsLinked()
+{
+    QFETCH(const QString, library);
+    QString notice = QString::fromUtf8(contentsOf(tree + "/share/doc/TXGUICommon/NOTICE.md"));
+    notice.replace("Qt 5 Core Compatibility APIs", "Core5Compat").remove("Print ");
+    notice.replace("Support", "PrintSupport");
+    QString told;
+    const QStringList lines = notice.split('\n');
+    for (const QString &line : lines) {
+        const QString users = line.section('|', 2, 2).trimmed();
+        if (users == "all libraries" || users == library) {
+            told += line.section('|', 1, 1).remove("Qt 6:").replace(',', ' ');
+        }
+    }
+
+    const CommandResult result =
+        runCommand("readelf", {"-d", libraries + "/lib" + library + ".so"});
+
+    static const QRegularExpression needed(
+        "\\[lib(?:Qt6)?(Core5Compat|curl|sodium|[A-Z]\\w+)\\.so");
+    QSet<QString> linked;
+    for (auto found = needed.globalMatch(result.output); found.hasNext();) {
+        QString name = found.next().captured(1);
+        linked.insert(name == "curl" || name == "sodium" ? "lib" + name : name);
+    }
+    linked -= QSet<QString>{"TXCoreCommon", "TXResources", "TXGUICommon"};
+    const QStringList words = told.split(' ', Qt::SkipEmptyParts);
+    QCOMPARE(QSet<QString>(words.begin(), words.end()), linked);
 }
 
 void TestInstalledTree::desktopEntryIsValid()
