@@ -53,6 +53,27 @@ void widgetListPicture(IconPainter &icon)
     }
 }
 
+bool isBeingDesigned(const QWidget &widget)
+{
+    const QWidget *parent = widget.parentWidget();
+    while (parent && !parent->inherits("QDesignerFormWindowInterface")) {
+        parent = parent->parentWidget();
+    }
+    return parent != nullptr;
+}
+
+// A form sets "checked" before the children are there, when folding hides nothing: from then on the
+// box would show them folded, and hide them unfolded. So it opens again at once.
+void keepUnfolded(QWidget &widget)
+{
+    auto &box = static_cast<TXUnfolderWidget &>(widget);
+    QObject::connect(&box, &QGroupBox::toggled, &box, [&box](bool isUnfolded) {
+        if (!isUnfolded && isBeingDesigned(box)) {
+            box.setChecked(true);
+        }
+    });
+}
+
 } // namespace
 
 QList<WidgetRow> containerWidgets()
@@ -77,6 +98,7 @@ QList<WidgetRow> containerWidgets()
             true,
             R"(<property name="title"><string>Unfolder</string></property>)",
             {"title"},
+            keepUnfolded,
         }),
         rowFor<TXSplitter>({
             QT_TRANSLATE_NOOP("TXGUICommonDesigner", "Splitter"),

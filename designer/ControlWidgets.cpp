@@ -220,7 +220,7 @@ QList<WidgetRow> choiceWidgets()
             {653, 38},
             false,
             "",
-            {"labelName"},
+            {"labelName", "itemBasedName", "importName"},
         }),
         rowFor<TreeViewDragAndDrop>({
             QT_TRANSLATE_NOOP("TXGUICommonDesigner", "Folder Tree View"),

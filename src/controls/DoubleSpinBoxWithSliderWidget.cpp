@@ -148,10 +148,20 @@ int DoubleSpinBoxWithSliderWidget::spinBoxWidth()
     return usedBox()->width();
 }
 
+int DoubleSpinBoxWithSliderWidget::spinBoxMinimumWidth() const
+{
+    return usedBox()->minimumWidth();
+}
+
 void DoubleSpinBoxWithSliderWidget::setSpinBoxMinimumWidth(int width)
 {
     ui->dataDoubleSpinBox->setMinimumWidth(width);
     ui->dataLeftDoubleSpinBox->setMinimumWidth(width);
+}
+
+int DoubleSpinBoxWithSliderWidget::spinBoxMaximumWidth() const
+{
+    return usedBox()->maximumWidth();
 }
 
 void DoubleSpinBoxWithSliderWidget::setSpinBoxMaximumWidth(int width)
@@ -183,6 +193,11 @@ void DoubleSpinBoxWithSliderWidget::setDataName(const QString &name)
     ui->dataDoubleSpinBox->setAccessibleName(spoken);
     ui->dataHorizontalSlider->setAccessibleName(spoken);
     ui->dataLeftDoubleSpinBox->setAccessibleName(spoken);
+}
+
+int DoubleSpinBoxWithSliderWidget::labelMinimumWidth() const
+{
+    return ui->dataNameLabel->minimumWidth();
 }
 
 void DoubleSpinBoxWithSliderWidget::setLabelMinimumWidth(int width)
@@ -218,6 +233,20 @@ QString DoubleSpinBoxWithSliderWidget::maxLabelName() const
 void DoubleSpinBoxWithSliderWidget::setMaxLabelName(const QString &name)
 {
     setEndLabelName(ui->maxValueNameLabel, ui->minValueNameLabel, name);
+}
+
+bool DoubleSpinBoxWithSliderWidget::isSpinBoxLeftOfSlider() const
+{
+    return !ui->dataLeftDoubleSpinBox->isHidden();
+}
+
+void DoubleSpinBoxWithSliderWidget::placeSpinBox(bool isLeftOfSlider)
+{
+    if (isLeftOfSlider) {
+        hideRightSpinBox();
+    } else {
+        hideLeftSpinBox();
+    }
 }
 
 void DoubleSpinBoxWithSliderWidget::hideLeftSpinBox()

@@ -48,8 +48,16 @@ class TXGUICOMMON_EXPORT DoubleSpinBoxWithSliderWidget : public QWidget
     /// See spinBoxButtonSymbol() and setSpinBoxButtonSymbol().
     Q_PROPERTY(QAbstractSpinBox::ButtonSymbols spinBoxButtonSymbol READ spinBoxButtonSymbol WRITE
                    setSpinBoxButtonSymbol)
+    /// See spinBoxMinimumWidth() and setSpinBoxMinimumWidth().
+    Q_PROPERTY(int spinBoxMinimumWidth READ spinBoxMinimumWidth WRITE setSpinBoxMinimumWidth)
+    /// See spinBoxMaximumWidth() and setSpinBoxMaximumWidth().
+    Q_PROPERTY(int spinBoxMaximumWidth READ spinBoxMaximumWidth WRITE setSpinBoxMaximumWidth)
+    /// See isSpinBoxLeftOfSlider(). Writing it is hideRightSpinBox() or hideLeftSpinBox().
+    Q_PROPERTY(bool spinBoxLeftOfSlider READ isSpinBoxLeftOfSlider WRITE placeSpinBox)
     /// See dataName() and setDataName().
     Q_PROPERTY(QString dataName READ dataName WRITE setDataName)
+    /// See labelMinimumWidth() and setLabelMinimumWidth().
+    Q_PROPERTY(int labelMinimumWidth READ labelMinimumWidth WRITE setLabelMinimumWidth)
     /// See isLabelVisible() and setLabelVisible().
     Q_PROPERTY(bool labelVisible READ isLabelVisible WRITE setLabelVisible)
     /// See minLabelName() and setMinLabelName().
@@ -98,8 +106,12 @@ public:
 
     /// The width in pixels of the box that is shown.
     int spinBoxWidth();
+    /// The least width of both boxes, in pixels; 0 at first, which leaves it to their content.
+    [[nodiscard]] int spinBoxMinimumWidth() const;
     /// The least width of both boxes, in pixels.
     void setSpinBoxMinimumWidth(int width);
+    /// The greatest width of both boxes, in pixels; QWIDGETSIZE_MAX at first.
+    [[nodiscard]] int spinBoxMaximumWidth() const;
     /// The greatest width of both boxes, in pixels.
     void setSpinBoxMaximumWidth(int width);
     /// What stands on the boxes' buttons; QAbstractSpinBox::UpDownArrows at first.
@@ -112,6 +124,8 @@ public:
     /// Sets the name, which also is the accessible name of boxes and slider, without a colon at its
     /// end.
     void setDataName(const QString &name);
+    /// The least width of the name, in pixels; 0 at first.
+    [[nodiscard]] int labelMinimumWidth() const;
     /// The least width of the name, in pixels, for aligning several of these widgets.
     void setLabelMinimumWidth(int width);
     /// Whether the name is to be shown, also while this widget itself is hidden.
@@ -129,6 +143,9 @@ public:
     /// Names the upper end of the slider, in the same row.
     void setMaxLabelName(const QString &name);
 
+    /// Whether the box stands to the left of the slider, also while this widget itself is hidden;
+    /// false at first.
+    [[nodiscard]] bool isSpinBoxLeftOfSlider() const;
     /// Puts the box to the right of the slider.
     void hideLeftSpinBox();
     /// Puts the box to the left of the slider.
@@ -155,6 +172,7 @@ public slots:
 
 private:
     [[nodiscard]] QDoubleSpinBox *usedBox() const;
+    void placeSpinBox(bool isLeftOfSlider);
     void setEndLabelName(QLabel *label, const QLabel *otherLabel, const QString &name);
     void updateSliderProperties();
 

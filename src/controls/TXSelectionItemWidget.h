@@ -52,6 +52,10 @@ class TXGUICOMMON_EXPORT TXSelectionItemWidget : public QWidget
     Q_PROPERTY(QString labelName READ labelName WRITE setLabelName)
     /// See isItemLabelVisible() and setVisibleItemLabel().
     Q_PROPERTY(bool itemLabelVisible READ isItemLabelVisible WRITE setVisibleItemLabel)
+    /// See labelMinimumWidth() and setLabelMinimumWidth().
+    Q_PROPERTY(int labelMinimumWidth READ labelMinimumWidth WRITE setLabelMinimumWidth)
+    /// See setItemBasedName().
+    Q_PROPERTY(QString itemBasedName MEMBER itemBasedName WRITE setItemBasedName)
     /// See isImportViaComboBox() and setImportViaComboBox().
     Q_PROPERTY(bool importViaComboBox READ isImportViaComboBox WRITE setImportViaComboBox)
     /// See isImportButtonVisible() and setVisibleImportButton().
@@ -59,6 +63,41 @@ class TXGUICOMMON_EXPORT TXSelectionItemWidget : public QWidget
     /// See isComboboxNameEditionAllowed() and allowComboboxNameEdition().
     Q_PROPERTY(bool comboboxNameEditionAllowed READ isComboboxNameEditionAllowed WRITE
                    allowComboboxNameEdition)
+    /// See itemComboBoxSizeAdjustPolicy() and setItemComboBoxSizeAdjustPolicy().
+    Q_PROPERTY(QComboBox::SizeAdjustPolicy itemComboBoxSizeAdjustPolicy READ
+                   itemComboBoxSizeAdjustPolicy WRITE setItemComboBoxSizeAdjustPolicy)
+    /// See itemComboBoxMaximumWidth() and setItemComboBoxMaximumWidth().
+    Q_PROPERTY(int itemComboBoxMaximumWidth READ itemComboBoxMaximumWidth WRITE
+                   setItemComboBoxMaximumWidth)
+    /// See isItemComboBoxEnabled() and enableItemComboBox().
+    Q_PROPERTY(bool itemComboBoxEnabled READ isItemComboBoxEnabled WRITE enableItemComboBox)
+    /// See isRemoveItemButtonEnabled() and enableRemoveItemButton().
+    Q_PROPERTY(
+        bool removeItemButtonEnabled READ isRemoveItemButtonEnabled WRITE enableRemoveItemButton)
+    /// See isExportItemButtonEnabled() and enableExportItemButton().
+    Q_PROPERTY(
+        bool exportItemButtonEnabled READ isExportItemButtonEnabled WRITE enableExportItemButton)
+    /// See isDuplicateItemButtonEnabled() and enableDuplicateItemButton().
+    Q_PROPERTY(bool duplicateItemButtonEnabled READ isDuplicateItemButtonEnabled WRITE
+                   enableDuplicateItemButton)
+    /// See isEditionItemButtonEnabled() and enableEditionItemButton().
+    Q_PROPERTY(
+        bool editionItemButtonEnabled READ isEditionItemButtonEnabled WRITE enableEditionItemButton)
+    /// See isSaveItemButtonEnabled() and enableSaveItemButton().
+    Q_PROPERTY(bool saveItemButtonEnabled READ isSaveItemButtonEnabled WRITE enableSaveItemButton)
+    /// See isCreateNewItemMenuEnabled() and enableCreateNewItemMenu().
+    Q_PROPERTY(
+        bool createNewItemMenuEnabled READ isCreateNewItemMenuEnabled WRITE enableCreateNewItemMenu)
+    /// See isDuplicateItemMenuEnabled() and enableDuplicateItemMenu().
+    Q_PROPERTY(
+        bool duplicateItemMenuEnabled READ isDuplicateItemMenuEnabled WRITE enableDuplicateItemMenu)
+    /// See isImportItemMenuEnabled() and enableImportItemMenu().
+    Q_PROPERTY(bool importItemMenuEnabled READ isImportItemMenuEnabled WRITE enableImportItemMenu)
+    /// See setImportName(). A form sets its texts anew when the language changes: give the button
+    /// a menu of the host's own after that.
+    Q_PROPERTY(QString importName MEMBER importName WRITE setImportName)
+    /// See exportButtonToolTip() and setExportButtonToolTip().
+    Q_PROPERTY(QString exportButtonToolTip READ exportButtonToolTip WRITE setExportButtonToolTip)
 
 public:
     /// The box is empty until setModel() has been called.
@@ -124,6 +163,7 @@ public:
     void setLabelName(const QString &name);
     [[nodiscard]] QString labelName() const; ///< the label's text
     [[nodiscard]] QFont labelFont() const; ///< the label's font, for hosts that align several bars
+    [[nodiscard]] int labelMinimumWidth() const; ///< in device-independent pixels, 0 by default
     void setLabelMinimumWidth(int width); ///< in device-independent pixels, below 0 counts as 0
     /// Whether the label is to be shown, also while the bar itself is hidden.
     [[nodiscard]] bool isItemLabelVisible() const;
@@ -135,6 +175,14 @@ public:
     void enableDuplicateItemButton(bool isEnabled); ///< enabled by default
     void enableEditionItemButton(bool isEnabled); ///< enabled by default
     void enableSaveItemButton(bool isEnabled); ///< enabled by default, until endItemEdition()
+    /// Whether the control is enabled as it is now, while an item is edited too; a bar that is
+    /// disabled itself does not count.
+    [[nodiscard]] bool isItemComboBoxEnabled() const;
+    [[nodiscard]] bool isRemoveItemButtonEnabled() const; ///< like isItemComboBoxEnabled()
+    [[nodiscard]] bool isExportItemButtonEnabled() const; ///< like isItemComboBoxEnabled()
+    [[nodiscard]] bool isDuplicateItemButtonEnabled() const; ///< like isItemComboBoxEnabled()
+    [[nodiscard]] bool isEditionItemButtonEnabled() const; ///< like isItemComboBoxEnabled()
+    [[nodiscard]] bool isSaveItemButtonEnabled() const; ///< like isItemComboBoxEnabled()
 
     void hideAddNewItemButton(); ///< for good, but for what addNewItemButton() gives
     void hideRemoveButton(); ///< for good, but for what removeItemButton() gives
@@ -159,20 +207,31 @@ public:
     /// the import, with the numbers 1 to 3 as their property "id". May be empty. It is not yet the
     /// button's; if it never becomes that, it lives as long as the bar.
     [[nodiscard]] QMenu *fillDefaultAddItemMenu();
+    /// Whether the default menu has "Create New".
+    [[nodiscard]] bool isCreateNewItemMenuEnabled() const;
     /// Whether the default menu has "Create New"; true by default. Installs a new default menu, in
     /// place of the host's own, if it had set one.
     void enableCreateNewItemMenu(bool isEnabled);
+    /// Whether the default menu has "Duplicate".
+    [[nodiscard]] bool isDuplicateItemMenuEnabled() const;
     /// Whether the default menu has "Duplicate"; else like enableCreateNewItemMenu().
     void enableDuplicateItemMenu(bool isEnabled);
+    /// Whether the default menu has the import.
+    [[nodiscard]] bool isImportItemMenuEnabled() const;
     /// Whether the default menu has the import; else like enableCreateNewItemMenu().
     void enableImportItemMenu(bool isEnabled);
     /// The text of the import in the default menu, already translated; "Load" by default. Else like
     /// enableCreateNewItemMenu().
     void setImportName(const QString &name);
 
+    [[nodiscard]] QString exportButtonToolTip() const; ///< in the language of the moment
     void setExportButtonToolTip(const QString &toolTip); ///< "Export" by default
+    /// How the width of the box follows its items.
+    [[nodiscard]] QComboBox::SizeAdjustPolicy itemComboBoxSizeAdjustPolicy() const;
     /// AdjustToMinimumContentsLengthWithIcon by default.
     void setItemComboBoxSizeAdjustPolicy(QComboBox::SizeAdjustPolicy policy);
+    /// In device-independent pixels; QWIDGETSIZE_MAX by default.
+    [[nodiscard]] int itemComboBoxMaximumWidth() const;
     /// In device-independent pixels; below 0 counts as 0.
     void setItemComboBoxMaximumWidth(int width);
     /// Whether the next startItemEdition() lets the name be typed over.

@@ -88,6 +88,11 @@ QFont TXSelectionItemWidget::labelFont() const
     return ui->itemLabel->font();
 }
 
+int TXSelectionItemWidget::labelMinimumWidth() const
+{
+    return ui->itemLabel->minimumWidth();
+}
+
 void TXSelectionItemWidget::setLabelMinimumWidth(int width)
 {
     ui->itemLabel->setMinimumWidth(possibleWidth(width));
@@ -142,6 +147,36 @@ void TXSelectionItemWidget::enableEditionItemButton(bool isEnabled)
 void TXSelectionItemWidget::enableSaveItemButton(bool isEnabled)
 {
     ui->saveItemButton->setEnabled(isEnabled);
+}
+
+bool TXSelectionItemWidget::isItemComboBoxEnabled() const
+{
+    return ui->itemComboBox->isEnabledTo(this);
+}
+
+bool TXSelectionItemWidget::isRemoveItemButtonEnabled() const
+{
+    return ui->removeItemButton->isEnabledTo(this);
+}
+
+bool TXSelectionItemWidget::isExportItemButtonEnabled() const
+{
+    return ui->exportItemButton->isEnabledTo(this);
+}
+
+bool TXSelectionItemWidget::isDuplicateItemButtonEnabled() const
+{
+    return ui->duplicateItemButton->isEnabledTo(this);
+}
+
+bool TXSelectionItemWidget::isEditionItemButtonEnabled() const
+{
+    return ui->editItemButton->isEnabledTo(this);
+}
+
+bool TXSelectionItemWidget::isSaveItemButtonEnabled() const
+{
+    return ui->saveItemButton->isEnabledTo(this);
 }
 
 void TXSelectionItemWidget::hideAddNewItemButton()
@@ -246,16 +281,31 @@ void TXSelectionItemWidget::addNewItemAction(QAction *action)
     }
 }
 
+bool TXSelectionItemWidget::isCreateNewItemMenuEnabled() const
+{
+    return createNewMenuEnabled;
+}
+
 void TXSelectionItemWidget::enableCreateNewItemMenu(bool isEnabled)
 {
     createNewMenuEnabled = isEnabled;
     installDefaultMenu();
 }
 
+bool TXSelectionItemWidget::isDuplicateItemMenuEnabled() const
+{
+    return duplicateMenuEnabled;
+}
+
 void TXSelectionItemWidget::enableDuplicateItemMenu(bool isEnabled)
 {
     duplicateMenuEnabled = isEnabled;
     installDefaultMenu();
+}
+
+bool TXSelectionItemWidget::isImportItemMenuEnabled() const
+{
+    return importMenuEnabled;
 }
 
 void TXSelectionItemWidget::enableImportItemMenu(bool isEnabled)
@@ -270,14 +320,29 @@ void TXSelectionItemWidget::setImportName(const QString &name)
     installDefaultMenu();
 }
 
+QString TXSelectionItemWidget::exportButtonToolTip() const
+{
+    return ui->exportItemButton->toolTip();
+}
+
 void TXSelectionItemWidget::setExportButtonToolTip(const QString &toolTip)
 {
     ui->exportItemButton->setToolTip(toolTip);
 }
 
+QComboBox::SizeAdjustPolicy TXSelectionItemWidget::itemComboBoxSizeAdjustPolicy() const
+{
+    return ui->itemComboBox->sizeAdjustPolicy();
+}
+
 void TXSelectionItemWidget::setItemComboBoxSizeAdjustPolicy(QComboBox::SizeAdjustPolicy policy)
 {
     ui->itemComboBox->setSizeAdjustPolicy(policy);
+}
+
+int TXSelectionItemWidget::itemComboBoxMaximumWidth() const
+{
+    return ui->itemComboBox->maximumWidth();
 }
 
 void TXSelectionItemWidget::setItemComboBoxMaximumWidth(int width)

@@ -157,6 +157,11 @@ void FTPConfigurationWidget::setVisibleEraseSrcFilesItems(bool visible)
     ui->eraseDistantLabel->setVisible(visible);
 }
 
+bool FTPConfigurationWidget::isImporter() const
+{
+    return isForImport;
+}
+
 void FTPConfigurationWidget::setIsImporter(bool isImporter)
 {
     isForImport = isImporter;

@@ -42,6 +42,8 @@ class TXGUICOMMON_EXPORT FTPConfigurationWidget : public QWidget
     /// See isVisibleEraseSrcFilesItems() and setVisibleEraseSrcFilesItems().
     Q_PROPERTY(bool visibleEraseSrcFilesItems READ isVisibleEraseSrcFilesItems WRITE
                    setVisibleEraseSrcFilesItems)
+    /// See isImporter() and setIsImporter().
+    Q_PROPERTY(bool importer READ isImporter WRITE setIsImporter)
 
 public:
     /// What a check of the connection found. Registered as a meta-type by the constructor, since it
@@ -106,6 +108,8 @@ public:
     /// Shows or hides the box for erasing files at the source and its label; shown at first.
     void setVisibleEraseSrcFilesItems(bool visible);
 
+    /// Whether the files that are erased are named as those of an importer; true at first.
+    [[nodiscard]] bool isImporter() const;
     /// Names the files that are erased: distant ones for an importer, which is what the form says
     /// at first, local ones for an exporter.
     void setIsImporter(bool isImporter);

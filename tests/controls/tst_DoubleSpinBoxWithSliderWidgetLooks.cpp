@@ -22,6 +22,8 @@ private slots:
     void hidingMovesTheBox();
     void settersReachBothBoxes();
     void buttonSymbolsReachBothBoxes();
+    void widthsAreReadBack();
+    void sideOfTheBoxIsAProperty();
 
     void labelShowsTheName();
     void ampersandInTheNameIsShown();
@@ -140,6 +142,37 @@ void TestDoubleSpinBoxWithSliderWidgetLooks::buttonSymbolsReachBothBoxes()
         widget->setSpinBoxButtonSymbol(symbols);
         QCOMPARE(right()->buttonSymbols(), symbols);
         QCOMPARE(left()->buttonSymbols(), symbols);
+    }
+}
+
+void TestDoubleSpinBoxWithSliderWidgetLooks::widthsAreReadBack()
+{
+    QCOMPARE(widget->spinBoxMinimumWidth(), 0);
+    QCOMPARE(widget->spinBoxMaximumWidth(), QWIDGETSIZE_MAX);
+    QCOMPARE(widget->labelMinimumWidth(), 0);
+    widget->setSpinBoxMinimumWidth(70);
+    widget->setSpinBoxMaximumWidth(90);
+    widget->setLabelMinimumWidth(110);
+    for (const bool isLeft : {false, true}) {
+        QVERIFY(widget->setProperty("spinBoxLeftOfSlider", isLeft));
+        QCOMPARE(widget->spinBoxMinimumWidth(), 70);
+        QCOMPARE(widget->spinBoxMaximumWidth(), 90);
+    }
+    QCOMPARE(widget->labelMinimumWidth(), 110);
+}
+
+void TestDoubleSpinBoxWithSliderWidgetLooks::sideOfTheBoxIsAProperty()
+{
+    QVERIFY(!widget->isSpinBoxLeftOfSlider());
+    widget->hideRightSpinBox();
+    QVERIFY(widget->isSpinBoxLeftOfSlider());
+    widget->hideLeftSpinBox();
+    QVERIFY(!widget->isSpinBoxLeftOfSlider());
+    widget->show();
+    for (const bool isLeft : {true, false}) {
+        QVERIFY(widget->setProperty("spinBoxLeftOfSlider", isLeft));
+        QCOMPARE(left()->isVisible(), isLeft);
+        QCOMPARE(right()->isVisible(), !isLeft);
     }
 }
 

@@ -49,6 +49,13 @@ Probe probeOfEnumeration(const QMetaProperty &property, const QVariant &first)
     return {element("enum", scope + QLatin1String(keys.key(index))), keys.value(index)};
 }
 
+/// One more, or one less where there is nothing above.
+Probe probeOfNumber(int first)
+{
+    const int value = first < QWIDGETSIZE_MAX ? first + 1 : first - 1;
+    return {element("number", QString::number(value)), value};
+}
+
 std::optional<Probe> probeFor(const QMetaProperty &property, const QVariant &first)
 {
     if (property.isEnumType()) {
@@ -58,7 +65,7 @@ std::optional<Probe> probeFor(const QMetaProperty &property, const QVariant &fir
     case QMetaType::Bool:
         return Probe{element("bool", first.toBool() ? "false" : "true"), !first.toBool()};
     case QMetaType::Int:
-        return Probe{element("number", QString::number(first.toInt() + 1)), first.toInt() + 1};
+        return probeOfNumber(first.toInt());
     case QMetaType::Double:
         return Probe{element("double", QString::number(first.toDouble() + 1)),
                      first.toDouble() + 1};
@@ -191,8 +198,34 @@ void TestFormProperties::wholeBarsAreOffered_data()
     QTest::newRow("value") << "DoubleSpinBoxWithSliderWidget"
                            << QStringList({"decimals", "minimumValue", "maximumValue", "singleStep",
                                            "value", "spinBoxSuffix", "specialValueText",
-                                           "spinBoxButtonSymbol", "dataName", "labelVisible",
-                                           "minLabelName", "maxLabelName"});
+                                           "spinBoxButtonSymbol", "spinBoxMinimumWidth",
+                                           "spinBoxMaximumWidth", "spinBoxLeftOfSlider", "dataName",
+                                           "labelMinimumWidth", "labelVisible", "minLabelName",
+                                           "maxLabelName"});
+    QTest::newRow("selection") << "TXSelectionItemWidget"
+                               << QStringList({"labelName",
+                                               "itemLabelVisible",
+                                               "labelMinimumWidth",
+                                               "itemBasedName",
+                                               "importViaComboBox",
+                                               "importButtonVisible",
+                                               "comboboxNameEditionAllowed",
+                                               "itemComboBoxSizeAdjustPolicy",
+                                               "itemComboBoxMaximumWidth",
+                                               "itemComboBoxEnabled",
+                                               "removeItemButtonEnabled",
+                                               "exportItemButtonEnabled",
+                                               "duplicateItemButtonEnabled",
+                                               "editionItemButtonEnabled",
+                                               "saveItemButtonEnabled",
+                                               "createNewItemMenuEnabled",
+                                               "duplicateItemMenuEnabled",
+                                               "importItemMenuEnabled",
+                                               "importName",
+                                               "exportButtonToolTip"});
+    QTest::newRow("server") << "FTPConfigurationWidget"
+                            << QStringList({"visibleStatus", "visibleActiveCheckBox",
+                                            "visibleEraseSrcFilesItems", "importer"});
     QTest::newRow("progress") << "TXProgressBar"
                               << QStringList({"minimum", "maximum", "value", "message", "format",
                                               "textVisible", "alignment", "orientation",

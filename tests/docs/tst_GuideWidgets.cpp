@@ -10,6 +10,7 @@
 #include "TXProgressBar.h"
 #include "TXSelectionItemWidget.h"
 #include "TXSqlTableModel.h"
+#include "TXSwitchSlider.h"
 #include "TXVariantViewer.h"
 #include "TXWidgetListWidget.h"
 #include "TestBase.h"
@@ -72,6 +73,7 @@ class TestGuideWidgets : public TestBase
     Q_OBJECT
 
 private slots:
+    void theSwitchOfTheFormTurnsThePassesOff();
     void theToleranceHasItsRange();
     void theHostRemovesThePresetThatTheBarNames();
     void eachColourHasASwatch();
@@ -86,6 +88,19 @@ private slots:
     void theAboutWindowShowsWhatItIsTold();
     void aSecretIsStoredEnciphered();
 };
+
+void TestGuideWidgets::theSwitchOfTheFormTurnsThePassesOff()
+{
+    const std::unique_ptr<QWidget> page(makeScanSettings(nullptr));
+    auto *average = page->findChild<TXSwitchSlider *>(QStringLiteral("averageSwitch"));
+    const auto *passes =
+        page->findChild<DoubleSpinBoxWithSliderWidget *>(QStringLiteral("passesBox"));
+    QVERIFY(average->isChecked());
+    QCOMPARE(passes->value(), 3.0);
+    QVERIFY(passes->isEnabled());
+    average->setChecked(false);
+    QVERIFY(!passes->isEnabled());
+}
 
 void TestGuideWidgets::theToleranceHasItsRange()
 {

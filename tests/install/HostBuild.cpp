@@ -35,6 +35,11 @@ QString sourceFolder()
     return QStringLiteral(TX_SOURCE_FOLDER);
 }
 
+QString observersFolder()
+{
+    return QStringLiteral(TX_OBSERVERS);
+}
+
 CommandResult runCommand(const QString &program, const QStringList &arguments,
                          const QProcessEnvironment &environment)
 {

@@ -23,6 +23,10 @@ struct CommandResult
 [[nodiscard]] QString buildFolder();
 [[nodiscard]] QString sourceFolder();
 
+/// The folder that a program adds to its plug-in paths (QT_PLUGIN_PATH) to be looked into by the
+/// argument "-plugin windowobserver", see WindowObserver.cpp.
+[[nodiscard]] QString observersFolder();
+
 /// Runs a program and waits for its end, for three minutes at most.
 [[nodiscard]] CommandResult
 runCommand(const QString &program, const QStringList &arguments,

@@ -4,7 +4,50 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kPatienceMilliseconds = 60000;
+
+/// Whether the last list of widgets in the output is complete and has all of these lines.
+bool tellsLast(const QByteArray &output, const QStringList &lines)
+{
+    const QString last = QString::fromUtf8(output).section(QStringLiteral("on the screen:\n"), -1);
+    const QStringList told = last.split(u'\n');
+    return told.contains(QStringLiteral("end"))
+        && std::all_of(lines.begin(), lines.end(),
+                       [&told](const QString &line) { return told.contains(line); });
+}
+
+/// Finds the widgets of examples/form by their names, turns the switch off as a user with the
+/// keyboard, and sees that it turns the number off.
+QString useForm(QProcess &form, const QProcessEnvironment &screen)
+{
+    const QString square = QStringLiteral("paperSquare TXColorSquareWidget enabled");
+    const QString toggle = QStringLiteral("paperSwitch TXSwitchSlider enabled");
+    const QString number = QStringLiteral("toleranceBox DoubleSpinBoxWithSliderWidget ");
+    QByteArray output;
+    const auto tells = [&](const QString &state) {
+        output += form.readAll();
+        return tellsLast(output, {square, toggle, number + state});
+    };
+    if (!QTest::qWaitFor([&] { return tells(QStringLiteral("enabled")); }, kPatienceMilliseconds)) {
+        return QStringLiteral("a widget is missing: ") + QString::fromUtf8(output);
+    }
+    const auto isTurnedOff = [&] {
+        return pressKeys(QStringLiteral("Home"), screen) && tells(QStringLiteral("disabled"));
+    };
+    return QTest::qWaitFor(isTurnedOff, kPatienceMilliseconds)
+        ? QString()
+        : QStringLiteral("the switch does nothing: ") + QString::fromUtf8(output);
+}
+
+} // namespace
 
 /// Programs that are built with the installed libraries.
 class TestInstalledHosts : public TestBase
@@ -18,6 +61,7 @@ private slots:
     void documentsTellOfPkgConfig();
     void hostOfTheCoreIsBuiltWithPkgConfig();
     void hostOfTheResourcesIsBuiltWithPkgConfig();
+    void exampleHasItsForm();
     void programOfTheGuideGetsWhatItShips();
     void hostOfTheCoreDoesWithoutTheWidgets();
     void packageIsFound_data();
@@ -123,6 +167,19 @@ void TestInstalledHosts::hostOfTheResourcesIsBuiltWithPkgConfig()
     QVERIFY2(built.succeeded, qPrintable(built.output));
     const CommandResult ran = runCommand(folder.filePath("hello"), {});
     QVERIFY2(ran.succeeded, qPrintable(ran.output));
+}
+
+void TestInstalledHosts::exampleHasItsForm()
+{
+    const QTemporaryDir folder;
+    const CommandResult built =
+        buildHost(sourceFolder() + "/examples/form", folder.path(), installedTree());
+    QVERIFY2(built.succeeded, qPrintable(built.output));
+
+    qputenv("QT_PLUGIN_PATH", observersFolder().toLocal8Bit());
+    const auto tidy = qScopeGuard([] { qunsetenv("QT_PLUGIN_PATH"); });
+    QCOMPARE(showAndClose(folder.filePath("form"), {"-plugin", "windowobserver"}, "Proof", useForm),
+             QString());
 }
 
 void TestInstalledHosts::programOfTheGuideGetsWhatItShips()

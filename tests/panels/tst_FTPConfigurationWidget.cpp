@@ -401,9 +401,11 @@ void TestFTPConfigurationWidget::statusOfActiveBoxAndEraseItemsCanBeHidden()
 
 void TestFTPConfigurationWidget::eraseLabelNamesTheSource()
 {
+    QVERIFY(panel->isImporter());
     panel->setIsImporter(false);
+    QVERIFY(!panel->isImporter());
     QCOMPARE(find<QLabel>("eraseDistantLabel")->text(), QStringLiteral("Erase Local Files"));
-    panel->setIsImporter(true);
+    QVERIFY(panel->setProperty("importer", true));
     QCOMPARE(find<QLabel>("eraseDistantLabel")->text(), QStringLiteral("Erase Distant Files"));
 }
 

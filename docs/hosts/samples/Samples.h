@@ -93,6 +93,9 @@ DoubleSpinBoxWithSliderWidget *makeToleranceField(QWidget *parent);
 TXSelectionItemWidget *makePresetBar(const QList<QString> &presets, QWidget *parent);
 TXWidgetListWidget *makeSwatches(const QList<QColor> &colours, QWidget *parent);
 
+// forms.cpp
+QWidget *makeScanSettings(QWidget *parent);
+
 // database.cpp
 QWidget *makeMeasurementView(QWidget *parent);
 
