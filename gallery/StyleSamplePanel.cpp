@@ -2,13 +2,14 @@
 
 #include "WheelGuard.h"
 
+#include "TXProgressBar.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -33,7 +34,7 @@ StyleSamplePanel::StyleSamplePanel(QWidget *parent)
     , trimBox(new QCheckBox(this))
     , sign(new QLabel(this))
     , signText(new QLabel(this))
-    , progress(new QProgressBar(this))
+    , progress(new TXProgressBar(this))
     , printButton(new QPushButton(this))
     , cancelButton(new QPushButton(this))
 {
@@ -68,7 +69,7 @@ void StyleSamplePanel::retranslate()
     copiesLabel->setText(tr("&Copies of %1:").arg(kMostCopies));
     trimBox->setText(tr("Tri&m marks"));
     signText->setText(tr("drawn by the shipped sheet"));
-    progress->setAccessibleName(tr("Copies made"));
+    progress->setMessage(tr("Copies made"));
     setButtonText(printButton, tr("Print Pr&oof"));
     setButtonText(cancelButton, tr("Cancel", "a disabled button"));
 }
