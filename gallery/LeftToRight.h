@@ -19,6 +19,15 @@
         : text;
 }
 
+/// The text, between the two characters that let its first letter tell in which direction it reads.
+/// For texts in any language, such as those that other programs write.
+[[nodiscard]] inline QString inItsOwnDirection(const QString &text)
+{
+    constexpr QChar kFirstStrongIsolate(0x2068);
+    constexpr QChar kPopDirectionalIsolate(0x2069);
+    return text.isEmpty() ? text : kFirstStrongIsolate + text + kPopDirectionalIsolate;
+}
+
 /// The path as the system writes it, to stand in a text. For what is shown only.
 [[nodiscard]] inline QString pathInText(const QString &path)
 {
