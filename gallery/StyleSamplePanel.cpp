@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -66,7 +67,7 @@ void StyleSamplePanel::retranslate()
     paperLabel->setText(tr("&Paper:"));
     paperBox->setItemText(0, tr("Coated"));
     paperBox->setItemText(1, tr("Newsprint"));
-    copiesLabel->setText(tr("&Copies of %1:").arg(kMostCopies));
+    copiesLabel->setText(tr("&Copies of %1:").arg(locale().toString(kMostCopies)));
     trimBox->setText(tr("Tri&m marks"));
     signText->setText(tr("drawn by the shipped sheet"));
     progress->setMessage(tr("Copies made"));
