@@ -19,13 +19,17 @@
         : text;
 }
 
-/// The text, between the two characters that let its first letter tell in which direction it reads.
-/// For texts in any language, such as those that other programs write.
+/// The text, to stand alone in a layout from right to left. When its first letter is one that is
+/// written from left to right, it is between the two characters that let it read so. For texts in
+/// any language, such as those that other programs write.
 [[nodiscard]] inline QString inItsOwnDirection(const QString &text)
 {
-    constexpr QChar kFirstStrongIsolate(0x2068);
-    constexpr QChar kPopDirectionalIsolate(0x2069);
-    return text.isEmpty() ? text : kFirstStrongIsolate + text + kPopDirectionalIsolate;
+    // Not those of isolation: fonts without them are many, and another font makes rows higher.
+    constexpr QChar kLeftToRightEmbedding(0x202a);
+    constexpr QChar kPopDirectionalFormatting(0x202c);
+    return text.isEmpty() || text.isRightToLeft()
+        ? text
+        : kLeftToRightEmbedding + text + kPopDirectionalFormatting;
 }
 
 /// The path as the system writes it, to stand in a text. For what is shown only.

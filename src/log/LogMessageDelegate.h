@@ -7,7 +7,8 @@
 ///
 /// What the model holds stays as it is, and from left to right so does what is painted.
 ///
-/// Cost: from right to left one copy of the text for each row that is painted or measured.
+/// Cost: from right to left one look for the first letter and, when the text begins with one that
+/// is written from left to right, one copy of the text, for each row that is painted or measured.
 class LogMessageDelegate : public QStyledItemDelegate
 {
 public:
@@ -15,15 +16,17 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
 protected:
-    /// Puts the text between two characters, not seen themselves, that let its first letter tell
-    /// the direction.
+    /// Puts a text from left to right between two characters, not seen themselves, that let it read
+    /// so. Those of embedding, not of isolation: fonts without the latter are many, and a letter of
+    /// another font makes the row higher.
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
-        constexpr QChar kFirstStrongIsolate(0x2068);
-        constexpr QChar kPopDirectionalIsolate(0x2069);
+        constexpr QChar kLeftToRightEmbedding(0x202a);
+        constexpr QChar kPopDirectionalFormatting(0x202c);
         QStyledItemDelegate::initStyleOption(option, index);
-        if (option->direction == Qt::RightToLeft && !option->text.isEmpty()) {
-            option->text = kFirstStrongIsolate + option->text + kPopDirectionalIsolate;
+        const QString &text = option->text;
+        if (option->direction == Qt::RightToLeft && !text.isEmpty() && !text.isRightToLeft()) {
+            option->text = kLeftToRightEmbedding + text + kPopDirectionalFormatting;
         }
     }
 };

@@ -27,9 +27,9 @@ public:
     }
 };
 
-QString isolated(const QString &text)
+QString kept(const QString &text)
 {
-    return QChar(0x2068) + text + QChar(0x2069);
+    return QChar(0x202a) + text + QChar(0x202c);
 }
 
 /// Where something is written in a white picture.
@@ -119,8 +119,10 @@ void TestLogMessageDelegate::textIsKeptTogetherFromRightToLeft()
 {
     model.appendRow(new QStandardItem(kEnglish));
     const QModelIndex index = model.index(0, 0);
-    QCOMPARE(delegate.paintedText(index, Qt::RightToLeft), isolated(kEnglish));
+    QCOMPARE(delegate.paintedText(index, Qt::RightToLeft), kept(kEnglish));
     QCOMPARE(delegate.paintedText(index, Qt::LeftToRight), kEnglish);
+    model.setData(index, kArabic);
+    QCOMPARE(delegate.paintedText(index, Qt::RightToLeft), kArabic);
 }
 
 void TestLogMessageDelegate::nothingStaysNothing()
@@ -170,8 +172,10 @@ void TestLogMessageDelegate::rowsKeepTheirSize()
     for (const QString &text : {kEnglish, kArabic, kEnglish + u'\n' + kArabic}) {
         picture(text, Qt::RightToLeft, nullptr);
         const QSize size = view->sizeHintForIndex(model.index(0, 0));
+        const int height = view->visualRect(model.index(0, 0)).height();
         picture(text, Qt::RightToLeft, &delegate);
         QCOMPARE(view->sizeHintForIndex(model.index(0, 0)), size);
+        QCOMPARE(view->visualRect(model.index(0, 0)).height(), height);
     }
 }
 
