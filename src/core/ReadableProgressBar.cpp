@@ -23,15 +23,15 @@ QRect filledPart(const QStyleOptionProgressBar &bar, const QRect &whole)
 
 /// The text alone, in the one colour that the style has for it at this progress. A picture of its
 /// own, as Fusion replaces the clipping of the painter.
-QPixmap pictureOfText(QStyleOptionProgressBar bar, int progress, const QWidget &widget, qreal ratio)
+QPixmap pictureOfText(QStyleOptionProgressBar bar, int progress, QWidget *widget, qreal ratio)
 {
     bar.progress = progress;
     // So that the style takes the filled part to be where it paints it.
     bar.invertedAppearance = !bar.invertedAppearance;
-    QPixmap picture((QSizeF(widget.size()) * ratio).toSize());
+    QPixmap picture((QSizeF(widget->size()) * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
-    QStylePainter painter(&picture, const_cast<QWidget *>(&widget));
+    QStylePainter painter(&picture, widget);
     painter.drawControl(QStyle::CE_ProgressBarLabel, bar);
     return picture;
 }
@@ -68,6 +68,6 @@ void ReadableProgressBar::paintEvent(QPaintEvent *event)
     // In a grab the painter draws on a picture, whose pixels need not be as large as the window's.
     const qreal ratio = painter.paintEngine()->paintDevice()->devicePixelRatioF();
     const QRect filled = filledPart(bar, bar.rect);
-    drawPart(painter, filled, pictureOfText(bar, bar.maximum, *this, ratio));
-    drawPart(painter, QRegion(bar.rect) - filled, pictureOfText(bar, bar.minimum, *this, ratio));
+    drawPart(painter, filled, pictureOfText(bar, bar.maximum, this, ratio));
+    drawPart(painter, QRegion(bar.rect) - filled, pictureOfText(bar, bar.minimum, this, ratio));
 }

@@ -1,6 +1,9 @@
 #include "LogMessageDelegate.h"
 
 #include "PixelProbe.h"
+#include "TXLogManager.h"
+#include "TXLogModel.h"
+#include "TXLogWindow.h"
 #include "TestBase.h"
 
 #include <QHeaderView>
@@ -72,6 +75,7 @@ private slots:
     void cutTextEndsWithTheDots();
     void rowsKeepTheirSize();
     void modelStays();
+    void logWindowPaintsByIt();
 
 private:
     /// The one row with this text, painted by the delegate or, when null, by Qt's own.
@@ -184,6 +188,16 @@ void TestLogMessageDelegate::modelStays()
     picture(kEnglish, Qt::RightToLeft, &delegate);
     QCOMPARE(model.index(0, 0).data().toString(), kEnglish);
     QCOMPARE(delegate.displayText(kEnglish, QLocale()), kEnglish);
+}
+
+void TestLogMessageDelegate::logWindowPaintsByIt()
+{
+    const TXLogWindow window(QSharedPointer<TXLogManager>::create(), nullptr);
+    const auto *tree = window.findChild<QTreeView *>("logTreeView");
+    QVERIFY(tree != nullptr);
+    QVERIFY(
+        dynamic_cast<LogMessageDelegate *>(tree->itemDelegateForColumn(TXLogModel::MessageColumn)));
+    QCOMPARE(tree->itemDelegateForColumn(TXLogModel::DateColumn), nullptr);
 }
 
 int main(int argc, char **argv)
