@@ -204,8 +204,8 @@ void ChartReportCover::drawStatistics()
     addRow(tr("Mean"), decimal(cie76.mean), decimal(ciede2000.mean));
     addRow(tr("95 %"), decimal(cie76.percentile95), decimal(ciede2000.percentile95));
     addRow(tr("Maximum"), decimal(cie76.largest), decimal(ciede2000.largest));
-    addRow(tr("Above %1").arg(decimal(options.tolerance)), QString::number(cie76.aboveTolerance),
-           QString::number(ciede2000.aboveTolerance));
+    addRow(tr("Above %1").arg(decimal(options.tolerance)), QLocale().toString(cie76.aboveTolerance),
+           QLocale().toString(ciede2000.aboveTolerance));
 }
 
 void ChartReportCover::drawStatisticsRow(const QString &name, const QString &cie76,
@@ -290,7 +290,7 @@ void ChartReportCover::drawBarNumbers(const PatchPair &pair, const QRectF &slot,
     scene->drawTextInRect(decimal(value), number, TXAlignHorizontallyCentred,
                           TXAlignVerticallyCentred, numberFont, isAbove ? kMarkColour : kPaleInk,
                           kNoMargins);
-    scene->drawTextInRect(QString::number(pair.newer + 1),
+    scene->drawTextInRect(QLocale().toString(pair.newer + 1),
                           QRectF(slot.left(), slot.bottom() + 3, slot.width(), lineHeight),
                           TXAlignHorizontallyCentred, TXAlignVerticallyCentred, font(7), kInk,
                           kNoMargins);

@@ -5,6 +5,7 @@
 #include "ReportFonts.h"
 
 #include <QColor>
+#include <QLocale>
 #include <QPixmap>
 #include <QStringList>
 
@@ -79,7 +80,7 @@ int rowHeightFor(int rows, double height, int fontPixels)
 QString numberedName(int patch)
 {
     constexpr char16_t kFigureSpace = 0x2007;
-    return QStringLiteral("%1  %2")
+    return QStringLiteral("%L1  %2")
         .arg(patch + 1, 2, 10, QChar(kFigureSpace))
         .arg(chartPatches()[size_t(patch)].translatedName());
 }
@@ -225,7 +226,7 @@ void ChartReportTables::addGroupRow(Filler &filler, int chartRow) const
 void ChartReportTables::addPatchRow(Filler &filler, const PatchPair &pair) const
 {
     const ChartPatch &patch = chartPatches()[size_t(pair.older)];
-    filler.add(QString::number(pair.older + 1), TXAlignRight);
+    filler.add(QLocale().toString(pair.older + 1), TXAlignRight);
     filler.add(patch.translatedName(), TXAlignLeft);
     filler.addPicture(patch.older);
     filler.addPicture(patch.newer);
@@ -239,7 +240,7 @@ void ChartReportTables::addPairRow(Filler &filler, const PatchPair &pair, int nu
 {
     const LabColour &from = chartPatches()[size_t(pair.older)].older;
     const LabColour &to = chartPatches()[size_t(pair.newer)].newer;
-    filler.add(QString::number(number), TXAlignRight);
+    filler.add(QLocale().toString(number), TXAlignRight);
     filler.add(numberedName(pair.older), TXAlignLeft);
     filler.addPicture(from);
     filler.addPicture(to);

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 
 namespace {
@@ -76,7 +77,7 @@ void CredentialPanel::showOutcome()
     }
     const QStringList sentences = {
         tr("User: %1.").arg(user),
-        tr("Characters of the password: %1.").arg(passwordLength),
+        tr("Characters of the password: %1.").arg(locale().toString(passwordLength)),
         wasCalled ? tr("The callback was called.") : tr("The callback was not called."),
         isRemembering ? tr("\"Remember\" is checked.") : tr("\"Remember\" is not checked."),
     };

@@ -14,6 +14,7 @@
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -178,10 +179,11 @@ QString EncodingPanel::noteOn(const EncodedText &read) const
         return tr("The file is not shown. %1").arg(read.error.toString());
     }
     QStringList sentences = {
-        tr("Bytes read as %1: %2.").arg(kept.value(kEncodingKey).toString()).arg(read.byteCount)};
+        tr("Bytes read as %1: %2.")
+            .arg(kept.value(kEncodingKey).toString(), locale().toString(read.byteCount))};
     if (read.unreadableCount > 0) {
-        sentences.append(
-            tr("Places that this encoding cannot read: %1.").arg(read.unreadableCount));
+        sentences.append(tr("Places that this encoding cannot read: %1.")
+                             .arg(locale().toString(read.unreadableCount)));
     }
     if (read.isCut) {
         sentences.append(tr("The rest of the file is not shown."));

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLocale>
 #include <QTimer>
 
 namespace {
@@ -55,7 +56,8 @@ void FeedbackServicePanel::retranslate()
     // In the order of LocalFeedbackService::Answer.
     setEntries(answerBox,
                {tr("Accepted"), tr("Refused"),
-                tr("Accepted after %1 seconds").arg(kSilenceMilliseconds / kMillisecondsPerSecond),
+                tr("Accepted after %1 seconds")
+                    .arg(locale().toString(kSilenceMilliseconds / kMillisecondsPerSecond)),
                 tr("Answer that breaks off"), tr("Answer that is no JSON"), tr("Status 500")});
     LocalServerPanel::retranslate();
 }

@@ -371,7 +371,9 @@ QString ImagesPage::setText() const
     }
     QStringList sentences;
     if (chosenFiles > set.pictures.size()) {
-        sentences.append(tr("The first %1 of %2 files.").arg(set.pictures.size()).arg(chosenFiles));
+        sentences.append(
+            tr("The first %1 of %2 files.")
+                .arg(locale().toString(set.pictures.size()), locale().toString(chosenFiles)));
     }
     sentences.append(sizesText());
     sentences.removeAll(QString());

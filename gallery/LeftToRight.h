@@ -19,6 +19,19 @@
         : text;
 }
 
+/// The text, to stand alone in a layout from right to left. When its first letter is one that is
+/// written from left to right, it is between the two characters that let it read so. For texts in
+/// any language, such as those that other programs write.
+[[nodiscard]] inline QString inItsOwnDirection(const QString &text)
+{
+    // Not those of isolation: fonts without them are many, and another font makes rows higher.
+    constexpr QChar kLeftToRightEmbedding(0x202a);
+    constexpr QChar kPopDirectionalFormatting(0x202c);
+    return text.isEmpty() || text.isRightToLeft()
+        ? text
+        : kLeftToRightEmbedding + text + kPopDirectionalFormatting;
+}
+
 /// The path as the system writes it, to stand in a text. For what is shown only.
 [[nodiscard]] inline QString pathInText(const QString &path)
 {

@@ -1,10 +1,13 @@
 #include "LogPreview.h"
 
+#include "LeftToRight.h"
+
 #include "TXLogManager.h"
 #include "TXLogModel.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTimer>
 
 namespace {
@@ -13,6 +16,24 @@ constexpr int kFollowIntervalMilliseconds = 100;
 constexpr int kHintRows = 14;
 constexpr int kHintWidth = 640;
 
+/// Lets each message read in its own direction, whatever that of the page is; what the log holds
+/// stays as it is.
+class MessageDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    /// From right to left one copy of the text for each row that is painted.
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->direction == Qt::RightToLeft) {
+            option->text = inItsOwnDirection(option->text);
+        }
+    }
+};
+
 } // namespace
 
 LogPreview::LogPreview(const QSharedPointer<TXLogManager> &log, QWidget *parent)
@@ -20,6 +41,7 @@ LogPreview::LogPreview(const QSharedPointer<TXLogManager> &log, QWidget *parent)
     , followTimer(new QTimer(this))
 {
     setModel(new TXLogModel(log, this));
+    setItemDelegateForColumn(TXLogModel::MessageColumn, new MessageDelegate(this));
     setColumnHidden(TXLogModel::LevelColumn, true);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);

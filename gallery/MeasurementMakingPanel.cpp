@@ -6,6 +6,7 @@
 
 #include "TXDatabaseConfigurationWidget.h"
 #include "TXFileDialog.h"
+#include "TXProgressBar.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -13,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
-#include <QProgressBar>
 #include <QPushButton>
 
 #include <algorithm>
@@ -42,7 +42,7 @@ MeasurementMakingPanel::MeasurementMakingPanel(TXDatabaseConfigurationWidget *co
     , amountBox(new QComboBox(this))
     , makeButton(new QPushButton(this))
     , cancelButton(new QPushButton(this))
-    , progressBar(new QProgressBar(this))
+    , progressBar(new TXProgressBar(this))
     , endingLabel(new QLabel(this))
     , serverLabel(new QLabel(this))
 {
@@ -55,6 +55,7 @@ MeasurementMakingPanel::MeasurementMakingPanel(TXDatabaseConfigurationWidget *co
     amountLabel->setBuddy(amountBox);
     WheelGuard::protect(amountBox);
     progressBar->setRange(0, kWholePercent);
+    progressBar->setValue(0);
     endingLabel->setWordWrap(true);
     endingLabel->setTextFormat(Qt::PlainText);
     serverLabel->setWordWrap(true);

@@ -11,8 +11,8 @@ class MeasurementMaker;
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QProgressBar;
 class TXDatabaseConfigurationWidget;
+class TXProgressBar;
 
 /// Makes the table of measurements where the library's database panel tells: on the server of its
 /// settings, or in a file of SQLite for the internal database, which is removed when it does not
@@ -73,7 +73,7 @@ private:
     QComboBox *amountBox;
     QPushButton *makeButton;
     QPushButton *cancelButton;
-    QProgressBar *progressBar;
+    TXProgressBar *progressBar;
     QLabel *endingLabel;
     QLabel *serverLabel;
     // From the button for cancelling, while that is of no use.

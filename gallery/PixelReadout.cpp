@@ -125,6 +125,14 @@ void PixelReadout::setUpLayout()
     grid->addWidget(deltaLabel, 1, column);
 }
 
+/// Without the separators of thousands, which are for amounts.
+QString PixelReadout::placeText(const QPoint &place) const
+{
+    QLocale shown = locale();
+    shown.setNumberOptions(QLocale::OmitGroupSeparator);
+    return tr("x %1, y %2").arg(shown.toString(place.x()), shown.toString(place.y()));
+}
+
 void PixelReadout::showState()
 {
     deltaNameLabel->setText(QStringLiteral("ΔE"));
@@ -132,8 +140,7 @@ void PixelReadout::showState()
     const QString where = pixel ? pixel->where : tr("Move the mouse over a picture.");
     whereLabel->setText(fontMetrics().elidedText(where, Qt::ElideMiddle, kWherePixels));
     whereLabel->setToolTip(where);
-    placeLabel->setText(pixel ? tr("x %1, y %2").arg(pixel->place.x()).arg(pixel->place.y())
-                              : kNothing);
+    placeLabel->setText(pixel ? placeText(pixel->place) : kNothing);
     for (int i = 0; i < cells.size(); ++i) {
         showColour(cells[i], pixel ? pixel->colours.value(i) : QColor());
     }

@@ -58,6 +58,7 @@ private:
     [[nodiscard]] Cell makeCell();
     void setUpLayout();
     void showState();
+    [[nodiscard]] QString placeText(const QPoint &place) const;
     void showColour(const Cell &cell, const QColor &colour) const;
 
     std::optional<Pixel> pixel;

@@ -92,7 +92,7 @@ void ReportViewBar::showPage()
     const int count = view->pageCount();
     pageBox->setRange(count == 0 ? 0 : 1, count);
     pageBox->setValue(view->currentPage() + 1);
-    countLabel->setText(tr("of %1").arg(count));
+    countLabel->setText(tr("of %1").arg(locale().toString(count)));
     backButton->setEnabled(view->currentPage() > 0);
     onButton->setEnabled(view->currentPage() < count - 1);
 }

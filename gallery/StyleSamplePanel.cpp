@@ -2,13 +2,15 @@
 
 #include "WheelGuard.h"
 
+#include "TXProgressBar.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProgressBar>
+#include <QLocale>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -33,7 +35,7 @@ StyleSamplePanel::StyleSamplePanel(QWidget *parent)
     , trimBox(new QCheckBox(this))
     , sign(new QLabel(this))
     , signText(new QLabel(this))
-    , progress(new QProgressBar(this))
+    , progress(new TXProgressBar(this))
     , printButton(new QPushButton(this))
     , cancelButton(new QPushButton(this))
 {
@@ -65,10 +67,10 @@ void StyleSamplePanel::retranslate()
     paperLabel->setText(tr("&Paper:"));
     paperBox->setItemText(0, tr("Coated"));
     paperBox->setItemText(1, tr("Newsprint"));
-    copiesLabel->setText(tr("&Copies of %1:").arg(kMostCopies));
+    copiesLabel->setText(tr("&Copies of %1:").arg(locale().toString(kMostCopies)));
     trimBox->setText(tr("Tri&m marks"));
     signText->setText(tr("drawn by the shipped sheet"));
-    progress->setAccessibleName(tr("Copies made"));
+    progress->setMessage(tr("Copies made"));
     setButtonText(printButton, tr("Print Pr&oof"));
     setButtonText(cancelButton, tr("Cancel", "a disabled button"));
 }

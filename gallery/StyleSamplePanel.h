@@ -6,9 +6,9 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QProgressBar;
 class QPushButton;
 class QSpinBox;
+class TXProgressBar;
 
 /// A few controls of a print job, to see what language and style do to them.
 class StyleSamplePanel final : public GalleryPanel
@@ -36,7 +36,7 @@ private:
     QCheckBox *trimBox;
     QLabel *sign;
     QLabel *signText;
-    QProgressBar *progress;
+    TXProgressBar *progress;
     QPushButton *printButton;
     QPushButton *cancelButton;
 };

@@ -49,10 +49,11 @@ void SwitchPanel::retranslate()
     enabledHeading->setText(tr("Enabled"));
     disabledHeading->setText(tr("Disabled"));
     for (const Row &row : qAsConst(rows)) {
-        row.caption->setText(tr("%1 pixels").arg(row.height));
-        row.slider->setAccessibleName(tr("Switch of %1 pixels").arg(row.height));
-        row.disabledOff->setAccessibleName(tr("Switch of %1 pixels, disabled").arg(row.height));
-        row.disabledOn->setAccessibleName(tr("Switch of %1 pixels, disabled").arg(row.height));
+        const QString height = locale().toString(row.height);
+        row.caption->setText(tr("%1 pixels").arg(height));
+        row.slider->setAccessibleName(tr("Switch of %1 pixels").arg(height));
+        row.disabledOff->setAccessibleName(tr("Switch of %1 pixels, disabled").arg(height));
+        row.disabledOn->setAccessibleName(tr("Switch of %1 pixels, disabled").arg(height));
     }
     setButtonText(allButton, tr("&Turn All On"));
     showStates();

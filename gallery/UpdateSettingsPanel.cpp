@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QSettings>
 #include <QVBoxLayout>
@@ -100,8 +101,10 @@ void UpdateSettingsPanel::showSettings()
     view->setDictionary(storedSettings());
     const auto *dialog = TXCheckForUpdateWidget::instance();
     const int days = dialog ? dialog->autoCheckPeriod() : 0;
-    periodLabel->setText(days > 0 ? tr("The dialog above checks by itself every %1 days.").arg(days)
-                                  : tr("The dialog above does not check by itself."));
+    periodLabel->setText(
+        days > 0
+            ? tr("The dialog above checks by itself every %1 days.").arg(locale().toString(days))
+            : tr("The dialog above does not check by itself."));
 }
 
 void UpdateSettingsPanel::setUpLayout()

@@ -22,6 +22,9 @@
 ///
 /// Children do not take the bold font of the title.
 ///
+/// From right to left the triangle stands at the right of the title and, folded, points to the
+/// left: the pictures are those for left to right, mirrored.
+///
 /// Files: "../Resources/Images/triangle_closed.png" and "triangle_open.png" beside the folder of
 /// the program; without them nothing stands before the title.
 ///
@@ -40,6 +43,21 @@ public slots:
     /// the new state and does not count: what each child is decides.
     void unfolderStatusChanged(bool checked);
 
+protected:
+    /// As for left to right while the style sheet is the box's own: what is painted from right to
+    /// left, and where the mouse is looked for, is mirrored.
+    void initStyleOption(QStyleOptionGroupBox *option) const override;
+    /// Mirrors what stands before the title, from right to left.
+    void paintEvent(QPaintEvent *event) override;
+    /// A press on the title or the triangle starts a click.
+    void mousePressEvent(QMouseEvent *event) override;
+    /// Follows a click that is under way.
+    void mouseMoveEvent(QMouseEvent *event) override;
+    /// A release on the title or the triangle toggles.
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
 private:
+    [[nodiscard]] bool isMirrored() const;
+
     bool isFlatWhenFolded = false;
 };

@@ -1,6 +1,7 @@
 #include "TXLogWindow.h"
 
 #include "ChoiceRoom.h"
+#include "LogMessageDelegate.h"
 #include "OwnTitle.h"
 #include "TXLogFilterProxyModel.h"
 #include "TXLogItem.h"
@@ -127,6 +128,8 @@ void TXLogWindow::setUpTree()
     ui->logTreeView->setModel(proxyModel);
     proxy->setSelectionModel(ui->logTreeView->selectionModel());
     ui->logTreeView->hideColumn(TXLogModel::LevelColumn);
+    ui->logTreeView->setItemDelegateForColumn(TXLogModel::MessageColumn,
+                                              new LogMessageDelegate(this));
     ui->logTreeView->setColumnWidth(TXLogModel::DateColumn, kDateColumnWidth);
 }
 

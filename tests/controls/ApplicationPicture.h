@@ -7,18 +7,19 @@
 #include <QFileInfo>
 #include <QImage>
 
-/// A picture in the "../Resources/Images/" of the running test, of one colour, for as long as this
-/// lives.
+/// A picture in the "../Resources/Images/" of the running test, for as long as this lives.
 class ApplicationPicture
 {
 public:
-    ApplicationPicture(const QString &name, const QSize &size, const QColor &colour)
+    ApplicationPicture(const QString &name, const QImage &picture)
         : path(pathOf(name))
-    {
-        QImage picture(size, QImage::Format_ARGB32);
-        picture.fill(colour);
-        isThere = QDir().mkpath(QFileInfo(path).path()) && picture.save(path);
-    }
+        , isThere(QDir().mkpath(QFileInfo(path).path()) && picture.save(path))
+    { }
+
+    /// One of one colour.
+    ApplicationPicture(const QString &name, const QSize &size, const QColor &colour)
+        : ApplicationPicture(name, filled(size, colour))
+    { }
 
     ApplicationPicture(const ApplicationPicture &) = delete;
     ApplicationPicture &operator=(const ApplicationPicture &) = delete;
@@ -36,6 +37,13 @@ public:
     [[nodiscard]] bool isInstalled() const { return isThere; }
 
 private:
+    static QImage filled(const QSize &size, const QColor &colour)
+    {
+        QImage picture(size, QImage::Format_ARGB32);
+        picture.fill(colour);
+        return picture;
+    }
+
     QString path;
     bool isThere = false;
 };

@@ -13,6 +13,7 @@ class TestLeftToRight : public TestBase
 private slots:
     void pathStaysAsItIsFromLeftToRight();
     void pathIsKeptTogetherFromRightToLeft();
+    void textOfAnyLanguageTellsItsDirection();
     void valueIsShownFromItsBeginning();
 
 protected:
@@ -32,6 +33,14 @@ void TestLeftToRight::pathIsKeptTogetherFromRightToLeft()
     const QString path = QDir::toNativeSeparators("/srv/proofs");
     QCOMPARE(pathInText("/srv/proofs"), QChar(0x2066) + path + QChar(0x2069));
     QCOMPARE(leftToRight(QString()), QString());
+}
+
+void TestLeftToRight::textOfAnyLanguageTellsItsDirection()
+{
+    QCOMPARE(inItsOwnDirection("done()"), QChar(0x202a) + QString("done()") + QChar(0x202c));
+    const QString arabic = QString::fromUtf8("انتهى (qt6)");
+    QCOMPARE(inItsOwnDirection(arabic), arabic);
+    QCOMPARE(inItsOwnDirection(QString()), QString());
 }
 
 void TestLeftToRight::valueIsShownFromItsBeginning()

@@ -2,6 +2,7 @@
 #include "TestBase.h"
 
 #include "TXLogManager.h"
+#include "TXLogModel.h"
 
 #include <QScrollBar>
 #include <QTimer>
@@ -19,6 +20,7 @@ private slots:
     void newestIsUnfolded();
     void fullLogDropsTheCurrentRowWithoutANewOne();
     void otherCurrentRowStaysInAFullLog();
+    void messagesReadInTheirOwnDirection();
 
 protected:
     void prepare() override;
@@ -130,6 +132,21 @@ void TestLogPreview::otherCurrentRowStaysInAFullLog()
 
     QCOMPARE(preview->model()->rowCount(), 200);
     QCOMPARE(preview->currentIndex().row(), 4);
+}
+
+void TestLogPreview::messagesReadInTheirOwnDirection()
+{
+    log->append(TXLogItem::Warning, TXStringI18n::fromString("sizeHints()"));
+    log->flush();
+    QTRY_VERIFY(isAtEnd());
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        preview->setLayoutDirection(direction);
+        QAbstractItemDelegate *own = preview->itemDelegateForColumn(TXLogModel::MessageColumn);
+        const QImage image = preview->grab().toImage();
+        preview->setItemDelegateForColumn(TXLogModel::MessageColumn, nullptr);
+        QCOMPARE(image == preview->grab().toImage(), direction == Qt::LeftToRight);
+        preview->setItemDelegateForColumn(TXLogModel::MessageColumn, own);
+    }
 }
 
 int main(int argc, char **argv)

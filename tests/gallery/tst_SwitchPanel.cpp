@@ -22,6 +22,7 @@ private slots:
     void disabledSwitchesDoNotMove();
     void programSwitchesWithTheSameSignal();
     void everyTextFollowsTheLanguage();
+    void sizesAreInTheDigitsOfTheLanguage();
 
 protected:
     void prepare() override;
@@ -162,6 +163,14 @@ void TestSwitchPanel::everyTextFollowsTheLanguage()
     QVERIFY(isRead(*panel, "CLICKED: 1, LAST BY 20 PIXELS: ON"));
     QCoreApplication::removeTranslator(&translator);
     QCoreApplication::sendPostedEvents();
+}
+
+void TestSwitchPanel::sizesAreInTheDigitsOfTheLanguage()
+{
+    panel->setLocale(QLocale(QLocale::Arabic, QLocale::Egypt));
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(panel.get(), &change);
+    QVERIFY(controlOf<TXSwitchSlider>(*panel, QString::fromUtf8("Switch of ٢٠ pixels")));
 }
 
 int main(int argc, char **argv)

@@ -197,12 +197,17 @@ private:
 
     void lookAtGroup(const QGroupBox *group)
     {
+        /// What is painted, with the box for a check mark beside the title, or another before it.
+        class OptionOf : public QGroupBox
+        {
+        public:
+            static void init(const QGroupBox &group, QStyleOptionGroupBox *option)
+            {
+                (group.*(&OptionOf::initStyleOption))(option);
+            }
+        };
         QStyleOptionGroupBox option;
-        option.initFrom(group);
-        option.text = group->title();
-        option.lineWidth = 1;
-        option.textAlignment = Qt::AlignLeft;
-        option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+        OptionOf::init(*group, &option);
         const QRect label = group->style()->subControlRect(QStyle::CC_GroupBox, &option,
                                                            QStyle::SC_GroupBoxLabel, group);
         const QRect inside = label.intersected(group->rect());

@@ -1,6 +1,8 @@
 #include "TestBase.h"
 #include "TextRoom.h"
 
+#include "TXUnfolderWidget.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -45,6 +47,13 @@ QWidget *makeTexted(QWidget *parent)
 QWidget *makeFrame(QWidget *parent)
 {
     return new QGroupBox(kText, parent);
+}
+
+QWidget *makeCheckableFrame(QWidget *parent)
+{
+    auto *group = new QGroupBox(kText, parent);
+    group->setCheckable(true);
+    return group;
 }
 
 QWidget *makeTabs(QWidget *parent)
@@ -108,6 +117,8 @@ class TestTextRoom : public TestBase
 private slots:
     void cutTextIsFound_data();
     void cutTextIsFound();
+    void checkMarkTakesRoomFromATitle();
+    void foldingBoxHasRoomForItsTitle();
     void cutTextThatTheTooltipSaysIsReadable();
     void textOfNoInterestIsLeftOut();
     void widgetOutsideItsParentIsFound();
@@ -127,6 +138,7 @@ void TestTextRoom::cutTextIsFound_data()
     QTest::newRow("check box") << Maker(makeTexted<QCheckBox>);
     QTest::newRow("radio button") << Maker(makeTexted<QRadioButton>);
     QTest::newRow("frame") << Maker(makeFrame);
+    QTest::newRow("frame to check") << Maker(makeCheckableFrame);
     QTest::newRow("tab") << Maker(makeTabs);
     QTest::newRow("choice") << Maker(makeChoice);
     QTest::newRow("placeholder") << Maker(makePlaceholder);
@@ -147,6 +159,35 @@ void TestTextRoom::cutTextIsFound()
 
     widget->resize(60, 20);
     QVERIFY2(problemsOf(window).contains("needs"), qPrintable(problemsOf(window)));
+}
+
+void TestTextRoom::checkMarkTakesRoomFromATitle()
+{
+    QWidget window;
+    QGroupBox group(kText, &window);
+    // Just enough, so that the mark makes the difference.
+    group.resize(group.fontMetrics().horizontalAdvance(kText) + 8, 100);
+    window.resize(600, 300);
+    window.show();
+    QCOMPARE(problemsOf(window), QString());
+
+    group.setCheckable(true);
+
+    QVERIFY(problemsOf(window).contains("needs"));
+}
+
+void TestTextRoom::foldingBoxHasRoomForItsTitle()
+{
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QWidget window;
+        window.setLayoutDirection(direction);
+        TXUnfolderWidget box(&window);
+        box.setTitle(kText);
+        box.resize(400, 100);
+        window.resize(600, 300);
+        window.show();
+        QCOMPARE(problemsOf(window), QString());
+    }
 }
 
 void TestTextRoom::cutTextThatTheTooltipSaysIsReadable()
