@@ -45,8 +45,11 @@ void DisabledSpinBoxPanel::retranslate()
     rightHeading->setText(isLeftEnabled ? disabled : enabled);
     for (const Row &row : qAsConst(rows)) {
         row.caption->setText(nameOf(row.left));
-        row.left->setAccessibleName(tr("%1, left").arg(nameOf(row.left)));
-        row.right->setAccessibleName(tr("%1, right").arg(nameOf(row.right)));
+        // Not by their sides, which a layout from right to left swaps.
+        QAbstractSpinBox *enabledBox = isLeftEnabled ? row.left : row.right;
+        QAbstractSpinBox *disabledBox = isLeftEnabled ? row.right : row.left;
+        enabledBox->setAccessibleName(tr("%1, enabled").arg(nameOf(enabledBox)));
+        disabledBox->setAccessibleName(tr("%1, disabled").arg(nameOf(disabledBox)));
     }
     setButtonText(swapButton, tr("S&wap"));
 }

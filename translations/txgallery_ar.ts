@@ -1029,12 +1029,12 @@
         <translation>معطّل</translation>
     </message>
     <message>
-        <source>%1, left</source>
-        <translation>%1، يمين</translation>
+        <source>%1, enabled</source>
+        <translation>%1، مُمكّن</translation>
     </message>
     <message>
-        <source>%1, right</source>
-        <translation>%1، يسار</translation>
+        <source>%1, disabled</source>
+        <translation>%1، معطّل</translation>
     </message>
     <message>
         <source>S&amp;wap</source>

@@ -1029,12 +1029,12 @@
         <translation>Deaktiviert</translation>
     </message>
     <message>
-        <source>%1, left</source>
-        <translation>%1, links</translation>
+        <source>%1, enabled</source>
+        <translation>%1, aktiviert</translation>
     </message>
     <message>
-        <source>%1, right</source>
-        <translation>%1, rechts</translation>
+        <source>%1, disabled</source>
+        <translation>%1, deaktiviert</translation>
     </message>
     <message>
         <source>S&amp;wap</source>

@@ -1029,12 +1029,12 @@
         <translation>Deshabilitado</translation>
     </message>
     <message>
-        <source>%1, left</source>
-        <translation>%1, izquierda</translation>
+        <source>%1, enabled</source>
+        <translation>%1, habilitado</translation>
     </message>
     <message>
-        <source>%1, right</source>
-        <translation>%1, derecha</translation>
+        <source>%1, disabled</source>
+        <translation>%1, deshabilitado</translation>
     </message>
     <message>
         <source>S&amp;wap</source>

@@ -1029,12 +1029,12 @@
         <translation>Désactivé</translation>
     </message>
     <message>
-        <source>%1, left</source>
-        <translation>%1, à gauche</translation>
+        <source>%1, enabled</source>
+        <translation>%1, activé</translation>
     </message>
     <message>
-        <source>%1, right</source>
-        <translation>%1, à droite</translation>
+        <source>%1, disabled</source>
+        <translation>%1, désactivé</translation>
     </message>
     <message>
         <source>S&amp;wap</source>

@@ -1029,12 +1029,12 @@
         <translation>Disabilitate</translation>
     </message>
     <message>
-        <source>%1, left</source>
-        <translation>%1, a sinistra</translation>
+        <source>%1, enabled</source>
+        <translation>%1, abilitata</translation>
     </message>
     <message>
-        <source>%1, right</source>
-        <translation>%1, a destra</translation>
+        <source>%1, disabled</source>
+        <translation>%1, disabilitata</translation>
     </message>
     <message>
         <source>S&amp;wap</source>

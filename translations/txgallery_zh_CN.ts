@@ -1029,12 +1029,12 @@
         <translation>禁用</translation>
     </message>
     <message>
-        <source>%1, left</source>
-        <translation>%1，左</translation>
+        <source>%1, enabled</source>
+        <translation>%1，启用</translation>
     </message>
     <message>
-        <source>%1, right</source>
-        <translation>%1，右</translation>
+        <source>%1, disabled</source>
+        <translation>%1，禁用</translation>
     </message>
     <message>
         <source>S&amp;wap</source>

@@ -1,6 +1,8 @@
 #include "TXSwitchSlider.h"
 
+#include "AccessibleInterfaces.h"
 #include "FocusFrame.h"
+#include "SwitchSliderAccessible.h"
 
 #include <QMouseEvent>
 #include <QStyleOptionSlider>
@@ -36,6 +38,7 @@ QString styleSheetFor(int height)
 TXSwitchSlider::TXSwitchSlider(QWidget *parent)
     : QSlider(parent)
 {
+    AccessibleInterfaces::install<TXSwitchSlider, SwitchSliderAccessible>();
     connect(this, SIGNAL(valueChanged(int)), this, SLOT(sliderPosChanged(int)));
     setMaximum(1);
     setPageStep(1);
@@ -80,4 +83,12 @@ void TXSwitchSlider::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     setStyleSheet(styleSheetFor(height()));
+}
+
+void TXSwitchSlider::sliderChange(SliderChange change)
+{
+    QSlider::sliderChange(change);
+    if (change == SliderValueChange) {
+        SwitchSliderAccessible::tellOfState(*this);
+    }
 }

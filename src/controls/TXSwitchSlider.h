@@ -7,7 +7,8 @@
 /// An on/off switch, drawn as a slider with two positions: the value 0 is off, 1 is on.
 ///
 /// A click anywhere on it with the left button toggles it; the keys of a slider work too. To
-/// assistive technology it is a slider from 0 to 1, under the accessible name that the host gives.
+/// assistive technology it is a check box, checked while on, under the accessible name that the
+/// host gives or the label whose buddy it is.
 ///
 /// Its looks follow its height by a style sheet that is replaced at each change of its size, so one
 /// that a host sets on it does not last. Give it a fixed size, about twice as wide as high.
@@ -47,4 +48,7 @@ protected:
 
     /// Draws the switch anew for its height.
     void resizeEvent(QResizeEvent *event) override;
+
+    /// Tells assistive technology of each change of the state.
+    void sliderChange(SliderChange change) override;
 };

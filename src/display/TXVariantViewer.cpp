@@ -192,7 +192,7 @@ void TXVariantViewer::addEntry()
     if (!entries->hasKeys()) {
         // The place is named, the one where a new layout goes on below the label. Left to count by
         // itself the layout grows with each unfolding, and makes two columns after a dictionary.
-        addWidget(makeChildViewer(entries->takeValue()), row + 1, 0);
+        addWidget(makeNextViewer(), row + 1, 0);
         return;
     }
     auto *keyLabel = new VariantLabel(this);
@@ -200,7 +200,7 @@ void TXVariantViewer::addEntry()
     keyLabel->setText(VariantHtml::key(key));
     keyLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     addWidget(keyLabel, row, 0);
-    TXVariantViewer *child = makeChildViewer(entries->takeValue());
+    TXVariantViewer *child = makeNextViewer();
     child->entryKey = key;
     addWidget(child, row, 1);
     child->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -239,11 +239,12 @@ void TXVariantViewer::removeMoreButton()
     }
 }
 
-TXVariantViewer *TXVariantViewer::makeChildViewer(const QVariant &childValue)
+TXVariantViewer *TXVariantViewer::makeNextViewer()
 {
     auto *child = new TXVariantViewer(this);
     child->setPreview(preview);
-    child->setValue(childValue);
+    child->entryPlace = entries->readCount();
+    child->setValue(entries->takeValue());
     connect(child, SIGNAL(resized()), this, SIGNAL(resized()));
     return child;
 }

@@ -176,7 +176,7 @@ private:
     void placeMoreButton();
     void removeMoreButton();
     void addWidget(QWidget *widget, int row, int column);
-    [[nodiscard]] TXVariantViewer *makeChildViewer(const QVariant &childValue);
+    [[nodiscard]] TXVariantViewer *makeNextViewer();
     void removeEntries();
     void makeGrid();
     [[nodiscard]] QGridLayout *grid() const;
@@ -229,4 +229,6 @@ private:
     VariantMoreButton *moreButton = nullptr;
     /// The name of the entry that this viewer shows, when it stands in a dictionary.
     QString entryKey;
+    /// The place of this entry among its siblings, from 0; -1 for a root.
+    qsizetype entryPlace = -1;
 };

@@ -8,7 +8,8 @@
 // The user goes through viewers and, below the rows of a large level, the button for more of them.
 //
 // Widgets of the entries stand in childWidgets: viewers alone for a list, keys and viewers by turns
-// for a dictionary. To find a viewer among its siblings costs their number, the rest the depth.
+// for a dictionary. Each viewer knows its place among its siblings, so that to find it there, or
+// the one beside it, costs the same among any number of them; the rest costs the depth.
 
 namespace {
 
@@ -50,8 +51,8 @@ TXVariantViewer *TXVariantViewer::entryViewer(qsizetype index) const
 
 qsizetype TXVariantViewer::indexOfEntry(const TXVariantViewer *entry) const
 {
-    const qsizetype place = childWidgets.indexOf(entry);
-    return place < 0 ? -1 : place / widgetsPerEntry(value);
+    // One that was folded away keeps its place, where another one or none stands now.
+    return entryViewer(entry->entryPlace) == entry ? entry->entryPlace : -1;
 }
 
 TXVariantViewer *TXVariantViewer::siblingViewer(int step) const

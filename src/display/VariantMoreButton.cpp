@@ -18,7 +18,22 @@ VariantMoreButton::VariantMoreButton(TXVariantViewer *owner)
 
 void VariantMoreButton::announce(qsizetype next, qsizetype all)
 {
-    setText(tr("Show %L1 more of %L2").arg(next).arg(all));
+    nextCount = next;
+    allCount = all;
+    retranslate();
+}
+
+void VariantMoreButton::changeEvent(QEvent *event)
+{
+    QPushButton::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+void VariantMoreButton::retranslate()
+{
+    setText(tr("Show %L1 more of %L2").arg(nextCount).arg(allCount));
 }
 
 void VariantMoreButton::keyPressEvent(QKeyEvent *event)

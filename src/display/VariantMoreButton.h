@@ -23,6 +23,8 @@ public:
     void announce(qsizetype next, qsizetype all);
 
 protected:
+    /// Tells the same numbers in a new language.
+    void changeEvent(QEvent *event) override;
     /// Space and Return press the button, once for each time they go down. The keys that move go on
     /// to the viewer.
     void keyPressEvent(QKeyEvent *event) override;
@@ -31,5 +33,9 @@ private slots:
     void askForMore();
 
 private:
+    void retranslate();
+
     TXVariantViewer *viewer;
+    qsizetype nextCount = 0;
+    qsizetype allCount = 0;
 };

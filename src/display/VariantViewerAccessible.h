@@ -47,7 +47,8 @@ public:
     [[nodiscard]] int childCount() const override;
     /// Null outside of the children.
     [[nodiscard]] QAccessibleInterface *child(int index) const override;
-    /// -1 for all but a child. Costs the number of the children.
+    /// -1 for all but a child. Costs the same for any number of children, as name and place of each
+    /// do: to read all of them costs their number.
     [[nodiscard]] int indexOfChild(const QAccessibleInterface *child) const override;
 
     /// The action that opens or closes, when there is something to open, and the one that copies.

@@ -4,7 +4,6 @@
 #include "PixelProbe.h"
 #include "TestBase.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -88,7 +87,6 @@ private slots:
     void styleSheetFollowsTheHeight();
     void tinySwitchDoesNoHarm();
     void heightSettlesInALayout();
-    void assistiveToolsSeeItsNameAndState();
     void switchIsPaintedInItsState_data();
     void switchIsPaintedInItsState();
     void keyboardFocusIsVisible_data();
@@ -334,23 +332,6 @@ void TestTXSwitchSlider::heightSettlesInALayout()
         QCoreApplication::processEvents();
         QCOMPARE(inner->size(), settled);
     }
-}
-
-void TestTXSwitchSlider::assistiveToolsSeeItsNameAndState()
-{
-    toggle->setAccessibleName(QStringLiteral("Night mode"));
-    toggle->setChecked(true);
-    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(toggle.get());
-    QVERIFY(accessible);
-    QCOMPARE(accessible->text(QAccessible::Name), "Night mode");
-    QCOMPARE(accessible->role(), QAccessible::Slider);
-    QAccessibleValueInterface *value = accessible->valueInterface();
-    QVERIFY(value);
-    QCOMPARE(value->currentValue().toInt(), 1);
-    QCOMPARE(value->maximumValue().toInt(), 1);
-
-    value->setCurrentValue(0);
-    QVERIFY(!toggle->isChecked());
 }
 
 void TestTXSwitchSlider::switchIsPaintedInItsState_data()

@@ -1,3 +1,4 @@
+#include "BracketsTranslator.h"
 #include "TXVariantViewer.h"
 #include "TestBase.h"
 
@@ -69,6 +70,7 @@ private slots:
     void buttonBringsTheLastEntry();
     void buttonBringsTheEntriesInPortions_data();
     void buttonBringsTheEntriesInPortions();
+    void buttonFollowsTheLanguage();
     void buttonGoesWithTheFold();
     void manyRowsGoWithTheFold();
     void buttonIsReachedByTheKeyboard_data();
@@ -146,6 +148,27 @@ void TestTXVariantViewerLarge::buttonBringsTheEntriesInPortions()
         const QWidget *entry = grid->itemAtPosition(isMap ? place : place + 1, isMap)->widget();
         QVERIFY(entry->findChild<QLabel *>()->text().contains(QStringLiteral(">%1<").arg(place)));
     }
+}
+
+void TestTXVariantViewerLarge::buttonFollowsTheLanguage()
+{
+    TXVariantViewer viewer(nullptr);
+    viewer.setPreview(false);
+    viewer.setValue(list(12000));
+    viewer.expand();
+    const QString english = moreButton(viewer)->text();
+    {
+        BracketsTranslator translator("VariantMoreButton");
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        QCoreApplication::processEvents();
+        QCOMPARE(moreButton(viewer)->text(), QStringLiteral("[Show 5,000 more of 12,000]"));
+
+        moreButton(viewer)->click();
+        QCOMPARE(moreButton(viewer)->text(), QStringLiteral("[Show 2,000 more of 12,000]"));
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(english, QStringLiteral("Show 5,000 more of 12,000"));
+    QCOMPARE(moreButton(viewer)->text(), QStringLiteral("Show 2,000 more of 12,000"));
 }
 
 void TestTXVariantViewerLarge::buttonGoesWithTheFold()

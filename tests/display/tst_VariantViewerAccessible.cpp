@@ -54,6 +54,8 @@ private slots:
     void treeHoldsItsItemsInOrder();
     void buttonForMoreIsTheLastItem();
     void namesAreKeysAndPlaces();
+    void placesGoOnBehindTheButton();
+    void foldedEntriesHaveNoPlace();
     void blankKeysAreNamedInQuotes_data();
     void blankKeysAreNamedInQuotes();
     void valueIsToldWithoutAPreview();
@@ -230,6 +232,52 @@ void TestVariantViewerAccessible::namesAreKeysAndPlaces()
     QCOMPARE(tree->child(0)->child(0)->text(QAccessible::Name), "[0]");
     QCOMPARE(tree->child(0)->child(1)->text(QAccessible::Name), "[1]");
     QCOMPARE(tree->child(0)->child(1)->text(QAccessible::Value), "6");
+}
+
+/// Those of a list count on over the portions, and a dictionary has them as well.
+void TestVariantViewerAccessible::placesGoOnBehindTheButton()
+{
+    constexpr int kCount = TXVariantViewer::kEntriesAtOnce + 7;
+    QVariantMap map;
+    for (int i = 0; i < kCount; ++i) {
+        map.insert(QStringLiteral("%1").arg(i, 5, 10, QLatin1Char('0')), i);
+    }
+    root->setPreview(false);
+    for (const QVariant &value : {QVariant(QVariantList(kCount, 7)), QVariant(map)}) {
+        root->setValue(value);
+        root->expand();
+        tree->child(TXVariantViewer::kEntriesAtOnce)->actionInterface()->doAction("Press");
+        // A button is pressed for a moment before it acts.
+        QTRY_COMPARE(tree->childCount(), kCount);
+        for (int i = 0; i < kCount; ++i) {
+            const QAccessibleInterface *item = tree->child(i);
+            const QString name = item->text(QAccessible::Name);
+            QCOMPARE(tree->indexOfChild(item), i);
+            QCOMPARE(name.mid(value == map ? 0 : 1).section(u']', 0, 0).toInt(), i);
+        }
+    }
+}
+
+void TestVariantViewerAccessible::foldedEntriesHaveNoPlace()
+{
+    root->setValue(QVariantList{1, 2, 3});
+    root->expand();
+    TXVariantViewer *first = entriesOf(*root).first();
+    TXVariantViewer *third = entriesOf(*root).at(2);
+    QCOMPARE(tree->indexOfChild(accessible(third)), 2);
+    // They live until the event loop goes on.
+    root->setValue(QVariantMap{{"a", 1}, {"b", 2}});
+    QCOMPARE(tree->indexOfChild(accessible(third)), -1);
+    root->expand();
+    QCOMPARE(tree->indexOfChild(accessible(first)), -1);
+    QCOMPARE(tree->indexOfChild(accessible(third)), -1);
+    QCOMPARE(tree->indexOfChild(tree->child(0)), 0);
+    QCOMPARE(tree->indexOfChild(tree->child(1)), 1);
+    // Nor has one of another tree that has the same place there.
+    TXVariantViewer other;
+    other.setValue(QVariantList{1, 2});
+    other.expand();
+    QCOMPARE(tree->indexOfChild(accessible(entriesOf(other).at(1))), -1);
 }
 
 void TestVariantViewerAccessible::blankKeysAreNamedInQuotes_data()

@@ -56,8 +56,8 @@ void TestDisabledSpinBoxPanel::disabledLooksLikeAValue()
     QFETCH(QString, shown);
     QFETCH(bool, isPlainWhenDisabled);
     const QString name = QTest::currentDataTag();
-    const QAbstractSpinBox *enabled = box(name + ", left");
-    const QAbstractSpinBox *disabled = box(name + ", right");
+    const QAbstractSpinBox *enabled = box(name + ", enabled");
+    const QAbstractSpinBox *disabled = box(name + ", disabled");
 
     QVERIFY(enabled->isEnabled() && enabled->hasFrame());
     QCOMPARE(enabled->buttonSymbols(), QAbstractSpinBox::UpDownArrows);
@@ -70,17 +70,20 @@ void TestDisabledSpinBoxPanel::disabledLooksLikeAValue()
 
 void TestDisabledSpinBoxPanel::swapExchangesTheColumns()
 {
-    const QAbstractSpinBox *left = box("TXSpinBoxDisabled, left");
-    const QAbstractSpinBox *right = box("TXSpinBoxDisabled, right");
+    const QAbstractSpinBox *left = box("TXSpinBoxDisabled, enabled");
+    const QAbstractSpinBox *right = box("TXSpinBoxDisabled, disabled");
 
     DialogDriver::click(buttonOf(*panel, "Swap"));
 
     QVERIFY(!left->isEnabled() && !left->hasFrame());
     QVERIFY(right->isEnabled() && right->hasFrame() && !right->isReadOnly());
+    QCOMPARE(left->accessibleName(), "TXSpinBoxDisabled, disabled");
+    QCOMPARE(right->accessibleName(), "TXSpinBoxDisabled, enabled");
 
     DialogDriver::click(buttonOf(*panel, "Swap"));
     QVERIFY(left->isEnabled() && left->hasFrame());
     QVERIFY(!right->isEnabled());
+    QCOMPARE(left->accessibleName(), "TXSpinBoxDisabled, enabled");
 }
 
 void TestDisabledSpinBoxPanel::everyTextFollowsTheLanguage()

@@ -51,6 +51,8 @@
 #include "WaitWidget.h"
 
 #include <QCheckBox>
+#include <QDir>
+#include <QFileInfo>
 #include <QListWidget>
 #include <QStandardItemModel>
 #include <QUrl>
@@ -305,4 +307,18 @@ const QList<LibraryWidget> &libraryWidgetsWithTexts()
         return found;
     }();
     return widgets;
+}
+
+QStringList formsMissingIn(const QList<LibraryWidget> &widgets)
+{
+    QStringList missing;
+    const QDir folder(QStringLiteral(TX_FORMS));
+    const QStringList files = folder.entryList({QStringLiteral("*.ui")});
+    for (const QString &file : files) {
+        missing.append(QFileInfo(file).completeBaseName());
+    }
+    for (const LibraryWidget &widget : widgets) {
+        missing.removeAll(QString::fromLatin1(widget.name));
+    }
+    return files.isEmpty() ? QStringList(folder.path()) : missing;
 }

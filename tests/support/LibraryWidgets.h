@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QStringList>
 
 #include <memory>
 
@@ -25,3 +26,7 @@ struct LibraryWidget
 
 /// Those of them that have a form, or set or paint texts in their code.
 [[nodiscard]] const QList<LibraryWidget> &libraryWidgetsWithTexts();
+
+/// The names of the forms in the sources that are none of these widgets. When no form is found at
+/// all the list holds their folder instead.
+[[nodiscard]] QStringList formsMissingIn(const QList<LibraryWidget> &widgets);

@@ -10,8 +10,8 @@
 class TXGUICOMMON_EXPORT TXGraphicsRoundedRectItem : public QGraphicsRectItem
 {
 public:
-    /// An empty rectangle. The radii have no value yet: call setRoundedRect() before the item is
-    /// painted for the first time. A parent item owns the new one.
+    /// An empty rectangle, with square corners until setRoundedRect() is called. A parent item owns
+    /// the new one.
     explicit TXGraphicsRoundedRectItem(QGraphicsItem *parent = nullptr);
 
     /// Sets the rectangle and the radii of its corners, all in the item's units. A corner never
@@ -22,6 +22,6 @@ public:
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 private:
-    double xRadius;
-    double yRadius;
+    double xRadius = 0;
+    double yRadius = 0;
 };

@@ -11,8 +11,10 @@
 #include <QPen>
 #include <QSignalSpy>
 
+#include <array>
 #include <cmath>
 #include <memory>
+#include <new>
 
 using SceneTestHelpers::rendered;
 
@@ -42,6 +44,7 @@ private slots:
     void cornersAreRound();
     void radiiAreThoseOfTheirDirections();
     void radiiOfZeroGiveSquareCorners();
+    void cornersAreSquareBeforeTheFirstRadii();
     void largeRadiiEndAtHalfASide();
     void penDrawsTheOutline();
     void setRoundedRectChangesThePicture();
@@ -89,6 +92,25 @@ void TestTXGraphicsRoundedRectItem::radiiOfZeroGiveSquareCorners()
     addItem(scene, 0, 0);
 
     QCOMPARE(rendered(scene, kArea).at({10, 10}), QColor(Qt::red));
+}
+
+void TestTXGraphicsRoundedRectItem::cornersAreSquareBeforeTheFirstRadii()
+{
+    // In memory that held large numbers before.
+    constexpr auto kNumbers = sizeof(TXGraphicsRoundedRectItem) / sizeof(double) + 1;
+    alignas(TXGraphicsRoundedRectItem) std::array<double, kNumbers> memory;
+    memory.fill(20);
+    QGraphicsScene scene;
+    auto *item = new (memory.data()) TXGraphicsRoundedRectItem;
+    item->setRect(kRect);
+    item->setPen(Qt::NoPen);
+    item->setBrush(Qt::red);
+    scene.addItem(item);
+
+    const QColor corner = rendered(scene, kArea).at({10, 10});
+    item->~TXGraphicsRoundedRectItem();
+
+    QCOMPARE(corner, QColor(Qt::red));
 }
 
 void TestTXGraphicsRoundedRectItem::largeRadiiEndAtHalfASide()

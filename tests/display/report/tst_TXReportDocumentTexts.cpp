@@ -5,6 +5,7 @@
 #include "ReportTexts.h"
 #include "TestBase.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -16,6 +17,24 @@ QStringList wordsOf(const QList<TXReportText> &texts)
         words.append(text.text);
     }
     return words;
+}
+
+const QString kAlef(QChar(0x05d0));
+const QString kBet(QChar(0x05d1));
+const QString kGimel(QChar(0x05d2));
+const QString kSeen(QChar(0x0633));
+const QString kMeem(QChar(0x0645));
+
+/// The texts of each line from the left, the lines from the top.
+QList<TXReportText> onLines(const QList<QStringList> &lines)
+{
+    QList<TXReportText> texts;
+    for (int line = 0; line < lines.size(); ++line) {
+        for (int place = 0; place < lines.at(line).size(); ++place) {
+            texts.append({lines.at(line).at(place), QRectF(20 * place, 20 * line, 10, 10)});
+        }
+    }
+    return texts;
 }
 
 TXTable numberedTable(int rows)
@@ -45,6 +64,13 @@ private slots:
     void destroyedSceneLeavesHeaderAndFooter();
     void cellsWithoutTextAreNotRead();
     void textsOnOneLineComeFromTheLeft();
+    void linesRunAsTheirTextsDo_data();
+    void linesRunAsTheirTextsDo();
+    void linesWithoutLettersRunAsTheOthers_data();
+    void linesWithoutLettersRunAsTheOthers();
+    void overlappingTextsFromTheRightGoByTheirRightEdges();
+    void rowsOfATableRunAsTheirTextsDo();
+    void sceneIsReadFromTheRight();
 };
 
 void TestTXReportDocumentTexts::headerAndFooterStandAroundThePage()
@@ -150,6 +176,85 @@ void TestTXReportDocumentTexts::textsOnOneLineComeFromTheLeft()
     QCOMPARE(wordsOf(ReportTexts::inReadingOrder(texts)),
              QStringList({"first", "second", "third"}));
     QCOMPARE(ReportTexts::inReadingOrder({}).size(), 0);
+}
+
+void TestTXReportDocumentTexts::linesRunAsTheirTextsDo_data()
+{
+    QTest::addColumn<QStringList>("fromLeft");
+    QTest::addColumn<bool>("isFromRight");
+    QTest::newRow("left to right") << QStringList{"a", "b", "c"} << false;
+    QTest::newRow("right to left") << QStringList{kAlef, kBet, kGimel} << true;
+    QTest::newRow("Arabic") << QStringList{kSeen, kMeem} << true;
+    QTest::newRow("most from the right") << QStringList{kAlef, "b", kGimel} << true;
+    QTest::newRow("most from the left") << QStringList{"a", kBet, "c"} << false;
+    QTest::newRow("as many of both") << QStringList{kAlef, "b"} << false;
+    QTest::newRow("numbers do not count") << QStringList{"1", "2.5", "100 %", kAlef} << true;
+    QTest::newRow("numbers alone") << QStringList{"1", "2.5", "-"} << false;
+    QTest::newRow("begins with a number") << QStringList{"1 " + kAlef, "2 " + kBet} << true;
+    QTest::newRow("other script, beyond 16 bits")
+        << QStringList{kAlef, QString::fromUcs4(U"\U00020000", 1), "c"} << false;
+}
+
+void TestTXReportDocumentTexts::linesRunAsTheirTextsDo()
+{
+    QFETCH(QStringList, fromLeft);
+    QFETCH(bool, isFromRight);
+    QStringList wanted = fromLeft;
+    if (isFromRight) {
+        std::reverse(wanted.begin(), wanted.end());
+    }
+    QCOMPARE(wordsOf(ReportTexts::inReadingOrder(onLines({fromLeft}))), wanted);
+}
+
+void TestTXReportDocumentTexts::linesWithoutLettersRunAsTheOthers_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QStringList>("read");
+    QTest::newRow("left to right") << "a" << QStringList{"a", "1", "2", "3"};
+    QTest::newRow("right to left") << kAlef << QStringList{kAlef, "3", "2", "1"};
+    QTest::newRow("nothing to go by") << "0" << QStringList{"0", "1", "2", "3"};
+}
+
+void TestTXReportDocumentTexts::linesWithoutLettersRunAsTheOthers()
+{
+    QFETCH(QString, title);
+    QFETCH(QStringList, read);
+    const QList<TXReportText> texts = onLines({{title}, {"1", "2", "3"}});
+    QCOMPARE(wordsOf(ReportTexts::inReadingOrder(texts)), read);
+}
+
+/// From the right a text begins at its right edge, wherever its left one is.
+void TestTXReportDocumentTexts::overlappingTextsFromTheRightGoByTheirRightEdges()
+{
+    const QList<TXReportText> texts = {{kBet, QRectF(50, 0, 10, 10)},
+                                       {kAlef, QRectF(0, 0, 100, 10)}};
+    QCOMPARE(wordsOf(ReportTexts::inReadingOrder(texts)), QStringList({kAlef, kBet}));
+}
+
+void TestTXReportDocumentTexts::rowsOfATableRunAsTheirTextsDo()
+{
+    TXTable table(2, false);
+    for (const QString &text :
+         {kBet, kAlef, QString("1"), QString("2"), QString("a"), QString("b")}) {
+        table.addCell({{"CellElement", text}, {"CellSize", QSizeF(40, 20)}});
+    }
+    const QList<TXReportText> texts = ReportTexts::ofTable(table, {});
+    QCOMPARE(wordsOf(texts), QStringList({kAlef, kBet, "1", "2", "a", "b"}));
+    QCOMPARE(texts.constFirst().rect.left(), 40.0);
+
+    TXTable ofNumbers(2, false);
+    for (const QString &text : {kBet, kAlef, QString("1"), QString("2")}) {
+        ofNumbers.addCell({{"CellElement", text}, {"CellSize", QSizeF(40, 20)}});
+    }
+    QCOMPARE(wordsOf(ReportTexts::ofTable(ofNumbers, {})), QStringList({kAlef, kBet, "2", "1"}));
+}
+
+void TestTXReportDocumentTexts::sceneIsReadFromTheRight()
+{
+    TXGraphicsScene scene;
+    scene.drawText(kBet, {0, 0}, reportTestFont(), Qt::black);
+    scene.drawText(kAlef, {200, 0}, reportTestFont(), Qt::black);
+    QCOMPARE(wordsOf(ReportTexts::ofScene(scene)), QStringList({kAlef, kBet}));
 }
 
 int main(int argc, char **argv)
