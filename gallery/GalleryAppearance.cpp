@@ -1,6 +1,7 @@
 #include "GalleryAppearance.h"
 
 #include "ContrastStyle.h"
+#include "FocusColour.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -141,6 +142,14 @@ void setOutlines(const QPalette &palette, const Tones &tones)
     QApplication::setPalette(palette, "QHeaderView");
 }
 
+/// The frame that shows the focus of a picture has the Highlight, and stands on the Mid around the
+/// picture. In the dark that leaves it too little contrast.
+void setPictureFrames(QPalette palette)
+{
+    palette.setColor(QPalette::Highlight, focusColour(palette));
+    QApplication::setPalette(palette, "TXImageViewer");
+}
+
 void setPalette(GalleryColours colours)
 {
     switch (colours) {
@@ -150,6 +159,7 @@ void setPalette(GalleryColours colours)
     case GalleryColours::Dark:
         QApplication::setPalette(paletteOf(darkTones()));
         setOutlines(paletteOf(darkTones()), darkTones());
+        setPictureFrames(paletteOf(darkTones()));
         break;
     case GalleryColours::Contrast:
         QApplication::setPalette(paletteOf(contrastTones()));

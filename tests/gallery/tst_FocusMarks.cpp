@@ -239,19 +239,6 @@ public:
     QWidget *widget;
 };
 
-/// How many pixels stand out from what they were.
-int changedPixels(const QImage &before, const QImage &after)
-{
-    int seen = 0;
-    for (int y = 0; y < after.height(); ++y) {
-        for (int x = 0; x < after.width(); ++x) {
-            const qreal found = Contrast::between(before.pixelColor(x, y), after.pixelColor(x, y));
-            seen += found >= Contrast::kGlyph ? 1 : 0;
-        }
-    }
-    return seen;
-}
-
 } // namespace
 
 /// What tells a keyboard user where the focus is stands out in each palette and style.
@@ -328,7 +315,7 @@ void TestFocusMarks::focusIsSeen()
 
     form.tabToWidget();
     QTRY_VERIFY(form.widget->hasFocus());
-    const int seen = changedPixels(before, form.picture(ratio));
+    const int seen = Contrast::changedPixels(before, form.picture(ratio));
 
     QVERIFY2(seen >= kLeastPixels * ratio, qPrintable(QString::number(seen)));
 }
@@ -413,7 +400,7 @@ void TestFocusMarks::focusIsSeenUnderASheet()
 
     form.tabToWidget();
     QTRY_VERIFY(form.widget->hasFocus());
-    const int seen = changedPixels(before, form.picture());
+    const int seen = Contrast::changedPixels(before, form.picture());
 
     QVERIFY2(seen >= kLeastPixels, qPrintable(QString::number(seen)));
 }
