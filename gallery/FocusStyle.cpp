@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleOption>
 #include <QTextFormat>
 
@@ -39,19 +40,29 @@ bool isBare(const QStyleOption *option)
 
 /// Lines in frames, of texts and of rows. In a selected row the line stands on the selection, one
 /// pixel inside, as it would only make the row smaller at its edge.
-void drawFocusFrame(QPainter *painter, const QStyleOption *option)
+void drawFocusFrame(QPainter *painter, const QStyleOption &option)
 {
-    const bool isOnSelection = option->state.testFlag(QStyle::State_Selected)
-        && option->state.testFlag(QStyle::State_Item);
+    const bool isOnSelection =
+        option.state.testFlag(QStyle::State_Selected) && option.state.testFlag(QStyle::State_Item);
     const qreal inset = kTextLineWidth / 2 + (isOnSelection ? 1 : 0);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setPen(QPen(isOnSelection ? option->palette.color(QPalette::HighlightedText)
-                                       : focusColour(option->palette),
+    painter->setPen(QPen(isOnSelection ? option.palette.color(QPalette::HighlightedText)
+                                       : focusColour(option.palette),
                          kTextLineWidth));
     painter->setBrush(Qt::NoBrush);
-    painter->drawRect(QRectF(option->rect).adjusted(inset, inset, -inset, -inset));
+    painter->drawRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset));
     painter->restore();
+}
+
+/// The frame in a button that a style sheet draws is as narrow as its text.
+QStyleOption wider(const QStyleOption &option)
+{
+    constexpr int kSide = 4;
+    constexpr int kAbove = 2;
+    QStyleOption changed(option);
+    changed.rect = option.rect.adjusted(-kSide, -kAbove, kSide, kAbove);
+    return changed;
 }
 
 } // namespace
@@ -64,7 +75,8 @@ void FocusStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
                                QPainter *painter, const QWidget *widget) const
 {
     if (element == PE_FrameFocusRect && option->state.testFlag(State_KeyboardFocusChange)) {
-        drawFocusFrame(painter, option);
+        drawFocusFrame(painter,
+                       qobject_cast<const QPushButton *>(widget) ? wider(*option) : *option);
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -204,7 +216,7 @@ void FocusStyle::drawTabFrame(QPainter *painter, const QStyleOption *option,
     const int inset = 1 + pixelMetric(PM_DefaultFrameWidth, option, widget);
     QStyleOption frame(*option);
     frame.rect = option->rect.adjusted(inset, inset, -inset, -inset);
-    drawFocusFrame(painter, &frame);
+    drawFocusFrame(painter, frame);
 }
 
 void FocusStyle::drawEdge(QPainter *painter, const QStyleOption *option, const QRect &rect) const

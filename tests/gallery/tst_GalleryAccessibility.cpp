@@ -41,6 +41,22 @@ bool showsFocus(QWidget &control, QWidget &elsewhere)
     return control.hasFocus() && Contrast::changedPixels(without, seen(control)) >= kLeastPixels;
 }
 
+/// The controls of the page or window that do not show it.
+QStringList unseen(QWidget &form)
+{
+    const QList<QWidget *> stops = FormControls::tabStops(form);
+    QStringList found;
+    for (QWidget *stop : stops) {
+        QWidget *elsewhere = stop == stops.first() ? stops.last() : stops.first();
+        form.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+        FormControls::scrollTo(*stop);
+        if (!showsFocus(*stop, *elsewhere)) {
+            found.append(FormControls::inWords(*stop));
+        }
+    }
+    return found;
+}
+
 } // namespace
 
 /// What every page offers to those who do not see it, and where the focus is seen.
@@ -61,8 +77,10 @@ private slots:
     void namesAreWithoutMarks();
     void namesTellControlsApart_data() { addPages(); }
     void namesTellControlsApart();
-    void everyControlShowsItsFocus_data();
+    void everyControlShowsItsFocus_data() { addPagesInColours(); }
     void everyControlShowsItsFocus();
+    void furtherWindowsShowTheFocusToo_data() { addPagesInColours(); }
+    void furtherWindowsShowTheFocusToo();
 
 protected:
     void prepare() override;
@@ -70,6 +88,7 @@ protected:
 
 private:
     static void addPages();
+    static void addPagesInColours();
     /// Opens the page of the current row; null when it did not become active.
     [[nodiscard]] QWidget *openPage(GalleryColours colours = GalleryColours::System);
 
@@ -95,6 +114,19 @@ void TestGalleryAccessibility::addPages()
     QTest::addColumn<int>("row");
     for (int row = 0; row < galleryPages().size(); ++row) {
         QTest::newRow(galleryPages()[row].id) << row;
+    }
+}
+
+void TestGalleryAccessibility::addPagesInColours()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<GalleryColours>("colours");
+    for (int row = 0; row < galleryPages().size(); ++row) {
+        for (const auto colours :
+             {GalleryColours::Light, GalleryColours::Dark, GalleryColours::Contrast}) {
+            QTest::addRow("%s, %s", galleryPages()[row].id, qPrintable(galleryColoursName(colours)))
+                << row << colours;
+        }
     }
 }
 
@@ -170,36 +202,30 @@ void TestGalleryAccessibility::namesTellControlsApart()
     QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
 }
 
-void TestGalleryAccessibility::everyControlShowsItsFocus_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<GalleryColours>("colours");
-    for (int row = 0; row < galleryPages().size(); ++row) {
-        for (const auto colours :
-             {GalleryColours::Light, GalleryColours::Dark, GalleryColours::Contrast}) {
-            QTest::addRow("%s, %s", galleryPages()[row].id, qPrintable(galleryColoursName(colours)))
-                << row << colours;
-        }
-    }
-}
-
 void TestGalleryAccessibility::everyControlShowsItsFocus()
 {
     QFETCH(GalleryColours, colours);
     QWidget *page = openPage(colours);
     QVERIFY(page);
-    const QList<QWidget *> stops = FormControls::tabStops(*page);
-    QVERIFY(!stops.isEmpty());
-    QStringList found;
-    for (QWidget *stop : stops) {
-        QWidget *elsewhere = stop == stops.first() ? stops.last() : stops.first();
-        window->setAttribute(Qt::WA_KeyboardFocusChange);
-        FormControls::scrollTo(*stop);
-        if (!showsFocus(*stop, *elsewhere)) {
-            found.append(FormControls::inWords(*stop));
-        }
-    }
+    QVERIFY(!FormControls::tabStops(*page).isEmpty());
+    const QStringList found = unseen(*page);
     QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+}
+
+void TestGalleryAccessibility::furtherWindowsShowTheFocusToo()
+{
+    QFETCH(GalleryColours, colours);
+    QVERIFY(openPage(colours));
+    const QList<GalleryFurtherWindow> windows = window->currentPage()->furtherWindows();
+    for (const GalleryFurtherWindow &further : windows) {
+        further.window->show();
+        // One may be a part of the page.
+        QWidget *top = further.window->window();
+        top->activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), top);
+        const QStringList found = unseen(*further.window);
+        QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+    }
 }
 
 int main(int argc, char **argv)
