@@ -102,19 +102,6 @@ void drawRing(QPainter *painter, const QStyleOption *option)
     painter->restore();
 }
 
-/// The other styles' frame is a shade of the Highlight that is lost on black.
-void drawFocus(QPainter *painter, const QStyleOption *option)
-{
-    const bool isOnSelection = option->state.testFlag(QStyle::State_Selected);
-    painter->save();
-    painter->setPen(
-        QPen(option->palette.color(isOnSelection ? QPalette::HighlightedText : QPalette::Highlight),
-             kLineWidth));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRect(middleOfLine(option->rect, kLineWidth));
-    painter->restore();
-}
-
 /// The arrow of a tree's row stands on the ground of the selection there.
 QStyleOption onSelection(const QStyleOption *option)
 {
@@ -127,7 +114,7 @@ QStyleOption onSelection(const QStyleOption *option)
 } // namespace
 
 ContrastStyle::ContrastStyle(const QString &key)
-    : QProxyStyle(key)
+    : FocusStyle(key)
 { }
 
 void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
@@ -135,17 +122,13 @@ void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
 {
     if (element == PE_IndicatorBranch && option->state.testFlag(State_Selected)) {
         const QStyleOption changed = onSelection(option);
-        QProxyStyle::drawPrimitive(element, &changed, painter, widget);
+        FocusStyle::drawPrimitive(element, &changed, painter, widget);
         return;
     }
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    FocusStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_IndicatorRadioButton) {
         drawRing(painter, option);
-    } else if (element == PE_FrameFocusRect) {
-        if (option->state.testFlag(State_KeyboardFocusChange)) {
-            drawFocus(painter, option);
-        }
-    } else if (element == PE_FrameGroupBox && baseStyle()->name() == QStringLiteral("fusion")) {
+    } else if (element == PE_FrameGroupBox && isOverFusion()) {
         const int top = roomForTitle(*this, option, widget);
         drawFrame(painter, option, option->rect.adjusted(0, top, 0, 0));
     } else if (isFramed(element, option)) {
@@ -156,7 +139,7 @@ void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
 void ContrastStyle::drawControl(ControlElement element, const QStyleOption *option,
                                 QPainter *painter, const QWidget *widget) const
 {
-    QProxyStyle::drawControl(element, option, painter, widget);
+    FocusStyle::drawControl(element, option, painter, widget);
     if (isFramed(element)) {
         drawFrame(painter, option, option->rect);
     }
@@ -165,7 +148,7 @@ void ContrastStyle::drawControl(ControlElement element, const QStyleOption *opti
 void ContrastStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                        QPainter *painter, const QWidget *widget) const
 {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    FocusStyle::drawComplexControl(control, option, painter, widget);
     switch (control) {
     case CC_SpinBox:
         drawFrame(painter, option, option->rect);

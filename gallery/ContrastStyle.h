@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QProxyStyle>
+#include "FocusStyle.h"
 
 /// Draws the frames of another style's controls again, in one colour that stands out.
 ///
 /// Styles take the outline of a control from the colour of the window and make it darker. On a
 /// black window nothing of that is left: buttons, fields and boxes have no edge. Here each gets a
-/// line in the palette's Mid, or a wider one in its Highlight where the keyboard is. The frames
-/// that show the focus of texts and rows are lines too. Sizes stay the other style's.
-class ContrastStyle final : public QProxyStyle
+/// line in the palette's Mid, or a wider one in its Highlight where the keyboard is, after clicks
+/// too. Sizes stay the other style's.
+class ContrastStyle final : public FocusStyle
 {
     Q_OBJECT
 

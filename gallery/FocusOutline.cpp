@@ -1,5 +1,7 @@
 #include "FocusOutline.h"
 
+#include "FocusColour.h"
+
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QEvent>
@@ -23,16 +25,23 @@ protected:
     {
         constexpr int kFramePixels = 2;
         QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), kFramePixels));
+        painter.setPen(QPen(focusColour(palette()), kFramePixels));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 };
 
+/// Not in the list of a combo box, which has the keyboard whenever it is seen.
+bool isWantedAround(const QWidget *widget)
+{
+    return qobject_cast<const QAbstractScrollArea *>(widget) != nullptr
+        && widget->window()->windowType() != Qt::Popup
+        && widget->window()->testAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 } // namespace
 
-FocusOutline::FocusOutline(QWidget *window)
-    : QObject(window)
-    , window(window)
+FocusOutline::FocusOutline(QObject *parent)
+    : QObject(parent)
 {
     connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), this,
             SLOT(follow(QWidget *, QWidget *)));
@@ -59,10 +68,4 @@ void FocusOutline::follow(QWidget * /*before*/, QWidget *now)
         frame->show();
         framed->installEventFilter(this);
     }
-}
-
-bool FocusOutline::isWantedAround(const QWidget *widget) const
-{
-    return qobject_cast<const QAbstractScrollArea *>(widget) != nullptr
-        && widget->window() == window && window->testAttribute(Qt::WA_KeyboardFocusChange);
 }

@@ -1,6 +1,7 @@
 #include "GalleryAppearance.h"
 
 #include "ContrastStyle.h"
+#include "FocusColour.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -63,7 +64,7 @@ const Tones &darkTones()
         QColor(0x2f, 0x34, 0x3d), QColor(0x33, 0x38, 0x42), QColor(0xe3, 0xe6, 0xeb),
         QColor(0x97, 0xa0, 0xae), QColor(0x78, 0x80, 0x8c), QColor(0x3a, 0x40, 0x4a),
         QColor(0x36, 0x73, 0xd8), QColor(0xff, 0xff, 0xff), QColor(0x3a, 0x40, 0x4a),
-        QColor(0x7f, 0xb0, 0xff), QColor(0x3a, 0x40, 0x4b),
+        QColor(0x9c, 0xc3, 0xff), QColor(0x3a, 0x40, 0x4b),
     };
     return tones;
 }
@@ -141,6 +142,14 @@ void setOutlines(const QPalette &palette, const Tones &tones)
     QApplication::setPalette(palette, "QHeaderView");
 }
 
+/// The frame that shows the focus of a picture has the Highlight, and stands on the Mid around the
+/// picture. In the dark that leaves it too little contrast.
+void setPictureFrames(QPalette palette)
+{
+    palette.setColor(QPalette::Highlight, focusColour(palette));
+    QApplication::setPalette(palette, "TXImageViewer");
+}
+
 void setPalette(GalleryColours colours)
 {
     switch (colours) {
@@ -150,6 +159,7 @@ void setPalette(GalleryColours colours)
     case GalleryColours::Dark:
         QApplication::setPalette(paletteOf(darkTones()));
         setOutlines(paletteOf(darkTones()), darkTones());
+        setPictureFrames(paletteOf(darkTones()));
         break;
     case GalleryColours::Contrast:
         QApplication::setPalette(paletteOf(contrastTones()));
@@ -183,14 +193,21 @@ bool isContrastStyle()
     return qobject_cast<const ContrastStyle *>(QApplication::style()) != nullptr;
 }
 
+const FocusStyle *focusStyle()
+{
+    return qobject_cast<const FocusStyle *>(QApplication::style());
+}
+
 void setStyle(const QString &key, bool isContrast)
 {
+    std::unique_ptr<FocusStyle> style;
     if (isContrast) {
-        // The application owns it from here on.
-        QApplication::setStyle(std::make_unique<ContrastStyle>(key).release());
+        style = std::make_unique<ContrastStyle>(key);
     } else {
-        QApplication::setStyle(key);
+        style = std::make_unique<FocusStyle>(key);
     }
+    // The application owns it from here on.
+    QApplication::setStyle(style.release());
 }
 
 } // namespace
@@ -199,7 +216,7 @@ void applyGalleryColours(GalleryColours colours)
 {
     const WithoutStyleSheet pause;
     const bool isContrast = colours == GalleryColours::Contrast;
-    if (isContrast != isContrastStyle()) {
+    if (!focusStyle() || isContrast != isContrastStyle()) {
         setStyle(galleryStyleName(), isContrast);
     }
     setPalette(colours);
@@ -218,8 +235,8 @@ bool applyGalleryStyle(const QString &name)
 
 QString galleryStyleName()
 {
-    const auto *contrast = qobject_cast<const ContrastStyle *>(QApplication::style());
-    return contrast ? contrast->baseStyle()->name() : QApplication::style()->name();
+    const FocusStyle *style = focusStyle();
+    return style ? style->baseStyle()->name() : QApplication::style()->name();
 }
 
 QString galleryStyleKey(const QString &name)

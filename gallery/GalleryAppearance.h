@@ -26,7 +26,8 @@ bool applyGalleryStyle(const QString &name);
 /// The key of QStyleFactory that stands for the name, compared without case, or an empty string.
 [[nodiscard]] QString galleryStyleKey(const QString &name);
 
-/// The name of the widget style, as QStyle::name() has it, also where ContrastStyle draws over it.
+/// The name of the widget style, as QStyle::name() has it, beneath what draws over it: a
+/// FocusStyle, since the first of the calls above.
 /// Tells nothing of use while a style sheet is set.
 [[nodiscard]] QString galleryStyleName();
 

@@ -1,5 +1,7 @@
 #include "PageListDelegate.h"
 
+#include "FocusColour.h"
+
 #include <QPainter>
 #include <QtMath>
 
@@ -35,7 +37,7 @@ void paintCurrent(QPainter &painter, const QRectF &rect, const QStyleOptionViewI
 
 void paintFocus(QPainter &painter, const QRectF &rect, const QStyleOptionViewItem &option)
 {
-    painter.setPen(QPen(option.palette.color(QPalette::Highlight), 1));
+    painter.setPen(QPen(focusColour(option.palette), 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius, kCornerRadius);
 }

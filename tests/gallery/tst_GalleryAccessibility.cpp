@@ -1,4 +1,6 @@
+#include "Contrast.h"
 #include "FormControls.h"
+#include "GalleryAppearance.h"
 #include "GalleryLanguages.h"
 #include "GalleryPage.h"
 #include "GalleryPages.h"
@@ -10,7 +12,6 @@
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
-#include <QPushButton>
 
 #include <memory>
 
@@ -30,19 +31,30 @@ QImage seen(const QWidget &control)
     return window->grab(place.adjusted(-kAround, -kAround, kAround, kAround)).toImage();
 }
 
-/// A style shows the default button of a dialog like one with the focus.
-bool isLeftToTheStyle(const QWidget &control)
-{
-    const auto *button = qobject_cast<const QPushButton *>(&control);
-    return button != nullptr && button->isDefault();
-}
-
+/// Whether the focus is seen by more than a tint or a cursor in a text.
 bool showsFocus(QWidget &control, QWidget &elsewhere)
 {
+    constexpr int kLeastPixels = 20;
     elsewhere.setFocus(Qt::TabFocusReason);
     const QImage without = seen(control);
     control.setFocus(Qt::TabFocusReason);
-    return control.hasFocus() && seen(control) != without;
+    return control.hasFocus() && Contrast::changedPixels(without, seen(control)) >= kLeastPixels;
+}
+
+/// The controls of the page or window that do not show it.
+QStringList unseen(QWidget &form)
+{
+    const QList<QWidget *> stops = FormControls::tabStops(form);
+    QStringList found;
+    for (QWidget *stop : stops) {
+        QWidget *elsewhere = stop == stops.first() ? stops.last() : stops.first();
+        form.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+        FormControls::scrollTo(*stop);
+        if (!showsFocus(*stop, *elsewhere)) {
+            found.append(FormControls::inWords(*stop));
+        }
+    }
+    return found;
 }
 
 } // namespace
@@ -65,8 +77,10 @@ private slots:
     void namesAreWithoutMarks();
     void namesTellControlsApart_data() { addPages(); }
     void namesTellControlsApart();
-    void everyControlShowsItsFocus_data() { addPages(); }
+    void everyControlShowsItsFocus_data() { addPagesInColours(); }
     void everyControlShowsItsFocus();
+    void furtherWindowsShowTheFocusToo_data() { addPagesInColours(); }
+    void furtherWindowsShowTheFocusToo();
 
 protected:
     void prepare() override;
@@ -74,8 +88,9 @@ protected:
 
 private:
     static void addPages();
+    static void addPagesInColours();
     /// Opens the page of the current row; null when it did not become active.
-    [[nodiscard]] QWidget *openPage();
+    [[nodiscard]] QWidget *openPage(GalleryColours colours = GalleryColours::System);
 
     std::unique_ptr<GalleryLanguages> languages;
     std::unique_ptr<GalleryWindow> window;
@@ -91,6 +106,7 @@ void TestGalleryAccessibility::finish()
 {
     window.reset();
     languages.reset();
+    applyGalleryColours(GalleryColours::System);
 }
 
 void TestGalleryAccessibility::addPages()
@@ -101,11 +117,25 @@ void TestGalleryAccessibility::addPages()
     }
 }
 
-QWidget *TestGalleryAccessibility::openPage()
+void TestGalleryAccessibility::addPagesInColours()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<GalleryColours>("colours");
+    for (int row = 0; row < galleryPages().size(); ++row) {
+        for (const auto colours :
+             {GalleryColours::Light, GalleryColours::Dark, GalleryColours::Contrast}) {
+            QTest::addRow("%s, %s", galleryPages()[row].id, qPrintable(galleryColoursName(colours)))
+                << row << colours;
+        }
+    }
+}
+
+QWidget *TestGalleryAccessibility::openPage(GalleryColours colours)
 {
     QFETCH(int, row);
     GallerySettings settings;
     settings.page = galleryPages()[row].name();
+    settings.colours = colours;
     window = std::make_unique<GalleryWindow>(*languages, settings);
     window->show();
     return QTest::qWaitForWindowActive(window.get()) ? window->currentPage() : nullptr;
@@ -174,20 +204,28 @@ void TestGalleryAccessibility::namesTellControlsApart()
 
 void TestGalleryAccessibility::everyControlShowsItsFocus()
 {
-    QWidget *page = openPage();
+    QFETCH(GalleryColours, colours);
+    QWidget *page = openPage(colours);
     QVERIFY(page);
-    const QList<QWidget *> stops = FormControls::tabStops(*page);
-    QVERIFY(!stops.isEmpty());
-    QStringList found;
-    for (QWidget *stop : stops) {
-        QWidget *elsewhere = stop == stops.first() ? stops.last() : stops.first();
-        window->setAttribute(Qt::WA_KeyboardFocusChange);
-        FormControls::scrollTo(*stop);
-        if (!isLeftToTheStyle(*stop) && !showsFocus(*stop, *elsewhere)) {
-            found.append(FormControls::inWords(*stop));
-        }
-    }
+    QVERIFY(!FormControls::tabStops(*page).isEmpty());
+    const QStringList found = unseen(*page);
     QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+}
+
+void TestGalleryAccessibility::furtherWindowsShowTheFocusToo()
+{
+    QFETCH(GalleryColours, colours);
+    QVERIFY(openPage(colours));
+    const QList<GalleryFurtherWindow> windows = window->currentPage()->furtherWindows();
+    for (const GalleryFurtherWindow &further : windows) {
+        further.window->show();
+        // One may be a part of the page.
+        QWidget *top = further.window->window();
+        top->activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), top);
+        const QStringList found = unseen(*further.window);
+        QVERIFY2(found.isEmpty(), qPrintable(asLines(found)));
+    }
 }
 
 int main(int argc, char **argv)

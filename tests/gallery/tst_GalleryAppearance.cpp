@@ -259,7 +259,7 @@ void TestGalleryAppearance::styleIsFoundWithoutCase()
 
     QVERIFY(applyGalleryStyle("wINDOWS"));
 
-    QCOMPARE(QApplication::style()->name(), "windows");
+    QCOMPARE(galleryStyleName(), "windows");
 }
 
 void TestGalleryAppearance::unknownStyleChangesNothing()
@@ -267,7 +267,7 @@ void TestGalleryAppearance::unknownStyleChangesNothing()
     QVERIFY(!applyGalleryStyle("none such"));
     QVERIFY(!applyGalleryStyle(QString()));
 
-    QCOMPARE(QApplication::style()->name(), "fusion");
+    QCOMPARE(galleryStyleName(), "fusion");
 }
 
 void TestGalleryAppearance::styleKeepsThePalette()
@@ -293,7 +293,6 @@ void TestGalleryAppearance::highContrastDrawsOverEachStyle()
         applyGalleryColours(GalleryColours::Light);
         QVERIFY(!qobject_cast<ContrastStyle *>(QApplication::style()));
         QCOMPARE(galleryStyleName(), key.toLower());
-        QCOMPARE(QApplication::style()->name(), key.toLower());
     }
 }
 

@@ -268,7 +268,7 @@ void TestLanguagePageStyle::sheetOutlivesAChangeOfStyle()
 
     choose("None");
     QTRY_VERIFY(spinBox->height() < 70);
-    QCOMPARE(galleryStyleKey(QApplication::style()->name()), "Windows");
+    QCOMPARE(galleryStyleKey(galleryStyleName()), "Windows");
 }
 
 void TestLanguagePageStyle::coloursChangeUnderASheet_data()

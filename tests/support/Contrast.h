@@ -84,4 +84,18 @@ constexpr qreal kDisabled = 2;
     return bestOn(picture, groundOf(picture));
 }
 
+/// How many pixels of a picture stand out, as edges are to, from what they were in another of the
+/// same size.
+[[nodiscard]] inline int changedPixels(const QImage &before, const QImage &after)
+{
+    int changed = 0;
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            const qreal found = between(before.pixelColor(x, y), after.pixelColor(x, y));
+            changed += found >= kGlyph ? 1 : 0;
+        }
+    }
+    return changed;
+}
+
 } // namespace Contrast

@@ -12,6 +12,7 @@ private slots:
     void colours();
     void textIsMeasuredOnItsGround();
     void transparentIsNoGround();
+    void hardlySeenChangesDoNotCount();
 };
 
 void TestContrast::colours_data()
@@ -59,6 +60,21 @@ void TestContrast::transparentIsNoGround()
     picture.setPixelColor(3, 3, Qt::red);
 
     QCOMPARE(Contrast::groundOf(picture), QColor(Qt::red));
+}
+
+void TestContrast::hardlySeenChangesDoNotCount()
+{
+    QImage before(20, 20, QImage::Format_RGB32);
+    before.fill(Qt::white);
+    QImage after = before;
+    after.setPixelColor(3, 3, QColor(0x96, 0x96, 0x96));
+    QCOMPARE(Contrast::changedPixels(before, after), 0);
+
+    after.setPixelColor(4, 3, QColor(0x94, 0x94, 0x94));
+    after.setPixelColor(5, 3, Qt::black);
+
+    QCOMPARE(Contrast::changedPixels(before, after), 2);
+    QCOMPARE(Contrast::changedPixels(after, before), 2);
 }
 
 int main(int argc, char **argv)
