@@ -1,10 +1,9 @@
 #include "FormControls.h"
 #include "GalleryLanguages.h"
 #include "GalleryPage.h"
-#include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
-#include "PagePlugins.h"
+#include "PageViews.h"
 #include "TestBase.h"
 
 #include <QApplication>
@@ -74,7 +73,7 @@ protected:
 
 private:
     static void addPages();
-    /// Opens the page of the current row; null when it did not become active.
+    /// Opens the page of the current row; null when it did not become active or lacks its plug-in.
     [[nodiscard]] QWidget *openPage();
 
     std::unique_ptr<GalleryLanguages> languages;
@@ -84,6 +83,7 @@ private:
 void TestGalleryAccessibility::prepare()
 {
     QApplication::setCursorFlashTime(0);
+    useGalleryPlugins();
     languages = std::make_unique<GalleryLanguages>(QString{});
 }
 
@@ -95,20 +95,24 @@ void TestGalleryAccessibility::finish()
 
 void TestGalleryAccessibility::addPages()
 {
-    QTest::addColumn<int>("row");
-    for (int row = 0; row < galleryPages().size(); ++row) {
-        QTest::newRow(galleryPages()[row].id) << row;
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("plugin");
+    for (const PageView &view : pageViews()) {
+        QTest::newRow(view.name.constData()) << view.page << view.plugin;
     }
 }
 
 QWidget *TestGalleryAccessibility::openPage()
 {
-    QFETCH(int, row);
+    QFETCH(QString, name);
+    QFETCH(QString, plugin);
     GallerySettings settings;
-    settings.page = galleryPages()[row].name();
+    settings.page = name;
     window = std::make_unique<GalleryWindow>(*languages, settings);
     window->show();
-    return QTest::qWaitForWindowActive(window.get()) ? window->currentPage() : nullptr;
+    return QTest::qWaitForWindowActive(window.get()) && choosePlugin(*window, plugin)
+        ? window->currentPage()
+        : nullptr;
 }
 
 void TestGalleryAccessibility::everyControlHasAName()

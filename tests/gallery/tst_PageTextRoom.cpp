@@ -1,8 +1,8 @@
 #include "GalleryLanguages.h"
-#include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
 #include "LongTranslator.h"
+#include "PageViews.h"
 #include "TestBase.h"
 #include "TextRoom.h"
 
@@ -76,10 +76,11 @@ private:
 
 void addPages(const char *language)
 {
-    for (const GalleryPageEntry &entry : galleryPages()) {
+    for (const PageView &view : pageViews()) {
         for (const bool isSmallest : {false, true}) {
-            QTest::addRow("%s%s, %s", entry.id, isSmallest ? ", smallest" : "", language)
-                << QString::fromLatin1(language) << entry.name() << isSmallest;
+            QTest::addRow("%s%s, %s", view.name.constData(), isSmallest ? ", smallest" : "",
+                          language)
+                << QString::fromLatin1(language) << view.page << view.plugin << isSmallest;
         }
     }
 }
@@ -113,6 +114,9 @@ class TestPageTextRoom : public TestBase
 {
     Q_OBJECT
 
+protected:
+    void prepare() override { useGalleryPlugins(); }
+
 private slots:
     void textsHaveRoom_data();
     void textsHaveRoom();
@@ -126,6 +130,7 @@ void TestPageTextRoom::textsHaveRoom_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("plugin");
     QTest::addColumn<bool>("isSmallest");
     addPages("long");
 }
@@ -133,6 +138,7 @@ void TestPageTextRoom::textsHaveRoom_data()
 void TestPageTextRoom::textsHaveRoom()
 {
     QFETCH(QString, page);
+    QFETCH(QString, plugin);
     QFETCH(bool, isSmallest);
     LongTranslator translator;
     QCoreApplication::installTranslator(&translator);
@@ -145,6 +151,7 @@ void TestPageTextRoom::textsHaveRoom()
     }
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(choosePlugin(window, plugin));
 
     QCOMPARE(problemsOf(window, &LongTranslator::isSpoken), QString());
 }
@@ -157,6 +164,7 @@ void TestPageTextRoom::newLanguageHasRoom_data()
 void TestPageTextRoom::newLanguageHasRoom()
 {
     QFETCH(QString, page);
+    QFETCH(QString, plugin);
     QFETCH(bool, isSmallest);
     GallerySettings settings;
     settings.page = page;
@@ -167,6 +175,7 @@ void TestPageTextRoom::newLanguageHasRoom()
     }
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(choosePlugin(window, plugin));
 
     LongTranslator translator;
     QCoreApplication::installTranslator(&translator);
@@ -179,6 +188,7 @@ void TestPageTextRoom::shippedTextsHaveRoom_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("plugin");
     QTest::addColumn<bool>("isSmallest");
     const QStringList codes = QStringLiteral("en " TX_LANGUAGES).split(u' ');
     for (const QString &code : codes) {
@@ -190,6 +200,7 @@ void TestPageTextRoom::shippedTextsHaveRoom()
 {
     QFETCH(QString, language);
     QFETCH(QString, page);
+    QFETCH(QString, plugin);
     QFETCH(bool, isSmallest);
     const ShippedLanguage shipped(language);
     QVERIFY(shipped.isWhole);
@@ -202,6 +213,7 @@ void TestPageTextRoom::shippedTextsHaveRoom()
     }
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(choosePlugin(window, plugin));
 
     QCOMPARE(problemsOf(window, &ShippedTranslator::isSpoken), QString());
     if (!isSmallest) {
