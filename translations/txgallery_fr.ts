@@ -4892,7 +4892,7 @@ b* %3
     </message>
     <message>
         <source>Offer &amp;HTTPS</source>
-        <translation>Proposer &amp;HTTPS</translation>
+        <translation>Offrir &amp;HTTPS</translation>
     </message>
     <message>
         <source>Make &amp;Certificate</source>
