@@ -176,8 +176,8 @@ void TestGalleryScales::sizesFollowTheScale()
     }
 }
 
-/// A page that is painted empty, or in a part of its picture alone, covers less of it than at 100
-/// %.
+/// A page that is painted empty, or in a part of its picture alone, covers less of it than at
+/// 100 %.
 void TestGalleryScales::picturesShowTheSame()
 {
     QCOMPARE(covered.size(), 9U);
