@@ -29,6 +29,8 @@ namespace {
 /// The value of the row that stands in the box while there are no presets.
 constexpr int kNothingYet = -2;
 constexpr int kMostFilesListed = 5;
+/// The gallery's own presets can be read whole in the smallest window; longer names in the list.
+constexpr int kLeastBoxWidth = 170;
 
 const QString kFolderKey = QStringLiteral("Gallery/ColourPresetFolder");
 
@@ -58,6 +60,7 @@ ColourPresetPanel::ColourPresetPanel(TXSelectionItemWidget *bar, ColourPresetCol
     // What is typed is a name, not another preset.
     bar->itemComboBox()->setInsertPolicy(QComboBox::NoInsert);
     bar->itemComboBox()->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    bar->itemComboBox()->setMinimumWidth(kLeastBoxWidth);
     bar->setModel(&model, nullptr, nullptr);
     showButtons();
 }

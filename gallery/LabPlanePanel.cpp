@@ -60,6 +60,8 @@ void LabPlanePanel::retranslate()
     setTitle(tr("Square layout and rotated labels"));
     upLabel->setText(tr("b*: blue to yellow"));
     acrossLabel->setText(tr("a*: green to red"));
+    giveRoom(upLabel);
+    giveRoom(acrossLabel);
     lightnessLabel->setText(tr("Lig&htness:"));
     turnLabelText->setText(tr("&Vertical axis:"));
     turnBox->setItemText(RotationLabel::NoRotation, tr("Upright"));
@@ -82,8 +84,17 @@ void LabPlanePanel::turnLabel()
 {
     upLabel->setRotation(RotationLabel::RotationOption(turnBox->currentIndex()));
     // The label only keeps the rotation.
+    giveRoom(upLabel);
     upLabel->updateGeometry();
     upLabel->update();
+}
+
+/// The label asks for the height of its font; signs that another font lends may be higher.
+void LabPlanePanel::giveRoom(RotationLabel *label)
+{
+    const QSize upright = label->fontMetrics().size(Qt::TextSingleLine, label->text());
+    const bool isTurned = label->rotation() != RotationLabel::NoRotation;
+    label->setMinimumSize(isTurned ? upright.transposed() : upright);
 }
 
 void LabPlanePanel::changeMargin()

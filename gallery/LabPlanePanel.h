@@ -34,6 +34,7 @@ private:
     void setUpControls();
     void setUpLayout();
     [[nodiscard]] QHBoxLayout *makeControlRow();
+    static void giveRoom(RotationLabel *label);
     void layOutAnew();
 
     QWidget *area;

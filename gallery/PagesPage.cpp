@@ -6,8 +6,18 @@
 
 #include <QVBoxLayout>
 
+namespace {
+
+QString &usualPluginFolder()
+{
+    static QString folder;
+    return folder;
+}
+
+} // namespace
+
 PagesPage::PagesPage(QWidget *parent)
-    : PagesPage(QString(), parent)
+    : PagesPage(usualPluginFolder(), parent)
 { }
 
 PagesPage::PagesPage(const QString &pluginFolder, QWidget *parent)
@@ -21,6 +31,11 @@ PagesPage::PagesPage(const QString &pluginFolder, QWidget *parent)
     rows->addWidget(pluginPanel);
     rows->addWidget(embeddingPanel);
     rows->addStretch(1);
+}
+
+void PagesPage::setUsualPluginFolder(const QString &folder)
+{
+    usualPluginFolder() = folder;
 }
 
 QString PagesPage::description() const

@@ -16,6 +16,11 @@ public:
     /// With the plug-ins of another folder, named from the program's folder.
     PagesPage(const QString &pluginFolder, QWidget *parent);
 
+    /// Where pages that are made without a folder look from now on, named from the program's
+    /// folder; empty, as at the start, stands for ConfWidgets. For programs that do not stand
+    /// beside the gallery's plug-ins.
+    static void setUsualPluginFolder(const QString &folder);
+
     [[nodiscard]] QString description() const override;
     [[nodiscard]] QList<GalleryFurtherWindow> furtherWindows() override;
 

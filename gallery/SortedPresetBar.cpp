@@ -9,6 +9,13 @@
 #include <QSortFilterProxyModel>
 #include <QVBoxLayout>
 
+namespace {
+
+/// The gallery's own presets can be read whole in the smallest window; longer names in the list.
+constexpr int kLeastBoxWidth = 170;
+
+} // namespace
+
 SortedPresetBar::SortedPresetBar(ColourPresetModel &model, QWidget *parent)
     : GalleryPanel(parent)
     , sorted(new QSortFilterProxyModel(this))
@@ -23,6 +30,7 @@ SortedPresetBar::SortedPresetBar(ColourPresetModel &model, QWidget *parent)
     bar->setImportViaComboBox(false);
     bar->setVisibleImportButton(true);
     bar->itemComboBox()->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    bar->itemComboBox()->setMinimumWidth(kLeastBoxWidth);
     bar->setModel(&model, sorted, nullptr);
     sorted->sort(0);
 

@@ -3450,7 +3450,7 @@ Press room</source>
     </message>
     <message>
         <source>Si&amp;de by side</source>
-        <translation>جنبًا إلى جنب (&amp;D)</translation>
+        <translation>متجاورة (&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Grip width:</source>

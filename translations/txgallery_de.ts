@@ -1260,7 +1260,7 @@
     </message>
     <message>
         <source>a line for each nested error</source>
-        <translation>eine Zeile für jeden verschachtelten Fehler</translation>
+        <translation>eine Zeile je verschachteltem Fehler</translation>
     </message>
     <message>
         <source>nested errors folded away</source>

@@ -394,7 +394,7 @@
     <name>ColourPreferencesPage</name>
     <message>
         <source>&amp;Illuminant:</source>
-        <translation>&amp;Iluminante:</translation>
+        <translation>Ilu&amp;minante:</translation>
     </message>
     <message>
         <source>D&amp;50, prints</source>
@@ -2486,7 +2486,7 @@ Solo informa de éxito si una parte de la respuesta sigue llegando mientras lee.
     </message>
     <message>
         <source>Li&amp;ghtness L*:</source>
-        <translation>&amp;Claridad L*:</translation>
+        <translation>C&amp;laridad L*:</translation>
     </message>
     <message>
         <source>Gree&amp;n-red a*:</source>
@@ -3957,7 +3957,7 @@ En pantalla: %4</translation>
     <name>ReportPreferencesPage</name>
     <message>
         <source>&amp;Company:</source>
-        <translation>&amp;Empresa:</translation>
+        <translation>E&amp;mpresa:</translation>
     </message>
     <message>
         <source>Stands at the head of the report</source>

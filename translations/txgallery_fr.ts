@@ -1160,7 +1160,7 @@
     </message>
     <message>
         <source>Open as &amp;Window</source>
-        <translation>Ouvrir comme &amp;fenêtre</translation>
+        <translation>Ouvrir comme fe&amp;nêtre</translation>
     </message>
 </context>
 <context>
@@ -3957,7 +3957,7 @@ b* %3
     <name>ReportPreferencesPage</name>
     <message>
         <source>&amp;Company:</source>
-        <translation>&amp;Entreprise :</translation>
+        <translation>En&amp;treprise :</translation>
     </message>
     <message>
         <source>Stands at the head of the report</source>
@@ -3977,7 +3977,7 @@ b* %3
     </message>
     <message>
         <source>&amp;Date on each page</source>
-        <translation>&amp;Date sur chaque page</translation>
+        <translation>Date sur c&amp;haque page</translation>
     </message>
 </context>
 <context>
@@ -4892,7 +4892,7 @@ b* %3
     </message>
     <message>
         <source>Offer &amp;HTTPS</source>
-        <translation>Proposer &amp;HTTPS</translation>
+        <translation>Offrir &amp;HTTPS</translation>
     </message>
     <message>
         <source>Make &amp;Certificate</source>

@@ -426,7 +426,7 @@
     </message>
     <message>
         <source>&amp;Tolerance:</source>
-        <translation>&amp;Tolleranza:</translation>
+        <translation>Toll&amp;eranza:</translation>
     </message>
     <message>
         <source>ΔE </source>
@@ -1160,7 +1160,7 @@
     </message>
     <message>
         <source>Open as &amp;Window</source>
-        <translation>Apri come &amp;finestra</translation>
+        <translation>Apri &amp;come finestra</translation>
     </message>
 </context>
 <context>
@@ -3673,11 +3673,11 @@ Schermo: %4</translation>
     </message>
     <message>
         <source>Settings, read bac&amp;k live:</source>
-        <translation>Impostazioni, ri&amp;lette dal vivo:</translation>
+        <translation>I&amp;mpostazioni, rilette dal vivo:</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
-        <translation>&amp;Salva</translation>
+        <translation>S&amp;alva</translation>
     </message>
     <message>
         <source>&amp;Restore</source>

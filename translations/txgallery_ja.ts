@@ -4455,7 +4455,7 @@ b* %3
     </message>
     <message>
         <source>Trigger event</source>
-        <translation>トリガーイベント</translation>
+        <translation>イベントの起動条件</translation>
     </message>
     <message>
         <source>Offer &amp;hours</source>

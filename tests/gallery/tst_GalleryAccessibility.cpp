@@ -3,10 +3,9 @@
 #include "GalleryAppearance.h"
 #include "GalleryLanguages.h"
 #include "GalleryPage.h"
-#include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
-#include "PagePlugins.h"
+#include "PageViews.h"
 #include "TestBase.h"
 
 #include <QApplication>
@@ -89,7 +88,7 @@ protected:
 private:
     static void addPages();
     static void addPagesInColours();
-    /// Opens the page of the current row; null when it did not become active.
+    /// Opens the page of the current row; null when it did not become active or lacks its plug-in.
     [[nodiscard]] QWidget *openPage(GalleryColours colours = GalleryColours::System);
 
     std::unique_ptr<GalleryLanguages> languages;
@@ -99,6 +98,7 @@ private:
 void TestGalleryAccessibility::prepare()
 {
     QApplication::setCursorFlashTime(0);
+    useGalleryPlugins();
     languages = std::make_unique<GalleryLanguages>(QString{});
 }
 
@@ -111,34 +111,39 @@ void TestGalleryAccessibility::finish()
 
 void TestGalleryAccessibility::addPages()
 {
-    QTest::addColumn<int>("row");
-    for (int row = 0; row < galleryPages().size(); ++row) {
-        QTest::newRow(galleryPages()[row].id) << row;
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("plugin");
+    for (const PageView &view : pageViews()) {
+        QTest::newRow(view.name.constData()) << view.page << view.plugin;
     }
 }
 
 void TestGalleryAccessibility::addPagesInColours()
 {
-    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("plugin");
     QTest::addColumn<GalleryColours>("colours");
-    for (int row = 0; row < galleryPages().size(); ++row) {
+    for (const PageView &view : pageViews()) {
         for (const auto colours :
              {GalleryColours::Light, GalleryColours::Dark, GalleryColours::Contrast}) {
-            QTest::addRow("%s, %s", galleryPages()[row].id, qPrintable(galleryColoursName(colours)))
-                << row << colours;
+            QTest::addRow("%s, %s", view.name.constData(), qPrintable(galleryColoursName(colours)))
+                << view.page << view.plugin << colours;
         }
     }
 }
 
 QWidget *TestGalleryAccessibility::openPage(GalleryColours colours)
 {
-    QFETCH(int, row);
+    QFETCH(QString, name);
+    QFETCH(QString, plugin);
     GallerySettings settings;
-    settings.page = galleryPages()[row].name();
+    settings.page = name;
     settings.colours = colours;
     window = std::make_unique<GalleryWindow>(*languages, settings);
     window->show();
-    return QTest::qWaitForWindowActive(window.get()) ? window->currentPage() : nullptr;
+    return QTest::qWaitForWindowActive(window.get()) && choosePlugin(*window, plugin)
+        ? window->currentPage()
+        : nullptr;
 }
 
 void TestGalleryAccessibility::everyControlHasAName()

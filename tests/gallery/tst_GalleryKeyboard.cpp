@@ -1,8 +1,8 @@
 #include "GalleryLanguages.h"
 #include "GalleryPage.h"
-#include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
+#include "PageViews.h"
 #include "TestBase.h"
 
 #include <QApplication>
@@ -147,7 +147,7 @@ protected:
 
 private:
     static void addPages();
-    /// Opens the page of the current row; false when it did not become active.
+    /// Opens the page of the current row; false when it did not become active or lacks its plug-in.
     [[nodiscard]] bool open();
 
     std::unique_ptr<GalleryLanguages> languages;
@@ -156,6 +156,7 @@ private:
 
 void TestGalleryKeyboard::prepare()
 {
+    useGalleryPlugins();
     languages = std::make_unique<GalleryLanguages>(QString{});
 }
 
@@ -167,20 +168,22 @@ void TestGalleryKeyboard::finish()
 
 void TestGalleryKeyboard::addPages()
 {
-    QTest::addColumn<int>("row");
-    for (int row = 0; row < galleryPages().size(); ++row) {
-        QTest::newRow(galleryPages()[row].id) << row;
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("plugin");
+    for (const PageView &view : pageViews()) {
+        QTest::newRow(view.name.constData()) << view.page << view.plugin;
     }
 }
 
 bool TestGalleryKeyboard::open()
 {
-    QFETCH(int, row);
+    QFETCH(QString, name);
+    QFETCH(QString, plugin);
     GallerySettings settings;
-    settings.page = galleryPages()[row].name();
+    settings.page = name;
     window = std::make_unique<GalleryWindow>(*languages, settings);
     window->show();
-    return QTest::qWaitForWindowActive(window.get());
+    return QTest::qWaitForWindowActive(window.get()) && choosePlugin(*window, plugin);
 }
 
 void TestGalleryKeyboard::tabReachesEveryControlAndComesBack()

@@ -4,11 +4,13 @@
 #include "GalleryPages.h"
 
 #include <QDir>
-#include <QImageReader>
+#include <QHash>
+#include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <vector>
@@ -22,6 +24,8 @@ constexpr int kWidth = 1120;
 constexpr int kLeastHeight = 740;
 /// Fonts are a little wider or higher at one scale than at another, and lines break elsewhere.
 constexpr qreal kTolerance = 0.06;
+/// Thin lines stay as thin at one scale as at another and so cover less of a larger picture.
+constexpr qreal kCoverTolerance = 0.35;
 
 /// What the gallery itself writes into its log, and what the platform without a screen tells.
 bool isExpected(const QString &line)
@@ -40,6 +44,22 @@ struct Run
     std::unique_ptr<QTemporaryDir> home = std::make_unique<QTemporaryDir>();
     std::unique_ptr<QProcess> process = std::make_unique<QProcess>();
 };
+
+/// How much of a picture is not ground, the colour that is there most, from 0 to 1: without the
+/// list of the pages and the strip above, which are painted even when a page is not.
+qreal coveredShare(const QImage &picture)
+{
+    constexpr int kStep = 2;
+    QHash<QRgb, int> counts;
+    int all = 0;
+    for (int y = picture.height() / 5; y < picture.height(); y += kStep) {
+        for (int x = picture.width() / 4; x < picture.width(); x += kStep) {
+            ++counts[picture.pixel(x, y)];
+            ++all;
+        }
+    }
+    return 1 - *std::max_element(counts.cbegin(), counts.cend()) / qreal(all);
+}
 
 QProcessEnvironment environmentOf(const Run &run, const QString &scale)
 {
@@ -65,16 +85,18 @@ class TestGalleryScales : public TestBase
 private slots:
     void everyPageIsPainted();
     void sizesFollowTheScale();
+    void picturesShowTheSame();
     void picturesInATableKeepTheirSize();
 
 private:
     Run start(const QString &scale, const QString &palette) const;
     void finishRun(const Run &run);
-    void readSizes(const Run &run);
+    void readPictures(const Run &run);
 
     QTemporaryDir pictures;
     /// By scale and palette, then by file.
     std::map<QString, std::map<QString, QSize>> sizes;
+    std::map<QString, std::map<QString, qreal>> covered;
 };
 
 Run TestGalleryScales::start(const QString &scale, const QString &palette) const
@@ -99,14 +121,16 @@ void TestGalleryScales::finishRun(const Run &run)
     for (const QString &line : lines) {
         QVERIFY2(isExpected(line), qPrintable(run.name + ": " + line));
     }
-    readSizes(run);
+    readPictures(run);
 }
 
-void TestGalleryScales::readSizes(const Run &run)
+void TestGalleryScales::readPictures(const Run &run)
 {
     const QStringList files = QDir(run.folder).entryList({"*.png"}, QDir::Files);
     for (const QString &file : files) {
-        sizes[run.name][file] = QImageReader(run.folder + '/' + file).size();
+        const QImage picture(run.folder + '/' + file);
+        sizes[run.name][file] = picture.size();
+        covered[run.name][file] = coveredShare(picture);
     }
 }
 
@@ -148,6 +172,23 @@ void TestGalleryScales::sizesFollowTheScale()
             }
             QVERIFY2(qAbs(inPoints.width() / size.width() - 1) < kTolerance, qPrintable(what));
             QVERIFY2(qAbs(inPoints.height() / size.height() - 1) < kTolerance, qPrintable(what));
+        }
+    }
+}
+
+/// A page that is painted empty, or in a part of its picture alone, covers less of it than at
+/// 100 %.
+void TestGalleryScales::picturesShowTheSame()
+{
+    QCOMPARE(covered.size(), 9U);
+    for (const auto &[key, files] : covered) {
+        const std::map<QString, qreal> &plain =
+            covered.at(QString(key).replace(QRegularExpression("^[0-9.]+"), "1"));
+        for (const auto &[file, share] : files) {
+            const QString what =
+                QStringLiteral("%1 %2: %3 of %4").arg(key, file).arg(share).arg(plain.at(file));
+            QVERIFY2(plain.at(file) > 0.01, qPrintable(what));
+            QVERIFY2(qAbs(share / plain.at(file) - 1) < kCoverTolerance, qPrintable(what));
         }
     }
 }

@@ -1,10 +1,10 @@
 #include "EMailSenderWidget.h"
 #include "GalleryLanguages.h"
 #include "GalleryPage.h"
-#include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
 #include "LongTranslator.h"
+#include "PageViews.h"
 #include "ShownTexts.h"
 #include "TXComboBoxEditable.h"
 #include "TXDatabaseConfigurationWidget.h"
@@ -43,6 +43,9 @@ class TestPageLanguage : public TestBase
 {
     Q_OBJECT
 
+protected:
+    void prepare() override { useGalleryPlugins(); }
+
 private slots:
     void nothingStaysInTheOldLanguage_data();
     void nothingStaysInTheOldLanguage();
@@ -51,14 +54,16 @@ private slots:
 void TestPageLanguage::nothingStaysInTheOldLanguage_data()
 {
     QTest::addColumn<QString>("page");
-    for (const GalleryPageEntry &entry : galleryPages()) {
-        QTest::addRow("%s", entry.id) << entry.name();
+    QTest::addColumn<QString>("plugin");
+    for (const PageView &view : pageViews()) {
+        QTest::newRow(view.name.constData()) << view.page << view.plugin;
     }
 }
 
 void TestPageLanguage::nothingStaysInTheOldLanguage()
 {
     QFETCH(QString, page);
+    QFETCH(QString, plugin);
     LongTranslator translator;
     QCoreApplication::installTranslator(&translator);
     GallerySettings settings;
@@ -66,6 +71,7 @@ void TestPageLanguage::nothingStaysInTheOldLanguage()
     GalleryLanguages languages(QString{});
     GalleryWindow window(languages, settings);
     window.show();
+    QVERIFY(choosePlugin(window, plugin));
     QCoreApplication::processEvents();
     QVERIFY(ShownTexts::of(window).filter(LongTranslator::lengthened("About...")).size() == 1);
 

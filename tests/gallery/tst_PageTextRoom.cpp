@@ -1,20 +1,75 @@
 #include "GalleryLanguages.h"
-#include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
 #include "LongTranslator.h"
+#include "PageViews.h"
 #include "TestBase.h"
 #include "TextRoom.h"
 
+#include <QDir>
+#include <QMultiHash>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
 #include <QStackedWidget>
+#include <QStandardPaths>
+
+#include <algorithm>
 
 namespace {
 
-/// A language that the gallery ships. What it has said is remembered, since names and numbers on
-/// a page are not of the language.
+/// The texts that a language has said. One with places for arguments stands for all that it becomes
+/// when they are filled.
+class SaidTexts
+{
+public:
+    void insert(const QString &text)
+    {
+        static const QRegularExpression place(QStringLiteral("%(L?\\d{1,2}|n)"));
+        if (texts.contains(text)) {
+            return;
+        }
+        texts.insert(text);
+        const qsizetype first = text.indexOf(place);
+        static const QRegularExpression letter(QStringLiteral("\\pL"));
+        if (first >= 0 && QString(text).remove(place).contains(letter)) {
+            patterns.insert(text.left(std::min(first, kStart)), filled(text.split(place)));
+        }
+    }
+
+    /// Compares with those alone that start alike, not with all.
+    [[nodiscard]] bool contains(const QString &text) const
+    {
+        bool isSaid = texts.contains(text);
+        for (qsizetype length = 0; length <= kStart && !isSaid; ++length) {
+            const auto alike = patterns.equal_range(text.left(length));
+            isSaid = std::any_of(alike.first, alike.second, [&text](const auto &pattern) {
+                return pattern.match(text).hasMatch();
+            });
+        }
+        return isSaid;
+    }
+
+private:
+    static QRegularExpression filled(QStringList parts)
+    {
+        for (QString &part : parts) {
+            part = QRegularExpression::escape(part);
+        }
+        return QRegularExpression(
+            QRegularExpression::anchoredPattern(parts.join(QStringLiteral(".*"))),
+            QRegularExpression::DotMatchesEverythingOption);
+    }
+
+    static constexpr qsizetype kStart = 3;
+    QSet<QString> texts;
+    /// By how the text starts.
+    QMultiHash<QString, QRegularExpression> patterns;
+};
+
+/// A language that the gallery ships, or English when no file is loaded. What it has said is
+/// remembered, since names and numbers on a page are not of the language.
 class ShippedTranslator final : public QTranslator
 {
 public:
@@ -28,8 +83,8 @@ public:
                                     int number) const override
     {
         const QString said = QTranslator::translate(context, text, hint, number);
-        if (!said.isEmpty()) {
-            everSaid().insert(said);
+        if (!said.isEmpty() || isEmpty()) {
+            everSaid().insert(isEmpty() ? QString::fromUtf8(text) : said);
         }
         return said;
     }
@@ -37,9 +92,9 @@ public:
     [[nodiscard]] static bool isSpoken(const QString &text) { return everSaid().contains(text); }
 
 private:
-    static QSet<QString> &everSaid()
+    static SaidTexts &everSaid()
     {
-        static QSet<QString> texts;
+        static SaidTexts texts;
         return texts;
     }
 };
@@ -76,10 +131,11 @@ private:
 
 void addPages(const char *language)
 {
-    for (const GalleryPageEntry &entry : galleryPages()) {
+    for (const PageView &view : pageViews()) {
         for (const bool isSmallest : {false, true}) {
-            QTest::addRow("%s%s, %s", entry.id, isSmallest ? ", smallest" : "", language)
-                << QString::fromLatin1(language) << entry.name() << isSmallest;
+            QTest::addRow("%s%s, %s", view.name.constData(), isSmallest ? ", smallest" : "",
+                          language)
+                << QString::fromLatin1(language) << view.page << view.plugin << isSmallest;
         }
     }
 }
@@ -113,6 +169,9 @@ class TestPageTextRoom : public TestBase
 {
     Q_OBJECT
 
+protected:
+    void prepare() override;
+
 private slots:
     void textsHaveRoom_data();
     void textsHaveRoom();
@@ -122,10 +181,18 @@ private slots:
     void shippedTextsHaveRoom();
 };
 
+/// The presets that the gallery makes are in the language in which they are first shown.
+void TestPageTextRoom::prepare()
+{
+    useGalleryPlugins();
+    QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively();
+}
+
 void TestPageTextRoom::textsHaveRoom_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("plugin");
     QTest::addColumn<bool>("isSmallest");
     addPages("long");
 }
@@ -133,6 +200,7 @@ void TestPageTextRoom::textsHaveRoom_data()
 void TestPageTextRoom::textsHaveRoom()
 {
     QFETCH(QString, page);
+    QFETCH(QString, plugin);
     QFETCH(bool, isSmallest);
     LongTranslator translator;
     QCoreApplication::installTranslator(&translator);
@@ -145,6 +213,7 @@ void TestPageTextRoom::textsHaveRoom()
     }
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(choosePlugin(window, plugin));
 
     QCOMPARE(problemsOf(window, &LongTranslator::isSpoken), QString());
 }
@@ -157,6 +226,7 @@ void TestPageTextRoom::newLanguageHasRoom_data()
 void TestPageTextRoom::newLanguageHasRoom()
 {
     QFETCH(QString, page);
+    QFETCH(QString, plugin);
     QFETCH(bool, isSmallest);
     GallerySettings settings;
     settings.page = page;
@@ -167,6 +237,7 @@ void TestPageTextRoom::newLanguageHasRoom()
     }
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(choosePlugin(window, plugin));
 
     LongTranslator translator;
     QCoreApplication::installTranslator(&translator);
@@ -179,6 +250,7 @@ void TestPageTextRoom::shippedTextsHaveRoom_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("plugin");
     QTest::addColumn<bool>("isSmallest");
     const QStringList codes = QStringLiteral("en " TX_LANGUAGES).split(u' ');
     for (const QString &code : codes) {
@@ -190,6 +262,7 @@ void TestPageTextRoom::shippedTextsHaveRoom()
 {
     QFETCH(QString, language);
     QFETCH(QString, page);
+    QFETCH(QString, plugin);
     QFETCH(bool, isSmallest);
     const ShippedLanguage shipped(language);
     QVERIFY(shipped.isWhole);
@@ -202,6 +275,7 @@ void TestPageTextRoom::shippedTextsHaveRoom()
     }
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(choosePlugin(window, plugin));
 
     QCOMPARE(problemsOf(window, &ShippedTranslator::isSpoken), QString());
     if (!isSmallest) {

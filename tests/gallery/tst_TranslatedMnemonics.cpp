@@ -1,8 +1,8 @@
 #include "GalleryLanguages.h"
-#include "GalleryPages.h"
 #include "GallerySettings.h"
 #include "GalleryWindow.h"
 #include "Mnemonics.h"
+#include "PageViews.h"
 #include "TestBase.h"
 
 #include <QTranslator>
@@ -23,6 +23,9 @@ class TestTranslatedMnemonics : public TestBase
 {
     Q_OBJECT
 
+protected:
+    void prepare() override { useGalleryPlugins(); }
+
 private slots:
     void mnemonicsDoNotClash_data();
     void mnemonicsDoNotClash();
@@ -32,9 +35,11 @@ void TestTranslatedMnemonics::mnemonicsDoNotClash_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("plugin");
     for (const QString &language : QStringLiteral("en " TX_LANGUAGES).split(u' ')) {
-        for (const GalleryPageEntry &entry : galleryPages()) {
-            QTest::addRow("%s, %s", qPrintable(language), entry.id) << language << entry.name();
+        for (const PageView &view : pageViews()) {
+            QTest::addRow("%s, %s", qPrintable(language), view.name.constData())
+                << language << view.page << view.plugin;
         }
     }
 }
@@ -43,6 +48,7 @@ void TestTranslatedMnemonics::mnemonicsDoNotClash()
 {
     QFETCH(QString, language);
     QFETCH(QString, page);
+    QFETCH(QString, plugin);
     QTranslator library;
     QTranslator gallery;
     const bool isEnglish = language == u"en";
@@ -55,6 +61,7 @@ void TestTranslatedMnemonics::mnemonicsDoNotClash()
     GalleryLanguages languages(QString{});
 
     const GalleryWindow window(languages, settings);
+    QVERIFY(choosePlugin(window, plugin));
 
     QCOMPARE(clashingMnemonics(window).join(u'\n'), QString());
 }

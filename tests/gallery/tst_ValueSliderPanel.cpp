@@ -8,11 +8,38 @@
 
 #include <QDoubleSpinBox>
 #include <QPlainTextEdit>
+#include <QSet>
 #include <QSignalSpy>
 #include <QSlider>
+#include <QTranslator>
 #include <QWheelEvent>
 
 #include <memory>
+
+namespace {
+
+/// A language whose words are this sign, once for each few letters of English.
+class SignTranslator : public QTranslator
+{
+public:
+    explicit SignTranslator(QChar sign)
+        : sign(sign)
+    { }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char * /*context*/, const char *text,
+                                    const char * /*hint*/, int /*number*/) const override
+    {
+        constexpr qsizetype kLettersForASign = 5;
+        const QString place =
+            QLatin1String(text).contains(QLatin1String("%1")) ? QStringLiteral("%1") : QString();
+        return QString(qsizetype(qstrlen(text)) / kLettersForASign + 1, sign) + place;
+    }
+
+private:
+    QChar sign;
+};
+
+} // namespace
 
 class TestValueSliderPanel : public TestBase
 {
@@ -30,6 +57,8 @@ private slots:
     void listIsCutButTheCountGoesOn();
     void wheelChangesNothing();
     void namesAndBoxesAreAligned();
+    void slidersLineUpInAnyLanguage_data();
+    void slidersLineUpInAnyLanguage();
     void pictureShowsEmissions();
     void everyTextFollowsTheLanguage();
 
@@ -228,6 +257,41 @@ void TestValueSliderPanel::namesAndBoxesAreAligned()
         ends.insert(slider(name)->findChild<QLabel *>("dataNameLabel")->geometry().right());
     }
     QCOMPARE(ends.size(), 1);
+}
+
+void TestValueSliderPanel::slidersLineUpInAnyLanguage_data()
+{
+    QTest::addColumn<QChar>("sign");
+    QTest::newRow("narrow") << QChar(u'i');
+    QTest::newRow("Latin") << QChar(u'n');
+    QTest::newRow("Japanese") << QChar(u'値');
+}
+
+/// With captions below and without.
+void TestValueSliderPanel::slidersLineUpInAnyLanguage()
+{
+    QFETCH(QChar, sign);
+    SignTranslator translator(sign);
+    QCoreApplication::installTranslator(&translator);
+    panel->resize(900, panel->height());
+    QCoreApplication::processEvents();
+
+    const auto edges = [this] {
+        QSet<std::pair<int, int>> places;
+        const auto sliders = panel->findChildren<QSlider *>();
+        for (const QSlider *slider : sliders) {
+            const bool isLeftBoxShown =
+                slider->parentWidget()
+                    ->findChild<QDoubleSpinBox *>(QStringLiteral("dataLeftDoubleSpinBox"))
+                    ->isVisible();
+            const int start = slider->mapTo(panel.get(), QPoint()).x();
+            if (!isLeftBoxShown) {
+                places.insert({start, start + slider->width()});
+            }
+        }
+        return places.size();
+    };
+    QTRY_COMPARE(edges(), 1);
 }
 
 void TestValueSliderPanel::pictureShowsEmissions()

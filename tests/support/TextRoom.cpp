@@ -43,10 +43,14 @@ QString sizeText(QSize size)
     return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
 }
 
-/// The text's room with a mnemonic's "&" left out.
+/// The text's room with a mnemonic's "&" left out. A font that lends signs may have a higher line
+/// than the widget's own: then the signs themselves are what needs room.
 QSize roomOf(const QWidget *widget, const QString &text)
 {
-    return widget->fontMetrics().size(Qt::TextShowMnemonic, text);
+    const QFontMetrics metrics = widget->fontMetrics();
+    const QSize size = metrics.size(Qt::TextShowMnemonic, text);
+    const int signs = std::max(metrics.height(), metrics.tightBoundingRect(text).height());
+    return text.contains(u'\n') ? size : QSize(size.width(), std::min(size.height(), signs));
 }
 
 QString plain(const QString &text)

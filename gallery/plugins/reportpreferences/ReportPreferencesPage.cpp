@@ -102,6 +102,7 @@ void ReportPreferencesPage::retranslate()
 {
     companyLabel->setText(tr("&Company:"));
     companyEdit->setPlaceholderText(tr("Stands at the head of the report"));
+    companyEdit->setToolTip(companyEdit->placeholderText());
     operatorLabel->setText(tr("Op&erator:"));
     operatorEdit->setPlaceholderText(tr("Who has measured"));
     paperLabel->setText(tr("Paper si&ze:"));
