@@ -1,3 +1,4 @@
+#include "ChartComparison.h"
 #include "PatchDifferenceCell.h"
 
 #include "PixelProbe.h"
@@ -56,7 +57,7 @@ void TestPatchDifferenceCell::swatchesMeetInBothReadingDirections_data()
 void TestPatchDifferenceCell::swatchesMeetInBothReadingDirections()
 {
     QFETCH(const Qt::LayoutDirection, direction);
-    PatchDifferenceCell cell(samePatches().constFirst());
+    PatchDifferenceCell cell(ChartComparison::samePatches().constFirst());
     cell.setLayoutDirection(direction);
 
     QVERIFY(gapBetweenSwatches(cell) < 8);
@@ -64,7 +65,7 @@ void TestPatchDifferenceCell::swatchesMeetInBothReadingDirections()
 
 void TestPatchDifferenceCell::swatchesFollowATurnOfTheDirection()
 {
-    PatchDifferenceCell cell(samePatches().constFirst());
+    PatchDifferenceCell cell(ChartComparison::samePatches().constFirst());
     cell.setLayoutDirection(Qt::RightToLeft);
     cell.setLayoutDirection(Qt::LeftToRight);
 
