@@ -7,6 +7,7 @@
 
 #include <QPainter>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QVBoxLayout>
 

@@ -5,6 +5,7 @@
 #include "TestBase.h"
 
 #include <QGuiApplication>
+#include <QStyle>
 #include <QStyleFactory>
 
 #include <limits>

@@ -219,7 +219,7 @@ public:
     }
 
     /// Moves the focus to the widget; in a text, to its link.
-    void tabToWidget()
+    void tabToWidget() const
     {
         QTest::keyClick(elsewhere, Qt::Key_Tab);
         if (qobject_cast<QLabel *>(widget)) {
