@@ -38,7 +38,8 @@ endmacro()
 
 set(tx_runtime_package libtxguicommon${PROJECT_VERSION_MAJOR})
 set(tx_same_runtime "${tx_runtime_package} (= ${PROJECT_VERSION})")
-set(tx_network_drives gvfs-backends gvfs-fuse libglib2.0-bin smbclient avahi-utils libnss-mdns)
+set(tx_network_drives gvfs-backends gvfs-fuse libglib2.0-bin smbclient avahi-utils avahi-daemon
+  libnss-mdns)
 
 set(CPACK_COMPONENTS_ALL)
 tx_debian_package(runtime ${tx_runtime_package}
@@ -46,7 +47,7 @@ tx_debian_package(runtime ${tx_runtime_package}
   SUMMARY "Qt widgets library for colour-management applications"
   TEXT "Shared libraries for programs that use TXGUICommon."
   RECOMMENDS libqt6sql6-sqlite qt6-translations-l10n
-  SUGGESTS libqt6sql6-mysql ${tx_network_drives} avahi-daemon)
+  SUGGESTS libqt6sql6-mysql ${tx_network_drives})
 # Packages of other programs get this one as a dependency for what they link, and the loader hears of
 # what comes and goes.
 set(tx_control ${CMAKE_CURRENT_BINARY_DIR}/install/control)
@@ -67,7 +68,7 @@ tx_debian_package(development libtxguicommon-dev
   DEPENDS "${tx_same_runtime}" qt6-base-dev
   RECOMMENDS cmake g++ pkg-config)
 
-# Samba and Avahi are only suggested: their packages start a service with the machine.
+# Samba is only suggested: its package starts a service with the machine.
 if(TARGET TXGallery)
   tx_debian_package(gallery txguicommon-gallery
     SECTION devel
@@ -78,7 +79,7 @@ if(TARGET TXGallery)
       python3 python3-aiosmtpd python3-pyftpdlib python3-asyncssh openssl
       mariadb-client-core mariadb-server-core libnss-wrapper libuid-wrapper
       fonts-droid-fallback ${tx_network_drives}
-    SUGGESTS samba avahi-daemon)
+    SUGGESTS samba)
 endif()
 
 if(TARGET TXGUICommonDesigner)
