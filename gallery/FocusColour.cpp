@@ -24,7 +24,7 @@ qreal luminance(const QColor &colour)
 
 qreal contrast(const QColor &left, const QColor &right)
 {
-    const auto [darker, brighter] = std::minmax(luminance(left), luminance(right));
+    const auto [darker, brighter] = std::minmax({luminance(left), luminance(right)});
     return (brighter + 0.05) / (darker + 0.05);
 }
 

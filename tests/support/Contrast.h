@@ -38,7 +38,7 @@ constexpr qreal kDisabled = 2;
 /// From 1 to 21; the order does not matter.
 [[nodiscard]] inline qreal between(const QColor &left, const QColor &right)
 {
-    const auto [darker, brighter] = std::minmax(luminance(left), luminance(right));
+    const auto [darker, brighter] = std::minmax({luminance(left), luminance(right)});
     return (brighter + 0.05) / (darker + 0.05);
 }
 
