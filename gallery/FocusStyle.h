@@ -6,10 +6,9 @@
 ///
 /// Many styles show it by a tint that is hardly seen. Here it is one line in focusColour(): along
 /// the edge of buttons, boxes and fields, around the handle of a slider and the text of a check box
-/// or a tab, and in the rows of a view. As with other
-/// styles it is seen once the keyboard has moved the focus in the window; after clicks alone
-/// everything looks as the style has it. Sizes stay the style's. Take FocusOutline for the views
-/// as a whole.
+/// or a tab, and in the rows of a view. As with other styles it is seen once the keyboard has moved
+/// the focus in the window; after clicks alone everything looks as the style has it. Sizes stay the
+/// style's. Take FocusOutline for the views as a whole.
 class FocusStyle : public QProxyStyle
 {
     Q_OBJECT
